@@ -1,0 +1,127 @@
+#include "SenderModuleDialog/DialogFrame.h"
+
+#include "SenderModuleDialog/Constants.h"
+#include "host/OrviControl/CustomDialog.h"
+#include "host/OrviControl/CustomLabel.h"
+#include "host/OrviControl/CustomMessageBox.h"
+#include "host/OrviControl/Style.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QPushButton>
+
+#include <limits>
+
+namespace DialogFrame {
+
+namespace {
+
+// The message box knows its buttons by number. A message has button 1 alone. A question has 2 (yes) and 4
+// (no), and its default is the button 8 that is not shown: Enter alone agrees to nothing.
+constexpr auto c_btnOk = CCustomMessageBox::StandardButton(1);
+constexpr auto c_btnYes = CCustomMessageBox::StandardButton(2);
+constexpr auto c_btnQuestionDefault = CCustomMessageBox::StandardButton(8);
+constexpr int c_nQuestionButtons = 6;
+
+/// A message waits for the operator, however long.
+constexpr int c_nNoTimeout = std::numeric_limits<int>::max();
+
+QString StyleSheet(const QString& strStyle, const char* szSelector)
+{
+    return GetFontStyleSheet(strStyle, QString::fromLatin1(szSelector), c_nFontSize);
+}
+
+} // namespace
+
+void StyleCaption(CCustomLabel* pLabel)
+{
+    pLabel->setStyleSheet(StyleSheet(g_labelNoFrameStyle, "QLabel"));
+}
+
+void StyleCaption(QWidget* pLabel)
+{
+    pLabel->setStyleSheet(StyleSheet(g_labelNoFrameStyle, "QLabel"));
+}
+
+void StyleWarning(CCustomLabel* pLabel)
+{
+    pLabel->setStyleSheet(StyleSheet(g_labelWarnStyle, "QLabel"));
+}
+
+void StyleButton(QPushButton* pButton)
+{
+    pButton->setStyleSheet(StyleSheet(g_pushButtonStyle, "QPushButton"));
+}
+
+void StyleMenu(QMenu* pMenu)
+{
+    pMenu->setStyleSheet(StyleSheet(g_menuStyle, "QMenu"));
+}
+
+void StyleCheckBox(QWidget* pCheckBox)
+{
+    pCheckBox->setStyleSheet(StyleSheet(g_checkBoxStyle, "QCheckBox"));
+}
+
+void StyleSpinBox(QWidget* pSpinBox, const char* szSelector)
+{
+    pSpinBox->setStyleSheet(StyleSheet(g_doubleSpinBoxStyle, szSelector));
+}
+
+void StyleWith(QWidget* pWidget, const char* szStyle, const char* szSelector)
+{
+    pWidget->setStyleSheet(StyleSheet(QString::fromLatin1(szStyle), szSelector));
+}
+
+void ShowMessage(QWidget* pParent, const QString& strText)
+{
+    CCustomMessageBox::information(pParent, strText, c_btnOk, c_btnOk, c_nNoTimeout);
+}
+
+bool Ask(QWidget* pParent, const QString& strText)
+{
+    const auto buttons = CCustomMessageBox::StandardButtons(QFlag(c_nQuestionButtons));
+    return CCustomMessageBox::question(pParent, strText, buttons, c_btnQuestionDefault) == c_btnYes;
+}
+
+QMenu* CreateMenu(QWidget* pParent, const std::vector<SMenuEntry>& vecEntries)
+{
+    auto* pMenu = new QMenu(pParent);
+    StyleMenu(pMenu);
+    for (const SMenuEntry& entry : vecEntries)
+        AddEntry(pMenu, entry);
+    return pMenu;
+}
+
+QAction* AddEntry(QMenu* pMenu, const SMenuEntry& entry)
+{
+    QAction* pAction = pMenu->addAction(entry.strText);
+    pAction->setData(entry.nData);
+    return pAction;
+}
+
+QPushButton* CreateButton(QWidget* pParent, const SButton& button)
+{
+    auto* pButton = new QPushButton(CCustomDialog::tr(button.szText), pParent);
+    StyleButton(pButton);
+    if (button.size.isValid())
+        pButton->setFixedSize(button.size);
+    QObject::connect(pButton, &QPushButton::clicked, pParent, button.funcClick);
+    return pButton;
+}
+
+CCustomLabel* CreateCaption(QWidget* pParent, const QString& strText)
+{
+    auto* pLabel = new CCustomLabel(strText, pParent, Qt::WindowFlags());
+    StyleCaption(pLabel);
+    pLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return pLabel;
+}
+
+void FixSize(QWidget* pWidget, QSize size)
+{
+    if (pWidget->size() != size)
+        pWidget->setFixedSize(size);
+}
+
+} // namespace DialogFrame

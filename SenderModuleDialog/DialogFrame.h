@@ -1,0 +1,86 @@
+#ifndef SENDERMODULEDIALOG_DIALOGFRAME_H
+#define SENDERMODULEDIALOG_DIALOGFRAME_H
+
+#include <QSize>
+#include <QString>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+class CCustomLabel;
+class QAction;
+class QMenu;
+class QPushButton;
+
+/// What the eight settings dialogs share: styles, messages, menus and the button row.
+///
+/// Texts of the library have one translation context, `CCustomDialog`: they are written as
+/// `CCustomDialog::tr("...")`, in tables as `QT_TRANSLATE_NOOP("CCustomDialog", "...")`.
+namespace DialogFrame {
+
+/// Font size of every style sheet, pixels.
+constexpr int c_nFontSize = 12;
+
+/// Common sizes of controls, pixels.
+constexpr QSize c_sizeButton(80, 24);
+constexpr QSize c_sizeSmallField(60, 24);
+constexpr QSize c_sizeAddressField(180, 25);
+
+/// @name Styles
+/// The host's style text of each kind of control, completed with the host's font.
+/// @{
+void StyleCaption(CCustomLabel* pLabel);
+void StyleCaption(QWidget* pLabel);
+void StyleWarning(CCustomLabel* pLabel);
+void StyleButton(QPushButton* pButton);
+void StyleMenu(QMenu* pMenu);
+void StyleCheckBox(QWidget* pCheckBox);
+/// @param szSelector "QDoubleSpinBox", or the selector that a dialog is required to use instead
+void StyleSpinBox(QWidget* pSpinBox, const char* szSelector);
+/// A style text of the dialog's own.
+void StyleWith(QWidget* pWidget, const char* szStyle, const char* szSelector);
+/// @}
+
+/// Shows a message with one button and waits.
+/// @param pParent the dialog, or null where a message is to stand on its own
+void ShowMessage(QWidget* pParent, const QString& strText);
+
+/// Asks whether to go on.
+/// @return true when the operator agreed
+bool Ask(QWidget* pParent, const QString& strText);
+
+/// One entry of a menu. The text is shown as it stands: translate it before.
+struct SMenuEntry
+{
+    QString strText;
+    int nData; ///< what the entry stands for, kept as the action's data
+};
+
+/// A styled menu with one action for each entry, owned by the parent.
+QMenu* CreateMenu(QWidget* pParent, const std::vector<SMenuEntry>& vecEntries);
+
+/// Adds one action to a menu, owned by the menu.
+QAction* AddEntry(QMenu* pMenu, const SMenuEntry& entry);
+
+/// One push button of a dialog.
+struct SButton
+{
+    const char* szText;              ///< source text in the context `CCustomDialog`
+    QSize size;                      ///< pixels; an invalid size leaves it to the layout
+    std::function<void()> funcClick; ///< run on `clicked`
+};
+
+/// A styled, connected push button, owned by the parent.
+QPushButton* CreateButton(QWidget* pParent, const SButton& button);
+
+/// A styled caption label for a grid: right-aligned and vertically centred.
+/// @param strText the translated caption
+CCustomLabel* CreateCaption(QWidget* pParent, const QString& strText);
+
+/// The fixed size, set only where it differs, so that an unchanged window sees no layout pass.
+void FixSize(QWidget* pWidget, QSize size);
+
+} // namespace DialogFrame
+
+#endif // SENDERMODULEDIALOG_DIALOGFRAME_H

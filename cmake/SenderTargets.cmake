@@ -1,0 +1,45 @@
+# The kinds of target that the folders define. A folder names its sources and its links and nothing else.
+
+# sender_object_library(NAME SOURCES ... LINK ...): one folder of the shared library.
+function(sender_object_library NAME)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_library(${NAME} OBJECT ${ARG_SOURCES})
+    target_compile_definitions(${NAME} PRIVATE SENDERMODULEDIALOG_LIBRARY)
+    target_link_libraries(${NAME} PUBLIC sender_compile_options ${ARG_LINK})
+endfunction()
+
+# sender_host_library(NAME SOURCES ... LINK ...): one of the shared libraries that a host brings.
+function(sender_host_library NAME)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    string(TOUPPER ${NAME} UPPER_NAME)
+    add_library(${NAME} SHARED ${ARG_SOURCES})
+    target_compile_definitions(${NAME} PRIVATE ${UPPER_NAME}_LIBRARY)
+    target_link_libraries(${NAME} PUBLIC sender_compile_options ${ARG_LINK})
+endfunction()
+
+# sender_add_test(NAME SOURCES ... LINK ... [LABELS ...] [ARGS ...] [TIMEOUT seconds]): one Qt Test class.
+# Tests need no screen and may run side by side.
+function(sender_add_test NAME)
+    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK;LABELS;ARGS;ENVIRONMENT" ${ARGN})
+    add_executable(${NAME} ${ARG_SOURCES})
+    target_link_libraries(${NAME} PRIVATE sender_compile_options ${ARG_LINK} Qt5::Test)
+    set_target_properties(${NAME} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    add_test(NAME ${NAME} COMMAND ${NAME} ${ARG_ARGS})
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 300)
+    endif()
+    set_tests_properties(${NAME} PROPERTIES
+        TIMEOUT ${ARG_TIMEOUT}
+        LABELS "${ARG_LABELS}"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${SENDER_SANITIZER_ENVIRONMENT};${ARG_ENVIRONMENT}")
+endfunction()
+
+# sender_add_benchmark(NAME SOURCES ... LINK ...): build/<preset>/benchmarks/NAME, run by ./run --bench NAME.
+function(sender_add_benchmark NAME)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    set(TARGET bench_${NAME})
+    add_executable(${TARGET} ${ARG_SOURCES})
+    target_link_libraries(${TARGET} PRIVATE sender_compile_options ${ARG_LINK} benchmark::benchmark)
+    set_target_properties(${TARGET} PROPERTIES
+        OUTPUT_NAME ${NAME} RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/benchmarks")
+endfunction()

@@ -1,0 +1,42 @@
+#ifndef HOST_ORVICONTROL_CUSTOMCOMBOBOX_H
+#define HOST_ORVICONTROL_CUSTOMCOMBOBOX_H
+
+#include "host/HostExport.h"
+
+#include <QPushButton>
+
+#include <memory>
+
+class QMenu;
+
+/// A drop-down button: a push button that shows the chosen text and opens a menu.
+class ORVICONTROL_EXPORT CCustomComboBox : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit CCustomComboBox(QWidget* pParent = nullptr);
+    ~CCustomComboBox() override;
+
+    /// Installs the menu. From then on choosing an action makes its text the button's text and emits
+    /// `Activated`. The text has changed before any slot connected to the menu's signals after this call
+    /// runs.
+    /// @param pMenu the menu, not owned
+    /// @param bMarkChosen the box itself marks the chosen action as the current one
+    /// @param bMatchWidth the menu is at least as wide as the button
+    /// @param bShowText the button takes the chosen action's text
+    void SetMenu(QMenu* pMenu, bool bMarkChosen, bool bMatchWidth, bool bShowText);
+    /// Marks the menu item with that index as the current one, and no other. An index that the menu lacks
+    /// marks none.
+    void SetItemChecked(int nIndex);
+
+Q_SIGNALS:
+    /// The operator chose the item with that index.
+    void Activated(int nIndex);
+
+private:
+    class CPrivate;
+    const std::unique_ptr<CPrivate> m_pPrivate;
+};
+
+#endif // HOST_ORVICONTROL_CUSTOMCOMBOBOX_H
