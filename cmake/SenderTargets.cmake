@@ -1,5 +1,9 @@
 # The kinds of target that the folders define. A folder names its sources and its links and nothing else.
 
+# What ./run --bench and ./test --sanitize build.
+add_custom_target(sender_benchmarks)
+add_custom_target(sender_thread_tests)
+
 # sender_object_library(NAME SOURCES ... LINK ...): one folder of the shared library.
 function(sender_object_library NAME)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
@@ -32,6 +36,10 @@ function(sender_add_test NAME)
         TIMEOUT ${ARG_TIMEOUT}
         LABELS "${ARG_LABELS}"
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${SENDER_SANITIZER_ENVIRONMENT};${ARG_ENVIRONMENT}")
+    # Tests that run threads of their own are what the thread sanitizer is for.
+    if("threads" IN_LIST ARG_LABELS)
+        add_dependencies(sender_thread_tests ${NAME})
+    endif()
 endfunction()
 
 # sender_add_benchmark(NAME SOURCES ... LINK ...): build/<preset>/benchmarks/NAME, run by ./run --bench NAME.
@@ -40,6 +48,7 @@ function(sender_add_benchmark NAME)
     set(TARGET bench_${NAME})
     add_executable(${TARGET} ${ARG_SOURCES})
     target_link_libraries(${TARGET} PRIVATE sender_compile_options ${ARG_LINK} benchmark::benchmark)
+    add_dependencies(sender_benchmarks ${TARGET})
     set_target_properties(${TARGET} PROPERTIES
         OUTPUT_NAME ${NAME} RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/benchmarks")
 endfunction()
