@@ -1,7 +1,7 @@
 #include "tests/support/ExactCompare.h"
 
 #include <cmath>
-#include <cstring>
+#include <cstdio>
 
 namespace ExactCompare {
 
@@ -12,12 +12,16 @@ bool SameBitsOf(T actual, T expected)
 {
     if (std::isnan(actual) && std::isnan(expected))
         return true;
-    return std::memcmp(&actual, &expected, sizeof actual) == 0;
+    // Equal values have equal bits, save the two zeros.
+    return actual == expected && std::signbit(actual) == std::signbit(expected);
 }
 
 QString Hex(double dValue)
 {
-    return QString::asprintf("%a (%.17g)", dValue, dValue);
+    // Qt's own formatting has no hexadecimal floating point.
+    char szText[64];
+    std::snprintf(szText, sizeof szText, "%a (%.17g)", dValue, dValue);
+    return QString::fromLatin1(szText);
 }
 
 } // namespace
