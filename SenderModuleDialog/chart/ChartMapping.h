@@ -1,0 +1,51 @@
+#ifndef SENDERMODULEDIALOG_CHART_CHARTMAPPING_H
+#define SENDERMODULEDIALOG_CHART_CHARTMAPPING_H
+
+#include "host/CommonClass/PointEx.h"
+
+#include <QPointF>
+
+/// The chart's mapping between chromaticities and widget pixels, both directions. The chart's y axis points
+/// up and the widget's down; x runs from 0 to 0.8 and y from 0 to 0.9. Everything that is painted over the
+/// bitmap, hit or dragged goes through it, in double precision from the chart's single-precision scale and
+/// margins.
+class CChartMapping
+{
+public:
+    /// @param nHeight height of the chart in pixels
+    /// @param fMarginX, fMarginY left and bottom margin in pixels
+    /// @param fScale pixels per unit of chromaticity
+    constexpr CChartMapping(int nHeight, float fMarginX, float fMarginY, float fScale)
+        : m_nHeight(nHeight)
+        , m_fMarginX(fMarginX)
+        , m_fMarginY(fMarginY)
+        , m_fScale(fScale)
+    {}
+
+    /// The mapping of a chart of this size: a thirtieth and 10 pixels of margin, and the largest scale that
+    /// shows both axes whole.
+    static CChartMapping ForSize(int nWidth, int nHeight);
+
+    /// The widget pixel of a chromaticity.
+    QPointF ToPixel(QPointF ptChromaticity) const;
+    QPointF ToPixel(CPointEx<float> ptChromaticity) const;
+
+    /// The chromaticity of a widget pixel.
+    QPointF ToChromaticity(QPointF ptPixel) const;
+
+    /// Height in pixels at which the chromaticity y is 0.
+    double Baseline() const { return double(m_nHeight) - double(m_fMarginY); }
+
+    int Height() const { return m_nHeight; }
+    float MarginX() const { return m_fMarginX; }
+    float MarginY() const { return m_fMarginY; }
+    float Scale() const { return m_fScale; }
+
+private:
+    int m_nHeight;
+    float m_fMarginX;
+    float m_fMarginY;
+    float m_fScale;
+};
+
+#endif // SENDERMODULEDIALOG_CHART_CHARTMAPPING_H
