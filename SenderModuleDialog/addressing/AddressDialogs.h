@@ -1,0 +1,33 @@
+#ifndef SENDERMODULEDIALOG_ADDRESSING_ADDRESSDIALOGS_H
+#define SENDERMODULEDIALOG_ADDRESSING_ADDRESSDIALOGS_H
+
+#include "SenderModuleDialog/addressing/IPAddressRules.h"
+
+class CCustomIPEdit;
+class QDialog;
+class QWidget;
+
+/// What the address dialogs share between the rules and the host.
+namespace AddressDialogs {
+
+/// Judges the fields' texts by the host's verdict and tells the operator.
+/// @param pDialog parent of the messages
+/// @return true when the addresses may enter the list
+bool Confirm(QWidget* pDialog, const IPAddressRules::SPath& path, const QStringList& listTexts,
+             const QString& strOldAddress);
+
+/// Whether the host sees an error in an address; asks for no code.
+bool HasError(unsigned int nIP);
+
+/// Takes an address into the host's list, without a name.
+void Store(unsigned int nIP);
+
+/// An address field of the size that all address dialogs use.
+CCustomIPEdit* CreateAddressField(QWidget* pDialog);
+
+/// Ends a dialog with a result and closes it.
+void Finish(QDialog* pDialog, int nResult);
+
+} // namespace AddressDialogs
+
+#endif // SENDERMODULEDIALOG_ADDRESSING_ADDRESSDIALOGS_H

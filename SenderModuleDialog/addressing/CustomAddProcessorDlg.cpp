@@ -1,0 +1,190 @@
+#include "SenderModuleDialog/addressing/CustomAddProcessorDlg.h"
+
+#include "SenderModuleDialog/Constants.h"
+#include "SenderModuleDialog/DialogFrame.h"
+#include "SenderModuleDialog/HostAccess.h"
+#include "SenderModuleDialog/addressing/AddressDialogs.h"
+#include "SenderModuleDialog/addressing/AddressGenerators.h"
+#include "SenderModuleDialog/addressing/LocalAddresses.h"
+#include "host/OrviControl/CustomComboBox.h"
+#include "host/OrviControl/CustomIPEdit.h"
+#include "host/OrviControl/CustomLabel.h"
+#include "host/OrviControl/CustomSpinBox.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+enum enAction
+{
+    enOk = 0,
+    enCancel = 1
+};
+
+constexpr int c_nDefaultCount = 3;
+constexpr int c_nAddressStrategy = 2; ///< the one detect strategy that finds processors by address
+
+/// Output ports that a processor can have.
+constexpr int c_arrPortCounts[] = {2, 4, 6, 8, 12, 16, 20, 32, 80};
+
+constexpr int c_nCountCaptionWidth = 150;
+constexpr int c_nCaptionWidth = 120;
+constexpr int c_nCaptionHeight = 24;
+
+// Grid columns: the outer and the middle ones stretch, so that the controls stay centred.
+constexpr int c_nCaptionColumn = 1;
+constexpr int c_nFieldColumn = 3;
+constexpr int c_arrStretchColumns[] = {0, 2, 4};
+
+constexpr int c_nCountRow = 0;
+constexpr int c_nPortRow = 1;
+constexpr int c_nAddressRow = 2;
+
+/// The window has the size of the rows that it shows.
+QSize DialogSize(bool bPortFixed, bool bUseIP)
+{
+    if (bUseIP)
+        return {340, bPortFixed ? 145 : 175};
+    return {260, bPortFixed ? 95 : 145};
+}
+
+} // namespace
+
+CCustomAddProcessorDlg::CCustomAddProcessorDlg(QWidget* pParent)
+    : CCustomDialog(pParent, false)
+{
+    m_bPortFixed = HostAccess::SenderLogic().GetAddedSenderCount() > 0;
+    m_nPortCount = Deref(HostAccess::ProjectData().GetSender(0), "GetSender(0) != nullptr").nOutputPortCount;
+    m_bUseIP = HostAccess::ConfigData().GetDetectStrategy() == c_nAddressStrategy &&
+               HostAccess::SenderLogic().IsIPAddressMode();
+    setFixedSize(DialogSize(m_bPortFixed, m_bUseIP));
+    InitControl();
+}
+
+CCustomAddProcessorDlg::~CCustomAddProcessorDlg() = default;
+
+void CCustomAddProcessorDlg::InitControl()
+{
+    setWindowTitle(CCustomDialog::tr("自定义添加主控"));
+    setFocusPolicy(Qt::ClickFocus);
+    m_nCount = c_nDefaultCount;
+
+    auto* pGrid = new QGridLayout;
+    pGrid->setContentsMargins(0, 0, 0, 0);
+    for (const int nColumn : c_arrStretchColumns)
+        pGrid->setColumnStretch(nColumn, 1);
+    InitCountRow(pGrid);
+    if (!m_bPortFixed)
+        InitPortRow(pGrid);
+    if (m_bUseIP)
+        InitAddressRow(pGrid);
+
+    auto* pButtons = new QHBoxLayout;
+    pButtons->addWidget(
+        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "确定"),
+                                         DialogFrame::c_sizeButton, [this] { ActionSlots(enOk); }}));
+    pButtons->addWidget(
+        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "取消"),
+                                         DialogFrame::c_sizeButton, [this] { ActionSlots(enCancel); }}));
+
+    auto* pOuter = new QVBoxLayout(this);
+    pOuter->setContentsMargins(10, 20, 10, 20);
+    pOuter->addLayout(pGrid);
+    pOuter->addSpacing(10);
+    pOuter->addLayout(pButtons);
+}
+
+void CCustomAddProcessorDlg::AddCaption(QGridLayout* pGrid, int nRow, const char* szText, int nMaxWidth)
+{
+    CCustomLabel* pLabel = DialogFrame::CreateCaption(this, CCustomDialog::tr(szText));
+    pLabel->setMaximumWidth(nMaxWidth);
+    pLabel->setFixedHeight(c_nCaptionHeight);
+    pGrid->addWidget(pLabel, nRow, c_nCaptionColumn);
+}
+
+void CCustomAddProcessorDlg::InitCountRow(QGridLayout* pGrid)
+{
+    AddCaption(pGrid, c_nCountRow, QT_TRANSLATE_NOOP("CCustomDialog", "主控数量"), c_nCountCaptionWidth);
+    m_pCountSpinBox = new CCustomSpinBox(0, this);
+    m_pCountSpinBox->setFixedSize(DialogFrame::c_sizeSmallField);
+    // The misspelt selector is what hosts' styles are written for: the box keeps the look that it has of its
+    // own.
+    DialogFrame::StyleSpinBox(m_pCountSpinBox, "QSpinxBox");
+    const bool bIPAddressMode = HostAccess::SenderLogic().IsIPAddressMode();
+    m_pCountSpinBox->SetMinMax(1, HostAccess::RuntimeData().GetSenderCountLimit(bIPAddressMode));
+    m_pCountSpinBox->setValue(c_nDefaultCount);
+    pGrid->addWidget(m_pCountSpinBox, c_nCountRow, c_nFieldColumn);
+}
+
+void CCustomAddProcessorDlg::InitPortRow(QGridLayout* pGrid)
+{
+    AddCaption(pGrid, c_nPortRow, QT_TRANSLATE_NOOP("CCustomDialog", "输出口数量"), c_nCaptionWidth);
+    m_pPortComboBox = new CCustomComboBox(this);
+    m_pPortComboBox->setFixedSize(DialogFrame::c_sizeSmallField);
+    QMenu* pMenu = DialogFrame::CreateMenu(this, {});
+    for (const int nPorts : c_arrPortCounts)
+        DialogFrame::AddEntry(pMenu, {QString::number(nPorts), nPorts});
+    m_pPortComboBox->SetMenu(pMenu, true, true, true);
+    // The text is the current processor's while the count at first is that of processor 0; only OK makes them
+    // one.
+    m_pPortComboBox->setText(QString::number(HostAccess::CurrentSender().nOutputPortCount));
+    pGrid->addWidget(m_pPortComboBox, c_nPortRow, c_nFieldColumn);
+}
+
+void CCustomAddProcessorDlg::InitAddressRow(QGridLayout* pGrid)
+{
+    AddCaption(pGrid, c_nAddressRow, QT_TRANSLATE_NOOP("CCustomDialog", "起始IP地址"), c_nCaptionWidth);
+    m_pIPEdit = AddressDialogs::CreateAddressField(this);
+    QString strIP;
+    GetInitialIP(strIP);
+    m_pIPEdit->setText(strIP);
+    pGrid->addWidget(m_pIPEdit, c_nAddressRow, c_nFieldColumn);
+}
+
+void CCustomAddProcessorDlg::GetInitialIP(QString& strIP)
+{
+    const unsigned int nBase = IPAddressRules::FirstLocalAddress(LocalAddresses::All());
+    strIP = IPAddressRules::AddressText(AddressGenerators::FirstFreeAfter(nBase, AddressDialogs::HasError));
+}
+
+bool CCustomAddProcessorDlg::CheckIPAddress()
+{
+    const QString strIP = Deref(m_pIPEdit, "m_pIPEdit != nullptr").text();
+    return AddressDialogs::Confirm(this, IPAddressRules::c_pathCheckIPAddress, {strIP}, QString());
+}
+
+void CCustomAddProcessorDlg::ActionSlots(int nID)
+{
+    if (nID == enOk)
+        Accept();
+    else if (nID == enCancel)
+        AddressDialogs::Finish(this, 0);
+}
+
+void CCustomAddProcessorDlg::Accept()
+{
+    m_nCount = int(m_pCountSpinBox->value());
+    if (m_pPortComboBox != nullptr)
+        m_nPortCount = m_pPortComboBox->text().toInt();
+    if (m_bUseIP) {
+        if (!CheckIPAddress())
+            return;
+        StoreAddresses();
+    }
+    AddressDialogs::Finish(this, 1);
+}
+
+void CCustomAddProcessorDlg::StoreAddresses()
+{
+    CConfigData& config = HostAccess::ConfigData();
+    const int nListed = config.GetSpecifiedIPDWORD(nullptr);
+    const unsigned int nStart = IPAddressRules::AddressValue(m_pIPEdit->text());
+    if (nListed < IPAddressRules::c_nListLimit)
+        AddressGenerators::AddByHand(nStart, m_nCount, nListed, AddressDialogs::HasError,
+                                     AddressDialogs::Store);
+    config.SpecifiedIPsSave();
+}

@@ -1,0 +1,160 @@
+#include "SenderModuleDialog/addressing/DemoProjectConfigDlg.h"
+
+#include "SenderModuleDialog/Constants.h"
+#include "SenderModuleDialog/DialogFrame.h"
+#include "SenderModuleDialog/HostAccess.h"
+#include "SenderModuleDialog/addressing/AddressDialogs.h"
+#include "host/OrviControl/CustomComboBox.h"
+#include "host/OrviControl/CustomLabel.h"
+
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace {
+
+enum enControl
+{
+    enPickType = 0,
+    enOk = 1,
+    enCancel = 2
+};
+
+/// A processor type that can be demonstrated.
+struct SDemoType
+{
+    const char* szName; ///< shown as it stands in every language
+    int nSenderType;    ///< value for `CProjectData::SetDemoSenderType`
+};
+
+/// In menu order. The values are in no order, and the last one stands apart from the sender type codes on
+/// purpose.
+constexpr std::array<SDemoType, 6> c_arrTypes = {{
+    {"M6K", 21},
+    {"R16 PRO", 46},
+    {"T4", 16},
+    {"T6", 17},
+    {"T6 PRO", 35},
+    {"T8", 131074},
+}};
+
+constexpr QSize c_sizeDialog(285, 120);
+constexpr QSize c_sizeLabel(90, 24);
+constexpr QSize c_sizeComboBox(160, 28);
+constexpr QSize c_sizeButton(80, 26);
+
+/// The type with that index, null outside the table.
+const SDemoType* TypeAt(int nIndex)
+{
+    const bool bInside = nIndex >= 0 && nIndex < int(c_arrTypes.size());
+    return bInside ? &c_arrTypes[std::size_t(nIndex)] : nullptr;
+}
+
+QString NameAt(int nIndex)
+{
+    const SDemoType* pType = TypeAt(nIndex);
+    return pType == nullptr ? QString() : QString::fromLatin1(pType->szName);
+}
+
+} // namespace
+
+CDemoProjectConfigDlg::CDemoProjectConfigDlg(QWidget* pParent)
+    : CCustomDialog(pParent, false)
+{
+    setFixedSize(c_sizeDialog);
+    setWindowTitle(CCustomDialog::tr("演示工程配置"));
+    InitControl();
+    InitStyle();
+    SetControlRect();
+}
+
+CDemoProjectConfigDlg::~CDemoProjectConfigDlg() = default;
+
+void CDemoProjectConfigDlg::InitControl()
+{
+    m_pTypeLabel = new CCustomLabel(CCustomDialog::tr("主控类型"), this, Qt::WindowFlags());
+    m_pTypeComboBox = new CCustomComboBox(this);
+    m_pTypeComboBox->setText(NameAt(m_nTypeIndex));
+    m_pOKButton = new QPushButton(CCustomDialog::tr("确认"), this);
+    m_pCancelButton = new QPushButton(CCustomDialog::tr("取消"), this);
+
+    auto* pMenu = new QMenu(this);
+    for (int i = 0; i < int(c_arrTypes.size()); ++i) {
+        const QAction* pAction = DialogFrame::AddEntry(pMenu, {NameAt(i), i});
+        connect(pAction, &QAction::triggered, this, [this, i] { ControlClicked(enPickType, i); });
+    }
+    DialogFrame::StyleMenu(pMenu);
+    pMenu->setFixedWidth(c_sizeComboBox.width());
+    m_pTypeComboBox->setMenu(pMenu);
+
+    connect(m_pOKButton, &QPushButton::clicked, this, [this] { ControlClicked(enOk); });
+    connect(m_pCancelButton, &QPushButton::clicked, this, [this] { ControlClicked(enCancel); });
+}
+
+void CDemoProjectConfigDlg::InitStyle()
+{
+    DialogFrame::StyleCaption(m_pTypeLabel);
+    m_pTypeLabel->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    DialogFrame::StyleButton(m_pOKButton);
+    DialogFrame::StyleButton(m_pCancelButton);
+}
+
+void CDemoProjectConfigDlg::SetControlRect()
+{
+    m_pTypeLabel->setFixedSize(c_sizeLabel);
+    m_pTypeComboBox->setFixedSize(c_sizeComboBox);
+    m_pOKButton->setFixedSize(c_sizeButton);
+    m_pCancelButton->setFixedSize(c_sizeButton);
+
+    auto* pTypeRow = new QHBoxLayout;
+    pTypeRow->setSpacing(0);
+    pTypeRow->setContentsMargins(0, 0, 0, 0);
+    pTypeRow->addWidget(m_pTypeLabel);
+    pTypeRow->addWidget(m_pTypeComboBox);
+
+    auto* pButtonRow = new QHBoxLayout;
+    pButtonRow->addStretch();
+    pButtonRow->addWidget(m_pOKButton);
+    pButtonRow->addStretch();
+    pButtonRow->addWidget(m_pCancelButton);
+    pButtonRow->addStretch();
+
+    auto* pOuter = new QVBoxLayout(this);
+    pOuter->addLayout(pTypeRow);
+    pOuter->addLayout(pButtonRow);
+}
+
+void CDemoProjectConfigDlg::ControlClicked(int id, int sub)
+{
+    switch (id) {
+    case enPickType:
+        PickType(sub);
+        break;
+    case enOk:
+        OpenDemoProject();
+        break;
+    case enCancel:
+        AddressDialogs::Finish(this, 0);
+        break;
+    default:
+        break;
+    }
+}
+
+void CDemoProjectConfigDlg::PickType(int nIndex)
+{
+    m_nTypeIndex = nIndex;
+    m_pTypeComboBox->setText(NameAt(nIndex));
+}
+
+void CDemoProjectConfigDlg::OpenDemoProject()
+{
+    HostAccess::ProjectData().SetDemoModeEnable(true);
+    if (const SDemoType* pType = TypeAt(m_nTypeIndex))
+        HostAccess::ProjectData().SetDemoSenderType(pType->nSenderType);
+    HostAccess::SenderLogic().ApplyDemoProject();
+    AddressDialogs::Finish(this, 1);
+}
