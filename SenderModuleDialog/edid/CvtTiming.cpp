@@ -1,0 +1,193 @@
+#include "SenderModuleDialog/edid/CvtTiming.h"
+
+#include "SenderModuleDialog/Saturate.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace CvtTiming {
+
+namespace {
+
+// Names in capitals are those of VESA CVT 1.1, section 5.
+
+constexpr float c_fCell = 8.0F;               ///< CELL_GRAN: character cell, pixels
+constexpr float c_fHBlankStep = 2 * c_fCell;  ///< horizontal blanking is a whole number of cell pairs, pixels
+constexpr float c_fHMarginPercent = 1.8F;     ///< MARGIN_PER of the width, on each side
+constexpr float c_fVMarginShare = 0.018F;     ///< MARGIN_PER of the lines, as a fraction, at top and bottom
+constexpr float c_fMicroseconds = 1000000.0F; ///< microseconds in a second
+
+constexpr float c_fMinVPorch = 3.0F;            ///< MIN_V_PORCH_RND: vertical front porch, lines
+constexpr float c_fMinVBackPorchReduced = 6.0F; ///< MIN_V_BPORCH: vertical back porch, lines
+/// Vertical back porch of normal blanking, lines: 3 here, where the published formula has MIN_V_BPORCH, 6.
+constexpr float c_fMinVBackPorchNormal = 3.0F;
+
+constexpr float c_fReducedMinVBlank = 460.0F; ///< RB_MIN_V_BLANK: vertical blanking, microseconds
+constexpr float c_fReducedHBlank = 160.0F;    ///< RB_H_BLANK: horizontal blanking, pixels
+constexpr float c_fReducedHSync = 32.0F;      ///< RB_H_SYNC: horizontal sync, pixels
+constexpr float c_fReducedHBackPorch = 80.0F; ///< half of RB_H_BLANK, pixels
+constexpr quint8 c_byReducedSyncFlag = 1;     ///< horizontal sync positive, vertical negative
+
+constexpr float c_fMinVSyncBackPorch = 550.0F;          ///< MIN_VSYNC_BP, microseconds
+constexpr float c_fMinVSyncBackPorchSeconds = 0.00055F; ///< MIN_VSYNC_BP, seconds
+constexpr float c_fDutyGradient = -300.0F; ///< M_PRIME of the blanking duty cycle, negated, percent per ms
+constexpr float c_fDutyGradientUnit = 1000.0F; ///< microseconds in a millisecond
+constexpr float c_fDutyOffset = 30.0F;         ///< C_PRIME of the blanking duty cycle, percent
+constexpr float c_fMinDuty = 20.0F;            ///< least blanking duty cycle, percent
+constexpr float c_fWholeLine = 100.0F;         ///< percent
+constexpr float c_fHSyncShare = 0.08F;         ///< H_SYNC_PER of the total width, as a fraction
+constexpr quint8 c_byNormalSyncFlag = 2;       ///< horizontal sync negative, vertical positive
+
+/// The most lines that a field holds: what a line period of zero or below asks for.
+constexpr float c_fMostLines = std::numeric_limits<quint16>::max();
+
+/// Vertical sync tells the aspect ratio to the display, in the table of VESA CVT 1.1.
+struct SAspectRatio
+{
+    float fNumerator;
+    float fDenominator;
+    float fVSync; ///< lines
+};
+
+// In the order of testing: the first that gives the width wins.
+constexpr SAspectRatio c_aspectRatios[] = {
+    {4.0F, 3.0F, 4.0F}, {16.0F, 9.0F, 5.0F}, {16.0F, 10.0F, 6.0F}, {5.0F, 4.0F, 7.0F}, {15.0F, 9.0F, 7.0F},
+};
+constexpr float c_fVSyncOtherRatio = 10.0F; ///< vertical sync of any other aspect ratio, lines
+
+/// What both kinds of blanking start from.
+struct SFrame
+{
+    float fRate;      ///< Hz
+    float fWidth;     ///< active width in whole cells, pixels
+    float fHMargin;   ///< on each side, pixels
+    float fLines;     ///< active lines of a field
+    float fVMargin;   ///< at top and bottom, lines
+    float fVSync;     ///< lines
+    float fInterlace; ///< the half line of an interlaced field, lines
+};
+
+/// Blanking before it is stored.
+struct SBlanking
+{
+    float fHBlank;     ///< pixels
+    float fHBackPorch; ///< pixels
+    float fHSync;      ///< pixels
+    float fVBlank;     ///< lines
+    quint8 bySyncFlag;
+};
+
+float RoundDownTo(float fStep, float fValue)
+{
+    return std::floor(fValue / fStep) * fStep;
+}
+
+/// Rounds up, where the published formula rounds down.
+float WidthInCells(int nWidth)
+{
+    return RoundDownTo(c_fCell, static_cast<float>(nWidth) + c_fCell - 1.0F);
+}
+
+float VSyncWidth(float fWidth, int nHeight)
+{
+    const float fHeight = static_cast<float>(nHeight);
+    for (const SAspectRatio& ratio : c_aspectRatios) {
+        if (fWidth == RoundDownTo(c_fCell, ratio.fNumerator * fHeight / ratio.fDenominator))
+            return ratio.fVSync;
+    }
+    return c_fVSyncOtherRatio;
+}
+
+float FieldLines(int nHeight, bool bInterlaced)
+{
+    const float fHeight = static_cast<float>(nHeight);
+    return bInterlaced ? std::floor(fHeight * 0.5F) : fHeight;
+}
+
+SFrame Frame(const tagSCalTimingIn& in)
+{
+    const bool bInterlaced = in.bInterlaced != 0;
+    const bool bMargins = in.bMargins != 0;
+    SFrame frame = {};
+    frame.fRate = in.fRate;
+    frame.fWidth = WidthInCells(in.nWidth);
+    frame.fHMargin = bMargins ? RoundDownTo(c_fCell, c_fHMarginPercent * frame.fWidth / c_fWholeLine) : 0.0F;
+    frame.fLines = FieldLines(in.nHeight, bInterlaced);
+    frame.fVMargin = bMargins ? std::floor(c_fVMarginShare * frame.fLines) : 0.0F;
+    frame.fVSync = VSyncWidth(frame.fWidth, in.nHeight);
+    frame.fInterlace = bInterlaced ? 0.5F : 0.0F;
+    return frame;
+}
+
+/// Whole lines that last at least the given time. No number of lines does when a line lasts no time at all,
+/// so it is the most that a field holds.
+float LinesLasting(float fMicroseconds, float fLinePeriod)
+{
+    if (fLinePeriod <= 0.0F)
+        return c_fMostLines;
+    return std::floor(fMicroseconds / fLinePeriod) + 1.0F;
+}
+
+float ReducedLinePeriod(const SFrame& frame)
+{
+    const float fActiveTime = c_fMicroseconds / frame.fRate - c_fReducedMinVBlank;
+    return fActiveTime / (frame.fLines + frame.fVMargin + frame.fVMargin);
+}
+
+SBlanking ReducedBlanking(const SFrame& frame)
+{
+    const float fMinVBlank = c_fMinVPorch + frame.fVSync + c_fMinVBackPorchReduced;
+    const float fVBlank = std::max(fMinVBlank, LinesLasting(c_fReducedMinVBlank, ReducedLinePeriod(frame)));
+    return {c_fReducedHBlank, c_fReducedHBackPorch, c_fReducedHSync, fVBlank, c_byReducedSyncFlag};
+}
+
+/// The rate of an interlaced mode is not doubled, unlike in the published formula.
+float NormalLinePeriod(const SFrame& frame)
+{
+    const float fActiveTime = 1.0F / frame.fRate - c_fMinVSyncBackPorchSeconds;
+    const float fLines = frame.fLines + 2.0F * frame.fVMargin + c_fMinVPorch + frame.fInterlace;
+    return fActiveTime / fLines * c_fMicroseconds;
+}
+
+/// The part of a line that is blanking, percent.
+float DutyCycle(float fLinePeriod)
+{
+    return std::max(c_fMinDuty, fLinePeriod * c_fDutyGradient / c_fDutyGradientUnit + c_fDutyOffset);
+}
+
+float NormalHBlank(float fActiveWidth, float fDutyCycle)
+{
+    return RoundDownTo(c_fHBlankStep, fDutyCycle * fActiveWidth / (c_fWholeLine - fDutyCycle));
+}
+
+SBlanking NormalBlanking(const SFrame& frame)
+{
+    const float fActiveWidth = frame.fWidth + frame.fHMargin + frame.fHMargin;
+    const float fLinePeriod = NormalLinePeriod(frame);
+    const float fMinSyncBackPorch = frame.fVSync + c_fMinVBackPorchNormal;
+    const float fSyncBackPorch = std::max(fMinSyncBackPorch, LinesLasting(c_fMinVSyncBackPorch, fLinePeriod));
+    const float fHBlank = NormalHBlank(fActiveWidth, DutyCycle(fLinePeriod));
+    const float fHSync = RoundDownTo(c_fCell, (fActiveWidth + fHBlank) * c_fHSyncShare);
+    return {fHBlank, 0.5F * fHBlank, fHSync, fSyncBackPorch + c_fMinVPorch, c_byNormalSyncFlag};
+}
+
+} // namespace
+
+tagSBlankTiming Calculate(const tagSCalTimingIn& in)
+{
+    const SFrame frame = Frame(in);
+    const SBlanking blanking = in.bReducedBlank != 0 ? ReducedBlanking(frame) : NormalBlanking(frame);
+
+    tagSBlankTiming timing = {};
+    timing.wHBlank = SaturateTo<quint16>(blanking.fHBlank);
+    timing.wHFrontPorch = SaturateTo<quint16>(blanking.fHBlank - blanking.fHBackPorch - blanking.fHSync);
+    timing.wHSync = SaturateTo<quint16>(blanking.fHSync);
+    timing.wVBlank = SaturateTo<quint16>(blanking.fVBlank);
+    timing.byVFrontPorch = SaturateTo<quint8>(c_fMinVPorch);
+    timing.byVSync = SaturateTo<quint8>(frame.fVSync);
+    timing.bySyncFlag = blanking.bySyncFlag;
+    return timing;
+}
+
+} // namespace CvtTiming

@@ -1,0 +1,18 @@
+#ifndef SENDERMODULEDIALOG_EDID_CVTTIMING_H
+#define SENDERMODULEDIALOG_EDID_CVTTIMING_H
+
+#include "SenderModuleDialog/edid/VideoTiming.h"
+
+/// @file
+/// Blanking calculated in the manner of VESA Coordinated Video Timings 1.1, with the roundings and constants
+/// of this product where they differ.
+
+namespace CvtTiming {
+
+/// The blanking of a mode. Every step is rounded to single precision on its own. Any input gives a record:
+/// what no field can hold is held to the field's range.
+tagSBlankTiming Calculate(const tagSCalTimingIn& in);
+
+} // namespace CvtTiming
+
+#endif // SENDERMODULEDIALOG_EDID_CVTTIMING_H
