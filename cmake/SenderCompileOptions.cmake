@@ -1,12 +1,13 @@
 # What every target of the project is compiled with: one interface target, so that no folder can be laxer.
 add_library(sender_compile_options INTERFACE)
+get_filename_component(SENDER_ROOT "${CMAKE_CURRENT_LIST_DIR}/.." ABSOLUTE)
 
 target_compile_options(sender_compile_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
     # Each product and sum is rounded on its own: results are the same on x86-64 and AArch64.
     -ffp-contract=off
     # Messages and checks name files by their place in the tree.
-    "-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=")
+    "-fmacro-prefix-map=${SENDER_ROOT}/=")
 
 # g++ 12 drops the rounding of double -> float -> double where two such values are stored side by side.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
@@ -23,7 +24,7 @@ target_compile_definitions(sender_compile_options INTERFACE
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
     QT_DEPRECATED_WARNINGS)
 
-target_include_directories(sender_compile_options INTERFACE "${CMAKE_SOURCE_DIR}")
+target_include_directories(sender_compile_options INTERFACE "${SENDER_ROOT}")
 
 if(SENDER_SANITIZE)
     target_compile_options(sender_compile_options INTERFACE
