@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/geometry/CalcChromaRatio.h"
 
 #include "SenderModuleDialog/Fault.h"
+#include "SenderModuleDialog/geometry/EvenOdd.h"
 #include "SenderModuleDialog/geometry/Line.h"
 
 #include <algorithm>
@@ -32,15 +33,6 @@ bool IsOnEdge(CPointEx<float> pt, CPointEx<float> ptA, CPointEx<float> ptB)
     const float fToB = CCalcChromaRatio::CalcDistance(pt, ptB);
     const float fEdge = CCalcChromaRatio::CalcDistance(ptA, ptB);
     return std::abs(fToA + fToB - fEdge) < c_fGeometryEpsilon;
-}
-
-// Whether a ray from a point to the left passes the edge from a to b.
-bool IsEdgeLeftOf(CPointEx<float> pt, CPointEx<float> ptA, CPointEx<float> ptB)
-{
-    const bool bSpansY = (ptA.y < pt.y && pt.y <= ptB.y) || (pt.y <= ptA.y && ptB.y < pt.y);
-    if (!bSpansY || !(ptA.x <= pt.x || ptB.x <= pt.x))
-        return false;
-    return (ptB.x - ptA.x) * ((pt.y - ptA.y) / (ptB.y - ptA.y)) + ptA.x < pt.x;
 }
 
 void RequireTriangle(const std::vector<CPointEx<float>>& vecTriangle,
