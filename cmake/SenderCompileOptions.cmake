@@ -31,3 +31,11 @@ if(SENDER_SANITIZE)
         "-fsanitize=${SENDER_SANITIZE}" -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(sender_compile_options INTERFACE "-fsanitize=${SENDER_SANITIZE}")
 endif()
+
+# Everything a fuzz target reaches counts its branches for the fuzzer.
+if(SENDER_BUILD_FUZZERS)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        message(FATAL_ERROR "SENDER_BUILD_FUZZERS needs clang: configure with -DCMAKE_CXX_COMPILER=clang++.")
+    endif()
+    target_compile_options(sender_compile_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
