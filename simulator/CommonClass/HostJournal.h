@@ -1,0 +1,105 @@
+#ifndef SIMULATOR_COMMONCLASS_HOSTJOURNAL_H
+#define SIMULATOR_COMMONCLASS_HOSTJOURNAL_H
+
+#include "host/HostExport.h"
+
+#include <QAbstractTableModel>
+#include <QStringList>
+
+#include <deque>
+
+/// What a host call does.
+enum enJournalCategory
+{
+    enJournalRead,  ///< it asks the host
+    enJournalWrite, ///< it changes the host's data or the hardware
+    enJournalEvent, ///< it tells the host that a setting changed
+};
+
+/// One host call.
+struct SJournalEntry
+{
+    qint64 nNumber = 0;    ///< running number, from 1; goes on after a clear
+    qint64 nTimeStamp = 0; ///< start of the call, ms since 1970-01-01 UTC
+    double dDuration = 0;  ///< ms
+    enJournalCategory category = enJournalRead;
+    QString strObject;         ///< class of the host object, such as `CSenderLogic`
+    QString strOperation;      ///< such as `GetSenderType`
+    QStringList listArguments; ///< as text, as they stand after the call: out-arguments show what came back
+    QString strResult;         ///< empty for an operation without a result
+
+    /// The call as the tests write it: `SetOutput50Hz(0, true, 0)`.
+    QString CallText() const;
+    /// One line for the clipboard: time, category, object, call and result.
+    QString LineText() const;
+};
+
+/// Every host call in order, as a table model. Memory is bounded: the oldest entries go first.
+class COMMONCLASS_EXPORT CHostJournal : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum enColumn
+    {
+        enColumnNumber,
+        enColumnTime,
+        enColumnCategory,
+        enColumnObject,
+        enColumnCall,
+        enColumnResult,
+        enColumnDuration,
+        enColumnCount
+    };
+
+    /// Roles beside `Qt::DisplayRole`, for filters.
+    enum enRole
+    {
+        enRoleCategory = Qt::UserRole, ///< `enJournalCategory` as int
+        enRoleLine                     ///< `SJournalEntry::LineText`
+    };
+
+    /// Number of entries that are kept when nothing else is set: hours of clicking.
+    static constexpr int c_nDefaultCapacity = 20000;
+
+    explicit CHostJournal(QObject* pParent = nullptr);
+    ~CHostJournal() override;
+
+    /// Adds an entry and gives it its number.
+    void Append(SJournalEntry entry);
+    /// Forgets all entries; the running number goes on.
+    void Clear();
+    /// Sets how many entries are kept, at least 1.
+    void SetCapacity(int nCapacity);
+    int GetCapacity() const { return m_nCapacity; }
+
+    int GetCount() const { return int(m_entries.size()); }
+    /// The entry of a row, 0 being the oldest; faults outside the rows.
+    const SJournalEntry& At(int nRow) const;
+    /// The calls as text, oldest first.
+    QStringList Calls() const;
+    /// The calls of one category as text, oldest first.
+    QStringList Calls(enJournalCategory category) const;
+
+    /// Name of a category: "read", "write" or "event", translated.
+    static QString CategoryName(enJournalCategory category);
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int nRole) const override;
+    QVariant headerData(int nSection, Qt::Orientation orientation, int nRole) const override;
+
+Q_SIGNALS:
+    /// An entry was added as the last row.
+    void OnAppended(int nRow);
+
+private:
+    void DropOldest();
+    QVariant DisplayText(const SJournalEntry& entry, int nColumn) const;
+
+    std::deque<SJournalEntry> m_entries;
+    qint64 m_nLastNumber = 0;
+    int m_nCapacity = c_nDefaultCapacity;
+};
+
+#endif // SIMULATOR_COMMONCLASS_HOSTJOURNAL_H

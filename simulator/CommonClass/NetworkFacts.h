@@ -1,0 +1,36 @@
+#ifndef SIMULATOR_COMMONCLASS_NETWORKFACTS_H
+#define SIMULATOR_COMMONCLASS_NETWORKFACTS_H
+
+#include "host/HostExport.h"
+
+#include <QByteArray>
+#include <QList>
+
+#include <functional>
+
+/// One IPv4 address of this computer. Addresses have the first octet in the most significant byte.
+struct SLocalAddress
+{
+    unsigned int nAddress = 0;
+    unsigned int nNetmask = 0;
+    unsigned int nBroadcast = 0; ///< as the interface states it; 0: it states none
+};
+
+/// What the rules for processor addresses need to know of this computer's network.
+struct SNetworkFacts
+{
+    QList<SLocalAddress> listLocal;
+    QList<unsigned int> listGateways; ///< default gateways
+};
+
+/// Gives the network facts; asked anew on each `CConfigData::UpdateErrorIPList`.
+using FuncNetworkFacts = std::function<SNetworkFacts()>;
+
+/// The facts of the machine: its interfaces, and the default routes of the kernel's routing table.
+COMMONCLASS_EXPORT SNetworkFacts MachineNetworkFacts();
+
+/// The gateways of the default routes in a routing table in the form of /proc/net/route. Lines that are not
+/// in that form are passed over.
+COMMONCLASS_EXPORT QList<unsigned int> DefaultGateways(const QByteArray& baRoutingTable);
+
+#endif // SIMULATOR_COMMONCLASS_NETWORKFACTS_H

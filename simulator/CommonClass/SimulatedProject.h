@@ -1,0 +1,128 @@
+#ifndef SIMULATOR_COMMONCLASS_SIMULATEDPROJECT_H
+#define SIMULATOR_COMMONCLASS_SIMULATEDPROJECT_H
+
+#include "host/HardwareSupport/CanvasLimit.h"
+#include "host/HardwareSupport/EdidSetting.h"
+#include "host/HardwareSupport/SenderEdidLimitData.h"
+#include "host/HostExport.h"
+#include "host/TevraData/Sender.h"
+#include "simulator/CommonClass/FileProblem.h"
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QStringList>
+
+#include <deque>
+#include <optional>
+
+/// @file
+/// Everything that the simulated host keeps, as plain values.
+
+/// Length of an EDID base block.
+constexpr int c_nEdidBlockLength = 128;
+
+/// A video input: what it can take, and what it holds.
+struct SSimulatedInput
+{
+    int nInterfaceId = 0;
+    QString strName;
+    CSenderEdidLimitData limit;
+    /// Largest pixel clock, MHz; judged where `limit.bLimitByPixelClock` is set.
+    int nMaxPixelClock = 0;
+
+    /// The setting in force; empty: the input has none, and the EDID dialog opens with its own defaults.
+    std::optional<SEdidSetting> setting;
+    /// The EDID memory: the 128 bytes that a computer reads, or empty.
+    QByteArray baEdid;
+};
+
+/// What a sender can do. Taken from the catalogue when the sender is added; each can be changed.
+struct SSenderCapability
+{
+    int nType = 0;    ///< sender type code
+    QString strModel; ///< name of the type
+    bool bVideoProcessor = true;
+    bool bSupport10Bit = false;
+    bool bSupport12Bit = false;
+    bool bExtendedEdid = false;       ///< it takes the full EDID record
+    bool bCanvasFromHardware = false; ///< its canvas is read from the hardware
+    bool bExtensionBlock = false;     ///< it can present modes that need an EDID extension block
+    SCanvasLimit canvasLimit;
+};
+
+/// How a sender misbehaves, so that a person can provoke every message.
+struct SSenderFaults
+{
+    qint64 nEdidWriteResult = 0;  ///< what `SetEdidSetting` gives; 0 is success
+    bool bBasicEdidFails = false; ///< `ApplyBasicEdid` says that the write did not take
+    int nWriteDelay = 0;          ///< ms that every write to the hardware takes
+};
+
+/// A sender.
+struct SSimulatedSender
+{
+    int nId = 0; ///< unique in the project; names the background picture
+    QString strName;
+    SSenderCapability capability;
+    CSender record; ///< the record that the dialogs read and write in place
+    std::deque<SSimulatedInput> listInputs;
+
+    QSize sizeHardwareCanvas = QSize(0, 0); ///< (0, 0): none
+    int nOutputDepthMode = 0;               ///< 0, 1, 2 for 8, 10, 12 bit
+    bool b50Hz = false;                     ///< the output runs at 50 Hz
+    float fMaxInputFrameRate = 0;           ///< Hz; 0: unknown
+    /// The output limit flags that the sender reports. Empty: computed from canvas, ports and input settings.
+    std::optional<unsigned int> outputLimitFlags;
+    SSenderFaults faults;
+
+    /// The input with that interface id, or null.
+    COMMONCLASS_EXPORT SSimulatedInput* FindInput(int nInterfaceId);
+    COMMONCLASS_EXPORT const SSimulatedInput* FindInput(int nInterfaceId) const;
+};
+
+/// How processors are found and addressed.
+struct SAddressing
+{
+    bool bIPAddressMode = true;
+    int nDetectStrategy = 2;              ///< 2 asks for a start address when processors are added by hand
+    std::optional<int> nAddedSenderCount; ///< empty: the number of senders in the project
+    int nCountLimitByIP = 255;            ///< largest number of processors when they are addressed by IP
+    int nCountLimitOtherwise = 20;        ///< largest number of processors when they are not
+    QStringList listDetected;             ///< addresses that the network search has found, dotted decimal
+};
+
+/// The lists of processor addresses: entries `address(name)`. All three have the same length.
+struct SAddressLists
+{
+    QStringList listStored;   ///< the list that is in force
+    QStringList listOriginal; ///< each entry as it was first stored
+    QStringList listCurSet;   ///< the copy that is being set
+};
+
+/// The project.
+struct SSimulatedProject
+{
+    bool bDemoMode = true; ///< nothing but simulated senders: there is no hardware to wait for
+    int nDemoSenderType = 0;
+    int nCurSender = 0;
+    int nNextSenderId = 1;
+    std::deque<SSimulatedSender>
+        listSenders; ///< a deque: records stay where they are while senders are added
+    SAddressing addressing;
+    SAddressLists addresses;
+
+    /// The sender with that index, or null.
+    COMMONCLASS_EXPORT SSimulatedSender* FindSender(int nSender);
+    COMMONCLASS_EXPORT const SSimulatedSender* FindSender(int nSender) const;
+};
+
+/// The project as JSON, without the header of a project file.
+COMMONCLASS_EXPORT QJsonObject ProjectToJson(const SSimulatedProject& project);
+
+/// Reads and checks a project. On a problem the result is of no use.
+COMMONCLASS_EXPORT SSimulatedProject ProjectFromJson(const QJsonObject& object, SFileProblem& problem);
+
+/// The address lists alone, as they stand in the project's JSON under "addresses".
+COMMONCLASS_EXPORT QJsonObject AddressListsToJson(const SAddressLists& lists);
+
+#endif // SIMULATOR_COMMONCLASS_SIMULATEDPROJECT_H

@@ -1,0 +1,152 @@
+#include "host/TevraData/ConfigData.h"
+
+#include "simulator/CommonClass/AddressText.h"
+#include "simulator/CommonClass/JournalCall.h"
+#include "simulator/CommonClass/Simulator.h"
+
+namespace {
+
+class CSimulatedConfigData : public CConfigData
+{
+public:
+    bool IsIPHasError(unsigned int nIP, unsigned int* pError, bool /*bReserved*/) override
+    {
+        const enAddressVerdict verdict = m_simulator.JudgeAddress(nIP);
+        if (verdict != enAddressGood && pError != nullptr)
+            *pError = verdict;
+        return verdict != enAddressGood;
+    }
+
+    void UpdateErrorIPList() override { m_simulator.RefreshNetworkFacts(); }
+
+    int GetDetectStrategy() override { return m_simulator.Project().addressing.nDetectStrategy; }
+
+    int GetSpecifiedIPDWORD(unsigned int* pList) override
+    {
+        if (pList != nullptr) {
+            for (const QString& strEntry : Lists().listStored)
+                *pList++ = AddressValue(EntryAddress(strEntry)).value_or(0);
+        }
+        return Lists().listStored.size();
+    }
+
+    void GetSpecifiedIPs(QStringList& listIP) override { listIP = Lists().listStored; }
+
+    void AddSpecifiedIP(QString strIP, QString strName) override
+    {
+        const QString strEntry = AddressEntry(strIP, strName);
+        m_simulator.Change([&strEntry](SSimulatedProject& project) {
+            SAddressLists& lists = project.addresses;
+            for (QStringList* pList : {&lists.listStored, &lists.listOriginal, &lists.listCurSet})
+                pList->append(strEntry);
+        });
+    }
+
+    void SpecifiedIPsSave() override
+    {
+        SFileProblem problem;
+        if (!m_simulator.SaveAddresses(problem))
+            m_simulator.Report(problem);
+    }
+
+    QString GetCurSetSpecifiedIPWithIndex(int nIndex) override { return Lists().listCurSet.value(nIndex); }
+
+    QString GetSpecifiedIPOriginal(int nIndex) override { return Lists().listOriginal.value(nIndex); }
+
+    QString GetSpecifiedIPWithName(int nIndex) override
+    {
+        return EntryWithName(Lists().listStored.value(nIndex));
+    }
+
+    void SetCurSetSpecifiedIPWithIndex(int nIndex, QString strIP, QString strName) override
+    {
+        Replace(&SAddressLists::listCurSet, nIndex, AddressEntry(strIP, strName));
+    }
+
+    void SetSpecifiedIPWithIndex(int nIndex, QString strIP, QString strName) override
+    {
+        Replace(&SAddressLists::listStored, nIndex, AddressEntry(strIP, strName));
+    }
+
+private:
+    const SAddressLists& Lists() const { return m_simulator.Project().addresses; }
+
+    void Replace(QStringList SAddressLists::*pList, int nIndex, const QString& strEntry)
+    {
+        m_simulator.Change([&](SSimulatedProject& project) {
+            QStringList& list = project.addresses.*pList;
+            if (nIndex >= 0 && nIndex < list.size())
+                list[nIndex] = strEntry;
+        });
+    }
+
+    CSimulator& m_simulator = CSimulator::Instance();
+};
+
+class CJournalledConfigData : public CJournalledFront<CConfigData>
+{
+public:
+    using CJournalledFront::CJournalledFront;
+
+    bool IsIPHasError(unsigned int nIP, unsigned int* pError, bool bReserved) override
+    {
+        return Call(enJournalRead, "IsIPHasError", &CConfigData::IsIPHasError, nIP, pError, bReserved);
+    }
+    void UpdateErrorIPList() override
+    {
+        Call(enJournalRead, "UpdateErrorIPList", &CConfigData::UpdateErrorIPList);
+    }
+    int GetDetectStrategy() override
+    {
+        return Call(enJournalRead, "GetDetectStrategy", &CConfigData::GetDetectStrategy);
+    }
+    int GetSpecifiedIPDWORD(unsigned int* pList) override
+    {
+        return Call(enJournalRead, "GetSpecifiedIPDWORD", &CConfigData::GetSpecifiedIPDWORD,
+                    JournalText::STable{pList});
+    }
+    void GetSpecifiedIPs(QStringList& listIP) override
+    {
+        Call(enJournalRead, "GetSpecifiedIPs", &CConfigData::GetSpecifiedIPs, listIP);
+    }
+    void AddSpecifiedIP(QString strIP, QString strName) override
+    {
+        Call(enJournalWrite, "AddSpecifiedIP", &CConfigData::AddSpecifiedIP, strIP, strName);
+    }
+    void SpecifiedIPsSave() override
+    {
+        Call(enJournalWrite, "SpecifiedIPsSave", &CConfigData::SpecifiedIPsSave);
+    }
+    QString GetCurSetSpecifiedIPWithIndex(int nIndex) override
+    {
+        return Call(enJournalRead, "GetCurSetSpecifiedIPWithIndex",
+                    &CConfigData::GetCurSetSpecifiedIPWithIndex, nIndex);
+    }
+    QString GetSpecifiedIPOriginal(int nIndex) override
+    {
+        return Call(enJournalRead, "GetSpecifiedIPOriginal", &CConfigData::GetSpecifiedIPOriginal, nIndex);
+    }
+    QString GetSpecifiedIPWithName(int nIndex) override
+    {
+        return Call(enJournalRead, "GetSpecifiedIPWithName", &CConfigData::GetSpecifiedIPWithName, nIndex);
+    }
+    void SetCurSetSpecifiedIPWithIndex(int nIndex, QString strIP, QString strName) override
+    {
+        Call(enJournalWrite, "SetCurSetSpecifiedIPWithIndex", &CConfigData::SetCurSetSpecifiedIPWithIndex,
+             nIndex, strIP, strName);
+    }
+    void SetSpecifiedIPWithIndex(int nIndex, QString strIP, QString strName) override
+    {
+        Call(enJournalWrite, "SetSpecifiedIPWithIndex", &CConfigData::SetSpecifiedIPWithIndex, nIndex, strIP,
+             strName);
+    }
+};
+
+} // namespace
+
+CConfigData* GetConfigData()
+{
+    static CSimulatedConfigData s_data;
+    static CJournalledConfigData s_front(s_data, CSimulator::Instance().Journal(), "CConfigData");
+    return &s_front;
+}

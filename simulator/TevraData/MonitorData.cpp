@@ -1,0 +1,7 @@
+#include "host/TevraData/MonitorData.h"
+
+CMonitorData* GetMonitorData()
+{
+    static CMonitorData s_data;
+    return &s_data;
+}
