@@ -1,0 +1,25 @@
+#ifndef TESTS_ADDRESSING_ADDRESSORACLES_H
+#define TESTS_ADDRESSING_ADDRESSORACLES_H
+
+#include <functional>
+#include <vector>
+
+/// The four runs over addresses once more, each as one plain loop over octets kept apart, without a line in
+/// common with the library.
+namespace AddressOracles {
+
+using FHasError = std::function<bool(unsigned int nIP)>;
+
+/// Addresses of a batch in the order of their stores.
+std::vector<unsigned int> Batch(unsigned int nStart, int nCount, const FHasError& funcHasError);
+
+/// Addresses added by hand in the order of their stores. The predicate sees each store at once.
+std::vector<unsigned int> ByHand(unsigned int nStart, int nCount, int nListed, const FHasError& funcHasError,
+                                 const std::function<void(unsigned int)>& funcStored);
+
+/// Proposals for a number of rows; 0 where a row is given up.
+std::vector<unsigned int> Proposals(unsigned int nBase, int nRows, const FHasError& funcHasError);
+
+} // namespace AddressOracles
+
+#endif // TESTS_ADDRESSING_ADDRESSORACLES_H
