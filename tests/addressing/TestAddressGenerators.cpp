@@ -1,5 +1,6 @@
 #include "SenderModuleDialog/addressing/AddressGenerators.h"
 #include "SenderModuleDialog/addressing/IPAddressRules.h"
+#include "tests/addressing/AddressDialogSupport.h"
 #include "tests/addressing/AddressOracles.h"
 
 #include <QRandomGenerator>
@@ -7,6 +8,7 @@
 #include <QtTest>
 
 using namespace AddressGenerators;
+using AddressDialogSupport::List;
 
 namespace {
 
@@ -20,15 +22,6 @@ QStringList Texts(const std::vector<unsigned int>& vecAddresses)
     QStringList listTexts;
     for (const unsigned int nIP : vecAddresses)
         listTexts.append(nIP == 0 ? QString() : IPAddressRules::AddressText(nIP));
-    return listTexts;
-}
-
-/// Addresses as a list of texts.
-QStringList List(std::initializer_list<const char*> listAddresses)
-{
-    QStringList listTexts;
-    for (const char* szAddress : listAddresses)
-        listTexts.append(QString::fromLatin1(szAddress));
     return listTexts;
 }
 

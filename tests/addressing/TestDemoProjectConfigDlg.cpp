@@ -1,24 +1,18 @@
 #include "SenderModuleDialog/addressing/DemoProjectConfigDlg.h"
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomLabel.h"
+#include "tests/addressing/AddressDialogSupport.h"
 #include "tests/support/RecordingHost.h"
 
 #include <QMenu>
 #include <QPushButton>
 #include <QtTest>
 
+using namespace AddressDialogSupport;
+
 namespace {
 
-const QStringList c_listWrites = {QStringLiteral("SetDemoModeEnable"), QStringLiteral("SetDemoSenderType"),
-                                  QStringLiteral("ApplyDemoProject")};
-
-QPushButton* Button(const QWidget& dialog, const char* szText)
-{
-    for (QPushButton* pButton : dialog.findChildren<QPushButton*>())
-        if (pButton->text() == QString::fromUtf8(szText))
-            return pButton;
-    return nullptr;
-}
+const QStringList c_listWrites = List({"SetDemoModeEnable", "SetDemoSenderType", "ApplyDemoProject"});
 
 } // namespace
 
@@ -63,7 +57,7 @@ void TestDemoProjectConfigDlg::TheMenuOffersTheSixTypesInOrder()
     QStringList listNames;
     for (const QAction* pAction : pMenu->actions())
         listNames.append(pAction->text());
-    QCOMPARE(listNames, QStringLiteral("M6K|R16 PRO|T4|T6|T6 PRO|T8").split(QLatin1Char('|')));
+    QCOMPARE(listNames, List({"M6K", "R16 PRO", "T4", "T6", "T6 PRO", "T8"}));
     QCOMPARE(pMenu->minimumWidth(), 160);
     QCOMPARE(pMenu->maximumWidth(), 160);
 }
@@ -130,8 +124,7 @@ void TestDemoProjectConfigDlg::AnIndexOutsideTheTableShowsNoNameAndSetsNoType()
     dialog.ControlClicked(0, index);
     QCOMPARE(dialog.findChild<CCustomComboBox*>()->text(), QString());
     dialog.ControlClicked(1);
-    QCOMPARE(host.record.Only(c_listWrites),
-             QStringLiteral("SetDemoModeEnable(true)|ApplyDemoProject()").split(QLatin1Char('|')));
+    QCOMPARE(host.record.Only(c_listWrites), List({"SetDemoModeEnable(true)", "ApplyDemoProject()"}));
 }
 
 void TestDemoProjectConfigDlg::TheHandlerIsReachedThroughTheMetaObjectInBothForms()

@@ -1,9 +1,11 @@
 #include "SenderModuleDialog/addressing/IPAddressRules.h"
+#include "tests/addressing/AddressDialogSupport.h"
 
 #include <QMap>
 #include <QtTest>
 
 using namespace IPAddressRules;
+using AddressDialogSupport::List;
 
 namespace {
 
@@ -42,14 +44,6 @@ QList<QHostAddress> Addresses(const QStringList& listTexts)
     for (const QString& strText : listTexts)
         listAddresses.append(QHostAddress(strText));
     return listAddresses;
-}
-
-QStringList List(std::initializer_list<const char*> listTexts)
-{
-    QStringList list;
-    for (const char* szText : listTexts)
-        list.append(QString::fromLatin1(szText));
-    return list;
 }
 
 struct SNamedPath
