@@ -106,6 +106,19 @@ bool IsInTriangle(CPointEx<float> pt, const STriangle& triangle)
     return bRedBlue != (bGreenRed != bBlueGreen);
 }
 
+bool IsInOutline(CPointEx<float> pt, const CPointEx<float>* pOutline, int nCount)
+{
+    const CPointEx<float>* const pEnd = pOutline + nCount;
+    if (std::any_of(pOutline, pEnd, [pt](CPointEx<float> ptVertex) { return IsSamePoint(pt, ptVertex); }))
+        return true;
+    bool bInside = false;
+    for (int i = 0; i < nCount; ++i) {
+        if (IsEdgeLeftOf(pOutline[i], pOutline[(i + nCount - 1) % nCount], pt))
+            bInside = !bInside;
+    }
+    return bInside;
+}
+
 bool IsFlat(const STriangle& triangle)
 {
     const auto& [ptRed, ptGreen, ptBlue] = triangle;

@@ -41,6 +41,13 @@ public:
     float MarginY() const { return m_fMarginY; }
     float Scale() const { return m_fScale; }
 
+    /// The same mapping, to the last bit of every result.
+    friend constexpr bool operator==(const CChartMapping& first, const CChartMapping& second)
+    {
+        return first.m_nHeight == second.m_nHeight && first.m_fMarginX == second.m_fMarginX &&
+               first.m_fMarginY == second.m_fMarginY && first.m_fScale == second.m_fScale;
+    }
+
 private:
     int m_nHeight;
     float m_fMarginX;

@@ -97,13 +97,11 @@ CPointEx<float> SnappedToVertex(CPointEx<float> ptWhite, const STriangle& triang
 // search.
 CPointEx<float> SnappedWhite(CPointEx<float> ptWhite, const SWhiteSnap& snap)
 {
-    if (!snap.bEnabled)
-        return ptWhite;
     const QPointF ptAway = Widened(ptWhite) - snap.ptTarget;
     if (!(std::sqrt(ptAway.x() * ptAway.x() + ptAway.y() * ptAway.y()) < c_dSnapDistance))
         return ptWhite;
     float fTemperature = 0.0F;
-    return snap.pCct->TriangAlgCalcRelativeCCT(Widened(ptWhite), &fTemperature, false) ? Narrowed(snap.ptTarget)
+    return snap.cct.TriangAlgCalcRelativeCCT(Widened(ptWhite), &fTemperature, false) ? Narrowed(snap.ptTarget)
                                                                                        : ptWhite;
 }
 
@@ -111,7 +109,8 @@ CPointEx<float> SnappedWhite(CPointEx<float> ptWhite, const SWhiteSnap& snap)
 
 CChartSolver::CChartSolver(CChromaGamutInterpolation& gamut)
     : m_gamut(gamut)
-    , m_edges(gamut.GetQPointFData())
+    , m_edges(CChromaGamutInterpolation().GetQPointFData())
+    , m_vecStandard(CChromaGamutInterpolation().GetQPointFData())
     , m_polygonTriangle(c_nTriangleVertices)
 {}
 
@@ -122,7 +121,13 @@ bool CChartSolver::IsInLocus(CPointEx<float> pt) const
 
 std::optional<CPointEx<float>> CChartSolver::LeaveLocus(CPointEx<float> ptFrom, CPointEx<float> ptTo)
 {
-    m_gamut.CountUse();
+    // A host that wrote to the outline gets the walk over all that the list has gathered.
+    if (m_gamut.GetQPointFData().constData() != m_vecStandard.constData())
+        return LeavePolygon(m_gamut.GetData(), ptFrom, ptTo);
+
+    // The list repeats the outline, and a copy is joined to the next by an edge equal to the closing one: the last
+    // crossing of one pass is that of the whole list.
+    m_gamut.UseFloatOutline();
     const std::optional<CPointEx<float>> ptCrossing = m_edges.LastCrossing(ptFrom, ptTo);
     if (!ptCrossing)
         return std::nullopt;
@@ -213,14 +218,14 @@ bool CChartSolver::IsPointInRegion(const SChromaGroupInfo& group, int nPoint) co
            IsInTriangle(group.ptWhite, TriangleOf(group));
 }
 
-void CChartSolver::DragPoint(SChromaGroupInfo& group, int nPoint, CPointEx<float> ptTarget, const SWhiteSnap& snap,
+void CChartSolver::DragPoint(SChromaGroupInfo& group, int nPoint, CPointEx<float> ptTarget, const SWhiteSnap* pSnap,
                              QPointF& ptNearest)
 {
     // The way from the white is clipped wherever the mouse is: inside the locus it crosses nothing.
     const CPointEx<float> ptMouse = WithoutNegatives(ptTarget);
     const CPointEx<float> ptLegal = LeaveLocus(group.ptWhite, ptMouse).value_or(ptMouse);
     if (nPoint == enWhitePoint) {
-        DragWhite(group, ptLegal, snap, ptNearest);
+        DragWhite(group, ptLegal, pSnap, ptNearest);
         return;
     }
     if (!IsColourPoint(nPoint))
@@ -251,13 +256,13 @@ void CChartSolver::PlaceWhite(SChromaGroupInfo& group, CPointEx<float> ptWanted,
         group.ptWhite = Narrowed(ptNearest);
 }
 
-void CChartSolver::DragWhite(SChromaGroupInfo& group, CPointEx<float> ptWanted, const SWhiteSnap& snap,
+void CChartSolver::DragWhite(SChromaGroupInfo& group, CPointEx<float> ptWanted, const SWhiteSnap* pSnap,
                              QPointF& ptNearest)
 {
     const STriangle triangle = TriangleOf(group);
     // The mouse's place decides whether the white may go there, not the place that it snaps to.
     if (IsInTriangle(ptWanted, triangle))
-        group.ptWhite = SnappedWhite(ptWanted, snap);
+        group.ptWhite = pSnap == nullptr ? ptWanted : SnappedWhite(ptWanted, *pSnap);
     else if (GetWhiteIntersection(triangle, ptWanted, ptNearest))
         group.ptWhite = SnappedToVertex(Narrowed(ptNearest), triangle);
 }

@@ -10,16 +10,15 @@
 
 #include <optional>
 
+class CCCT2ColorCoord;
 class CChromaGamutInterpolation;
 struct SChromaGroupInfo;
 
-/// What the white point of a drag snaps to, when it does.
-class CCCT2ColorCoord;
+/// What a dragged white snaps to.
 struct SWhiteSnap
 {
-    bool bEnabled = false;                   ///< the white snaps at all
-    QPointF ptTarget;                        ///< chromaticity that it snaps to
-    const CCCT2ColorCoord* pCct = nullptr;   ///< tells whether a chromaticity has a colour temperature; not owned
+    QPointF ptTarget;           ///< chromaticity that it snaps to
+    const CCCT2ColorCoord& cct; ///< tells whether a chromaticity has a colour temperature
 };
 
 /// Keeps groups legal: every point inside the spectral locus, the white inside the triangle of the colour points.
@@ -31,7 +30,7 @@ struct SWhiteSnap
 class CChartSolver
 {
 public:
-    /// @param gamut the locus; kept by reference, and each walk over its outline is counted there
+    /// @param gamut the locus; kept by reference. Each walk over its outline counts as a use of its list.
     explicit CChartSolver(CChromaGamutInterpolation& gamut);
 
     /// Whether the chromaticity is a real colour.
@@ -76,17 +75,19 @@ public:
     /// Moves a point of a group to the legal place nearest to where it is dragged.
     /// @param ptTarget where the mouse is
     /// @param nPoint 0 to 3; any other index moves nothing
-    void DragPoint(SChromaGroupInfo& group, int nPoint, CPointEx<float> ptTarget, const SWhiteSnap& snap,
+    /// @param pSnap what the white snaps to, null for nothing
+    void DragPoint(SChromaGroupInfo& group, int nPoint, CPointEx<float> ptTarget, const SWhiteSnap* pSnap,
                    QPointF& ptNearest);
 
 private:
     void PlaceVertex(SChromaGroupInfo& group, int nPoint, const ChartGeometry::STriangle& triangle,
                      CPointEx<float> ptWanted, QPointF& ptNearest);
     void PlaceWhite(SChromaGroupInfo& group, CPointEx<float> ptWanted, QPointF& ptNearest);
-    void DragWhite(SChromaGroupInfo& group, CPointEx<float> ptWanted, const SWhiteSnap& snap, QPointF& ptNearest);
+    void DragWhite(SChromaGroupInfo& group, CPointEx<float> ptWanted, const SWhiteSnap* pSnap, QPointF& ptNearest);
 
     CChromaGamutInterpolation& m_gamut;
-    CLocusEdges m_edges;
+    CLocusEdges m_edges;                       ///< of the standard locus
+    QVector<QPointF> m_vecStandard;            ///< the standard locus, shared with every gamut that is not written to
     CPolygon m_polygonTriangle; ///< used anew by each `GetWhiteIntersection`, so that none allocates
 };
 

@@ -44,6 +44,13 @@ public:
     /// @param nCount with 0 samples, or samples of one x alone, a and c are not finite and b is 1
     void FitLine(float* pX, float* pY, int nCount);
 
+    /// @name Coefficients of a*x + b*y + c = 0, not normalised
+    /// @{
+    float A() const { return m_fA; }
+    float B() const { return m_fB; }
+    float C() const { return m_fC; }
+    /// @}
+
     /// Where this line crosses another.
     /// @return the crossing; (`c_fNoIntersection`, `c_fNoIntersection`) when the determinant is below
     ///         `c_fGeometryEpsilon` in size

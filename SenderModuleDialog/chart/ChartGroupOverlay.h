@@ -1,0 +1,48 @@
+#ifndef SENDERMODULEDIALOG_CHART_CHARTGROUPOVERLAY_H
+#define SENDERMODULEDIALOG_CHART_CHARTGROUPOVERLAY_H
+
+#include "SenderModuleDialog/chart/ChartOverlay.h"
+#include "SenderModuleDialog/chart/ChromaGroupInfo.h"
+
+#include <QMap>
+
+#include <array>
+
+class QPainter;
+
+/// The layers that show the groups: their triangles with dots, and the legend.
+namespace ChartOverlay {
+
+using CGroupMap = QMap<int, SChromaGroupInfo*>;
+
+/// The dots' radii in pixels, by point index. They are carried from group to group and from paint to paint.
+using CDotRadii = std::array<float, c_nChromaPointCount>;
+
+/// The point that is held in a drag.
+struct SHeldPoint
+{
+    int nGroup = -1; ///< -1 for none
+    int nPoint = enNoPoint;
+};
+
+/// The radius of a dot that may be moved and is not held.
+float DotRadius(const CChartMapping& mapping);
+
+/// The groups' triangles and dots, in key order up to the first empty entry. A group without a colour of its own
+/// takes one from the palette, which is written into it.
+void DrawGroups(QPainter& painter, const CChartMapping& mapping, const CGroupMap& mapGroups,
+                const SHeldPoint& held, CDotRadii& radii);
+
+/// How much of the output colour space the screen's covers, in whole percent; -1 unless both groups are there and
+/// visible. Asking leaves an empty entry for a missing key.
+int CalcRatio(CGroupMap& mapGroups);
+
+/// The legend: a row for each group with a note, visible or not. Every entry must hold a group.
+/// @param fTextRatio factor of the spacing
+/// @param nWidgetHeight the widget's true height in pixels
+void DrawLegend(QPainter& painter, const SChartFrame& frame, CGroupMap& mapGroups, float fTextRatio,
+                int nWidgetHeight);
+
+} // namespace ChartOverlay
+
+#endif // SENDERMODULEDIALOG_CHART_CHARTGROUPOVERLAY_H
