@@ -21,8 +21,8 @@ QPointF ChromaticityOf(const CCCT2ColorCoord& cct, int nTemperature)
     return ptChromaticity;
 }
 
-// A tick stands across the curve, towards lower x and y. Its x part is divided by the root a second time, which
-// gives the ticks their slant and is meant.
+// A tick stands across the curve, towards lower x and y. Its x part is divided by the root a second time,
+// which gives the ticks their slant and is meant.
 QPointF TickEnd(QPointF ptFoot, QPointF ptNext)
 {
     const float fSlope = float(-(ptFoot.x() - ptNext.x()) / (ptFoot.y() - ptNext.y()));
@@ -53,6 +53,7 @@ void CCctCurve::SetMapping(const CChartMapping& mapping)
         m_path.lineTo(mapping.ToPixel(m_vecChromaticities[i]));
     for (std::size_t i = 0; i < m_ticks.size(); ++i) {
         const QPointF ptFoot = mapping.ToPixel(m_tickPoints[i].ptFoot);
-        m_ticks[i] = {c_tickTemperatures[i], ptFoot, TickEnd(ptFoot, mapping.ToPixel(m_tickPoints[i].ptNext))};
+        m_ticks[i] = {c_tickTemperatures[i], ptFoot,
+                      TickEnd(ptFoot, mapping.ToPixel(m_tickPoints[i].ptNext))};
     }
 }

@@ -12,8 +12,8 @@
 
 class CCCT2ColorCoord;
 
-/// The curve of colour temperatures from 4000 K to 15000 K by 10 K, in chromaticities, and as a path in widget
-/// pixels. The chromaticities are found once; the path is kept until the mapping changes.
+/// The curve of colour temperatures from 4000 K to 15000 K by 10 K, in chromaticities, and as a path in
+/// widget pixels. The chromaticities are found once; the path is kept until the mapping changes.
 class CCctCurve
 {
 public:

@@ -47,8 +47,8 @@ bool IsEdgeLeftOf(CPointEx<float> ptP, CPointEx<float> ptQ, CPointEx<float> pt)
     return (ptQ.x - ptP.x) * ((pt.y - ptP.y) / (ptQ.y - ptP.y)) + ptP.x < pt.x;
 }
 
-// A second point on the bisector of the angle A W B: the middle between A and the point on the ray towards B that
-// is as far from W as A.
+// A second point on the bisector of the angle A W B: the middle between A and the point on the ray towards B
+// that is as far from W as A.
 CPointEx<float> OnBisector(CPointEx<float> ptWhite, CPointEx<float> ptA, CPointEx<float> ptB)
 {
     const float fRatio = DistanceOf(ptWhite, ptA) / DistanceOf(ptB, ptWhite);
@@ -162,8 +162,8 @@ CPointEx<float> MeanPoint(const QList<CPointEx<float>>& listPolygon)
     return {ptSum.x / fCount, ptSum.y / fCount};
 }
 
-std::optional<CPointEx<float>> MeetCone(CPointEx<float> ptWhite, CPointEx<float> ptCurrent, CPointEx<float> ptA,
-                                        CPointEx<float> ptB)
+std::optional<CPointEx<float>> MeetCone(CPointEx<float> ptWhite, CPointEx<float> ptCurrent,
+                                        CPointEx<float> ptA, CPointEx<float> ptB)
 {
     CPointEx<float> ptMiddle = OnBisector(ptWhite, ptA, ptB);
     const CLine lineBisector(ptWhite, ptMiddle);

@@ -49,8 +49,8 @@ constexpr qreal c_dLegendLineWidth = 2.0;
 constexpr qreal c_dLegendDash = 2.0;
 constexpr int c_nRedByteMax = 255;
 
-/// The legend's two walks: one measures, one draws. They call the output colour space by two names of the same
-/// length, and that is meant.
+/// The legend's two walks: one measures, one draws. They call the output colour space by two names of the
+/// same length, and that is meant.
 enum enLegendWalk
 {
     enMeasureWalk,
@@ -74,8 +74,8 @@ bool IsHeld(const SHeldPoint& held, int nKey)
     return held.nGroup >= 0 && held.nGroup == nKey;
 }
 
-// While a point of the group is held, the other radii keep what they had: together with the factor of fixed points
-// those shrink from paint to paint until the drag ends, and that is meant.
+// While a point of the group is held, the other radii keep what they had: together with the factor of fixed
+// points those shrink from paint to paint until the drag ends, and that is meant.
 void SetRadii(CDotRadii& radii, float fRadius, const SHeldPoint& held, int nKey)
 {
     if (!IsHeld(held, nKey))
@@ -122,8 +122,8 @@ void DrawGroupLines(QPainter& painter, const CChartMapping& mapping, const SChro
 void DrawColourDot(QPainter& painter, QPointF pt, float fRadius)
 {
     const int nSize = SaturateTo<int>(2.0F * fRadius);
-    painter.drawEllipse(SaturateTo<int>(pt.x() - double(fRadius)), SaturateTo<int>(pt.y() - double(fRadius)), nSize,
-                        nSize);
+    painter.drawEllipse(SaturateTo<int>(pt.x() - double(fRadius)), SaturateTo<int>(pt.y() - double(fRadius)),
+                        nSize, nSize);
 }
 
 void DrawColourDots(QPainter& painter, const CChartMapping& mapping, const SChromaGroupInfo& group,
@@ -149,8 +149,10 @@ void DrawWhiteDisc(QPainter& painter, CPointEx<float> pt, float fOffset, float f
     painter.drawEllipse(SaturateTo<int>(pt.x - fOffset), SaturateTo<int>(pt.y - fOffset), nSize, nSize);
 }
 
-// A disc in the group's colour with a white one in it. Its rim is white whether or not the point may be moved.
-void DrawWhiteDot(QPainter& painter, const CChartMapping& mapping, const SChromaGroupInfo& group, float fRadius)
+// A disc in the group's colour with a white one in it. Its rim is white whether or not the point may be
+// moved.
+void DrawWhiteDot(QPainter& painter, const CChartMapping& mapping, const SChromaGroupInfo& group,
+                  float fRadius)
 {
     const QPointF ptPixel = mapping.ToPixel(group.ptWhite);
     const CPointEx<float> pt(float(ptPixel.x()), float(ptPixel.y()));
@@ -183,8 +185,8 @@ QString NoteText(CGroupMap& mapGroups, int nKey, const SChromaGroupInfo& group, 
     return nKey == enOutputColorSpace ? OutputSpaceText(mapGroups, walk) : group.strName;
 }
 
-// Calls an action with the text of each group that has a note. Asking for the coverage may put an empty entry into
-// the map behind the group; the walk then meets it.
+// Calls an action with the text of each group that has a note. Asking for the coverage may put an empty entry
+// into the map behind the group; the walk then meets it.
 template <class TAction>
 void ForEachNote(CGroupMap& mapGroups, enLegendWalk walk, TAction action)
 {

@@ -28,13 +28,13 @@ struct SHeldPoint
 /// The radius of a dot that may be moved and is not held.
 float DotRadius(const CChartMapping& mapping);
 
-/// The groups' triangles and dots, in key order up to the first empty entry. A group without a colour of its own
-/// takes one from the palette, which is written into it.
+/// The groups' triangles and dots, in key order up to the first empty entry. A group without a colour of its
+/// own takes one from the palette, which is written into it.
 void DrawGroups(QPainter& painter, const CChartMapping& mapping, const CGroupMap& mapGroups,
                 const SHeldPoint& held, CDotRadii& radii);
 
-/// How much of the output colour space the screen's covers, in whole percent; -1 unless both groups are there and
-/// visible. Asking leaves an empty entry for a missing key.
+/// How much of the output colour space the screen's covers, in whole percent; -1 unless both groups are there
+/// and visible. Asking leaves an empty entry for a missing key.
 int CalcRatio(CGroupMap& mapGroups);
 
 /// The legend: a row for each group with a note, visible or not. Every entry must hold a group.

@@ -36,7 +36,8 @@ SHitBox BoxOf(CPointEx<float> pt, const CChartMapping& mapping)
 
 } // namespace
 
-SChartHit HitTestChart(const QMap<int, SChromaGroupInfo*>& mapGroups, const CChartMapping& mapping, QPoint pos)
+SChartHit HitTestChart(const QMap<int, SChromaGroupInfo*>& mapGroups, const CChartMapping& mapping,
+                       QPoint pos)
 {
     SChartHit hit;
     for (auto it = mapGroups.constBegin(); it != mapGroups.constEnd(); ++it) {

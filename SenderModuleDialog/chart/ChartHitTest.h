@@ -15,9 +15,10 @@ struct SChartHit
     bool bWhite = false;    ///< some white point was hit, whatever the result is
 };
 
-/// Finds the point under a widget pixel, of visible and hidden groups, whether or not their dots are shown. The
-/// first point hit, in key order and by index, is the result unless a later one that may be moved is hit; the last
-/// such point wins. Every entry must hold a group. Allocates nothing.
-SChartHit HitTestChart(const QMap<int, SChromaGroupInfo*>& mapGroups, const CChartMapping& mapping, QPoint pos);
+/// Finds the point under a widget pixel, of visible and hidden groups, whether or not their dots are shown.
+/// The first point hit, in key order and by index, is the result unless a later one that may be moved is hit;
+/// the last such point wins. Every entry must hold a group. Allocates nothing.
+SChartHit HitTestChart(const QMap<int, SChromaGroupInfo*>& mapGroups, const CChartMapping& mapping,
+                       QPoint pos);
 
 #endif // SENDERMODULEDIALOG_CHART_CHARTHITTEST_H

@@ -45,13 +45,13 @@ constexpr double c_dLabelDrop = 10.0;
 constexpr int c_nTipsQuarters = 3;
 constexpr int c_nTipsSixths = 5;
 constexpr double c_dTipsWidthDivisor = 5.0;
-constexpr double c_dTipsHeight = 1.5;           // in font sizes
-constexpr int c_nTipsRowPitch = 2;              // in font sizes
+constexpr double c_dTipsHeight = 1.5;             // in font sizes
+constexpr int c_nTipsRowPitch = 2;                // in font sizes
 constexpr double c_dTipsTemperatureWidth = 0.125; // in scales
 constexpr int c_nTipsDecimals = 4;
 
-/// Colour temperature in the tips: close to D65 by this part of each coordinate it is 6500 K without a search. The
-/// part is the single-precision number.
+/// Colour temperature in the tips: close to D65 by this part of each coordinate it is 6500 K without a
+/// search. The part is the single-precision number.
 constexpr double c_dNearD65 = double(0.025F);
 /// The temperature is filled up to this width with this character, in front of the digits. Both are meant.
 constexpr int c_nTemperatureWidth = 102;
@@ -158,7 +158,8 @@ void DrawTips(QPainter& painter, const SChartFrame& frame, const STips& tips)
         return;
     rcRow.translate(0.0, c_nTipsRowPitch * nFontSize);
     painter.drawText(rcRow, Qt::AlignCenter, QStringLiteral("CCT:"));
-    const QRectF rcValue(rcRow.right() + nFontSize, rcRow.top(), c_dTipsTemperatureWidth * dScale, rcRow.height());
+    const QRectF rcValue(rcRow.right() + nFontSize, rcRow.top(), c_dTipsTemperatureWidth * dScale,
+                         rcRow.height());
     painter.drawText(rcValue, tips.strTemperature, QTextOption());
 }
 
@@ -212,7 +213,8 @@ QRectF StandardBox(const CChartMapping& mapping, QSize sizeWidget)
             double(nFontSize)};
 }
 
-void DrawStandardLabel(QPainter& painter, const SChartFrame& frame, const QRectF& rcBox, const QString& strLabel)
+void DrawStandardLabel(QPainter& painter, const SChartFrame& frame, const QRectF& rcBox,
+                       const QString& strLabel)
 {
     painter.setFont(ChartFont(frame.strFontFamily, FontSize(frame.mapping, c_fStandardFontDivisor)));
     painter.setPen(Qt::red);

@@ -14,9 +14,9 @@ class CCCT2ColorCoord;
 class CCctCurve;
 class QPainter;
 
-/// The layers that are painted over the chart's bitmap, one function each, from plain values. What a layer sets on
-/// the painter stays set: a layer that needs a pen, a brush or a font sets it, and none relies on its forerunner.
-/// Chart positions are widget pixels by the mapping, computed in double precision.
+/// The layers that are painted over the chart's bitmap, one function each, from plain values. What a layer
+/// sets on the painter stays set: a layer that needs a pen, a brush or a font sets it, and none relies on its
+/// forerunner. Chart positions are widget pixels by the mapping, computed in double precision.
 namespace ChartOverlay {
 
 /// What most layers need of the chart.
@@ -30,9 +30,9 @@ struct SChartFrame
 /// The point that the tips and the cross show.
 struct STips
 {
-    QPointF ptShown;           ///< chromaticity without negative coordinates
-    bool bShowTemperature;     ///< adds the row of the colour temperature
-    QString strTemperature;    ///< what that row says
+    QPointF ptShown;        ///< chromaticity without negative coordinates
+    bool bShowTemperature;  ///< adds the row of the colour temperature
+    QString strTemperature; ///< what that row says
 };
 
 /// The outline of the locus.
@@ -64,7 +64,8 @@ void DrawCctLabel(QPainter& painter, const SChartFrame& frame, QPointF pt, int n
 
 /// @param sizeWidget the widget's true size
 QRectF StandardBox(const CChartMapping& mapping, QSize sizeWidget);
-void DrawStandardLabel(QPainter& painter, const SChartFrame& frame, const QRectF& rcBox, const QString& strLabel);
+void DrawStandardLabel(QPainter& painter, const SChartFrame& frame, const QRectF& rcBox,
+                       const QString& strLabel);
 /// @param ptFrom in widget pixels
 void DrawStandardLine(QPainter& painter, const QRectF& rcBox, QPointF ptFrom);
 /// @}

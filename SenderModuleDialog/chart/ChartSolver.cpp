@@ -58,9 +58,10 @@ void SetTriangle(SChromaGroupInfo& group, const STriangle& triangle)
     group.ptBlue = triangle.ptBlue;
 }
 
-STriangle WithoutNegatives(const STriangle& triangle)
+STriangle ClampedTriangle(const STriangle& triangle)
 {
-    return {WithoutNegatives(triangle.ptRed), WithoutNegatives(triangle.ptGreen), WithoutNegatives(triangle.ptBlue)};
+    return {WithoutNegatives(triangle.ptRed), WithoutNegatives(triangle.ptGreen),
+            WithoutNegatives(triangle.ptBlue)};
 }
 
 STriangle WithVertex(const STriangle& triangle, int nPoint, CPointEx<float> pt)
@@ -93,8 +94,8 @@ CPointEx<float> SnappedToVertex(CPointEx<float> ptWhite, const STriangle& triang
     return itVertex == vertices.end() ? ptWhite : *itVertex;
 }
 
-// Where a white dragged to a point is meant to go. The distance is asked first: the colour temperature takes a
-// search.
+// Where a white dragged to a point is meant to go. The distance is asked first: the colour temperature takes
+// a search.
 CPointEx<float> SnappedWhite(CPointEx<float> ptWhite, const SWhiteSnap& snap)
 {
     const QPointF ptAway = Widened(ptWhite) - snap.ptTarget;
@@ -102,7 +103,7 @@ CPointEx<float> SnappedWhite(CPointEx<float> ptWhite, const SWhiteSnap& snap)
         return ptWhite;
     float fTemperature = 0.0F;
     return snap.cct.TriangAlgCalcRelativeCCT(Widened(ptWhite), &fTemperature, false) ? Narrowed(snap.ptTarget)
-                                                                                       : ptWhite;
+                                                                                     : ptWhite;
 }
 
 } // namespace
@@ -125,8 +126,8 @@ std::optional<CPointEx<float>> CChartSolver::LeaveLocus(CPointEx<float> ptFrom, 
     if (m_gamut.GetQPointFData().constData() != m_vecStandard.constData())
         return LeavePolygon(m_gamut.GetData(), ptFrom, ptTo);
 
-    // The list repeats the outline, and a copy is joined to the next by an edge equal to the closing one: the last
-    // crossing of one pass is that of the whole list.
+    // The list repeats the outline, and a copy is joined to the next by an edge equal to the closing one: the
+    // last crossing of one pass is that of the whole list.
     m_gamut.UseFloatOutline();
     const std::optional<CPointEx<float>> ptCrossing = m_edges.LastCrossing(ptFrom, ptTo);
     if (!ptCrossing)
@@ -157,7 +158,8 @@ bool CChartSolver::GetNearestPoint2(CPointEx<float> ptWhite, CPointEx<float> ptC
     return true;
 }
 
-bool CChartSolver::GetWhiteIntersection(const STriangle& triangle, CPointEx<float> ptWhite, QPointF& ptNearest)
+bool CChartSolver::GetWhiteIntersection(const STriangle& triangle, CPointEx<float> ptWhite,
+                                        QPointF& ptNearest)
 {
     if (IsFlat(triangle))
         return false;
@@ -173,12 +175,13 @@ bool CChartSolver::GetWhiteIntersection(const STriangle& triangle, CPointEx<floa
 
 bool CChartSolver::ReCalRGB(SChromaGroupInfo& group, int nPoint, QPointF& ptNearest)
 {
-    const STriangle triangle = WithoutNegatives(TriangleOf(group));
+    const STriangle triangle = ClampedTriangle(TriangleOf(group));
     SetTriangle(group, triangle);
     if (!IsChromaPoint(nPoint))
         return false;
 
-    // The white is clamped for itself alone: the group keeps it as it is, and the vertices are solved against that.
+    // The white is clamped for itself alone: the group keeps it as it is, and the vertices are solved against
+    // that.
     const CPointEx<float> ptMoved = WithoutNegatives(GroupPoint(group, nPoint));
     const bool bInLocus = IsInLocus(ptMoved);
     if (nPoint == enWhitePoint) {
@@ -197,7 +200,7 @@ bool CChartSolver::ReCalCMY(SChromaGroupInfo& group, QPointF& ptNearest)
     if (!IsInLocus(WithoutNegatives(group.ptWhite)))
         return false;
 
-    const STriangle triangle = WithoutNegatives(TriangleOfMidpoints(TriangleOf(group)));
+    const STriangle triangle = ClampedTriangle(TriangleOfMidpoints(TriangleOf(group)));
     SetTriangle(group, triangle);
     // Each vertex is tested against the vertices as they came in, not against those that are legal by now.
     const auto vertices = VerticesOf(triangle);
@@ -218,8 +221,8 @@ bool CChartSolver::IsPointInRegion(const SChromaGroupInfo& group, int nPoint) co
            IsInTriangle(group.ptWhite, TriangleOf(group));
 }
 
-void CChartSolver::DragPoint(SChromaGroupInfo& group, int nPoint, CPointEx<float> ptTarget, const SWhiteSnap* pSnap,
-                             QPointF& ptNearest)
+void CChartSolver::DragPoint(SChromaGroupInfo& group, int nPoint, CPointEx<float> ptTarget,
+                             const SWhiteSnap* pSnap, QPointF& ptNearest)
 {
     // The way from the white is clipped wherever the mouse is: inside the locus it crosses nothing.
     const CPointEx<float> ptMouse = WithoutNegatives(ptTarget);
@@ -233,8 +236,8 @@ void CChartSolver::DragPoint(SChromaGroupInfo& group, int nPoint, CPointEx<float
     PlaceVertex(group, nPoint, WithVertex(TriangleOf(group), nPoint, ptLegal), ptLegal, ptNearest);
 }
 
-// Puts a vertex where it is wanted if the white lies in the triangle, else onto the white's cone. Where neither is
-// possible it stays.
+// Puts a vertex where it is wanted if the white lies in the triangle, else onto the white's cone. Where
+// neither is possible it stays.
 void CChartSolver::PlaceVertex(SChromaGroupInfo& group, int nPoint, const STriangle& triangle,
                                CPointEx<float> ptWanted, QPointF& ptNearest)
 {

@@ -55,14 +55,14 @@ std::optional<CPointEx<float>> CLocusEdges::LastCrossing(CPointEx<float> ptFrom,
     return std::nullopt;
 }
 
-// A segment that is no segment (a coordinate is not a number) lies everywhere: only the full test knows what it
-// makes of it.
+// A segment that is no segment (a coordinate is not a number) lies everywhere: only the full test knows what
+// it makes of it.
 CLocusEdges::SBox CLocusEdges::BoxOf(CPointEx<float> ptFirst, CPointEx<float> ptSecond)
 {
     if (std::isunordered(ptFirst.x, ptSecond.x) || std::isunordered(ptFirst.y, ptSecond.y))
         return {-c_fInfinity, c_fInfinity, -c_fInfinity, c_fInfinity};
-    return {std::min(ptFirst.x, ptSecond.x), std::max(ptFirst.x, ptSecond.x),
-            std::min(ptFirst.y, ptSecond.y), std::max(ptFirst.y, ptSecond.y)};
+    return {std::min(ptFirst.x, ptSecond.x), std::max(ptFirst.x, ptSecond.x), std::min(ptFirst.y, ptSecond.y),
+            std::max(ptFirst.y, ptSecond.y)};
 }
 
 CLocusEdges::SBox CLocusEdges::Union(const SBox& first, const SBox& second)

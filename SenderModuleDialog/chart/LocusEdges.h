@@ -11,9 +11,9 @@
 
 /// The edges of the spectral locus, ready to be crossed by the segment of a drag.
 ///
-/// Gives the answer of a walk over all edges with `CLine::GetSegmentCross`, to the last bit: two segments whose
-/// bounding boxes lie apart do not cross, so edges are passed over by their boxes, a block of neighbours at a time,
-/// and the few that remain take the full test. Nothing is allocated after construction.
+/// Gives the answer of a walk over all edges with `CLine::GetSegmentCross`, to the last bit: two segments
+/// whose bounding boxes lie apart do not cross, so edges are passed over by their boxes, a block of
+/// neighbours at a time, and the few that remain take the full test. Nothing is allocated after construction.
 class CLocusEdges
 {
 public:

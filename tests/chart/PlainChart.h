@@ -15,9 +15,9 @@
 
 using CPoint = CPointEx<float>;
 
-/// The chart's solving and mouse rules, step by step and without a widget: what the fast ones are compared with.
-/// Nothing is prepared, nothing is remembered beyond the chart's own state, and the locus is walked through the
-/// list that grows with each use.
+/// The chart's solving and mouse rules, step by step and without a widget: what the fast ones are compared
+/// with. Nothing is prepared, nothing is remembered beyond the chart's own state, and the locus is walked
+/// through the list that grows with each use.
 class CPlainChart
 {
 public:

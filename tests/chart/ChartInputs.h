@@ -1,0 +1,45 @@
+#ifndef TESTS_CHART_CHARTINPUTS_H
+#define TESTS_CHART_CHARTINPUTS_H
+
+#include "SenderModuleDialog/chart/ChromaGroupInfo.h"
+#include "host/CommonClass/PointEx.h"
+
+#include <QPointF>
+#include <QString>
+#include <QVector>
+
+#include <random>
+
+/// Points and groups to try the chart with: everyday ones, and those that look for trouble at vertices, on
+/// axes, at equal coordinates and at what is no number. The same seed gives the same row of inputs.
+class CChartInputs
+{
+public:
+    /// @param vecLocus the outline to stay near
+    CChartInputs(unsigned int nSeed, const QVector<QPointF>& vecLocus);
+
+    CPointEx<float> Point();
+    /// A point that is a real colour more often than not, and always a number.
+    CPointEx<float> OrdinaryPoint();
+    /// A group of points of either kind; the flags at random.
+    SChromaGroupInfo Group();
+    /// A group with points that are numbers.
+    SChromaGroupInfo OrdinaryGroup();
+    /// A whole number from nFirst to nLast.
+    int Whole(int nFirst, int nLast);
+    bool Coin() { return Whole(0, 1) == 1; }
+    float Real(float fFirst, float fLast);
+
+private:
+    float Coordinate();
+    CPointEx<float> NearLocus();
+
+    std::mt19937 m_generator;
+    QVector<QPointF> m_vecLocus;
+    CPointEx<float> m_ptLast; ///< repeated now and then, so that points and coordinates coincide
+};
+
+/// Where the points of two groups differ in any bit; empty if nowhere.
+QString PointDifference(const SChromaGroupInfo& actual, const SChromaGroupInfo& expected);
+
+#endif // TESTS_CHART_CHARTINPUTS_H
