@@ -24,6 +24,9 @@ class CChromaGamutInterpolation;
 class CChromaGamutThread;
 class QImage;
 class QPainter;
+namespace ChromaBitmap {
+struct SSource;
+}
 
 /// The CIE 1931 xy chromaticity diagram with colour groups on it, whose points the operator drags.
 ///
@@ -266,11 +269,29 @@ public:
 private:
     friend class CChromaGamutThread;
 
-    /// Number of points of the locus.
-    int BoundaryCount() const;
     /// The bitmap of a type 0 to 4, null for any other.
     SWndBitmap* WndBitmap(int nType);
+    /// The finished picture of the type that is shown; a null image if there is none. Waits for it while
+    /// somebody paints.
+    QImage TakeBitmap();
+    /// Paints a bitmap and shows it; the worker's is dropped when the worker is to stop.
+    void PaintBitmap(int nType, bool bWorker);
+    /// What the bitmap is to be painted from now, and the number of that painting.
+    quint64 TakeMeasures(int nType, ChromaBitmap::SSource& source);
+    /// Shows a picture, unless a painting that began later was handed over before.
+    void HandOver(int nType, QImage image, quint64 nTicket);
+    /// The worker's work, in its thread.
+    void PaintWndBitmaps();
+    /// The worker has ended; on the GUI thread.
+    void FinishWndBitmapThread();
 
+    /// The layers that stay the same from paint to paint: background, bitmap, locus and grid.
+    void DrawStaticLayers(QPainter& painter, const QImage& imgBitmap);
+    void DrawBitmap(QPainter& painter, const QImage& imgBitmap);
+    /// The line around the chart.
+    void DrawFrame(QPainter& painter);
+
+    int m_nBoundaryCount = 0;                          ///< number of points of the locus
     std::unique_ptr<CChromaBitmapDesk> m_pDesk;        ///< what the threads that paint bitmaps agree by
     std::unique_ptr<CChartStaticLayer> m_pStaticLayer; ///< the layers that stay the same from paint to paint
 };

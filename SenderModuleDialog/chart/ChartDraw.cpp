@@ -1,0 +1,69 @@
+#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "SenderModuleDialog/chart/ChartStaticLayer.h"
+#include "host/OrviControl/Style.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPen>
+
+/// @file
+/// The order in which the chart is painted.
+
+namespace {
+
+/// `QPainter::NonCosmeticDefaultPen`: Qt's headers call the name old, since pens of width 0 are so by now, but the
+/// hint is still part of a painter's state.
+constexpr auto c_hintNonCosmeticPen = QPainter::RenderHint(0x10);
+
+/// Width of the line around the chart.
+constexpr double c_dFrameWidth = 1.0;
+
+} // namespace
+
+void CChromaticityDlgWnd::Draw(QPainter& painter)
+{
+    const QImage imgBitmap = TakeBitmap();
+    const CChartStaticLayer::SContent content = {m_rcChart,    m_clrBackground, imgBitmap.cacheKey(),
+                                                 m_nGridAlpha, m_fMarginX,      m_fMarginY,
+                                                 m_fScale,     GetFontFamily()};
+    const auto funcPaint = [this, &imgBitmap](QPainter& target) { DrawStaticLayers(target, imgBitmap); };
+    if (!m_pStaticLayer->Show(painter, content, funcPaint))
+        funcPaint(painter);
+    DrawTipsString(painter);
+    DrawCrossLine(painter);
+    DrawCCTLine(painter);
+    DrawChromTriangle(painter);
+    DrawChromNote(painter);
+    DrawFrame(painter);
+}
+
+void CChromaticityDlgWnd::DrawStaticLayers(QPainter& painter, const QImage& imgBitmap)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_clrBackground);
+    painter.drawRect(m_rcChart);
+    painter.setRenderHint(QPainter::Antialiasing);
+    DrawBitmap(painter, imgBitmap);
+    painter.setBrush(Qt::NoBrush);
+    painter.setRenderHint(c_hintNonCosmeticPen);
+    DrawBorder(painter);
+    DrawHexCoorDialog(painter);
+}
+
+void CChromaticityDlgWnd::DrawBitmap(QPainter& painter, const QImage& imgBitmap)
+{
+    const QSize size(m_nWndWidth, m_nWndHeight);
+    // What the bitmap does not cover stays transparent.
+    QImage imgShown(size, QImage::Format_ARGB32);
+    imgShown.fill(Qt::transparent);
+    if (!imgBitmap.isNull())
+        imgShown = imgBitmap.copy(QRect(QPoint(0, 0), size));
+    painter.drawImage(QRect(QPoint(0, 0), size), imgShown);
+}
+
+void CChromaticityDlgWnd::DrawFrame(QPainter& painter)
+{
+    painter.setPen(QPen(Qt::black, c_dFrameWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(m_rcChart);
+}

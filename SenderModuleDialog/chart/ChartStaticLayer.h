@@ -1,0 +1,73 @@
+#ifndef SENDERMODULEDIALOG_CHART_CHARTSTATICLAYER_H
+#define SENDERMODULEDIALOG_CHART_CHARTSTATICLAYER_H
+
+#include <QBrush>
+#include <QColor>
+#include <QFont>
+#include <QImage>
+#include <QPainter>
+#include <QPen>
+#include <QRect>
+#include <QString>
+
+#include <functional>
+
+/// Keeps the picture of the chart's lowest layers, which stay the same from paint to paint, and copies it
+/// where that gives the very pixels that painting them would give. Where it would not, or might not, it
+/// declines.
+class CChartStaticLayer
+{
+public:
+    /// All that the layers show.
+    struct SContent
+    {
+        QRect rcChart;
+        QColor
+            clrBackground; ///< an opaque one covers what was there before; with any other nothing is copied
+        qint64 nBitmapKey = 0; ///< `QImage::cacheKey` of the bitmap
+        int nGridAlpha = 0;
+        float fMarginX = 0.0F;
+        float fMarginY = 0.0F;
+        float fScale = 0.0F;
+        QString strFontFamily;
+
+        bool operator==(const SContent& other) const;
+    };
+
+    /// Paints the layers, and leaves the painter as it leaves it.
+    using FuncPaint = std::function<void(QPainter&)>;
+
+    /// Shows the layers on the painter's device and leaves the painter as `funcPaint` would have.
+    /// @return false, with nothing done, where a copy is not sure to give the same pixels: on devices that
+    /// are no
+    ///         32-bit raster images, under a clip, an opacity, a composition mode or a transformation other
+    ///         than whole pixels, and over a background that lets something through
+    bool Show(QPainter& painter, const SContent& content, const FuncPaint& funcPaint);
+
+private:
+    /// What of the painter and its device the picture depends on.
+    struct SSurface
+    {
+        QImage::Format format = QImage::Format_Invalid;
+        double dRatio = 1.0; ///< device pixels per pixel
+        QPainter::RenderHints hints;
+        QFont font;
+        Qt::LayoutDirection direction = Qt::LayoutDirectionAuto;
+
+        bool operator==(const SSurface& other) const;
+    };
+
+    static bool CanCopyTo(const QPainter& painter, const QImage* pTarget);
+    void Repaint(const SContent& content, const SSurface& surface, const FuncPaint& funcPaint);
+    void CopyTo(QPainter& painter) const;
+
+    SContent m_content;
+    SSurface m_surface;
+    QImage m_image; ///< null until something was painted
+    QPen m_pen;     ///< what the painter is left with
+    QBrush m_brush;
+    QFont m_font;
+    QPainter::RenderHints m_hints;
+};
+
+#endif // SENDERMODULEDIALOG_CHART_CHARTSTATICLAYER_H

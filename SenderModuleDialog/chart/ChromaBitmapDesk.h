@@ -1,0 +1,80 @@
+#ifndef SENDERMODULEDIALOG_CHART_CHROMABITMAPDESK_H
+#define SENDERMODULEDIALOG_CHART_CHROMABITMAPDESK_H
+
+#include <QtGlobal>
+
+#include <array>
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+
+/// What the threads that paint the chart's bitmaps agree by. Painters take their measures under the lock,
+/// paint a picture of their own without it, and hand it over under the lock again; so nobody ever sees half a
+/// picture.
+class CChromaBitmapDesk
+{
+public:
+    /// Holds the sizes, the outline and the image pointers still while it lives.
+    using CLock = std::unique_lock<std::mutex>;
+    CLock Lock() { return CLock(m_mutex); }
+
+    /// A number that is larger than those of all paintings that took their measures before. Call it under the
+    /// lock.
+    quint64 TakeTicket() { return ++m_nLastTicket; }
+    /// Whether this painting took its measures later than the last one that was handed over for the type,
+    /// which it is from now on. Call it under the lock.
+    /// @param nType -1 to 4
+    bool IsNewest(int nType, quint64 nTicket);
+
+    /// One more painter is at work.
+    void BeginPainting();
+    /// The painter is done: whoever waits looks again.
+    void EndPainting();
+
+    /// Counts the worker in before its thread runs, so that nobody finds the time between idle.
+    void AnnounceWorker();
+    /// The worker runs: counts it in unless it was announced.
+    void BeginWorker();
+    /// The worker has nothing left to paint.
+    void EndWorker();
+    /// Whether the worker was announced or runs.
+    bool IsWorkerBusy();
+
+    /// Tells the worker to stop at the next row of pixels, or withdraws that.
+    void SetStopWorker(bool bStop) { m_bStopWorker = bStop; }
+    bool IsWorkerToStop() const { return m_bStopWorker; }
+
+    /// Waits until the bitmap is ready, or nobody is at work who could make it so.
+    void WaitWhilePainting(const std::atomic<bool>& bReady);
+    /// Waits until the worker has nothing left to paint.
+    void WaitForWorker();
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_condition;
+    std::atomic<bool> m_bStopWorker{false};
+    quint64 m_nLastTicket = 0;
+    std::array<quint64, 6> m_arrHandedOver{}; ///< the tickets of the bitmaps shown, types -1 to 4
+    int m_nPainters = 0;
+    bool m_bWorkerAnnounced = false;
+    bool m_bWorkerRuns = false;
+};
+
+/// A painter at work, for as long as it lives.
+class CPaintingShift
+{
+public:
+    explicit CPaintingShift(CChromaBitmapDesk& desk)
+        : m_desk(desk)
+    {
+        m_desk.BeginPainting();
+    }
+    ~CPaintingShift() { m_desk.EndPainting(); }
+    CPaintingShift(const CPaintingShift&) = delete;
+    CPaintingShift& operator=(const CPaintingShift&) = delete;
+
+private:
+    CChromaBitmapDesk& m_desk;
+};
+
+#endif // SENDERMODULEDIALOG_CHART_CHROMABITMAPDESK_H

@@ -1,0 +1,34 @@
+#ifndef SENDERMODULEDIALOG_CHART_CHROMAGAMUTTHREAD_H
+#define SENDERMODULEDIALOG_CHART_CHROMAGAMUTTHREAD_H
+
+#include "SenderModuleDialog/SenderModuleDialogGlobal.h"
+
+#include <QThread>
+
+class CChromaticityDlgWnd;
+
+/// Paints a chart's bitmaps of the types 0 to 4 away from the GUI thread. The chart makes one as its child;
+/// `CChromaticityDlgWnd::StartWndBitmapThread` sets it to work.
+class SENDERMODULEDIALOG_EXPORT CChromaGamutThread : public QThread
+{
+    Q_OBJECT
+
+public:
+    explicit CChromaGamutThread(QObject* parent);
+    ~CChromaGamutThread() override;
+
+    /// The chart to paint for, null for none. It is not owned. Call it while the thread is at rest.
+    void SetChromaticityDlgWnd(CChromaticityDlgWnd* pWnd);
+
+    /// Paints the types 0 to 4 in this order if a chart is set, and emits `RunOver` in any case.
+    void run() override;
+
+Q_SIGNALS:
+    /// The end of `run`, emitted from the thread that ran it.
+    void RunOver();
+
+private:
+    CChromaticityDlgWnd* m_pWnd = nullptr;
+};
+
+#endif // SENDERMODULEDIALOG_CHART_CHROMAGAMUTTHREAD_H
