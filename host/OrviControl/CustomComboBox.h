@@ -7,9 +7,12 @@
 
 #include <memory>
 
+class QAction;
 class QMenu;
 
-/// A drop-down button: a push button that shows the chosen text and opens a menu.
+/// A drop-down button: a push button that shows the chosen text and opens a menu, with the entry of that text
+/// picked out. Down, Up and F4 open it too. The menu comes from `SetMenu`, or from `QPushButton::setMenu`,
+/// which leaves the text to the caller.
 class ORVICONTROL_EXPORT CCustomComboBox : public QPushButton
 {
     Q_OBJECT
@@ -20,8 +23,8 @@ public:
 
     /// Installs the menu. From then on choosing an action makes its text the button's text and emits
     /// `Activated`. The text has changed before any slot connected to the menu's signals after this call
-    /// runs.
-    /// @param pMenu the menu, not owned
+    /// runs. A second call replaces the menu.
+    /// @param pMenu the menu, not owned; null takes the menu away
     /// @param bMarkChosen the box itself marks the chosen action as the current one
     /// @param bMatchWidth the menu is at least as wide as the button
     /// @param bShowText the button takes the chosen action's text
@@ -30,11 +33,21 @@ public:
     /// marks none.
     void SetItemChecked(int nIndex);
 
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
 Q_SIGNALS:
     /// The operator chose the item with that index.
     void Activated(int nIndex);
 
+protected:
+    void keyPressEvent(QKeyEvent* pEvent) override;
+    void paintEvent(QPaintEvent* pEvent) override;
+    bool event(QEvent* pEvent) override;
+
 private:
+    void ActionChosen(QAction* pAction);
+    void PickOutCurrentItem();
+
     class CPrivate;
     const std::unique_ptr<CPrivate> m_pPrivate;
 };

@@ -3,7 +3,10 @@
 
 #include "host/OrviControl/CustomDialog.h"
 
-/// Modal messages in the host's look.
+class QPushButton;
+
+/// Modal messages in the host's look, as large as their text needs. Enter presses the button that has the
+/// focus; Esc and the title bar close without an answer.
 class ORVICONTROL_EXPORT CCustomMessageBox : public CCustomDialog
 {
     Q_OBJECT
@@ -21,15 +24,17 @@ public:
 
     /// Shows a message and waits for a button.
     /// @param buttons the buttons shown; the library passes 1
-    /// @param defaultButton the button that Enter presses; the library passes 1
+    /// @param defaultButton the button that starts with the focus; the library passes 1
     /// @param nTimeout milliseconds after which the message closes itself; 2147483647 never
-    /// @return the button pressed
+    /// @return the button pressed, `NoButton` without an answer
     static StandardButton information(QWidget* pParent, const QString& strText, StandardButtons buttons,
                                       StandardButton defaultButton, int nTimeout);
     /// Asks a question and waits for a button.
     /// @param buttons the buttons shown; the library passes 6
-    /// @param defaultButton the button that Enter presses, none when it is not shown; the library passes 8
-    /// @return the button pressed; 2 means that the operator agreed
+    /// @param defaultButton the button that starts with the focus; the library passes 8, which is not among
+    ///                      those shown: the last button starts with the focus, so that Enter alone agrees to
+    ///                      nothing
+    /// @return the button pressed, 2 when the operator agreed, `NoButton` without an answer
     static StandardButton question(QWidget* pParent, const QString& strText, StandardButtons buttons,
                                    StandardButton defaultButton);
 
@@ -39,8 +44,9 @@ public:
     QString text() const;
 
 private:
-    CCustomMessageBox(QWidget* pParent, const QString& strText, StandardButtons buttons,
+    CCustomMessageBox(QWidget* pParent, const QString& strText, const char* szIcon, StandardButtons buttons,
                       StandardButton defaultButton);
+    QPushButton* CreateButton(StandardButton button, const char* szText, bool bDefault);
 
     QString m_strText;
     StandardButton m_pressedButton = NoButton;

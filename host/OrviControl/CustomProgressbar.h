@@ -11,7 +11,8 @@ struct SProgressOwnerRecord
     QWidget* pOwner = nullptr; ///< the dialog that the progress belongs to
 };
 
-/// A progress dialog from 0 to 100 in the host's look.
+/// A progress dialog from 0 to 100 in the host's look. It is for work that blocks the GUI thread: each step
+/// shows at once, and until `CloseProgress` no other window of the program takes input.
 class ORVICONTROL_EXPORT CCustomProgressbar : public QProgressDialog
 {
     Q_OBJECT
@@ -21,7 +22,8 @@ public:
     CCustomProgressbar(QWidget* pParent, bool bCancelable);
     ~CCustomProgressbar() override;
 
-    /// Shows the progress.
+    /// Shows the progress, and the dialog if it is not on the screen yet. What the operator typed and clicked
+    /// meanwhile is taken off the queue here, and reaches no other window.
     /// @param nValue per cent
     virtual void SetProgressValue(int nValue);
     /// Ends the progress and hides the dialog.
@@ -29,7 +31,12 @@ public:
     /// The record whose owner field the caller sets to itself.
     virtual SProgressOwnerRecord& GetProgressOwnerRecord();
 
+protected:
+    void keyPressEvent(QKeyEvent* pEvent) override;
+    void closeEvent(QCloseEvent* pEvent) override;
+
 private:
+    const bool m_bCancelable;
     SProgressOwnerRecord m_ownerRecord;
 };
 

@@ -7,10 +7,11 @@
 
 #include <memory>
 
-/// An on/off switch.
+/// An on/off switch. Space and a click switch it.
 class ORVICONTROL_EXPORT CCustomSwitchButton : public QAbstractButton
 {
     Q_OBJECT
+    Q_PROPERTY(bool animated READ isAnimated WRITE setAnimated)
 
 public:
     explicit CCustomSwitchButton(QWidget* pParent = nullptr);
@@ -23,6 +24,12 @@ public:
     /// The shown state.
     bool isOpen() const;
 
+    /// The knob slides; when off it jumps. The state changes at once in either case.
+    bool isAnimated() const;
+    /// @param bAnimated the default is true, or false where the desktop wants no animation or the environment
+    ///                  variable ORVICONTROL_ANIMATIONS is 0
+    void setAnimated(bool bAnimated);
+
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -34,6 +41,8 @@ protected:
     void nextCheckState() override;
 
 private:
+    void MoveKnob(bool bAnimate);
+
     class CPrivate;
     const std::unique_ptr<CPrivate> m_pPrivate;
 };

@@ -1,11 +1,13 @@
 #include "host/OrviControl/CustomDialog.h"
 
+#include "simulator/OrviControl/Theme.h"
+
 CCustomDialog::CCustomDialog(QWidget* pParent, bool bResizable)
     : QDialog(pParent)
 {
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowFlag(Qt::MSWindowsFixedSizeDialogHint, !bResizable);
-    setStyleSheet(QStringLiteral("CCustomDialog{background:rgb(45,45,45);}"));
+    Theme::Apply(this);
 }
 
 CCustomDialog::~CCustomDialog() = default;

@@ -1,26 +1,76 @@
 #include "host/OrviControl/CustomProgressbar.h"
 
+#include "host/OrviControl/Style.h"
+#include "simulator/OrviControl/Theme.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QProgressBar>
+
+namespace {
+
+constexpr int c_nMaximum = 100; // per cent
+constexpr int c_nWidth = 300;   // pixels
+
+QString BarStyle()
+{
+    return GetFontStyleSheet(
+        Theme::Resolve(
+            "QProgressBar{background:@field@; color:@text@; border:1px solid @edge@; border-radius:4px;"
+            " text-align:center; min-height:18px; max-height:18px;}"
+            "QProgressBar::chunk{background:@accent@; border-radius:3px;}"),
+        QStringLiteral("QProgressBar"), Theme::c_nFontSize);
+}
+
+} // namespace
+
 CCustomProgressbar::CCustomProgressbar(QWidget* pParent, bool bCancelable)
     : QProgressDialog(pParent)
+    , m_bCancelable(bCancelable)
 {
-    setRange(0, 100);
+    Theme::Apply(this);
+    auto* pBar = new QProgressBar(this);
+    pBar->setStyleSheet(BarStyle());
+    setBar(pBar);
+    auto* pLabel = new QLabel(this);
+    pLabel->setAlignment(Qt::AlignCenter);
+    pLabel->setStyleSheet(
+        GetFontStyleSheet(g_labelNoFrameStyle, QStringLiteral("QLabel"), Theme::c_nFontSize));
+    setLabel(pLabel);
+    setRange(0, c_nMaximum);
     setMinimumDuration(0);
     setAutoClose(false);
     setAutoReset(false);
-    setWindowModality(Qt::WindowModal);
-    if (!bCancelable)
+    setMinimumWidth(c_nWidth);
+    setWindowModality(Qt::ApplicationModal);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    if (pParent != nullptr)
+        setWindowTitle(pParent->window()->windowTitle());
+    if (!bCancelable) {
         setCancelButton(nullptr);
+        setWindowFlag(Qt::WindowCloseButtonHint, false);
+    }
 }
 
 CCustomProgressbar::~CCustomProgressbar() = default;
 
 void CCustomProgressbar::SetProgressValue(int nValue)
 {
+    if (!isVisible())
+        show();
     setValue(nValue);
+    // The caller's thread is the only one that can paint. Input is modal to this dialog, so nothing that is
+    // processed here can start the caller's work again.
+    QCoreApplication::processEvents();
 }
 
 void CCustomProgressbar::CloseProgress()
 {
+    // Clicks that are still waiting belong to the time of the progress: they must not meet the dialog below.
+    if (isVisible())
+        QCoreApplication::processEvents();
     reset();
     hide();
 }
@@ -28,4 +78,21 @@ void CCustomProgressbar::CloseProgress()
 SProgressOwnerRecord& CCustomProgressbar::GetProgressOwnerRecord()
 {
     return m_ownerRecord;
+}
+
+void CCustomProgressbar::keyPressEvent(QKeyEvent* pEvent)
+{
+    // Esc would hide the dialog while the work goes on.
+    if (m_bCancelable)
+        QProgressDialog::keyPressEvent(pEvent);
+    else
+        pEvent->accept();
+}
+
+void CCustomProgressbar::closeEvent(QCloseEvent* pEvent)
+{
+    if (m_bCancelable)
+        QProgressDialog::closeEvent(pEvent);
+    else
+        pEvent->ignore();
 }

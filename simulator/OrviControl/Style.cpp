@@ -1,41 +1,108 @@
 #include "host/OrviControl/Style.h"
 
+#include "simulator/OrviControl/Theme.h"
+
 #include <QFontDatabase>
+#include <QFontInfo>
+
+#include <algorithm>
+#include <array>
+
+QString g_labelNoFrameStyle = Theme::Resolve("QLabel{background:transparent; color:@text@; border:none;}"
+                                             "QLabel:disabled{color:@text-disabled@;}");
+
+QString g_labelWarnStyle = Theme::Resolve("QLabel{background:transparent; color:@warning@; border:none;}");
+
+QString g_pushButtonStyle =
+    Theme::Resolve("QPushButton{background:@button@; color:@text@; border:1px solid @edge@; "
+                   "border-radius:4px; padding:0px 4px;}"
+                   "QPushButton:hover{background:@button-hover@;}"
+                   "QPushButton:pressed{background:@button-pressed@;}"
+                   "QPushButton:focus{border:1px solid @accent@;}"
+                   "QPushButton:disabled{color:@text-disabled@; background:@button-disabled@;}");
+
+QString g_menuStyle =
+    Theme::Resolve("QMenu{background:@field@; color:@text@; border:1px solid @edge@; padding:2px 0px;}"
+                   "QMenu::item{padding:4px 12px 4px 26px;}"
+                   "QMenu::item:selected{background:@accent@;}"
+                   "QMenu::item:disabled{color:@text-disabled@;}"
+                   "QMenu::separator{height:1px; background:@button@; margin:2px 6px;}"
+                   "QMenu::indicator{width:14px; height:14px; left:6px;}"
+                   "QMenu::indicator:checked{image:url(:/OrviControl/icons/check.svg);}"
+                   "QMenu::indicator:checked:disabled{image:url(:/OrviControl/icons/check-disabled.svg);}");
+
+QString g_checkBoxStyle = Theme::Resolve(
+    "QCheckBox{color:@text@; spacing:6px;}"
+    "QCheckBox:disabled{color:@text-disabled@;}"
+    "QCheckBox::indicator{width:14px; height:14px; background:@field@; border:1px solid @track-off@; "
+    "border-radius:3px;}"
+    "QCheckBox::indicator:hover,QCheckBox::indicator:focus{border:1px solid @accent@;}"
+    "QCheckBox::indicator:checked{background:@accent@; image:url(:/OrviControl/icons/check.svg);}"
+    "QCheckBox::indicator:disabled{background:@button-disabled@; border:1px solid @button@;}"
+    "QCheckBox::indicator:checked:disabled{image:url(:/OrviControl/icons/check-disabled.svg);}");
+
+QString g_doubleSpinBoxStyle = Theme::Resolve(
+    "QDoubleSpinBox{background:@field@; color:@text@; border:1px solid @edge@; border-radius:4px;"
+    " selection-background-color:@accent@; selection-color:@text@;}"
+    "QDoubleSpinBox:focus{border:1px solid @accent@;}"
+    "QDoubleSpinBox:disabled{color:@text-disabled@; background:@field-disabled@;}"
+    "QDoubleSpinBox::up-button,QDoubleSpinBox::down-button{subcontrol-origin:border; width:16px; border:none;"
+    " background:@button@;}"
+    "QDoubleSpinBox::up-button{subcontrol-position:top right; margin:1px 1px 0px 0px; "
+    "border-top-right-radius:3px;}"
+    "QDoubleSpinBox::down-button{subcontrol-position:bottom right; margin:0px 1px 1px 0px;"
+    " border-bottom-right-radius:3px;}"
+    "QDoubleSpinBox::up-button:hover,QDoubleSpinBox::down-button:hover{background:@button-hover@;}"
+    "QDoubleSpinBox::up-button:pressed,QDoubleSpinBox::down-button:pressed{background:@button-pressed@;}"
+    "QDoubleSpinBox::up-button:disabled,QDoubleSpinBox::down-button:disabled{background:@button-disabled@;}"
+    "QDoubleSpinBox::up-arrow{image:url(:/OrviControl/icons/arrow-up.svg); width:8px; height:5px;}"
+    "QDoubleSpinBox::up-arrow:disabled,QDoubleSpinBox::up-arrow:off"
+    "{image:url(:/OrviControl/icons/arrow-up-disabled.svg);}"
+    "QDoubleSpinBox::down-arrow{image:url(:/OrviControl/icons/arrow-down.svg); width:8px; height:5px;}"
+    "QDoubleSpinBox::down-arrow:disabled,QDoubleSpinBox::down-arrow:off"
+    "{image:url(:/OrviControl/icons/arrow-down-disabled.svg);}");
 
 namespace {
 
-QString Literal(const char* szText)
+/// Fonts that are known to draw Latin and Chinese well at small sizes, best first.
+constexpr std::array<const char*, 4> c_arrPreferredFamilies = {"Noto Sans CJK SC", "Noto Sans SC",
+                                                               "Source Han Sans SC", "WenQuanYi Micro Hei"};
+
+bool HasLatinAndChinese(const QFontDatabase& database, const QString& strFamily)
 {
-    return QString::fromLatin1(szText);
+    const QList<QFontDatabase::WritingSystem> listSystems = database.writingSystems(strFamily);
+    return listSystems.contains(QFontDatabase::Latin) &&
+           listSystems.contains(QFontDatabase::SimplifiedChinese);
+}
+
+/// A preferred font, else the desktop's own, else any that has both scripts.
+QString ChooseFamily()
+{
+    const QFontDatabase database;
+    const QString strSystem = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+    QStringList listCandidates;
+    for (const char* szFamily : c_arrPreferredFamilies)
+        listCandidates.append(QString::fromLatin1(szFamily));
+    listCandidates.append(strSystem);
+    listCandidates.append(database.families(QFontDatabase::SimplifiedChinese));
+    const auto itFound =
+        std::find_if(listCandidates.cbegin(), listCandidates.cend(),
+                     [&](const QString& strFamily) { return HasLatinAndChinese(database, strFamily); });
+    return itFound == listCandidates.cend() ? strSystem : *itFound;
 }
 
 } // namespace
 
-QString g_labelNoFrameStyle = Literal("QLabel{background:transparent; color:white; border:none;}");
-QString g_labelWarnStyle = Literal("QLabel{background:transparent; color:rgb(255,120,90); border:none;}");
-QString g_pushButtonStyle = Literal(
-    "QPushButton{background:rgb(70,70,70); color:white; border:1px solid rgb(7,7,7); border-radius:4px;}"
-    "QPushButton:hover{background:rgb(85,85,85);}"
-    "QPushButton:pressed{background:rgb(50,50,50);}"
-    "QPushButton:focus{border:1px solid rgb(74,144,226);}"
-    "QPushButton:disabled{color:rgb(120,120,120); background:rgb(55,55,55);}");
-QString g_menuStyle = Literal("QMenu{background:rgb(31,31,31); color:white; border:1px solid rgb(7,7,7);}"
-                              "QMenu::item:selected{background:rgb(74,144,226);}"
-                              "QMenu::item:disabled{color:rgb(120,120,120);}");
-QString g_checkBoxStyle = Literal("QCheckBox{color:white;}"
-                                  "QCheckBox:disabled{color:rgb(120,120,120);}");
-QString g_doubleSpinBoxStyle = Literal(
-    "QDoubleSpinBox{background:rgb(31,31,31); color:white; border:1px solid rgb(7,7,7); border-radius:4px;}"
-    "QDoubleSpinBox:focus{border:1px solid rgb(74,144,226);}"
-    "QDoubleSpinBox:disabled{color:rgb(120,120,120);}");
-
 QString GetFontFamily()
 {
-    return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+    static const QString s_strFamily = ChooseFamily();
+    return s_strFamily;
 }
 
 QString GetFontStyleSheet(QString strStyle, QString strSelector, int nFontSize)
 {
-    return QStringLiteral("%1%2{font-family:\"%3\"; font-size:%4px;}")
-        .arg(strStyle, strSelector, GetFontFamily(), QString::number(nFontSize));
+    strSelector +=
+        QStringLiteral("{font-family:\"%1\"; font-size:%2px;}").arg(GetFontFamily()).arg(nFontSize);
+    strStyle += strSelector;
+    return strStyle;
 }

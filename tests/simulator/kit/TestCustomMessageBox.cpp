@@ -1,0 +1,201 @@
+#include "host/OrviControl/CustomMessageBox.h"
+
+#include "host/OrviControl/CustomDialog.h"
+#include "tests/simulator/kit/Keyboard.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+
+#include <limits>
+
+namespace {
+
+constexpr int c_nNoTimeout = std::numeric_limits<int>::max();
+
+const auto c_buttonsQuestion = CCustomMessageBox::StandardButtons(QFlag(6));
+
+} // namespace
+
+class TestCustomMessageBox : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void AMessageHasOneButtonThatClosesIt();
+    void EnterClosesAMessage();
+    void AQuestionGivesTheButtonPressed_data();
+    void AQuestionGivesTheButtonPressed();
+    void EnterAloneAgreesToNothing();
+    void KeysReachYes();
+    void EscIsNoAnswer();
+    void ATimeoutIsNoAnswer();
+    void TheBoxBelongsToItsParentAndBearsItsTitle();
+    void NothingOfALongTextIsCut_data();
+    void NothingOfALongTextIsCut();
+    void MarkupIsShownAsItStands();
+
+private:
+    /// Shows a question and runs an operation on the box while it is open.
+    template <class TOperation>
+    CCustomMessageBox::StandardButton Question(const QString& strText, TOperation operation);
+    template <class TOperation>
+    CCustomMessageBox::StandardButton Message(const QString& strText, TOperation operation);
+    template <class TOperation>
+    static void WhenOpen(TOperation operation);
+};
+
+template <class TOperation>
+void TestCustomMessageBox::WhenOpen(TOperation operation)
+{
+    QTimer::singleShot(0, qApp, [operation] {
+        auto* pBox = qobject_cast<CCustomMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(pBox != nullptr);
+        QVERIFY(QTest::qWaitForWindowActive(pBox));
+        operation(*pBox);
+        pBox->close();
+    });
+}
+
+template <class TOperation>
+CCustomMessageBox::StandardButton TestCustomMessageBox::Question(const QString& strText, TOperation operation)
+{
+    WhenOpen(operation);
+    return CCustomMessageBox::question(nullptr, strText, c_buttonsQuestion,
+                                       CCustomMessageBox::StandardButton(8));
+}
+
+template <class TOperation>
+CCustomMessageBox::StandardButton TestCustomMessageBox::Message(const QString& strText, TOperation operation)
+{
+    WhenOpen(operation);
+    return CCustomMessageBox::information(nullptr, strText, CCustomMessageBox::Ok, CCustomMessageBox::Ok,
+                                          c_nNoTimeout);
+}
+
+void TestCustomMessageBox::AMessageHasOneButtonThatClosesIt()
+{
+    int nButtons = 0;
+    const auto result = Message(QStringLiteral("保存失败。"), [&](CCustomMessageBox& box) {
+        nButtons = box.findChildren<QPushButton*>().size();
+        QTest::mouseClick(box.findChild<QPushButton*>(QStringLiteral("messageButton1")), Qt::LeftButton);
+    });
+    QCOMPARE(nButtons, 1);
+    QCOMPARE(int(result), 1);
+}
+
+void TestCustomMessageBox::EnterClosesAMessage()
+{
+    const auto result =
+        Message(QStringLiteral("保存失败。"), [](CCustomMessageBox&) { Keyboard::Press(Qt::Key_Return); });
+    QCOMPARE(int(result), 1);
+}
+
+void TestCustomMessageBox::AQuestionGivesTheButtonPressed_data()
+{
+    QTest::addColumn<int>("nButton");
+    QTest::newRow("yes") << 2;
+    QTest::newRow("no") << 4;
+}
+
+void TestCustomMessageBox::AQuestionGivesTheButtonPressed()
+{
+    QFETCH(int, nButton);
+    const auto result = Question(QStringLiteral("是否继续？"), [&](CCustomMessageBox& box) {
+        QCOMPARE(box.findChildren<QPushButton*>().size(), 2);
+        const QString strName = QStringLiteral("messageButton%1").arg(nButton);
+        QTest::mouseClick(box.findChild<QPushButton*>(strName), Qt::LeftButton);
+    });
+    QCOMPARE(int(result), nButton);
+}
+
+void TestCustomMessageBox::EnterAloneAgreesToNothing()
+{
+    const auto result =
+        Question(QStringLiteral("是否继续？"), [](CCustomMessageBox&) { Keyboard::Press(Qt::Key_Return); });
+    QVERIFY(result != CCustomMessageBox::Yes);
+}
+
+void TestCustomMessageBox::KeysReachYes()
+{
+    const auto result = Question(QStringLiteral("是否继续？"), [](CCustomMessageBox&) {
+        Keyboard::Press(Qt::Key_Tab);
+        Keyboard::Press(Qt::Key_Return);
+    });
+    QCOMPARE(int(result), 2);
+}
+
+void TestCustomMessageBox::EscIsNoAnswer()
+{
+    const auto result =
+        Question(QStringLiteral("是否继续？"), [](CCustomMessageBox&) { Keyboard::Press(Qt::Key_Escape); });
+    QCOMPARE(int(result), int(CCustomMessageBox::NoButton));
+}
+
+void TestCustomMessageBox::ATimeoutIsNoAnswer()
+{
+    const auto result = CCustomMessageBox::information(nullptr, QStringLiteral("保存失败。"),
+                                                       CCustomMessageBox::Ok, CCustomMessageBox::Ok, 1);
+    QCOMPARE(int(result), int(CCustomMessageBox::NoButton));
+}
+
+void TestCustomMessageBox::TheBoxBelongsToItsParentAndBearsItsTitle()
+{
+    CCustomDialog dialog(nullptr, false);
+    dialog.setWindowTitle(QStringLiteral("画布大小设置"));
+    const QWidget* pParent = nullptr;
+    QString strTitle;
+    WhenOpen([&](CCustomMessageBox& box) {
+        pParent = box.parentWidget();
+        strTitle = box.windowTitle();
+    });
+    CCustomMessageBox::information(&dialog, QStringLiteral("x"), CCustomMessageBox::Ok, CCustomMessageBox::Ok,
+                                   c_nNoTimeout);
+    QCOMPARE(pParent, &dialog);
+    QCOMPARE(strTitle, dialog.windowTitle());
+}
+
+void TestCustomMessageBox::NothingOfALongTextIsCut_data()
+{
+    QTest::addColumn<QString>("strText");
+    QTest::newRow("short Chinese") << QStringLiteral("保存失败。");
+    QTest::newRow("long Chinese")
+        << QStringLiteral("工程设置支持的最大帧率小于实际输入的最大帧率，是否继续？").repeated(6);
+    QTest::newRow("long English")
+        << QStringLiteral("The highest rate of the project is below the highest rate of the input. ")
+               .repeated(8);
+    QTest::newRow("long word") << QStringLiteral("/a/very/long/path").repeated(5);
+    QTest::newRow("lines") << QStringLiteral("one\ntwo\nthree\nfour");
+}
+
+void TestCustomMessageBox::NothingOfALongTextIsCut()
+{
+    QFETCH(QString, strText);
+    Message(strText, [&](CCustomMessageBox& box) {
+        QCOMPARE(box.text(), strText);
+        const QList<QLabel*> listLabels = box.findChildren<QLabel*>();
+        const auto itText = std::find_if(listLabels.cbegin(), listLabels.cend(),
+                                         [&](const QLabel* pLabel) { return pLabel->text() == strText; });
+        QVERIFY(itText != listLabels.cend());
+        const QLabel& label = **itText;
+        QVERIFY(label.height() >= label.heightForWidth(label.width()));
+        QVERIFY(box.rect().contains(label.geometry()));
+        const QRect rcText =
+            label.fontMetrics().boundingRect(QRect(0, 0, label.width(), 0), Qt::TextWordWrap, strText);
+        QVERIFY(rcText.width() <= label.width());
+    });
+}
+
+void TestCustomMessageBox::MarkupIsShownAsItStands()
+{
+    const QString strText = QStringLiteral("<b>name</b>");
+    Message(strText, [&](CCustomMessageBox& box) {
+        for (const QLabel* pLabel : box.findChildren<QLabel*>()) {
+            if (pLabel->text() == strText)
+                QCOMPARE(pLabel->textFormat(), Qt::PlainText);
+        }
+    });
+}
+
+QTEST_MAIN(TestCustomMessageBox)
+#include "TestCustomMessageBox.moc"
