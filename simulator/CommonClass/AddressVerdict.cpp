@@ -18,7 +18,9 @@ bool HasHosts(const SLocalAddress& local)
 
 bool IsBroadcastOf(const SLocalAddress& local, unsigned int nAddress)
 {
-    const bool bStated = local.nBroadcast != 0 && nAddress == local.nBroadcast;
+    // An interface of a single address may state that address itself.
+    const bool bStated =
+        local.nBroadcast != 0 && local.nBroadcast != local.nAddress && nAddress == local.nBroadcast;
     return bStated || (HasHosts(local) && nAddress == (local.nAddress | ~local.nNetmask));
 }
 
@@ -35,12 +37,12 @@ bool AnyLocal(const SNetworkFacts& facts, TPredicate predicate)
 
 } // namespace
 
-enAddressVerdict AddressVerdict(unsigned int nAddress, const QList<unsigned int>& listUsed,
+enAddressVerdict AddressVerdict(unsigned int nAddress, const QSet<unsigned int>& setUsed,
                                 const SNetworkFacts& facts)
 {
     if (nAddress >> 24 == 0)
         return enAddressStartsWithZero;
-    if (listUsed.contains(nAddress))
+    if (setUsed.contains(nAddress))
         return enAddressInUse;
     if (facts.listGateways.contains(nAddress))
         return enAddressOfGateway;

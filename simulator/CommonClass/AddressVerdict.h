@@ -4,7 +4,7 @@
 #include "host/HostExport.h"
 #include "simulator/CommonClass/NetworkFacts.h"
 
-#include <QList>
+#include <QSet>
 
 /// What speaks against an address; the values are the codes of `CConfigData::IsIPHasError`.
 enum enAddressVerdict : unsigned int
@@ -21,8 +21,8 @@ enum enAddressVerdict : unsigned int
 
 /// Judges an address. Where several verdicts hold, the one that forbids the address comes before the question
 /// about this computer's own address.
-/// @param listUsed addresses of the list
-COMMONCLASS_EXPORT enAddressVerdict AddressVerdict(unsigned int nAddress, const QList<unsigned int>& listUsed,
+/// @param setUsed addresses of the list
+COMMONCLASS_EXPORT enAddressVerdict AddressVerdict(unsigned int nAddress, const QSet<unsigned int>& setUsed,
                                                    const SNetworkFacts& facts);
 
 #endif // SIMULATOR_COMMONCLASS_ADDRESSVERDICT_H

@@ -3,6 +3,7 @@
 
 #include "host/HostExport.h"
 
+#include <QMetaType>
 #include <QString>
 
 /// What is wrong with a file: which file, where in it, what, and what to do about it.
@@ -18,5 +19,7 @@ struct COMMONCLASS_EXPORT SFileProblem
     /// All of it, for a message.
     QString Text() const;
 };
+
+Q_DECLARE_METATYPE(SFileProblem)
 
 #endif // SIMULATOR_COMMONCLASS_FILEPROBLEM_H

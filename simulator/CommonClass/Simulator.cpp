@@ -57,18 +57,40 @@ QString FolderBeside(const QString& strFile)
     return QStringLiteral("%1/%2.pictures").arg(info.absolutePath(), info.completeBaseName());
 }
 
-/// Copies the files of one folder to another; what is already there is replaced.
-void CopyFiles(const QString& strFrom, const QString& strTo)
+/// The pictures of a folder; none for an empty name.
+QFileInfoList PicturesIn(const QString& strFolder)
 {
-    const QFileInfoList listFiles = QDir(strFrom).entryInfoList(QDir::Files);
-    if (listFiles.isEmpty() || strFrom == strTo)
-        return;
-    QDir().mkpath(strTo);
-    for (const QFileInfo& info : listFiles) {
-        const QString strTarget = QDir(strTo).filePath(info.fileName());
-        QFile::remove(strTarget);
-        QFile::copy(info.filePath(), strTarget);
-    }
+    return strFolder.isEmpty() ? QFileInfoList()
+                               : QDir(strFolder).entryInfoList({QStringLiteral("sender-*")}, QDir::Files);
+}
+
+/// Makes the pictures of one folder those of another. Pictures there belong to the project that was
+/// overwritten, and would come up under the new project's senders.
+bool TakePicturesAlong(const QString& strFrom, const QString& strTo)
+{
+    if (strFrom == strTo)
+        return true;
+    bool bGood = true;
+    for (const QFileInfo& info : PicturesIn(strTo))
+        bGood = QFile::remove(info.filePath()) && bGood;
+    const QFileInfoList listPictures = PicturesIn(strFrom);
+    if (listPictures.isEmpty())
+        return bGood;
+    bGood = QDir().mkpath(strTo) && bGood;
+    for (const QFileInfo& info : listPictures)
+        bGood = QFile::copy(info.filePath(), QDir(strTo).filePath(info.fileName())) && bGood;
+    return bGood;
+}
+
+SFileProblem PictureProblem(const QString& strFolder)
+{
+    SFileProblem problem;
+    problem.strFile = strFolder;
+    problem.strWhat =
+        CSimulatorText::tr("The project is saved, but not all background pictures could be copied.");
+    problem.strAdvice =
+        CSimulatorText::tr("Check that you may write to the folder, then choose the pictures anew.");
+    return problem;
 }
 
 int AddSenderTo(SSimulatedProject& project, int nType, const QString& strName)
@@ -114,7 +136,8 @@ CSimulator::CSimulator()
     , m_funcSleep([](int nMilliseconds) { QThread::msleep(static_cast<unsigned long>(nMilliseconds)); })
 {
     m_senderNone.nOutputPortCount = c_nDefaultPorts;
-    MarkSaved(ProjectToJson(m_project));
+    m_saved = ProjectToJson(m_project);
+    m_noticed = m_saved;
 }
 
 CSimulator::~CSimulator() = default;
@@ -134,15 +157,33 @@ void CSimulator::NoticeChanges()
 {
     m_bChangesExpected = false;
     const QJsonObject present = ProjectToJson(m_project);
+    UpdateModified(present);
     if (present == m_noticed)
         return;
     m_noticed = present;
-    const bool bModified = present != m_saved;
-    if (bModified != m_bModified) {
-        m_bModified = bModified;
-        Q_EMIT OnModifiedChanged(bModified);
-    }
     Q_EMIT OnProjectChanged();
+}
+
+void CSimulator::UpdateModified(const QJsonObject& present)
+{
+    const bool bModified = present != m_saved;
+    if (bModified == m_bModified)
+        return;
+    m_bModified = bModified;
+    Q_EMIT OnModifiedChanged(bModified);
+}
+
+bool CSimulator::IsModified()
+{
+    if (m_bChangesExpected)
+        NoticeChanges();
+    return m_bModified;
+}
+
+SSimulatedProject& CSimulator::Edit()
+{
+    ExpectChanges();
+    return m_project;
 }
 
 void CSimulator::ExpectChanges()
@@ -184,7 +225,8 @@ void CSimulator::Replace(SSimulatedProject project, const QString& strFile)
     m_project = std::move(project);
     m_pTemporaryPictures.reset();
     SetFilePath(strFile);
-    MarkSaved(ProjectToJson(m_project));
+    m_noticed = ProjectToJson(m_project);
+    MarkSaved(m_noticed);
     Q_EMIT OnProjectReplaced();
     Q_EMIT OnProjectChanged();
 }
@@ -192,12 +234,7 @@ void CSimulator::Replace(SSimulatedProject project, const QString& strFile)
 void CSimulator::MarkSaved(const QJsonObject& saved)
 {
     m_saved = saved;
-    m_noticed = ProjectToJson(m_project);
-    const bool bModified = m_noticed != m_saved;
-    if (bModified == m_bModified)
-        return;
-    m_bModified = bModified;
-    Q_EMIT OnModifiedChanged(bModified);
+    UpdateModified(ProjectToJson(m_project));
 }
 
 void CSimulator::SetFilePath(const QString& strFile)
@@ -271,9 +308,11 @@ bool CSimulator::SaveAs(const QString& strFile, SFileProblem& problem)
     const QJsonObject project = ProjectToJson(m_project);
     if (!WriteTo(strPath, project, problem))
         return false;
-    CopyFiles(PictureFolder(), FolderBeside(strPath));
+    const bool bPictures = TakePicturesAlong(PresentPictureFolder(), FolderBeside(strPath));
     SetFilePath(strPath);
     MarkSaved(project);
+    if (!bPictures)
+        Report(PictureProblem(FolderBeside(strPath)));
     return true;
 }
 
@@ -296,11 +335,16 @@ bool CSimulator::WriteTo(const QString& strFile, const QJsonObject& project, SFi
 
 QString CSimulator::PictureFolder()
 {
+    if (m_strFile.isEmpty() && m_pTemporaryPictures == nullptr)
+        m_pTemporaryPictures = std::make_unique<QTemporaryDir>(TemporaryPictures());
+    return PresentPictureFolder();
+}
+
+QString CSimulator::PresentPictureFolder() const
+{
     if (!m_strFile.isEmpty())
         return FolderBeside(m_strFile);
-    if (m_pTemporaryPictures == nullptr)
-        m_pTemporaryPictures = std::make_unique<QTemporaryDir>(TemporaryPictures());
-    return m_pTemporaryPictures->path();
+    return m_pTemporaryPictures == nullptr ? QString() : m_pTemporaryPictures->path();
 }
 
 QString CSimulator::PictureName(int nSender) const
@@ -321,15 +365,26 @@ void CSimulator::RefreshNetworkFacts()
     m_facts = m_funcFacts();
 }
 
-enAddressVerdict CSimulator::JudgeAddress(unsigned int nAddress) const
+enAddressVerdict CSimulator::JudgeAddress(unsigned int nAddress)
 {
-    QList<unsigned int> listUsed;
+    return AddressVerdict(nAddress, UsedAddresses(), m_facts);
+}
+
+const QSet<unsigned int>& CSimulator::UsedAddresses()
+{
+    const SAddressLists& lists = m_project.addresses;
+    // Lists that share their data are equal at once, so this costs nothing while they stay as they are.
+    if (lists.listStored == m_listUsedStored && lists.listCurSet == m_listUsedCurSet)
+        return m_setUsed;
+    m_listUsedStored = lists.listStored;
+    m_listUsedCurSet = lists.listCurSet;
+    m_setUsed.clear();
     // An address is taken by the list that is in force and by the one that is to follow it.
-    for (const QStringList* pList : {&m_project.addresses.listStored, &m_project.addresses.listCurSet}) {
+    for (const QStringList* pList : {&m_listUsedStored, &m_listUsedCurSet}) {
         for (const QString& strEntry : *pList)
-            listUsed.append(AddressValue(EntryAddress(strEntry)).value_or(0));
+            m_setUsed.insert(AddressValue(EntryAddress(strEntry)).value_or(0));
     }
-    return AddressVerdict(nAddress, listUsed, m_facts);
+    return m_setUsed;
 }
 
 void CSimulator::RemoveAddress(int nIndex)

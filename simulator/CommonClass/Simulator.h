@@ -10,6 +10,7 @@
 #include "simulator/CommonClass/SimulatedProject.h"
 
 #include <QObject>
+#include <QSet>
 
 #include <functional>
 #include <memory>
@@ -85,12 +86,13 @@ public:
     /// Path of the project file; empty while the project was never saved.
     QString FilePath() const { return m_strFile; }
     /// True when the project differs from its file, or was changed since it was started.
-    bool IsModified() const { return m_bModified; }
+    bool IsModified();
     /// Opens a project. On a problem the present project stays.
     bool Open(const QString& strFile, SFileProblem& problem);
     /// Saves to the project's file; a project without one needs `SaveAs`.
     bool Save(SFileProblem& problem);
-    /// Saves to a file, which becomes the project's, and takes the background pictures along.
+    /// Saves to a file, which becomes the project's, and takes the background pictures along. Pictures that
+    /// could not be copied are reported by `OnProblem`.
     bool SaveAs(const QString& strFile, SFileProblem& problem);
     /// The broken file that the last save has kept beside the new one; empty when there was none.
     QString KeptFile() const { return m_strKept; }
@@ -111,7 +113,7 @@ public:
     void RefreshNetworkFacts();
     const SNetworkFacts& NetworkFacts() const { return m_facts; }
     /// Judges an address as the dialogs have it judged.
-    enAddressVerdict JudgeAddress(unsigned int nAddress) const;
+    enAddressVerdict JudgeAddress(unsigned int nAddress);
     /// Removes an entry from all three address lists.
     void RemoveAddress(int nIndex);
     /// Takes the list that is being set into force, or throws its changes away.
@@ -126,10 +128,9 @@ public:
 
     /// @name For the simulated host objects
     /// @{
-    /// The project, to be changed without an announcement; the caller announces.
-    SSimulatedProject& Edit() { return m_project; }
-    /// A record was handed out and may be written in place: look for changes later.
-    void ExpectChanges();
+    /// The project, to be changed now or in place later: changes are looked for when control is back in the
+    /// event loop, so that a run of many small writes is compared once.
+    SSimulatedProject& Edit();
     /// The record that stands for the senders of a project without any.
     CSender* NoSender() { return &m_senderNone; }
     /// Reports a problem that no return value carries.
@@ -156,10 +157,15 @@ private:
     CSimulator();
     ~CSimulator() override;
 
+    void ExpectChanges();
+    const QSet<unsigned int>& UsedAddresses();
     void Replace(SSimulatedProject project, const QString& strFile);
     bool WriteTo(const QString& strFile, const QJsonObject& project, SFileProblem& problem);
     void MarkSaved(const QJsonObject& saved);
+    void UpdateModified(const QJsonObject& present);
     void SetFilePath(const QString& strFile);
+    /// The picture folder, or nothing when the project has neither file nor temporary folder.
+    QString PresentPictureFolder() const;
 
     CHostJournal m_journal;
     std::unique_ptr<IKelvaroLabel> m_pLabel;
@@ -174,6 +180,10 @@ private:
     QString m_strKept;
     std::unique_ptr<QTemporaryDir> m_pTemporaryPictures;
     CSender m_senderNone;
+
+    QStringList m_listUsedStored; ///< the lists from which `m_setUsed` was made
+    QStringList m_listUsedCurSet;
+    QSet<unsigned int> m_setUsed;
 
     FuncNetworkFacts m_funcFacts;
     SNetworkFacts m_facts;

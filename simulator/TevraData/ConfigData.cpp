@@ -12,7 +12,8 @@ public:
     bool IsIPHasError(unsigned int nIP, unsigned int* pError, bool /*bReserved*/) override
     {
         const enAddressVerdict verdict = m_simulator.JudgeAddress(nIP);
-        if (verdict != enAddressGood && pError != nullptr)
+        // A caller may read the code without looking at the result, so a good address clears it.
+        if (pError != nullptr)
             *pError = verdict;
         return verdict != enAddressGood;
     }
@@ -35,11 +36,9 @@ public:
     void AddSpecifiedIP(QString strIP, QString strName) override
     {
         const QString strEntry = AddressEntry(strIP, strName);
-        m_simulator.Change([&strEntry](SSimulatedProject& project) {
-            SAddressLists& lists = project.addresses;
-            for (QStringList* pList : {&lists.listStored, &lists.listOriginal, &lists.listCurSet})
-                pList->append(strEntry);
-        });
+        SAddressLists& lists = m_simulator.Edit().addresses;
+        for (QStringList* pList : {&lists.listStored, &lists.listOriginal, &lists.listCurSet})
+            pList->append(strEntry);
     }
 
     void SpecifiedIPsSave() override
@@ -73,11 +72,9 @@ private:
 
     void Replace(QStringList SAddressLists::*pList, int nIndex, const QString& strEntry)
     {
-        m_simulator.Change([&](SSimulatedProject& project) {
-            QStringList& list = project.addresses.*pList;
-            if (nIndex >= 0 && nIndex < list.size())
-                list[nIndex] = strEntry;
-        });
+        QStringList& list = m_simulator.Edit().addresses.*pList;
+        if (nIndex >= 0 && nIndex < list.size())
+            list[nIndex] = strEntry;
     }
 
     CSimulator& m_simulator = CSimulator::Instance();

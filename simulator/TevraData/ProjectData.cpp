@@ -14,7 +14,6 @@ public:
 
     CSender* GetSender(int nIndex) override
     {
-        m_simulator.ExpectChanges();
         // Processors are added to an empty project through a dialog that asks for sender 0.
         if (m_simulator.Project().listSenders.empty() && nIndex == 0)
             return m_simulator.NoSender();

@@ -1,0 +1,81 @@
+#include "tests/support/NetworkNamespace.h"
+
+#include <QProcess>
+
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sched.h>
+#include <unistd.h>
+
+namespace {
+
+QString SystemProblem(const char* szCall)
+{
+    return QStringLiteral("%1: %2").arg(QString::fromLatin1(szCall),
+                                        QString::fromLocal8Bit(std::strerror(errno)));
+}
+
+} // namespace
+
+CNetworkNamespace::CNetworkNamespace(const QList<STestInterface>& listInterfaces,
+                                     const QStringList& listGateways)
+{
+    m_nOutside = open("/proc/thread-self/ns/net", O_RDONLY | O_CLOEXEC);
+    if (m_nOutside < 0) {
+        m_strProblem = SystemProblem("open /proc/thread-self/ns/net");
+        return;
+    }
+    if (unshare(CLONE_NEWNET) != 0) {
+        m_strProblem = SystemProblem("unshare(CLONE_NEWNET)");
+        return;
+    }
+    Run(QStringLiteral("link set lo up"));
+    for (const STestInterface& testInterface : listInterfaces)
+        AddInterface(testInterface);
+    // Each default route has a metric of its own: the kernel takes no two alike.
+    int nMetric = 0;
+    for (const QString& strGateway : listGateways)
+        Run(QStringLiteral("route add default via %1 metric %2").arg(strGateway).arg(++nMetric));
+}
+
+CNetworkNamespace::~CNetworkNamespace()
+{
+    if (m_nOutside < 0)
+        return;
+    setns(m_nOutside, CLONE_NEWNET);
+    close(m_nOutside);
+}
+
+void CNetworkNamespace::AddInterface(const STestInterface& testInterface)
+{
+    // A pair, because it is the kind of interface that every kernel with containers has; the far end is not
+    // used.
+    Run(QStringLiteral("link add %1 type veth peer name %1-far").arg(testInterface.strName));
+    for (const QString& strAddress : testInterface.listAddresses) {
+        const QString strBroadcast =
+            strAddress.contains(QLatin1Char(' ')) ? QString() : QStringLiteral(" brd +");
+        Run(QStringLiteral("addr add %1%2 dev %3").arg(strAddress, strBroadcast, testInterface.strName));
+    }
+    Run(QStringLiteral("link set %1 up").arg(testInterface.strName));
+}
+
+void CNetworkNamespace::Run(const QString& strCommand)
+{
+    if (!IsReady())
+        return;
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QStringLiteral("ip"), strCommand.split(QLatin1Char(' ')));
+    const bool bRan = process.waitForFinished();
+    if (!bRan || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+        m_strProblem =
+            QStringLiteral("ip %1: %2")
+                .arg(strCommand, bRan ? QString::fromLocal8Bit(process.readAll()) : process.errorString());
+}
+
+QString CNetworkNamespace::WhyNot()
+{
+    return CNetworkNamespace({{QStringLiteral("probe"), {}}}).Problem();
+}
