@@ -1,6 +1,8 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 
 #include "SenderModuleDialog/Fault.h"
+#include "SenderModuleDialog/chart/CctCurve.h"
+#include "SenderModuleDialog/chart/ChartSolver.h"
 #include "SenderModuleDialog/chart/ChartStaticLayer.h"
 #include "SenderModuleDialog/chart/ChromaBitmapDesk.h"
 #include "SenderModuleDialog/chart/ChromaGamutThread.h"
@@ -69,6 +71,8 @@ CChromaticityDlgWnd::CChromaticityDlgWnd(QWidget* parent)
     m_pBoundaryPx = new QPointF[size_t(m_nBoundaryCount)]();
     m_pBoundaryPxF = new CPointEx<float>[size_t(m_nBoundaryCount)]();
     setAttribute(Qt::WA_MouseTracking);
+    m_pSolver = std::make_unique<CChartSolver>(*m_pGamut);
+    m_pCctCurve = std::make_unique<CCctCurve>(*m_pCct);
     m_pCct->CCTtoColorCoord(c_fSnapTemperature, &m_ptD65, false);
     m_pThread = new CChromaGamutThread(this);
     m_pThread->SetChromaticityDlgWnd(this);

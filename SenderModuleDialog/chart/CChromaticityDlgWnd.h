@@ -18,12 +18,17 @@
 #include <memory>
 
 class CCCT2ColorCoord;
+class CCctCurve;
+class CChartSolver;
 class CChartStaticLayer;
 class CChromaBitmapDesk;
 class CChromaGamutInterpolation;
 class CChromaGamutThread;
 class QImage;
 class QPainter;
+namespace ChartOverlay {
+struct SChartFrame;
+}
 namespace ChromaBitmap {
 struct SSource;
 }
@@ -285,6 +290,17 @@ private:
     /// The worker has ended; on the GUI thread.
     void FinishWndBitmapThread();
 
+    /// What the layers share.
+    ChartOverlay::SChartFrame Frame() const;
+    /// The chromaticity that the tips show, without negative coordinates.
+    QPointF TipsPoint() const;
+    /// Where the cross hair stands, in widget pixels.
+    QPoint CrossPlace() const;
+    /// A move with the left button held on a point that may be moved.
+    void Drag(QPoint pos);
+    /// A move without the left button.
+    void Hover(QPoint pos);
+
     /// The layers that stay the same from paint to paint: background, bitmap, locus and grid.
     void DrawStaticLayers(QPainter& painter, const QImage& imgBitmap);
     void DrawBitmap(QPainter& painter, const QImage& imgBitmap);
@@ -292,6 +308,8 @@ private:
     void DrawFrame(QPainter& painter);
 
     int m_nBoundaryCount = 0;                          ///< number of points of the locus
+    std::unique_ptr<CChartSolver> m_pSolver;           ///< keeps groups legal
+    std::unique_ptr<CCctCurve> m_pCctCurve;            ///< the curve of colour temperatures
     std::unique_ptr<CChromaBitmapDesk> m_pDesk;        ///< what the threads that paint bitmaps agree by
     std::unique_ptr<CChartStaticLayer> m_pStaticLayer; ///< the layers that stay the same from paint to paint
 };

@@ -15,11 +15,6 @@ bool IsClose(float fFirst, float fSecond)
     return std::abs(fFirst - fSecond) < ChartGeometry::c_fTolerance;
 }
 
-CPointEx<float> Narrowed(QPointF pt)
-{
-    return {float(pt.x()), float(pt.y())};
-}
-
 float DistanceOf(CPointEx<float> ptFirst, CPointEx<float> ptSecond)
 {
     const float fDX = ptFirst.x - ptSecond.x;

@@ -24,6 +24,16 @@ struct STriangle
     CPointEx<float> ptBlue;
 };
 
+/// The same coordinates in double precision, and in single precision.
+inline QPointF Widened(CPointEx<float> pt)
+{
+    return {double(pt.x), double(pt.y)};
+}
+inline CPointEx<float> Narrowed(QPointF pt)
+{
+    return {float(pt.x()), float(pt.y())};
+}
+
 /// The same point within the tolerance, in x and in y.
 bool IsSamePoint(CPointEx<float> ptFirst, CPointEx<float> ptSecond);
 

@@ -15,16 +15,6 @@ namespace {
 // How near to its target a dragged white snaps, chromaticity units.
 constexpr double c_dSnapDistance = 0.025;
 
-QPointF Widened(CPointEx<float> pt)
-{
-    return {double(pt.x), double(pt.y)};
-}
-
-CPointEx<float> Narrowed(QPointF pt)
-{
-    return {float(pt.x()), float(pt.y())};
-}
-
 constexpr int c_nTriangleVertices = 3;
 
 // The two other vertices of each vertex, in the order in which the solving takes them.

@@ -1,0 +1,136 @@
+#include "SenderModuleDialog/Fault.h"
+#include "SenderModuleDialog/Saturate.h"
+#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "SenderModuleDialog/chart/CctCurve.h"
+#include "SenderModuleDialog/chart/ChartGeometry.h"
+#include "SenderModuleDialog/chart/ChartGroupOverlay.h"
+#include "SenderModuleDialog/chart/ChartGroupPoints.h"
+#include "SenderModuleDialog/chart/ChartOverlay.h"
+#include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
+#include "SenderModuleDialog/colour/ColourStandards.h"
+#include "host/OrviControl/Style.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+/// @file
+/// The chart's layers: each takes what it shows from the chart and has it drawn.
+
+namespace {
+
+QString StandardLabel(int nStandard)
+{
+    const int nLast = int(std::size(c_arrColourStandards)) - 1;
+    return QString::fromLatin1(c_arrColourStandards[std::min(nStandard, nLast)].szName);
+}
+
+QPoint Truncated(QPointF pt)
+{
+    return {SaturateTo<int>(pt.x()), SaturateTo<int>(pt.y())};
+}
+
+} // namespace
+
+ChartOverlay::SChartFrame CChromaticityDlgWnd::Frame() const
+{
+    return {Mapping(), m_rcChart, GetFontFamily()};
+}
+
+void CChromaticityDlgWnd::DrawBorder(QPainter& painter)
+{
+    ChartOverlay::DrawBorder(painter, m_pBoundaryPx, m_nBoundaryCount);
+}
+
+void CChromaticityDlgWnd::DrawHexCoorDialog(QPainter& painter)
+{
+    ChartOverlay::DrawGrid(painter, Frame(), m_nGridAlpha);
+}
+
+QPointF CChromaticityDlgWnd::TipsPoint() const
+{
+    QPointF ptShown;
+    if (m_nHoverGroup < 0)
+        ptShown = Mapping().ToChromaticity(m_ptMouse);
+    else if (const SChromaGroupInfo* const pGroup = m_mapGroups.value(m_nHoverGroup, nullptr))
+        ptShown = ChartGeometry::Widened(GroupPointOrOrigin(*pGroup, m_nHoverPoint));
+    return {std::max(ptShown.x(), 0.0), std::max(ptShown.y(), 0.0)};
+}
+
+void CChromaticityDlgWnd::DrawTipsString(QPainter& painter)
+{
+    const QPointF ptShown = TipsPoint();
+    if (!m_pGamut->IsPointInCIEPolygon(ptShown))
+        return;
+    const bool bShowTemperature = m_bHitWhite && m_bShowCCT;
+    const QString strTemperature =
+        bShowTemperature ? ChartOverlay::TemperatureText(ptShown, m_ptD65, *m_pCct) : QString();
+    ChartOverlay::DrawTips(painter, Frame(), {ptShown, bShowTemperature, strTemperature});
+}
+
+QPoint CChromaticityDlgWnd::CrossPlace() const
+{
+    const SChromaGroupInfo* const pGroup = m_mapGroups.value(m_nHoverGroup, nullptr);
+    if (m_nHoverGroup < 0 || !m_bCanDrag || pGroup == nullptr)
+        return m_ptMouse;
+    return Truncated(Mapping().ToPixel(GroupPointOrOrigin(*pGroup, m_nHoverPoint)));
+}
+
+void CChromaticityDlgWnd::DrawCrossLine(QPainter& painter)
+{
+    // The mouse decides, during a drag too, where the cross stands at the point.
+    const CPointEx<float> ptMouse(float(m_ptMouse.x()), float(m_ptMouse.y()));
+    if (ChartGeometry::IsInOutline(ptMouse, m_pBoundaryPxF, m_nBoundaryCount))
+        ChartOverlay::DrawCross(painter, m_rcChart, CrossPlace());
+}
+
+void CChromaticityDlgWnd::DrawCCTLine(QPainter& painter)
+{
+    ChartOverlay::DrawCctCurve(painter, Frame(), *m_pCctCurve);
+}
+
+void CChromaticityDlgWnd::DrawCCTLineString(QPainter& painter, float /*fValue*/, QPointF pos, int nCCT)
+{
+    ChartOverlay::DrawCctLabel(painter, Frame(), pos, nCCT);
+}
+
+void CChromaticityDlgWnd::DrawChromTriangle(QPainter& painter)
+{
+    const CChartMapping mapping = Mapping();
+    const float fRadius = ChartOverlay::DotRadius(mapping);
+    // All charts of the process share the radii, and they are carried from paint to paint.
+    static ChartOverlay::CDotRadii s_radii = {fRadius, fRadius, fRadius, fRadius};
+    const ChartOverlay::SHeldPoint held = m_bPressed && m_bDragging
+                                              ? ChartOverlay::SHeldPoint{m_nHoverGroup, m_nHoverPoint}
+                                              : ChartOverlay::SHeldPoint{};
+    ChartOverlay::DrawGroups(painter, mapping, m_mapGroups, held, s_radii);
+}
+
+void CChromaticityDlgWnd::DrawChromNote(QPainter& painter)
+{
+    ChartOverlay::DrawLegend(painter, Frame(), m_mapGroups, m_fTextRatio, height());
+}
+
+int CChromaticityDlgWnd::CalcRatio()
+{
+    return ChartOverlay::CalcRatio(m_mapGroups);
+}
+
+void CChromaticityDlgWnd::DrawCIEStandardShow(QPainter& painter)
+{
+    if (!m_bShowStandard)
+        return;
+    CalcCIEStandardValid();
+    if (m_nStandard < 0)
+        return;
+    const ChartOverlay::SChartFrame frame = Frame();
+    const QRectF rcBox = ChartOverlay::StandardBox(frame.mapping, size());
+    ChartOverlay::DrawStandardLabel(painter, frame, rcBox, StandardLabel(m_nStandard));
+
+    // Only the first group can be shown: with another index chosen, no group is the one.
+    Require(m_nGroupIndex == 0 && !m_mapGroups.isEmpty(), "keyNum == m_nGroupIndex");
+    const SChromaGroupInfo& group = Deref(m_mapGroups.first(), "m_mapGroups.first() != nullptr");
+    const QPointF ptMiddle =
+        (frame.mapping.ToPixel(group.ptRed) + frame.mapping.ToPixel(group.ptGreen)) / 2.0;
+    ChartOverlay::DrawStandardLine(painter, rcBox, ptMiddle);
+}
