@@ -100,21 +100,33 @@ QAction* AddEntry(QMenu* pMenu, const SMenuEntry& entry)
     return pAction;
 }
 
+void CheckEntry(const QList<QAction*>& listActions, int nData)
+{
+    bool bFound = false;
+    for (QAction* pAction : listActions) {
+        const bool bMatches = !bFound && pAction->data() == nData;
+        pAction->setCheckable(true);
+        pAction->setChecked(bMatches);
+        bFound = bFound || bMatches;
+    }
+}
+
 QPushButton* CreateButton(QWidget* pParent, const SButton& button)
 {
     auto* pButton = new QPushButton(CCustomDialog::tr(button.szText), pParent);
     StyleButton(pButton);
     if (button.size.isValid())
         pButton->setFixedSize(button.size);
-    QObject::connect(pButton, &QPushButton::clicked, pParent, button.funcClick);
+    if (button.funcClick)
+        QObject::connect(pButton, &QPushButton::clicked, pParent, button.funcClick);
     return pButton;
 }
 
-CCustomLabel* CreateCaption(QWidget* pParent, const QString& strText)
+CCustomLabel* CreateCaption(QWidget* pParent, const QString& strText, Qt::Alignment alignment)
 {
     auto* pLabel = new CCustomLabel(strText, pParent, Qt::WindowFlags());
     StyleCaption(pLabel);
-    pLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    pLabel->setAlignment(alignment);
     return pLabel;
 }
 

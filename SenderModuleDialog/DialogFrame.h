@@ -1,6 +1,7 @@
 #ifndef SENDERMODULEDIALOG_DIALOGFRAME_H
 #define SENDERMODULEDIALOG_DIALOGFRAME_H
 
+#include <QList>
 #include <QSize>
 #include <QString>
 #include <QWidget>
@@ -63,20 +64,25 @@ QMenu* CreateMenu(QWidget* pParent, const std::vector<SMenuEntry>& vecEntries);
 /// Adds one action to a menu, owned by the menu.
 QAction* AddEntry(QMenu* pMenu, const SMenuEntry& entry);
 
+/// Checks the first action with that data and no other. Data that no action has checks none.
+void CheckEntry(const QList<QAction*>& listActions, int nData);
+
 /// One push button of a dialog.
 struct SButton
 {
     const char* szText;              ///< source text in the context `CCustomDialog`
     QSize size;                      ///< pixels; an invalid size leaves it to the layout
-    std::function<void()> funcClick; ///< run on `clicked`
+    std::function<void()> funcClick; ///< run on `clicked`; empty leaves the button unconnected
 };
 
 /// A styled, connected push button, owned by the parent.
 QPushButton* CreateButton(QWidget* pParent, const SButton& button);
 
-/// A styled caption label for a grid: right-aligned and vertically centred.
+/// A styled caption label.
 /// @param strText the translated caption
-CCustomLabel* CreateCaption(QWidget* pParent, const QString& strText);
+/// @param alignment as most captions stand in a grid: to the right, vertically centred
+CCustomLabel* CreateCaption(QWidget* pParent, const QString& strText,
+                            Qt::Alignment alignment = Qt::AlignRight | Qt::AlignVCenter);
 
 /// The fixed size, set only where it differs, so that an unchanged window sees no layout pass.
 void FixSize(QWidget* pWidget, QSize size);
