@@ -1,0 +1,215 @@
+#ifndef SENDERMODULEDIALOG_EDID_EDIDSETDLG_H
+#define SENDERMODULEDIALOG_EDID_EDIDSETDLG_H
+
+#include "SenderModuleDialog/SenderModuleDialogGlobal.h"
+#include "host/OrviControl/CustomDialog.h"
+
+#include <QList>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+class CCustomComboBox;
+class CCustomLabel;
+class CCustomProgressbar;
+class CCustomSpinBox;
+class QAction;
+class QCheckBox;
+class QGridLayout;
+class QMenu;
+class QPushButton;
+struct CSenderEdidLimitData;
+struct SEdidSetting;
+
+/// The modal dialog in which the operator sets the EDID that one video interface of the current sender shows
+/// to a computer: resolution, frame rate, colour depth, timing standard and the option "connect to computer".
+///
+/// The sender's type decides what is offered. The host judges each choice; a verdict stands in the error line
+/// and disables OK. OK writes the choice, keeps the GUI thread behind a progress bar for up to 19.4 seconds
+/// while the device stores it, and ends with `done(1)` whether the write took or not. Cancel ends with
+/// `done(0)`; closing the window writes nothing.
+class SENDERMODULEDIALOG_EXPORT CEdidSetDlg : public CCustomDialog
+{
+    Q_OBJECT
+
+public:
+    /// Reads the current sender, its limits and the present setting. A video processor that has nothing but
+    /// 8 bit gets colour depth 8 in its project record, merely by opening the dialog.
+    /// @param nInterfaceId video interface, as the host numbers them
+    /// @param bLowRateOnly true leaves out all rates above 50 Hz
+    CEdidSetDlg(QWidget* pParent, int nInterfaceId, bool bLowRateOnly);
+    ~CEdidSetDlg() override;
+
+    /// What the host said of a basic write. False before OK, after any failure, and after every full write,
+    /// a good one too: a full write has no answer to give.
+    bool IsSetSuccessed() const;
+
+    /// @name Index translation
+    /// Between what a record holds and the indices that the dialog keeps. False: there is no such index.
+    /// @{
+
+    /// 0, which is the custom size, when no listed resolution equals the size; false then.
+    bool GetIndexByResolution(QSize size, int& nIndex) const;
+    /// @param byRate integer rate, Hz; another than the table's leaves the index alone
+    bool GetIndexByFrameRate(unsigned char byRate, bool bFractional, int& nIndex) const;
+    /// Stores the index in the dialog's present depth and not in the argument, and is always true. That is
+    /// meant.
+    bool GetIndexByColorDepth(unsigned char byFlags, int& nIndex);
+    /// Always true: flags without a format are taken as the first one.
+    bool GetIndexByColorFormat(unsigned char byFlags, int& nIndex) const;
+    /// The custom size for 0, a listed resolution above.
+    bool GetResolutionByIndex(int nIndex, QSize& size) const;
+    /// Clears both results when the index is none of the table's.
+    bool GetFrameRateByIndex(int nIndex, unsigned char& byRate, bool& bFractional) const;
+    /// Puts the dialog's present depth into the flags: the index only says by being above the table that
+    /// there is none. That is meant. A present depth outside the table leaves the flags without a depth.
+    bool GetColorDepthByIndex(int nIndex, unsigned char& byFlags) const;
+    /// Puts a format into the flags, which stay as they are when there is none.
+    bool GetColorFormatByIndex(int nIndex, unsigned char& byFlags) const;
+    /// @}
+
+    /// @name Queries
+    /// @{
+
+    /// The option "connect to computer" is shown.
+    bool IsShowConnectPC() const;
+    /// The connect byte is written as 1 whatever the option says.
+    bool IsSenderConnectPC() const;
+    /// 2 where all rates above 50 Hz are left out, else 4. Nothing here asks for it; it is for the host.
+    int GetRateIndexMax() const;
+    /// Largest area at the present rate, pixels.
+    int GetMaxAreaByRate() const;
+    /// @}
+
+    /// @name Building and refreshing
+    /// The stages of the construction, in this order, and the parts of the refresh that follows each change.
+    /// @{
+    void InitControl();
+    void InitComboBox();
+    void InitControlConnect();
+    void RefreshWindow();
+    void RefreshResolution();
+    void RefreshFrameRate();
+    void RefreshColorDepth();
+    void RefreshColorFormat();
+    void RefreshEdidStandard();
+    void RefreshConnectPC();
+    /// Has the host judge the present choice and shows its verdict.
+    void RefreshErrorInfo();
+    /// @}
+
+public Q_SLOTS:
+    void OnWidthSpinBoxValueChanged();
+    void OnHeightSpinBoxValueChanged();
+    /// @param index 0 for the custom size, else the place in the resolution list plus one; has no upper bound
+    void OnResolutionComboBoxSelect(int index);
+    /// @param action its data is a row of the rate table
+    void OnRateComboBoxSelect(QAction* action);
+    void OnColorDepthComboBoxSelect(int index);
+    void OnColorFormatComboBoxSelect(int index);
+    /// @param index taken while it is below the number of colour formats, not of timing standards. That is
+    /// meant.
+    void OnTimingStandardComboBoxSelect(int index);
+    void OnOKPushButtonClicked();
+    void OnCancelPushButtonClicked();
+
+private:
+    friend class CEdidSetDlgProbe; // tests reach the values that no control can set
+
+    /// A row with a caption and one choice.
+    struct SChoiceRow
+    {
+        CCustomLabel* pLabel = nullptr;
+        CCustomComboBox* pComboBox = nullptr;
+
+        void SetVisible(bool bVisible) const;
+    };
+
+    void FillNameLists();
+    void ReadSetting(const SEdidSetting& setting);
+
+    QGridLayout* CreateGrid();
+    CCustomComboBox* CreateComboBox();
+    void InitSizeRow(QGridLayout* pGrid);
+    void InitChoiceRow(QGridLayout* pGrid, int nGridRow, const char* szCaption, SChoiceRow& row);
+    void InitOptionRows(QGridLayout* pGrid);
+    void InitButtonRow(QGridLayout* pGrid);
+    void InitResolutionMenu();
+    void InitRateMenu();
+    void InitDepthMenu();
+    void InitFormatMenu();
+    void InitStandardMenu();
+    QMenu* CreateNameMenu(const QStringList& listNames);
+    QAction* AddResolution(QMenu* pMenu, int nIndex, const QString& strText);
+    QString PresetText(QSize size) const;
+
+    void HoldToLimit(CCustomSpinBox* pSpinBox, int nMaximum);
+    QString ResolutionText(QSize size) const;
+    void RefreshSize();
+    QSize JudgedSize() const;
+    void ClearError();
+    void ShowVerdict(const QString& strVerdict);
+
+    bool Commit();
+    void CommitBasic(int nSender, QSize size, unsigned char byRate);
+    bool CommitFull(int nSender, QSize size);
+    void WriteFull(int nSender, const SEdidSetting& setting);
+    bool ChosenSize(QSize& size) const;
+    void EnableSpinBoxes(bool bEnable);
+    CCustomProgressbar* CreateProgressbar();
+    void WaitBehind(CCustomProgressbar* pProgressbar, unsigned int nDeviceWait);
+
+    const bool m_bLowRateOnly;
+    const int m_nInterfaceId;
+    int m_nSenderType = 0;
+
+    // The setting that the dialog opened with.
+    QSize m_sizeCustom = QSize(-1, -1);
+    unsigned char m_byRate = 60;
+    unsigned char m_byFormatFlags = 0; ///< bits 1 to 3 colour depth, bits 4 to 7 colour format
+    unsigned char m_byTimingStandard = 0;
+    unsigned char m_bConnectPC = 0;
+
+    // The model: each handler changes one of these and refreshes the window.
+    int m_nResolutionIndex = 0; ///< 0 custom, n entry n - 1 of the resolution list
+    int m_nRateIndex = 0;
+    int m_nColorDepthIndex = 0;
+    int m_nColorFormatIndex = 0;
+
+    QStringList m_listColorDepth;
+    QStringList m_listColorFormat;
+    QStringList m_listTimingStandard;
+
+    bool m_bSetSuccessed = false;
+    std::unique_ptr<CSenderEdidLimitData> m_pEdidLimit;
+
+    // Rows that are shown.
+    unsigned char m_byShowConnectPC = 1;
+    unsigned char m_byShowTimingStandard = 1;
+    unsigned char m_byShowError = 1;
+    unsigned char m_byShowFrameRate = 1;
+    unsigned char m_byShowCustomSize = 1;
+
+    CCustomComboBox* m_pResolutionComboBox = nullptr;
+    CCustomLabel* m_pSizeLabel = nullptr;
+    CCustomSpinBox* m_pWidthSpinBox = nullptr;
+    CCustomLabel* m_pTimesLabel = nullptr;
+    CCustomSpinBox* m_pHeightSpinBox = nullptr;
+    SChoiceRow m_rowRate;
+    SChoiceRow m_rowDepth;
+    SChoiceRow m_rowFormat;
+    SChoiceRow m_rowStandard;
+    QCheckBox* m_pConnectPCCheckBox = nullptr;
+    CCustomLabel* m_pErrorLabel = nullptr;
+    QPushButton* m_pOKButton = nullptr;
+    QPushButton* m_pCancelButton = nullptr;
+
+    QList<QAction*> m_listResolutionActions; ///< the custom action too where the menu lacks it
+    QMenu* m_pRateMenu = nullptr;
+    QMenu* m_pFormatMenu = nullptr;
+    QMenu* m_pStandardMenu = nullptr;
+};
+
+#endif // SENDERMODULEDIALOG_EDID_EDIDSETDLG_H

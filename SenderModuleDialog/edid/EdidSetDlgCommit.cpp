@@ -1,0 +1,127 @@
+// What OK does: the choice goes to the sender, the operator waits behind a bar, the dialog ends.
+
+#include "SenderModuleDialog/Constants.h"
+#include "SenderModuleDialog/DialogFrame.h"
+#include "SenderModuleDialog/HostAccess.h"
+#include "SenderModuleDialog/Saturate.h"
+#include "SenderModuleDialog/edid/EdidCommit.h"
+#include "SenderModuleDialog/edid/EdidEnvironment.h"
+#include "SenderModuleDialog/edid/EdidSetDlg.h"
+#include "host/OrviControl/CustomProgressbar.h"
+#include "host/OrviControl/CustomSpinBox.h"
+
+#include <QCheckBox>
+
+namespace {
+
+/// The message stands on its own: the dialog is about to go.
+void ShowSaveFailed()
+{
+    DialogFrame::ShowMessage(nullptr, CCustomDialog::tr("保存失败。"));
+}
+
+} // namespace
+
+void CEdidSetDlg::OnOKPushButtonClicked()
+{
+    EnableSpinBoxes(false);
+    if (!Commit())
+        EnableSpinBoxes(true);
+}
+
+bool CEdidSetDlg::Commit()
+{
+    QSize size;
+    unsigned char byRate = 0;
+    bool bFractional = false;
+    if (!ChosenSize(size) || !GetFrameRateByIndex(m_nRateIndex, byRate, bFractional))
+        return false;
+    const int nSender = HostAccess::CurrentSenderIndex();
+    if (HostAccess::SenderLogic().IsExtendedEdidSupported())
+        return CommitFull(nSender, size);
+    CommitBasic(nSender, size, byRate);
+    return true;
+}
+
+void CEdidSetDlg::CommitBasic(int nSender, QSize size, unsigned char byRate)
+{
+    CVideoSourceLogic& logic = HostAccess::VideoSourceLogic();
+    const SEdidSetting setting = EdidCommit::BasicSetting(size, byRate);
+    const bool bWritten = logic.SetEdidSetting(nSender, m_nInterfaceId, &setting) == 0;
+    // The wait runs its whole length even when the write has failed: the failure shows afterwards.
+    CCustomProgressbar* pProgressbar = CreateProgressbar();
+    WaitBehind(pProgressbar, EdidCommit::c_nDeviceWait);
+    if (bWritten) {
+        HostAccess::SenderLogic().AfterEdidWritten(nSender);
+        logic.ApplyBasicEdid(nSender, size.width(), size.height(), &m_bSetSuccessed);
+    }
+    pProgressbar->CloseProgress();
+    if (!bWritten)
+        ShowSaveFailed();
+    done(1);
+}
+
+bool CEdidSetDlg::CommitFull(int nSender, QSize size)
+{
+    // A depth that is stored stays stored even when the format then ends the commit.
+    if (!GetColorDepthByIndex(m_nColorDepthIndex, m_byFormatFlags) ||
+        !GetColorFormatByIndex(m_nColorFormatIndex, m_byFormatFlags))
+        return false;
+    EdidCommit::SChoice choice;
+    choice.size = size;
+    GetFrameRateByIndex(m_nRateIndex, choice.byRate, choice.bFractional);
+    choice.byFormatFlags = m_byFormatFlags;
+    choice.byTimingStandard = m_byTimingStandard;
+    choice.byConnectPC =
+        EdidCommit::ConnectByte(m_pConnectPCCheckBox->checkState() == Qt::Checked, IsSenderConnectPC());
+    WriteFull(nSender, EdidCommit::FullSetting(choice));
+    return true;
+}
+
+void CEdidSetDlg::WriteFull(int nSender, const SEdidSetting& setting)
+{
+    CVideoSourceLogic& logic = HostAccess::VideoSourceLogic();
+    if (logic.SetEdidSetting(nSender, m_nInterfaceId, &setting) != 0) {
+        ShowSaveFailed();
+        done(1);
+        return;
+    }
+    CCustomProgressbar* pProgressbar = CreateProgressbar();
+    const int nSenderType = HostAccess::SenderLogic().GetSenderType(nSender);
+    WaitBehind(pProgressbar, EdidCommit::DeviceWait(nSenderType));
+    pProgressbar->CloseProgress();
+    logic.FinishEdidWrite(nSender, 1);
+    done(1);
+}
+
+bool CEdidSetDlg::ChosenSize(QSize& size) const
+{
+    if (m_nResolutionIndex != 0)
+        return GetResolutionByIndex(m_nResolutionIndex, size);
+    size = QSize(SaturateTo<int>(m_pWidthSpinBox->value()), SaturateTo<int>(m_pHeightSpinBox->value()));
+    return true;
+}
+
+void CEdidSetDlg::EnableSpinBoxes(bool bEnable)
+{
+    m_pWidthSpinBox->setEnabled(bEnable);
+    m_pHeightSpinBox->setEnabled(bEnable);
+}
+
+CCustomProgressbar* CEdidSetDlg::CreateProgressbar()
+{
+    auto* pProgressbar = new CCustomProgressbar(this, false);
+    pProgressbar->setLabelText(CCustomDialog::tr("发送中..."));
+    pProgressbar->GetProgressOwnerRecord().pOwner = this;
+    pProgressbar->SetProgressValue(EdidCommit::c_nStartPercent);
+    return pProgressbar;
+}
+
+void CEdidSetDlg::WaitBehind(CCustomProgressbar* pProgressbar, unsigned int nDeviceWait)
+{
+    for (int nPercent = EdidCommit::c_nStartPercent + 1; nPercent <= EdidCommit::c_nLastPercent; ++nPercent) {
+        const bool bDemo = HostAccess::ProjectData().GetDemoModeEnable();
+        EdidEnvironment().funcWait(bDemo ? EdidCommit::c_nDemoWait : nDeviceWait);
+        pProgressbar->SetProgressValue(nPercent);
+    }
+}

@@ -1,0 +1,268 @@
+// The controls of the EDID dialog and the menus behind its combo boxes.
+
+#include "SenderModuleDialog/Constants.h"
+#include "SenderModuleDialog/DialogFrame.h"
+#include "SenderModuleDialog/HostAccess.h"
+#include "SenderModuleDialog/edid/EdidOptions.h"
+#include "SenderModuleDialog/edid/EdidSetDlg.h"
+#include "host/HardwareSupport/SenderEdidLimitData.h"
+#include "host/OrviControl/CustomComboBox.h"
+#include "host/OrviControl/CustomLabel.h"
+#include "host/OrviControl/CustomSpinBox.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDesktopWidget>
+#include <QGridLayout>
+#include <QMenu>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <cstddef>
+
+namespace {
+
+/// Rows of the grid.
+enum enGridRow
+{
+    enRowResolution,
+    enRowSize,
+    enRowRate,
+    enRowDepth,
+    enRowFormat,
+    enRowStandard,
+    enRowConnectPC,
+    enRowError,
+    enRowButtons
+};
+
+constexpr int c_arrColumnStretch[] = {3, 2, 1, 2};
+constexpr int c_nColumns = 4;
+
+/// Height of the choices and spin boxes, pixels.
+constexpr int c_nControlHeight = 26;
+constexpr QSize c_sizeButton(86, 26);
+constexpr QSize c_sizeCheckBox(86, 26);
+constexpr QSize c_sizeError(240, 52);
+
+/// The largest gap between rows with which the error line, higher than the one row that the window grows by,
+/// still fits into every window.
+constexpr int c_nRowGap = 4;
+
+constexpr int c_nWidthMax = 32768;
+constexpr int c_nHeightMax = 16384;
+
+} // namespace
+
+void CEdidSetDlg::SChoiceRow::SetVisible(bool bVisible) const
+{
+    pLabel->setVisible(bVisible);
+    pComboBox->setVisible(bVisible);
+}
+
+void CEdidSetDlg::InitControl()
+{
+    QGridLayout* pGrid = CreateGrid();
+    m_pResolutionComboBox = CreateComboBox();
+    pGrid->addWidget(m_pResolutionComboBox, enRowResolution, 0, 1, c_nColumns);
+    InitSizeRow(pGrid);
+    InitChoiceRow(pGrid, enRowRate, QT_TRANSLATE_NOOP("CCustomDialog", "帧率"), m_rowRate);
+    InitChoiceRow(pGrid, enRowDepth, QT_TRANSLATE_NOOP("CCustomDialog", "色深"), m_rowDepth);
+    InitChoiceRow(pGrid, enRowFormat, QT_TRANSLATE_NOOP("CCustomDialog", "颜色格式"), m_rowFormat);
+    InitChoiceRow(pGrid, enRowStandard, QT_TRANSLATE_NOOP("CCustomDialog", "标准"), m_rowStandard);
+    InitOptionRows(pGrid);
+    InitButtonRow(pGrid);
+}
+
+QGridLayout* CEdidSetDlg::CreateGrid()
+{
+    auto* pOuter = new QVBoxLayout(this);
+    pOuter->setContentsMargins(0, 0, 0, 0);
+    auto* pGrid = new QGridLayout;
+    pGrid->setContentsMargins(30, 15, 30, 10);
+    pGrid->setHorizontalSpacing(0);
+    pGrid->setVerticalSpacing(c_nRowGap);
+    for (int i = 0; i < c_nColumns; ++i)
+        pGrid->setColumnStretch(i, c_arrColumnStretch[i]);
+    pOuter->addLayout(pGrid);
+    return pGrid;
+}
+
+CCustomComboBox* CEdidSetDlg::CreateComboBox()
+{
+    auto* pComboBox = new CCustomComboBox(this);
+    pComboBox->setFixedHeight(c_nControlHeight);
+    return pComboBox;
+}
+
+void CEdidSetDlg::InitSizeRow(QGridLayout* pGrid)
+{
+    const auto CreateSpinBox = [this](int nMaximum, int nValue) {
+        auto* pSpinBox = new CCustomSpinBox(0, this);
+        pSpinBox->SetMinMax(1, nMaximum);
+        pSpinBox->setFixedHeight(c_nControlHeight);
+        pSpinBox->setValue(nValue);
+        return pSpinBox;
+    };
+    m_pSizeLabel = DialogFrame::CreateCaption(this, CCustomDialog::tr("分辨率"), Qt::AlignCenter);
+    m_pWidthSpinBox = CreateSpinBox(c_nWidthMax, m_sizeCustom.width());
+    m_pTimesLabel = DialogFrame::CreateCaption(this, QStringLiteral("×"), Qt::AlignCenter);
+    m_pHeightSpinBox = CreateSpinBox(c_nHeightMax, m_sizeCustom.height());
+    pGrid->addWidget(m_pSizeLabel, enRowSize, 0);
+    pGrid->addWidget(m_pWidthSpinBox, enRowSize, 1);
+    pGrid->addWidget(m_pTimesLabel, enRowSize, 2);
+    pGrid->addWidget(m_pHeightSpinBox, enRowSize, 3);
+}
+
+void CEdidSetDlg::InitChoiceRow(QGridLayout* pGrid, int nGridRow, const char* szCaption, SChoiceRow& row)
+{
+    row.pLabel = DialogFrame::CreateCaption(this, CCustomDialog::tr(szCaption), Qt::AlignCenter);
+    row.pComboBox = CreateComboBox();
+    pGrid->addWidget(row.pLabel, nGridRow, 0);
+    pGrid->addWidget(row.pComboBox, nGridRow, 1, 1, c_nColumns - 1);
+}
+
+void CEdidSetDlg::InitOptionRows(QGridLayout* pGrid)
+{
+    m_pConnectPCCheckBox = new QCheckBox(CCustomDialog::tr("连接电脑"), this);
+    DialogFrame::StyleCheckBox(m_pConnectPCCheckBox);
+    m_pConnectPCCheckBox->setFixedSize(c_sizeCheckBox);
+    pGrid->addWidget(m_pConnectPCCheckBox, enRowConnectPC, 0, 1, c_nColumns);
+
+    m_pErrorLabel = new CCustomLabel(this, Qt::WindowFlags());
+    DialogFrame::StyleWarning(m_pErrorLabel);
+    m_pErrorLabel->setWordWrap(true);
+    m_pErrorLabel->setFixedSize(c_sizeError);
+    pGrid->addWidget(m_pErrorLabel, enRowError, 0, 1, c_nColumns);
+}
+
+void CEdidSetDlg::InitButtonRow(QGridLayout* pGrid)
+{
+    m_pOKButton =
+        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "确认"), c_sizeButton, {}});
+    // Enter in a spin box confirms; without a default of its own the window would open the nearest menu.
+    m_pOKButton->setDefault(true);
+    m_pCancelButton =
+        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "取消"), c_sizeButton, {}});
+    pGrid->addWidget(m_pOKButton, enRowButtons, 0, Qt::AlignLeft);
+    pGrid->addWidget(m_pCancelButton, enRowButtons, 2, 1, 2, Qt::AlignRight);
+}
+
+void CEdidSetDlg::InitComboBox()
+{
+    InitResolutionMenu();
+    InitRateMenu();
+    InitDepthMenu();
+    InitFormatMenu();
+    InitStandardMenu();
+}
+
+void CEdidSetDlg::InitResolutionMenu()
+{
+    const QList<QSize>& listResolution = m_pEdidLimit->listResolution;
+    QMenu* pMenu = DialogFrame::CreateMenu(this, {});
+    // The interface 132 does not offer the custom size, yet the action is there and works.
+    const bool bOffersCustom = !EdidOptions::IsInterface132(m_nInterfaceId);
+    QAction* pCustom = AddResolution(bOffersCustom ? pMenu : nullptr, 0, CCustomDialog::tr("自定义"));
+    if (m_nResolutionIndex > listResolution.size())
+        return;
+    for (int i = 0; i < listResolution.size(); ++i) {
+        QAction* pAction = AddResolution(pMenu, i + 1, PresetText(listResolution.at(i)));
+        pAction->setChecked(listResolution.at(i) == m_sizeCustom);
+    }
+    pCustom->setChecked(m_nResolutionIndex == 0);
+    m_pResolutionComboBox->SetMenu(pMenu, false, true, true);
+}
+
+QAction* CEdidSetDlg::AddResolution(QMenu* pMenu, int nIndex, const QString& strText)
+{
+    auto* pAction = new QAction(strText, this);
+    pAction->setData(nIndex);
+    pAction->setCheckable(true);
+    m_listResolutionActions.append(pAction);
+    if (pMenu != nullptr)
+        pMenu->addAction(pAction);
+    // After the menu has connected itself, so that the refresh has the last word on the combo box's text.
+    connect(pAction, &QAction::triggered, this, [this, nIndex] { OnResolutionComboBoxSelect(nIndex); });
+    return pAction;
+}
+
+QString CEdidSetDlg::PresetText(QSize size) const
+{
+    const QString strText = QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
+    if (size != QApplication::desktop()->size())
+        return strText;
+    return QStringLiteral("%1 (%2)").arg(strText, CCustomDialog::tr("电脑"));
+}
+
+void CEdidSetDlg::InitRateMenu()
+{
+    const bool bExtendedEdid = HostAccess::SenderLogic().IsExtendedEdidSupported();
+    m_pRateMenu = DialogFrame::CreateMenu(this, {});
+    for (const int nIndex :
+         EdidOptions::OfferedRates({m_nSenderType, m_nInterfaceId, m_bLowRateOnly, bExtendedEdid}))
+        DialogFrame::AddEntry(m_pRateMenu,
+                              {QString::fromLatin1(EdidOptions::RateAt(nIndex)->szText), nIndex});
+    m_rowRate.pComboBox->SetMenu(m_pRateMenu, false, true, true);
+    connect(m_pRateMenu, &QMenu::triggered, this, &CEdidSetDlg::OnRateComboBoxSelect);
+}
+
+void CEdidSetDlg::InitDepthMenu()
+{
+    const int nSender = HostAccess::CurrentSenderIndex();
+    CSenderLogic& logic = HostAccess::SenderLogic();
+    EdidOptions::SDepthSupport support;
+    support.bVideoProcessor = logic.IsVideoProcessor(nSender);
+    if (support.bVideoProcessor) {
+        support.b10Bit = logic.IsSupport10Bit(nSender);
+        support.b12Bit = logic.IsSupport12Bit(nSender);
+    }
+    // Written merely by opening the dialog: that is meant.
+    if (EdidOptions::HasOnly8Bit(support))
+        HostAccess::CurrentSender().nColorDepth = 8;
+
+    QMenu* pMenu = DialogFrame::CreateMenu(this, {});
+    const int nDepths =
+        EdidOptions::OfferedDepthCount(support, {m_nSenderType, m_nInterfaceId, m_bLowRateOnly, false});
+    for (int i = 0; i < nDepths; ++i)
+        DialogFrame::AddEntry(pMenu,
+                              {QString::fromLatin1(EdidOptions::c_arrDepths[std::size_t(i)].szMenuText), i});
+    m_rowDepth.pComboBox->SetMenu(pMenu, true, true, true);
+}
+
+void CEdidSetDlg::InitFormatMenu()
+{
+    m_pFormatMenu = CreateNameMenu(m_listColorFormat);
+    m_rowFormat.pComboBox->SetMenu(m_pFormatMenu, false, true, true);
+    connect(m_pFormatMenu, &QMenu::triggered, this,
+            [this](QAction* pAction) { OnColorFormatComboBoxSelect(pAction->data().toInt()); });
+}
+
+void CEdidSetDlg::InitStandardMenu()
+{
+    m_pStandardMenu = CreateNameMenu(m_listTimingStandard);
+    m_rowStandard.pComboBox->SetMenu(m_pStandardMenu, false, true, true);
+    connect(m_pStandardMenu, &QMenu::triggered, this,
+            [this](QAction* pAction) { OnTimingStandardComboBoxSelect(pAction->data().toInt()); });
+}
+
+QMenu* CEdidSetDlg::CreateNameMenu(const QStringList& listNames)
+{
+    QMenu* pMenu = DialogFrame::CreateMenu(this, {});
+    for (int i = 0; i < listNames.size(); ++i)
+        DialogFrame::AddEntry(pMenu, {listNames.at(i), i});
+    return pMenu;
+}
+
+void CEdidSetDlg::InitControlConnect()
+{
+    connect(m_rowDepth.pComboBox, &CCustomComboBox::Activated, this,
+            &CEdidSetDlg::OnColorDepthComboBoxSelect);
+    connect(m_pConnectPCCheckBox, &QCheckBox::clicked, this,
+            [this] { m_bConnectPC = m_bConnectPC == 1 ? 0 : 1; });
+    connect(m_pWidthSpinBox, &QDoubleSpinBox::textChanged, this, &CEdidSetDlg::OnWidthSpinBoxValueChanged);
+    connect(m_pHeightSpinBox, &QDoubleSpinBox::textChanged, this, &CEdidSetDlg::OnHeightSpinBoxValueChanged);
+    connect(m_pOKButton, &QPushButton::clicked, this, &CEdidSetDlg::OnOKPushButtonClicked);
+    connect(m_pCancelButton, &QPushButton::clicked, this, &CEdidSetDlg::OnCancelPushButtonClicked);
+}
