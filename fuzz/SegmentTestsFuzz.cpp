@@ -35,24 +35,31 @@ void CheckSelf(CPointEx<float> ptA, CPointEx<float> ptB)
     Require(!CLine::IsCross(ptA, ptB, ptB, ptA), "no segment crosses its reverse");
 }
 
+// Keeps the compiler from leaving out a calculation whose result nobody reads.
+template <class T>
+void Keep(T value)
+{
+    volatile T kept = value;
+    (void)kept;
+}
+
 // Whatever comes out, it has to come out.
 void UseLine(std::array<CPointEx<float>, 4>& arr)
 {
     CLine line(arr[0], arr[1]);
     const CLine lineOther(arr[2], arr[3].x);
-    volatile float fSink = (line & lineOther).x;
-    fSink = line.GetXbyY(arr[2].y);
-    fSink = line.GetYbyX(arr[2].x);
-    fSink = line.GetSlop();
-    fSink = line.Distance2(arr[2]);
-    fSink = line.GetFootPoint(arr[2]).x;
-    volatile bool bSink = line.IsSameSide(arr[2], arr[3]);
+    Keep((line & lineOther).x);
+    Keep(line.GetXbyY(arr[2].y));
+    Keep(line.GetYbyX(arr[2].x));
+    Keep(line.GetSlop());
+    Keep(line.Distance2(arr[2]));
+    Keep(line.GetFootPoint(arr[2]).x);
+    Keep(line.IsSameSide(arr[2], arr[3]));
     line.CreateLine(CLine::GetSlop(arr[0], arr[1]), arr[0]);
     std::array<float, 4> arrX = {arr[0].x, arr[1].x, arr[2].x, arr[3].x};
     std::array<float, 4> arrY = {arr[0].y, arr[1].y, arr[2].y, arr[3].y};
     line.FitLine(arrX.data(), arrY.data(), 4);
-    (void)fSink;
-    (void)bSink;
+    Keep(line.GetSlop());
 }
 
 } // namespace
