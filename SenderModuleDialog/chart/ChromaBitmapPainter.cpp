@@ -52,6 +52,7 @@ struct SGradient
     float fCentreSide;   ///< the centre's value of c + a x + b y: its sign is the side that is coloured
     float fEstimate;     ///< see `SRamp`
     float fFullTerm;     ///< the smallest term for which the component is full
+    double dInverseA;    ///< 1 / a, for guesses
 };
 
 float Term(const SGradient& gradient, Point pt)
@@ -123,6 +124,7 @@ SGradient MakeGradient(Point ptFrom, Point ptTo, Point ptCentre)
     gradient.fEstimate = float(double(c_fFull) * double(c_fFull) /
                                (double(gradient.fLength) * double(gradient.fFullDistance)));
     gradient.fFullTerm = FullTerm(gradient);
+    gradient.dInverseA = 1.0 / double(gradient.fA);
     return gradient;
 }
 
@@ -298,8 +300,8 @@ SComponentRow CRowPainter::ComponentRow(const SGradient& gradient, int nBegin, i
     };
     // Where the exact crossings are, but for the roundings.
     const double dRest = double(gradient.fB) * double(m_fY) + double(gradient.fC);
-    const double dLine = -dRest / double(gradient.fA);
-    const double dFull = (double(fSign * gradient.fFullTerm) - dRest) / double(gradient.fA);
+    const double dLine = -dRest * gradient.dInverseA;
+    const double dFull = (double(fSign * gradient.fFullTerm) - dRest) * gradient.dInverseA;
     if (fSign * gradient.fA > 0.0F) {
         const int nGrows = FirstWhere(nBegin, nEnd, dLine, IsColoured);
         const int nFull = FirstWhere(nBegin, nEnd, dFull, IsFull);

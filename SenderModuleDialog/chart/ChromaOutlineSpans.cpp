@@ -37,6 +37,13 @@ int Threshold(Point ptEnd, Point ptStart, int nY)
                     FirstAtOrAbove(std::min(ptEnd.x, ptStart.x)));
 }
 
+/// Sorts a row's thresholds: hardly ever more than two.
+void SortFew(int* pBegin, int* pEnd)
+{
+    for (int* pNext = pBegin; pNext != pEnd; ++pNext)
+        std::rotate(std::upper_bound(pBegin, pNext, *pNext), pNext, pNext + 1);
+}
+
 } // namespace
 
 CChromaOutlineSpans::CChromaOutlineSpans(const Outline& vecOutline, const QRect& rcBox)
@@ -78,7 +85,7 @@ void CChromaOutlineSpans::CollectThresholds(const Outline& vecOutline)
     });
     vecNext.pop_back();
     for (size_t i = 0; i + 1 < m_vecFirst.size(); ++i)
-        std::sort(m_vecThresholds.data() + m_vecFirst[i], m_vecThresholds.data() + m_vecFirst[i + 1]);
+        SortFew(m_vecThresholds.data() + m_vecFirst[i], m_vecThresholds.data() + m_vecFirst[i + 1]);
 }
 
 void CChromaOutlineSpans::CollectVertexPixels(const Outline& vecOutline)
