@@ -133,6 +133,8 @@ void TestChromaBitmap::EveryInstructionSetPaintsThePlainPixels_data()
     QTest::addColumn<QSize>("sizeWidget");
 
     QTest::newRow("equal") << QSize(500, 500) << QSize(500, 500);
+    QTest::newRow("equal and large: some pixels are in doubt") << QSize(1000, 1000) << QSize(1000, 1000);
+    QTest::newRow("wide and large") << QSize(1920, 1080) << QSize(1600, 900);
     QTest::newRow("wide") << QSize(960, 540) << QSize(960, 540);
     QTest::newRow("high") << QSize(300, 700) << QSize(300, 700);
     QTest::newRow("bitmap smaller") << QSize(400, 300) << QSize(800, 600);
