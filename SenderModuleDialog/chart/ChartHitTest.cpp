@@ -1,7 +1,6 @@
 #include "SenderModuleDialog/chart/ChartHitTest.h"
 
 #include "SenderModuleDialog/Fault.h"
-#include "SenderModuleDialog/Saturate.h"
 #include "SenderModuleDialog/chart/ChartGroupOverlay.h"
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 
@@ -9,17 +8,19 @@
 
 namespace {
 
-// The box that catches a point, edges included.
+// The box that catches a point, edges included. The edges are whole numbers; a point that is no number has a
+// box that catches nothing.
 struct SHitBox
 {
-    int nLeft;
-    int nTop;
-    int nRight;
-    int nBottom;
+    float fLeft;
+    float fTop;
+    float fRight;
+    float fBottom;
 
     bool Contains(QPoint pos) const
     {
-        return pos.x() >= nLeft && pos.x() <= nRight && pos.y() >= nTop && pos.y() <= nBottom;
+        return pos.x() >= double(fLeft) && pos.x() <= double(fRight) && pos.y() >= double(fTop) &&
+               pos.y() <= double(fBottom);
     }
 };
 
@@ -30,8 +31,7 @@ SHitBox BoxOf(CPointEx<float> pt, const CChartMapping& mapping)
     const QPointF ptPixel = mapping.ToPixel(pt);
     const float fLeft = std::round(float(ptPixel.x()) - fRadius);
     const float fTop = std::round(float(ptPixel.y()) - fRadius);
-    return {SaturateTo<int>(fLeft), SaturateTo<int>(fTop), SaturateTo<int>(fLeft + 2.0F * fRadius),
-            SaturateTo<int>(fTop + 2.0F * fRadius)};
+    return {fLeft, fTop, std::trunc(fLeft + 2.0F * fRadius), std::trunc(fTop + 2.0F * fRadius)};
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "SenderModuleDialog/geometry/Line.h"
 #include "SenderModuleDialog/geometry/Polygon.h"
 
+#include <QRect>
+
 #include <algorithm>
 #include <cmath>
 
@@ -88,11 +90,6 @@ bool Toggles(CPoint ptP, CPoint ptQ, CPoint ptW)
     if (!(ptP.x <= ptW.x || ptQ.x <= ptW.x))
         return false;
     return (ptQ.x - ptP.x) * ((ptW.y - ptP.y) / (ptQ.y - ptP.y)) + ptP.x < ptW.x;
-}
-
-int Truncated(float f)
-{
-    return int(f);
 }
 
 } // namespace
@@ -380,9 +377,13 @@ void CPlainChart::HitTest(QPoint pos, int& nGroup, int& nPoint)
             const float py = float((double(nWndHeight) - double(fMarginY)) - double(pt.y) * double(fScale));
             const float fLeft = std::round(px - r);
             const float fTop = std::round(py - r);
-            const int nRight = Truncated(fLeft + 2.0F * r);
-            const int nBottom = Truncated(fTop + 2.0F * r);
-            if (pos.x() < int(fLeft) || pos.x() > nRight || pos.y() < int(fTop) || pos.y() > nBottom)
+            const float fRight = fLeft + 2.0F * r;
+            const float fBottom = fTop + 2.0F * r;
+            // A box elsewhere, or nowhere, needs no whole numbers.
+            if (!(std::fabs(fLeft) < 1e6F && std::fabs(fTop) < 1e6F))
+                continue;
+            const QRect rcBox{QPoint{int(fLeft), int(fTop)}, QPoint{int(fRight), int(fBottom)}};
+            if (!rcBox.contains(pos))
                 continue;
             if (i == 3)
                 bHitWhite = true;
@@ -469,7 +470,6 @@ void CPlainChart::Press(QPoint pos, bool bLeft)
         bDragging = true;
     else
         nHoverGroup = -1;
-    ++nUpdates;
 }
 
 void CPlainChart::Move(QPoint pos, bool bLeftHeld)
@@ -495,7 +495,6 @@ void CPlainChart::Move(QPoint pos, bool bLeftHeld)
         nHoverGroup = nGroup;
         nHoverPoint = nPoint;
     }
-    ++nUpdates;
 }
 
 void CPlainChart::Release(QPoint pos, int nWidgetWidth, int nWidgetHeight)

@@ -74,7 +74,6 @@ public:
     bool bShowStandard = false;
     bool bFirstPress = true;
     bool bSnapWhite = false;
-    int nUpdates = 0; ///< repaints asked for
 
 private:
     SChromaGroupInfo* HoverGroup() const;

@@ -1,0 +1,710 @@
+#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "SenderModuleDialog/chart/ChartGeometry.h"
+#include "SenderModuleDialog/chart/ChartGroupPoints.h"
+#include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
+#include "tests/chart/ChartInputs.h"
+#include "tests/chart/PlainChart.h"
+#include "tests/support/AllocationCounter.h"
+#include "tests/support/ExactCompare.h"
+
+#include <QApplication>
+#include <QLineF>
+#include <QMouseEvent>
+#include <QtTest>
+
+#include <algorithm>
+
+/// The chart under the mouse: what is hit, what a drag does, and what the host is asked, by real mouse
+/// events.
+class TestChartMouse : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void AnyRowOfEventsGoesLikeThePlainOne();
+
+    void AMovablePointUnderTheMouseWins_data();
+    void AMovablePointUnderTheMouseWins();
+    void ADotOfAHiddenGroupIsHit();
+    void AWhiteUnderTheMouseIsNotedWhateverTheResultIs();
+    void TheHitBoxIncludesItsEdges_data();
+    void TheHitBoxIncludesItsEdges();
+    void HitTestAllocatesNothing();
+
+    void RedBeyondTheLocusStopsJustInside();
+    void RedThatLosesTheWhiteMovesToTheConesEdge();
+    void AWhiteOutsideTheTriangleComesToTheNearestEdge();
+    void AWhiteNearAVertexLandsOnIt();
+    void AWhiteNearD65SnapsToIt_data();
+    void AWhiteNearD65SnapsToIt();
+    void ADragStepAllocatesNothing();
+    void ADragStepCountsAsAUseOfTheList();
+
+    void TheHostIsAskedAfterThePointWasMoved();
+    void ARefusedPointGoesToTheNearestPoint();
+    void WithoutAnAnswerPointsJumpToTheOrigin();
+    void ARefusedWhiteMovesAllTheSame();
+    void TheHostMayRemoveTheGroupInItsAnswer();
+
+    void ARightPressChangesNothingButTheFocus();
+    void APressOnNothingGoesToTheWidgetBelow();
+    void APressOnAFixedPointBlocksTheDrag();
+    void TheFlagLagsOneMoveBehind();
+    void ADragEndsTheShowingOfTheStandard();
+    void AReleaseEndsEverythingButThePress_data();
+    void AReleaseEndsEverythingButThePress();
+    void OnlyTheReleaseSetsTheCursor();
+    void WhatRepaints_data();
+    void WhatRepaints();
+};
+
+namespace {
+
+/// A side at which the margins are 30 pixels and the scale is 600.
+constexpr int c_nSide = 600;
+
+SChromaGroupInfo Group()
+{
+    SChromaGroupInfo group;
+    group.ptRed = {0.64F, 0.33F};
+    group.ptGreen = {0.30F, 0.60F};
+    group.ptBlue = {0.15F, 0.06F};
+    group.ptWhite = {0.3127F, 0.329F};
+    group.bMoveRed = group.bMoveGreen = group.bMoveBlue = group.bMoveWhite = true;
+    return group;
+}
+
+class CTestChart : public CChromaticityDlgWnd
+{
+public:
+    CTestChart()
+        : CChromaticityDlgWnd(nullptr)
+    {
+        resize(c_nSide, c_nSide);
+        SetSize(c_nSide, c_nSide);
+    }
+
+    QPoint PixelOf(CPoint pt) const { return Mapping().ToPixel(pt).toPoint(); }
+    SChromaGroupInfo& First() { return *m_mapGroups.first(); }
+
+    void Press(QPoint pos, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mousePress(this, button, Qt::NoModifier, pos);
+    }
+    void Release(QPoint pos) { QTest::mouseRelease(this, Qt::LeftButton, Qt::NoModifier, pos); }
+    void Move(QPoint pos, Qt::MouseButtons buttons)
+    {
+        QMouseEvent event(QEvent::MouseMove, QPointF(pos), Qt::NoButton, buttons, Qt::NoModifier);
+        QApplication::sendEvent(this, &event);
+    }
+    /// Drags a point of the first group to a chromaticity, in one move.
+    void Drag(int nPoint, CPoint ptTo)
+    {
+        const QPoint posFrom = PixelOf(GroupPoint(First(), nPoint));
+        const QPoint posTo = PixelOf(ptTo);
+        Press(posFrom);
+        Move(posTo, Qt::LeftButton);
+        Release(posTo);
+    }
+    /// A host that keeps every new position.
+    void Accept()
+    {
+        connect(this, &CChromaticityDlgWnd::OnPositionChangeSignal, this,
+                [](int, int, bool& bSuccessed) { bSuccessed = true; });
+    }
+
+    int nPaints = 0;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        ++nPaints;
+        CChromaticityDlgWnd::paintEvent(event);
+    }
+};
+
+// The answer of a host that looks at the numbers alone, and offers a point of its own now and then.
+bool Answer(int nTurn, QPointF& ptNearest)
+{
+    if (nTurn % 3 == 0)
+        ptNearest = QPointF(0.2 + nTurn % 7 * 0.01, 0.3);
+    return nTurn % 2 == 0;
+}
+
+QString StateDifference(const CTestChart& chart, const CPlainChart& plain)
+{
+    QStringList listDifferent;
+    const auto funcCompare = [&listDifferent](const char* szName, int nActual, int nExpected) {
+        if (nActual != nExpected)
+            listDifferent.append(QStringLiteral("%1 is %2 instead of %3")
+                                     .arg(QLatin1String(szName))
+                                     .arg(nActual)
+                                     .arg(nExpected));
+    };
+    funcCompare("hover group", chart.m_nHoverGroup, plain.nHoverGroup);
+    funcCompare("hover point", chart.m_nHoverPoint, plain.nHoverPoint);
+    funcCompare("can drag", chart.m_bCanDrag, plain.bCanDrag);
+    funcCompare("pressed", chart.m_bPressed, plain.bPressed);
+    funcCompare("dragging", chart.m_bDragging, plain.bDragging);
+    funcCompare("hit white", chart.m_bHitWhite, plain.bHitWhite);
+    funcCompare("mouse inside", chart.m_bMouseInside, plain.bMouseInside);
+    funcCompare("show standard", chart.m_bShowStandard, plain.bShowStandard);
+    funcCompare("first press", chart.m_bFirstPress, plain.bFirstPress);
+    funcCompare("mouse x", chart.m_ptMouse.x(), plain.ptMouse.x());
+    funcCompare("mouse y", chart.m_ptMouse.y(), plain.ptMouse.y());
+    if (!ExactCompare::SameBits(chart.m_ptNearest, plain.ptNearest))
+        listDifferent.append(ExactCompare::Difference(chart.m_ptNearest, plain.ptNearest));
+    for (auto it = chart.m_mapGroups.constBegin(); it != chart.m_mapGroups.constEnd(); ++it) {
+        const QString strPoints = PointDifference(*it.value(), *plain.mapGroups.value(it.key()));
+        if (!strPoints.isEmpty())
+            listDifferent.append(strPoints);
+    }
+    return listDifferent.join(QStringLiteral(", "));
+}
+
+/// One chart under real events and the plain one beside it.
+class CDuel
+{
+public:
+    explicit CDuel(unsigned int nSeed)
+        : m_inputs(nSeed, CChromaGamutInterpolation().GetQPointFData())
+    {
+        m_plain.SetSize(c_nSide, c_nSide);
+        QObject::connect(
+            &m_chart, &CChromaticityDlgWnd::OnPositionChangeSignal, &m_chart,
+            [this](int, int, bool& bSuccessed) { bSuccessed = Answer(m_nTurn, m_chart.m_ptNearest); });
+        m_plain.funcAnswer = [this](int, int) { return Answer(m_nTurn, m_plain.ptNearest); };
+    }
+
+    void NewGroups()
+    {
+        m_chart.ReleaseChromaData();
+        m_plain.mapGroups.clear();
+        for (int nKey = 0; nKey < 3; ++nKey) {
+            m_groups[nKey] = m_inputs.Whole(0, 7) == 0 ? m_inputs.Group() : m_inputs.OrdinaryGroup();
+            // Points on top of each other now and then.
+            if (nKey > 0 && m_inputs.Coin())
+                GroupPoint(m_groups[nKey], m_inputs.Whole(0, 3)) = m_groups[nKey - 1].ptGreen;
+            m_chart.AddChromaGroupByIndex(nKey, m_groups[nKey]);
+            m_plain.mapGroups.insert(nKey, &m_groups[nKey]);
+        }
+        m_chart.m_bSnapWhite = m_plain.bSnapWhite = m_inputs.Coin();
+    }
+
+    /// The next event, to both.
+    void Step(int nTurn)
+    {
+        m_nTurn = nTurn;
+        // The plain one's list grows with each use; a fresh one keeps this test short.
+        m_plain.gamut = CChromaGamutInterpolation();
+        if (m_inputs.Whole(0, 19) == 0)
+            m_chart.m_bShowStandard = m_plain.bShowStandard = true;
+        const QPoint pos = Position();
+        switch (m_inputs.Whole(0, 9)) {
+        case 0:
+        case 1:
+            Press(pos, m_inputs.Whole(0, 4) == 0 ? Qt::RightButton : Qt::LeftButton);
+            break;
+        case 2:
+            Release(pos);
+            break;
+        default:
+            Move(pos, m_inputs.Whole(0, 3) == 0 ? Qt::NoButton : Qt::LeftButton);
+        }
+    }
+
+    QString Difference() const { return StateDifference(m_chart, m_plain); }
+    int Drags() const { return m_nDrags; }
+
+private:
+    QPoint Position()
+    {
+        if (m_inputs.Coin())
+            return {m_inputs.Whole(-100, c_nSide + 100), m_inputs.Whole(-100, c_nSide + 100)};
+        const SChromaGroupInfo& group = m_groups[m_inputs.Whole(0, 2)];
+        const QPointF pt = m_chart.Mapping().ToPixel(GroupPointOrOrigin(group, m_inputs.Whole(0, 3)));
+        const bool bOnChart = QRectF(m_chart.m_rcChart).contains(pt);
+        return (bOnChart ? pt.toPoint() : QPoint(5, 5)) +
+               QPoint(m_inputs.Whole(-7, 7), m_inputs.Whole(-7, 7));
+    }
+    void Send(QEvent::Type type, QPoint pos, Qt::MouseButton button, Qt::MouseButtons buttons)
+    {
+        QMouseEvent event(type, QPointF(pos), button, buttons, Qt::NoModifier);
+        QApplication::sendEvent(&m_chart, &event);
+    }
+    void Press(QPoint pos, Qt::MouseButton button)
+    {
+        Send(QEvent::MouseButtonPress, pos, button, button);
+        m_plain.Press(pos, button == Qt::LeftButton);
+    }
+    void Move(QPoint pos, Qt::MouseButtons buttons)
+    {
+        Send(QEvent::MouseMove, pos, Qt::NoButton, buttons);
+        m_plain.Move(pos, buttons.testFlag(Qt::LeftButton));
+        m_nDrags += m_chart.m_bDragging && buttons.testFlag(Qt::LeftButton) ? 1 : 0;
+    }
+    void Release(QPoint pos)
+    {
+        Send(QEvent::MouseButtonRelease, pos, Qt::LeftButton, Qt::NoButton);
+        m_plain.Release(pos, c_nSide, c_nSide);
+    }
+
+    CChartInputs m_inputs;
+    CTestChart m_chart;
+    CPlainChart m_plain;
+    SChromaGroupInfo m_groups[3];
+    int m_nTurn = 0;
+    int m_nDrags = 0;
+};
+
+double DistanceOf(CPoint ptFirst, CPoint ptSecond)
+{
+    return QLineF(ChartGeometry::Widened(ptFirst), ChartGeometry::Widened(ptSecond)).length();
+}
+
+} // namespace
+
+void TestChartMouse::AnyRowOfEventsGoesLikeThePlainOne()
+{
+    CDuel duel(41);
+    for (int i = 0; i < 120000; ++i) {
+        if (i % 50 == 0)
+            duel.NewGroups();
+        duel.Step(i);
+        const QString strDifference = duel.Difference();
+        QVERIFY2(strDifference.isEmpty(), qPrintable(QStringLiteral("event %1: ").arg(i) + strDifference));
+    }
+    QVERIFY(duel.Drags() > 10000);
+}
+
+void TestChartMouse::AMovablePointUnderTheMouseWins_data()
+{
+    QTest::addColumn<bool>("bFirstMoves");
+    QTest::addColumn<bool>("bSecondMoves");
+    QTest::addColumn<int>("nGroup");
+    QTest::newRow("the first fixed, the second movable") << false << true << 1;
+    QTest::newRow("both fixed") << false << false << 0;
+    QTest::newRow("both movable") << true << true << 1;
+    QTest::newRow("the first movable, the second fixed") << true << false << 0;
+}
+
+void TestChartMouse::AMovablePointUnderTheMouseWins()
+{
+    QFETCH(bool, bFirstMoves);
+    QFETCH(bool, bSecondMoves);
+    CTestChart chart;
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.AddChromaGroupByIndex(1, Group());
+    chart.GetChromaGroupByIndex(0)->bMoveRed = bFirstMoves;
+    chart.GetChromaGroupByIndex(1)->bMoveRed = bSecondMoves;
+    int nGroup = -1;
+    int nPoint = -1;
+    chart.HitTest(chart.PixelOf(Group().ptRed), nGroup, nPoint);
+    QTEST(nGroup, "nGroup");
+    QCOMPARE(nPoint, int(enRedPoint));
+}
+
+void TestChartMouse::ADotOfAHiddenGroupIsHit()
+{
+    CTestChart chart;
+    SChromaGroupInfo group = Group();
+    group.bVisible = false;
+    group.bShowGreenDot = false;
+    chart.AddChromaGroupByIndex(7, group);
+    int nGroup = -1;
+    int nPoint = -1;
+    chart.HitTest(chart.PixelOf(group.ptGreen), nGroup, nPoint);
+    QCOMPARE(nGroup, 7);
+    QCOMPARE(nPoint, int(enGreenPoint));
+}
+
+void TestChartMouse::AWhiteUnderTheMouseIsNotedWhateverTheResultIs()
+{
+    CTestChart chart;
+    SChromaGroupInfo group = Group();
+    group.ptGreen = group.ptWhite;
+    group.bMoveWhite = false;
+    chart.AddChromaGroupByIndex(0, group);
+    int nGroup = -1;
+    int nPoint = -1;
+    chart.HitTest(chart.PixelOf(group.ptWhite), nGroup, nPoint);
+    QCOMPARE(nPoint, int(enGreenPoint));
+    QVERIFY(chart.m_bHitWhite);
+    chart.HitTest(QPoint(0, 0), nGroup, nPoint);
+    QCOMPARE(nGroup, -1);
+    QCOMPARE(nPoint, -1);
+    QVERIFY(!chart.m_bHitWhite);
+}
+
+void TestChartMouse::TheHitBoxIncludesItsEdges_data()
+{
+    QTest::addColumn<QPoint>("pos");
+    QTest::addColumn<bool>("bHit");
+    // The point stands at (180, 420), the radius is 6.
+    QTest::newRow("upper left corner") << QPoint(174, 414) << true;
+    QTest::newRow("lower right corner") << QPoint(186, 426) << true;
+    QTest::newRow("left of it") << QPoint(173, 420) << false;
+    QTest::newRow("right of it") << QPoint(187, 420) << false;
+    QTest::newRow("above it") << QPoint(180, 413) << false;
+    QTest::newRow("below it") << QPoint(180, 427) << false;
+}
+
+void TestChartMouse::TheHitBoxIncludesItsEdges()
+{
+    QFETCH(QPoint, pos);
+    CTestChart chart;
+    SChromaGroupInfo group = Group();
+    group.ptRed = {0.25F, 0.25F};
+    group.ptWhite = {0.5F, 0.5F};
+    chart.AddChromaGroupByIndex(0, group);
+    int nGroup = -1;
+    int nPoint = -1;
+    chart.HitTest(pos, nGroup, nPoint);
+    QTEST(nPoint == enRedPoint, "bHit");
+}
+
+void TestChartMouse::HitTestAllocatesNothing()
+{
+    CTestChart chart;
+    for (int nKey = 0; nKey < 10; ++nKey)
+        chart.AddChromaGroupByIndex(nKey, Group());
+    int nGroup = -1;
+    int nPoint = -1;
+    const CAllocationCounter counter;
+    for (int i = 0; i < c_nSide; ++i)
+        chart.HitTest(QPoint(i, i), nGroup, nPoint);
+    QCOMPARE(counter.Count(), std::size_t(0));
+}
+
+void TestChartMouse::RedBeyondTheLocusStopsJustInside()
+{
+    CTestChart chart;
+    chart.Accept();
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.Drag(enRedPoint, {0.78F, 0.331F});
+    const CPoint ptRed = chart.First().ptRed;
+    QVERIFY(chart.m_pGamut->IsPointInCIEPolygon(ChartGeometry::Widened(ptRed)));
+    // 0.0001 further along the same line it is outside.
+    const CPoint ptWhite = chart.First().ptWhite;
+    const double dLength = DistanceOf(ptRed, ptWhite);
+    const auto funcBeyond = [&](double dBy) {
+        const QPointF ptFrom = ChartGeometry::Widened(ptWhite);
+        return ptFrom + (ChartGeometry::Widened(ptRed) - ptFrom) * ((dLength + dBy) / dLength);
+    };
+    QVERIFY(chart.m_pGamut->IsPointInCIEPolygon(funcBeyond(0.00009)));
+    QVERIFY(!chart.m_pGamut->IsPointInCIEPolygon(funcBeyond(0.00011)));
+}
+
+void TestChartMouse::RedThatLosesTheWhiteMovesToTheConesEdge()
+{
+    CTestChart chart;
+    chart.Accept();
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.Drag(enRedPoint, {0.2F, 0.4F});
+    const SChromaGroupInfo& group = chart.First();
+    QVERIFY(DistanceOf(group.ptRed, {0.2F, 0.4F}) > 0.01);
+    QVERIFY(ChartGeometry::IsInTriangle(group.ptWhite, TriangleOf(group)));
+    QCOMPARE(group.ptRed.x, float(chart.m_ptNearest.x()));
+}
+
+void TestChartMouse::AWhiteOutsideTheTriangleComesToTheNearestEdge()
+{
+    CTestChart chart;
+    chart.Accept();
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.Drag(enWhitePoint, {0.5F, 0.5F});
+    const SChromaGroupInfo& group = chart.First();
+    QVERIFY(ChartGeometry::IsInTriangle(group.ptWhite, TriangleOf(group)));
+    // On the edge from red to green: x and y together are about 0.93 there.
+    QVERIFY(DistanceOf(group.ptWhite, {0.5F, 0.5F}) < 0.06);
+}
+
+void TestChartMouse::AWhiteNearAVertexLandsOnIt()
+{
+    CTestChart chart;
+    chart.Accept();
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.Drag(enWhitePoint, {0.70F, 0.28F});
+    COMPARE_BITS(chart.First().ptWhite.x, 0.64F);
+    COMPARE_BITS(chart.First().ptWhite.y, 0.33F);
+}
+
+void TestChartMouse::AWhiteNearD65SnapsToIt_data()
+{
+    QTest::addColumn<bool>("bSnap");
+    QTest::addColumn<float>("fAway");
+    QTest::addColumn<bool>("bSnapped");
+    QTest::newRow("0.02 away") << true << 0.02F << true;
+    QTest::newRow("0.03 away") << true << 0.03F << false;
+    QTest::newRow("switched off") << false << 0.02F << false;
+}
+
+void TestChartMouse::AWhiteNearD65SnapsToIt()
+{
+    QFETCH(bool, bSnap);
+    QFETCH(float, fAway);
+    QFETCH(bool, bSnapped);
+    CTestChart chart;
+    chart.Accept();
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.m_bSnapWhite = bSnap;
+    chart.m_nHoverPoint = enWhitePoint;
+    const CPoint ptTarget(0.3127F + fAway, 0.329F);
+    chart.CalcCurrentPoint(chart.Mapping().ToPixel(ptTarget), &chart.First());
+    const CPoint ptWhite = chart.First().ptWhite;
+    const bool bOnD65 = ExactCompare::SameBits(ptWhite.x, float(chart.m_ptD65.x())) &&
+                        ExactCompare::SameBits(ptWhite.y, float(chart.m_ptD65.y()));
+    QCOMPARE(bOnD65, bSnapped);
+    QVERIFY(bSnapped || DistanceOf(ptWhite, ptTarget) < 1e-6);
+}
+
+void TestChartMouse::ADragStepAllocatesNothing()
+{
+    CTestChart chart;
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.m_bSnapWhite = true;
+    for (int nPoint = enRedPoint; nPoint <= enWhitePoint; ++nPoint) {
+        chart.m_nHoverPoint = nPoint;
+        const CAllocationCounter counter;
+        for (int i = 0; i < c_nSide; ++i)
+            chart.CalcCurrentPoint(QPointF(i, c_nSide - i / 2), &chart.First());
+        QCOMPARE(counter.Count(), std::size_t(0));
+    }
+}
+
+void TestChartMouse::ADragStepCountsAsAUseOfTheList()
+{
+    CTestChart chart;
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.m_nHoverPoint = enRedPoint;
+    for (int i = 0; i < 9; ++i)
+        chart.CalcCurrentPoint(chart.Mapping().ToPixel(CPoint(0.6F, 0.34F)), &chart.First());
+    QCOMPARE(chart.m_pGamut->GetData().size(), 10 * 156);
+}
+
+void TestChartMouse::TheHostIsAskedAfterThePointWasMoved()
+{
+    CTestChart chart;
+    chart.AddChromaGroupByIndex(0x300, Group());
+    QList<int> listAsked;
+    CPoint ptSeen;
+    connect(&chart, &CChromaticityDlgWnd::OnPositionChangeSignal, &chart,
+            [&](int nGroup, int nPoint, bool& bSuccessed) {
+                listAsked << nGroup << nPoint << int(bSuccessed);
+                ptSeen = chart.First().ptGreen;
+                bSuccessed = true;
+            });
+    chart.Drag(enGreenPoint, {0.28F, 0.62F});
+    QCOMPARE(listAsked, QList<int>({0x300, enGreenPoint, 0}));
+    QVERIFY(DistanceOf(ptSeen, {0.28F, 0.62F}) < 0.002);
+    QVERIFY(ChartGeometry::IsSamePoint(ptSeen, chart.First().ptGreen));
+}
+
+void TestChartMouse::ARefusedPointGoesToTheNearestPoint()
+{
+    CTestChart chart;
+    chart.AddChromaGroupByIndex(0, Group());
+    connect(&chart, &CChromaticityDlgWnd::OnPositionChangeSignal, &chart,
+            [&](int, int, bool&) { chart.SetNearstPoint(QPointF(0.25, 0.5)); });
+    chart.Drag(enBluePoint, {0.2F, 0.1F});
+    COMPARE_BITS(chart.First().ptBlue.x, 0.25F);
+    COMPARE_BITS(chart.First().ptBlue.y, 0.5F);
+}
+
+void TestChartMouse::WithoutAnAnswerPointsJumpToTheOrigin()
+{
+    CTestChart chart;
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.Drag(enBluePoint, {0.16F, 0.07F});
+    COMPARE_BITS(chart.First().ptBlue.x, 0.0F);
+    COMPARE_BITS(chart.First().ptBlue.y, 0.0F);
+}
+
+void TestChartMouse::ARefusedWhiteMovesAllTheSame()
+{
+    CTestChart chart;
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.Drag(enWhitePoint, {0.33F, 0.36F});
+    QVERIFY(DistanceOf(chart.First().ptWhite, {0.33F, 0.36F}) < 0.002);
+}
+
+void TestChartMouse::TheHostMayRemoveTheGroupInItsAnswer()
+{
+    CTestChart chart;
+    chart.AddChromaGroupByIndex(0, Group());
+    connect(&chart, &CChromaticityDlgWnd::OnPositionChangeSignal, &chart,
+            [&](int nGroup, int, bool&) { chart.RemoveChromaGroupByIndex(nGroup); });
+    chart.Drag(enRedPoint, {0.6F, 0.3F});
+    QVERIFY(chart.m_mapGroups.isEmpty());
+}
+
+void TestChartMouse::ARightPressChangesNothingButTheFocus()
+{
+    CTestChart chart;
+    chart.Accept();
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.show();
+    chart.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&chart));
+    chart.clearFocus();
+    chart.Press(chart.PixelOf(Group().ptRed), Qt::RightButton);
+    QVERIFY(chart.hasFocus());
+    QCOMPARE(chart.m_nHoverGroup, -1);
+    QVERIFY(!chart.m_bPressed);
+    QVERIFY(chart.m_bFirstPress);
+}
+
+void TestChartMouse::APressOnNothingGoesToTheWidgetBelow()
+{
+    CTestChart chart;
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.m_nHoverGroup = 5;
+    chart.m_nHoverPoint = enBluePoint;
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(3.0, 3.0), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    press.accept();
+    QApplication::sendEvent(&chart, &press);
+    // The base class passes it on.
+    QVERIFY(!press.isAccepted());
+    QCOMPARE(chart.m_nHoverGroup, 5);
+    QCOMPARE(chart.m_nHoverPoint, int(enBluePoint));
+    QVERIFY(!chart.m_bPressed);
+}
+
+void TestChartMouse::APressOnAFixedPointBlocksTheDrag()
+{
+    CTestChart chart;
+    chart.Accept();
+    SChromaGroupInfo group = Group();
+    group.bMoveRed = false;
+    chart.AddChromaGroupByIndex(0, group);
+    chart.Press(chart.PixelOf(group.ptRed));
+    QVERIFY(chart.m_bPressed);
+    QVERIFY(!chart.m_bDragging);
+    QVERIFY(!chart.m_bFirstPress);
+    QCOMPARE(chart.m_nHoverGroup, -1);
+    QCOMPARE(chart.m_nHoverPoint, int(enRedPoint));
+    chart.Move(QPoint(300, 300), Qt::LeftButton);
+    QCOMPARE(PointDifference(chart.First(), group), QString());
+    QCOMPARE(chart.m_ptMouse, QPoint(300, 300));
+}
+
+void TestChartMouse::TheFlagLagsOneMoveBehind()
+{
+    CTestChart chart;
+    SChromaGroupInfo group = Group();
+    group.bMoveRed = false;
+    chart.AddChromaGroupByIndex(0, group);
+    chart.Move(chart.PixelOf(group.ptRed), Qt::NoButton);
+    QCOMPARE(chart.m_nHoverPoint, int(enRedPoint));
+    // No point before: the flag stays.
+    QVERIFY(chart.m_bCanDrag);
+    chart.Move(chart.PixelOf(group.ptGreen), Qt::NoButton);
+    QCOMPARE(chart.m_nHoverPoint, int(enGreenPoint));
+    // It is red's.
+    QVERIFY(!chart.m_bCanDrag);
+    chart.Move(QPoint(3, 3), Qt::NoButton);
+    QCOMPARE(chart.m_nHoverGroup, -1);
+    QCOMPARE(chart.m_nHoverPoint, -1);
+    QVERIFY(!chart.m_bCanDrag);
+}
+
+void TestChartMouse::ADragEndsTheShowingOfTheStandard()
+{
+    CTestChart chart;
+    chart.Accept();
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.ShowCIEStandard(0, enStandardSRGB, true);
+    chart.Press(chart.PixelOf(Group().ptRed));
+    QVERIFY(chart.m_bShowStandard);
+    chart.Move(QPoint(400, 350), Qt::LeftButton);
+    QVERIFY(!chart.m_bShowStandard);
+    QVERIFY(chart.m_bMouseInside);
+}
+
+void TestChartMouse::AReleaseEndsEverythingButThePress_data()
+{
+    QTest::addColumn<QPoint>("pos");
+    QTest::addColumn<bool>("bInside");
+    QTest::newRow("at the origin") << QPoint(0, 0) << true;
+    QTest::newRow("at the width and the height") << QPoint(c_nSide, c_nSide) << true;
+    QTest::newRow("beyond the width") << QPoint(c_nSide + 1, 0) << false;
+    QTest::newRow("above the chart") << QPoint(0, -1) << false;
+}
+
+void TestChartMouse::AReleaseEndsEverythingButThePress()
+{
+    QFETCH(QPoint, pos);
+    CTestChart chart;
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.Press(chart.PixelOf(Group().ptRed));
+    QVERIFY(chart.m_bDragging);
+    chart.Release(pos);
+    QCOMPARE(chart.m_nHoverGroup, -1);
+    QCOMPARE(chart.m_nHoverPoint, -1);
+    QVERIFY(!chart.m_bCanDrag);
+    QVERIFY(!chart.m_bDragging);
+    QVERIFY(chart.m_bPressed);
+    QTEST(chart.m_bMouseInside, "bInside");
+}
+
+void TestChartMouse::OnlyTheReleaseSetsTheCursor()
+{
+    CTestChart chart;
+    chart.Accept();
+    chart.AddChromaGroupByIndex(0, Group());
+    chart.setCursor(Qt::CrossCursor);
+    const QPoint pos = chart.PixelOf(Group().ptRed);
+    chart.Move(pos, Qt::NoButton);
+    chart.Press(pos);
+    chart.Move(QPoint(400, 350), Qt::LeftButton);
+    QCOMPARE(chart.cursor().shape(), Qt::CrossCursor);
+    chart.Release(QPoint(400, 350));
+    QCOMPARE(chart.cursor().shape(), Qt::ArrowCursor);
+}
+
+void TestChartMouse::WhatRepaints_data()
+{
+    QTest::addColumn<int>("nType");
+    QTest::addColumn<bool>("bOnPoint");
+    QTest::addColumn<bool>("bMovable");
+    QTest::addColumn<bool>("bRepaints");
+    QTest::newRow("a press on a point") << int(QEvent::MouseButtonPress) << true << true << true;
+    QTest::newRow("a press on a fixed point") << int(QEvent::MouseButtonPress) << true << false << true;
+    QTest::newRow("a press on nothing") << int(QEvent::MouseButtonPress) << false << true << false;
+    QTest::newRow("a move over nothing") << int(QEvent::MouseMove) << false << true << true;
+    QTest::newRow("a release") << int(QEvent::MouseButtonRelease) << true << true << false;
+    QTest::newRow("leaving") << int(QEvent::Leave) << false << true << true;
+}
+
+void TestChartMouse::WhatRepaints()
+{
+    QFETCH(int, nType);
+    QFETCH(bool, bOnPoint);
+    QFETCH(bool, bMovable);
+    CTestChart chart;
+    SChromaGroupInfo group = Group();
+    group.bMoveRed = bMovable;
+    chart.AddChromaGroupByIndex(0, group);
+    chart.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&chart));
+    // A first press takes the focus, which repaints too.
+    chart.setFocus(Qt::OtherFocusReason);
+    QCoreApplication::processEvents();
+    chart.nPaints = 0;
+    const QPointF pos = bOnPoint ? QPointF(chart.PixelOf(group.ptRed)) : QPointF(3.0, 3.0);
+    if (nType == QEvent::Leave) {
+        QEvent event(QEvent::Leave);
+        QApplication::sendEvent(&chart, &event);
+    } else {
+        const bool bMove = nType == QEvent::MouseMove;
+        QMouseEvent event(QEvent::Type(nType), pos, bMove ? Qt::NoButton : Qt::LeftButton,
+                          nType == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&chart, &event);
+    }
+    QCoreApplication::processEvents();
+    QTEST(chart.nPaints > 0, "bRepaints");
+}
+
+QTEST_MAIN(TestChartMouse)
+#include "TestChartMouse.moc"
