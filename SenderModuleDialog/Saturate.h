@@ -15,7 +15,8 @@ constexpr TTo SaturateTo(TFrom value)
     if constexpr (std::is_floating_point_v<TFrom>) {
         // One above the largest value is a power of two, which floating point holds exactly; the largest
         // value itself may be rounded up to it.
-        constexpr TFrom c_aboveMax = TFrom(limits::max() / 2 + 1) * 2;
+        constexpr TTo c_halfRange = limits::max() / 2 + 1;
+        constexpr TFrom c_aboveMax = TFrom(c_halfRange) * 2;
         if (value != value)
             return 0;
         if (value >= c_aboveMax)

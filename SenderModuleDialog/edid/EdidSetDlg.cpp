@@ -267,7 +267,7 @@ QString CEdidSetDlg::ResolutionText(QSize size) const
 {
     if (m_nResolutionIndex == 0)
         return CCustomDialog::tr("自定义：%1×%2").arg(size.width()).arg(size.height());
-    const QString strText = QStringLiteral("%1×%2").arg(size.width()).arg(size.height());
+    QString strText = QStringLiteral("%1×%2").arg(size.width()).arg(size.height());
     if (size != QApplication::desktop()->size())
         return strText;
     return strText + QLatin1Char('(') + CCustomDialog::tr("电脑") + QLatin1Char(')');

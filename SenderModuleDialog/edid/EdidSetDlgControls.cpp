@@ -190,7 +190,7 @@ QAction* CEdidSetDlg::AddResolution(QMenu* pMenu, int nIndex, const QString& str
 
 QString CEdidSetDlg::PresetText(QSize size) const
 {
-    const QString strText = QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
+    QString strText = QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
     if (size != QApplication::desktop()->size())
         return strText;
     return QStringLiteral("%1 (%2)").arg(strText, CCustomDialog::tr("电脑"));

@@ -7,11 +7,16 @@
 
 #include <QtTest>
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QDesktopWidget>
 #include <QGridLayout>
+#include <QLabel>
 #include <QPushButton>
+#include <QTranslator>
+
+#include <algorithm>
 
 /// What the dialog reads while it is built, and what it shows first.
 class TestEdidSetDlgOpening : public QObject
@@ -38,6 +43,8 @@ private Q_SLOTS:
     void PlacesOfTheControls();
     void ResultIsFalseAtFirst();
     void ADialogBeforeTheInitialisationFaults();
+    void EveryTextIsLookedUpInTheCommonContext();
+    void TheNoticeIsComparedInTheOperatorsLanguage();
 };
 
 void TestEdidSetDlgOpening::HostCallsInOrder()
@@ -317,6 +324,69 @@ void TestEdidSetDlgOpening::ADialogBeforeTheInitialisationFaults()
     const SDeath death = RunToDeath([] { const CEdidSetDlg dlg(nullptr, 1, false); });
     QVERIFY(death.bAborted);
     QVERIFY2(death.strOutput.contains("g_pProjectData != nullptr"), death.strOutput.constData());
+}
+
+namespace {
+
+/// Puts brackets around what is looked up in the common context, while it lives.
+class CBrackets : public QTranslator
+{
+public:
+    CBrackets() { QCoreApplication::installTranslator(this); }
+    QString translate(const char* szContext, const char* szText, const char*, int) const override
+    {
+        return qstrcmp(szContext, "CCustomDialog") == 0
+                   ? QStringLiteral("[%1]").arg(QString::fromUtf8(szText))
+                   : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+bool IsChinese(const QString& strText)
+{
+    return std::any_of(strText.cbegin(), strText.cend(),
+                       [](QChar ch) { return ch.script() == QChar::Script_Han; });
+}
+
+} // namespace
+
+void TestEdidSetDlgOpening::EveryTextIsLookedUpInTheCommonContext()
+{
+    const CBrackets translator;
+    CEdidHost host;
+    host.videoSourceLogic.setting = CEdidHost::Setting(QSize(1000, 500), 60);
+    host.videoSourceLogic.limit.listResolution.append(QApplication::desktop()->size());
+    CEdidDialog dialog(host);
+    QStringList listTexts = {dialog.dlg.windowTitle()};
+    for (const QLabel* pLabel : dialog.dlg.findChildren<QLabel*>())
+        listTexts.append(pLabel->text());
+    for (const QAbstractButton* pButton : dialog.dlg.findChildren<QAbstractButton*>())
+        listTexts.append(pButton->text());
+    for (const QAction* pAction : dialog.dlg.findChildren<QAction*>())
+        listTexts.append(pAction->text());
+    int nChinese = 0;
+    for (const QString& strText : qAsConst(listTexts)) {
+        if (!IsChinese(strText))
+            continue;
+        ++nChinese;
+        QVERIFY2(strText.contains(QLatin1Char('[')), qPrintable(strText));
+    }
+    // The title, five captions, the resolution's text, the check box, two buttons, two entries of the menu.
+    QCOMPARE(nChinese, 12);
+}
+
+void TestEdidSetDlgOpening::TheNoticeIsComparedInTheOperatorsLanguage()
+{
+    const CBrackets translator;
+    CEdidHost host;
+    host.videoSourceLogic.funcVerdict = [](int, int, int) {
+        return QStringLiteral("[已使用DisplayID 1.3扩展块]");
+    };
+    QVERIFY(CEdidDialog(host).probe.OK().isEnabled());
+    host.videoSourceLogic.funcVerdict = [](int, int, int) {
+        return QStringLiteral("已使用DisplayID 1.3扩展块");
+    };
+    QVERIFY(!CEdidDialog(host).probe.OK().isEnabled());
 }
 
 QTEST_MAIN(TestEdidSetDlgOpening)
