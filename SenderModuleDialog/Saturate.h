@@ -1,6 +1,7 @@
 #ifndef SENDERMODULEDIALOG_SATURATE_H
 #define SENDERMODULEDIALOG_SATURATE_H
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <type_traits>
@@ -12,7 +13,11 @@ constexpr TTo SaturateTo(TFrom value)
 {
     static_assert(std::is_integral_v<TTo> && std::is_arithmetic_v<TFrom>, "numbers to integers");
     using limits = std::numeric_limits<TTo>;
-    if constexpr (std::is_floating_point_v<TFrom>) {
+    if constexpr (std::is_floating_point_v<TFrom> && std::is_unsigned_v<TTo> &&
+                  limits::digits <= std::numeric_limits<TFrom>::digits) {
+        // Both ends are exact, and what is no number is not above 0: no branch is needed.
+        return TTo(std::min(TFrom(limits::max()), std::max(TFrom(0), value)));
+    } else if constexpr (std::is_floating_point_v<TFrom>) {
         // One above the largest value is a power of two, which floating point holds exactly; the largest
         // value itself may be rounded up to it.
         constexpr TTo c_halfRange = limits::max() / 2 + 1;

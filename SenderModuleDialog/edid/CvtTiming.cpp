@@ -47,14 +47,14 @@ struct SAspectRatio
 {
     float fNumerator;
     float fDenominator;
-    float fVSync; ///< lines
+    quint8 byVSync; ///< lines
 };
 
 // In the order of testing: the first that gives the width wins.
 constexpr SAspectRatio c_aspectRatios[] = {
-    {4.0F, 3.0F, 4.0F}, {16.0F, 9.0F, 5.0F}, {16.0F, 10.0F, 6.0F}, {5.0F, 4.0F, 7.0F}, {15.0F, 9.0F, 7.0F},
+    {4.0F, 3.0F, 4}, {16.0F, 9.0F, 5}, {16.0F, 10.0F, 6}, {5.0F, 4.0F, 7}, {15.0F, 9.0F, 7},
 };
-constexpr float c_fVSyncOtherRatio = 10.0F; ///< vertical sync of any other aspect ratio, lines
+constexpr quint8 c_byVSyncOtherRatio = 10; ///< vertical sync of any other aspect ratio, lines
 
 /// What both kinds of blanking start from.
 struct SFrame
@@ -64,7 +64,7 @@ struct SFrame
     float fHMargin;   ///< on each side, pixels
     float fLines;     ///< active lines of a field
     float fVMargin;   ///< at top and bottom, lines
-    float fVSync;     ///< lines
+    quint8 byVSync;   ///< lines
     float fInterlace; ///< the half line of an interlaced field, lines
 };
 
@@ -78,9 +78,28 @@ struct SBlanking
     quint8 bySyncFlag;
 };
 
+/// `std::floor`, without the call that it is where the processor is not known to have an instruction for it.
+/// From 2^23 on a single-precision value is whole; what is infinite or no number stays what it is.
+float Floor(float fValue)
+{
+    constexpr float c_fAlwaysWhole = 8388608.0F;
+    if (!(std::fabs(fValue) < c_fAlwaysWhole))
+        return fValue;
+    const float fTruncated = static_cast<float>(static_cast<int>(fValue));
+    return fTruncated > fValue ? fTruncated - 1.0F : fTruncated;
+}
+
 float RoundDownTo(float fStep, float fValue)
 {
-    return std::floor(fValue / fStep) * fStep;
+    return Floor(fValue / fStep) * fStep;
+}
+
+/// Whether a value rounds down to a whole number of cells. The difference is exact wherever the answer hangs
+/// on it, so no rounding is needed to know.
+bool RoundsDownToCells(float fCells, float fValue)
+{
+    const float fAbove = fValue - fCells;
+    return fAbove >= 0.0F && fAbove < c_fCell;
 }
 
 /// Rounds up, where the published formula rounds down.
@@ -89,20 +108,20 @@ float WidthInCells(int nWidth)
     return RoundDownTo(c_fCell, static_cast<float>(nWidth) + c_fCell - 1.0F);
 }
 
-float VSyncWidth(float fWidth, int nHeight)
+quint8 VSyncWidth(float fWidth, int nHeight)
 {
     const float fHeight = static_cast<float>(nHeight);
     for (const SAspectRatio& ratio : c_aspectRatios) {
-        if (fWidth == RoundDownTo(c_fCell, ratio.fNumerator * fHeight / ratio.fDenominator))
-            return ratio.fVSync;
+        if (RoundsDownToCells(fWidth, ratio.fNumerator * fHeight / ratio.fDenominator))
+            return ratio.byVSync;
     }
-    return c_fVSyncOtherRatio;
+    return c_byVSyncOtherRatio;
 }
 
 float FieldLines(int nHeight, bool bInterlaced)
 {
     const float fHeight = static_cast<float>(nHeight);
-    return bInterlaced ? std::floor(fHeight * 0.5F) : fHeight;
+    return bInterlaced ? Floor(fHeight * 0.5F) : fHeight;
 }
 
 SFrame Frame(const tagSCalTimingIn& in)
@@ -114,8 +133,8 @@ SFrame Frame(const tagSCalTimingIn& in)
     frame.fWidth = WidthInCells(in.nWidth);
     frame.fHMargin = bMargins ? RoundDownTo(c_fCell, c_fHMarginPercent * frame.fWidth / c_fWholeLine) : 0.0F;
     frame.fLines = FieldLines(in.nHeight, bInterlaced);
-    frame.fVMargin = bMargins ? std::floor(c_fVMarginShare * frame.fLines) : 0.0F;
-    frame.fVSync = VSyncWidth(frame.fWidth, in.nHeight);
+    frame.fVMargin = bMargins ? Floor(c_fVMarginShare * frame.fLines) : 0.0F;
+    frame.byVSync = VSyncWidth(frame.fWidth, in.nHeight);
     frame.fInterlace = bInterlaced ? 0.5F : 0.0F;
     return frame;
 }
@@ -126,7 +145,7 @@ float LinesLasting(float fMicroseconds, float fLinePeriod)
 {
     if (fLinePeriod <= 0.0F)
         return c_fMostLines;
-    return std::floor(fMicroseconds / fLinePeriod) + 1.0F;
+    return Floor(fMicroseconds / fLinePeriod) + 1.0F;
 }
 
 float ReducedLinePeriod(const SFrame& frame)
@@ -137,7 +156,7 @@ float ReducedLinePeriod(const SFrame& frame)
 
 SBlanking ReducedBlanking(const SFrame& frame)
 {
-    const float fMinVBlank = c_fMinVPorch + frame.fVSync + c_fMinVBackPorchReduced;
+    const float fMinVBlank = c_fMinVPorch + float(frame.byVSync) + c_fMinVBackPorchReduced;
     const float fVBlank = std::max(fMinVBlank, LinesLasting(c_fReducedMinVBlank, ReducedLinePeriod(frame)));
     return {c_fReducedHBlank, c_fReducedHBackPorch, c_fReducedHSync, fVBlank, c_byReducedSyncFlag};
 }
@@ -165,7 +184,7 @@ SBlanking NormalBlanking(const SFrame& frame)
 {
     const float fActiveWidth = frame.fWidth + frame.fHMargin + frame.fHMargin;
     const float fLinePeriod = NormalLinePeriod(frame);
-    const float fMinSyncBackPorch = frame.fVSync + c_fMinVBackPorchNormal;
+    const float fMinSyncBackPorch = float(frame.byVSync) + c_fMinVBackPorchNormal;
     const float fSyncBackPorch = std::max(fMinSyncBackPorch, LinesLasting(c_fMinVSyncBackPorch, fLinePeriod));
     const float fHBlank = NormalHBlank(fActiveWidth, DutyCycle(fLinePeriod));
     const float fHSync = RoundDownTo(c_fCell, (fActiveWidth + fHBlank) * c_fHSyncShare);
@@ -174,20 +193,17 @@ SBlanking NormalBlanking(const SFrame& frame)
 
 } // namespace
 
-tagSBlankTiming Calculate(const tagSCalTimingIn& in)
+void Calculate(const tagSCalTimingIn& in, tagSBlankTiming& timing)
 {
     const SFrame frame = Frame(in);
     const SBlanking blanking = in.bReducedBlank != 0 ? ReducedBlanking(frame) : NormalBlanking(frame);
-
-    tagSBlankTiming timing = {};
     timing.wHBlank = SaturateTo<quint16>(blanking.fHBlank);
     timing.wHFrontPorch = SaturateTo<quint16>(blanking.fHBlank - blanking.fHBackPorch - blanking.fHSync);
     timing.wHSync = SaturateTo<quint16>(blanking.fHSync);
     timing.wVBlank = SaturateTo<quint16>(blanking.fVBlank);
     timing.byVFrontPorch = SaturateTo<quint8>(c_fMinVPorch);
-    timing.byVSync = SaturateTo<quint8>(frame.fVSync);
+    timing.byVSync = frame.byVSync;
     timing.bySyncFlag = blanking.bySyncFlag;
-    return timing;
 }
 
 } // namespace CvtTiming

@@ -41,13 +41,9 @@ std::optional<SBlank> ListedBlank(int nWidth, int nHeight, float fRate)
 SBlank CalculatedBlank(int nWidth, int nHeight, float fRate, int nStandard)
 {
     const int nReduced = nStandard == c_nStandardReduced ? 1 : 0;
-    const tagSBlankTiming timing = CvtTiming::Calculate({nWidth, nHeight, fRate, 0, nReduced, 0});
+    tagSBlankTiming timing = {};
+    CvtTiming::Calculate({nWidth, nHeight, fRate, 0, nReduced, 0}, timing);
     return {timing.wHBlank, timing.wVBlank};
-}
-
-tagSBlankTiming BlockTiming(int nWidth, int nHeight, float fRate)
-{
-    return CvtTiming::Calculate({nWidth, nHeight, fRate, 0, 1, 0});
 }
 
 /// Whether a frequency can be judged as an int; what cannot is over any budget. False for what is no number.
@@ -90,7 +86,8 @@ void CEDIDRaw::Init1p3VersionEdidBaseBlock(int nWidth, int nHeight)
 
 void CEDIDRaw::CalFirstDetailTimingByCvt(int nWidth, int nHeight, float fRate)
 {
-    tagSBlankTiming timing = BlockTiming(nWidth, nHeight, fRate);
+    tagSBlankTiming timing = {};
+    CvtTiming::Calculate({nWidth, nHeight, fRate, 0, 1, 0}, timing);
     StoreFirstDetailTiming(nWidth, nHeight, fRate, &timing);
 }
 
@@ -115,12 +112,13 @@ void CEDIDRaw::CalSumCheck()
 void CEDIDRaw::CalCVTtiming(int nWidth, int nHeight, float fRate, int nInterlaced, int nReduced, int nMargins,
                             tagSBlankTiming* pTiming) const
 {
-    CalculateTiming({nWidth, nHeight, fRate, nInterlaced, nReduced, nMargins}, pTiming);
+    CvtTiming::Calculate({nWidth, nHeight, fRate, nInterlaced, nReduced, nMargins},
+                         Deref(pTiming, "pTiming != nullptr"));
 }
 
 void CEDIDRaw::CalculateTiming(tagSCalTimingIn in, tagSBlankTiming* pTiming) const
 {
-    Deref(pTiming, "pTiming != nullptr") = CvtTiming::Calculate(in);
+    CvtTiming::Calculate(in, Deref(pTiming, "pTiming != nullptr"));
 }
 
 int CEDIDRaw::CalculateHBackPorch(int nBlank, int nFront, int nSync) const
