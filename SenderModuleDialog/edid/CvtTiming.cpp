@@ -79,14 +79,16 @@ struct SBlanking
 };
 
 /// `std::floor`, without the call that it is where the processor is not known to have an instruction for it.
-/// From 2^23 on a single-precision value is whole; what is infinite or no number stays what it is.
+/// Adding and subtracting 1.5 x 2^23 rounds to the nearest whole number, because single precision has no
+/// finer step there; one less where that went up. Beyond 2^22 the sum would leave that range.
 float Floor(float fValue)
 {
-    constexpr float c_fAlwaysWhole = 8388608.0F;
-    if (!(std::fabs(fValue) < c_fAlwaysWhole))
-        return fValue;
-    const float fTruncated = static_cast<float>(static_cast<int>(fValue));
-    return fTruncated > fValue ? fTruncated - 1.0F : fTruncated;
+    constexpr float c_fWholeStep = 12582912.0F;
+    constexpr float c_fLargest = 4194304.0F;
+    if (!(std::fabs(fValue) < c_fLargest))
+        return std::floor(fValue);
+    const float fNearest = (fValue + c_fWholeStep) - c_fWholeStep;
+    return fNearest - (fNearest > fValue ? 1.0F : 0.0F);
 }
 
 float RoundDownTo(float fStep, float fValue)

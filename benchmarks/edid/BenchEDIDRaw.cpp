@@ -109,7 +109,7 @@ int main(int argc, char** argv)
     times.PrintRatio("CalCVTtiming/reduced", "Xcvt/reduced", 0.5);
     times.PrintRatio("CalCVTtiming/normal", "Xcvt/normal", 0.5);
     times.PrintRatio("ChangeWH", "Xcvt/reduced", 3.0);
-    times.PrintRatio("CalReslutionPixelFreq/matched", "Xcvt/reduced", 0.5);
-    times.PrintRatio("CalReslutionPixelFreq/unmatched", "Xcvt/reduced", 0.5);
+    times.PrintRatio("CalReslutionPixelFreq/matched", "Xcvt/reduced", 1.0);
+    times.PrintRatio("CalReslutionPixelFreq/unmatched", "Xcvt/reduced", 1.0);
     return 0;
 }

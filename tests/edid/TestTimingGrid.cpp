@@ -4,9 +4,12 @@
 #include <QSize>
 #include <QVector>
 
+#include <algorithm>
 #include <cfloat>
 #include <climits>
+#include <cmath>
 #include <limits>
+#include <random>
 #include <vector>
 
 namespace {
@@ -61,6 +64,23 @@ void ForEveryKind(const QSize& size, float fRate, TFunction function)
         function(tagSCalTimingIn{size.width(), size.height(), fRate, nKind & 1, nKind & 2, nKind & 4});
 }
 
+/// The vertical sync by the plain steps in single precision, for any size.
+int PlainVSync(int nWidth, int nHeight)
+{
+    const auto Round8 = [](float fValue) { return std::floor(fValue * 0.125F) * 8.0F; };
+    const float fHeight = float(nHeight);
+    const float fWidth = Round8(float(nWidth) + 8.0F - 1.0F);
+    if (fWidth == Round8(fHeight * 4.0F / 3.0F))
+        return 4;
+    if (fWidth == Round8(16.0F * fHeight / 9.0F))
+        return 5;
+    if (fWidth == Round8(16.0F * fHeight / 10.0F))
+        return 6;
+    if (fWidth == Round8(5.0F * fHeight * 0.25F) || fWidth == Round8(15.0F * fHeight / 9.0F))
+        return 7;
+    return 10;
+}
+
 const std::vector<int> c_hostileInts = {0, -1, 1, 7, 1920, -1920, 65535, 65536, 16777217, INT_MAX, INT_MIN};
 const std::vector<float> c_hostileRates = {
     0.0F,   -0.0F,  60.0F,  -60.0F,  FLT_MIN, -FLT_MIN, FLT_MAX, -FLT_MAX, c_fInf,  -c_fInf,
@@ -75,6 +95,7 @@ class TestTimingGrid : public QObject
 private Q_SLOTS:
     void TheBlankingIsThatOfASecondEvaluation_data();
     void TheBlankingIsThatOfASecondEvaluation();
+    void TheVerticalSyncIsThatOfThePlainSteps();
     void ThePixelFrequencyIsThatOfASecondEvaluation();
     void TheStoredClockIsThatOfASecondEvaluation();
     void ReducedBlankingLastsAtLeast460Microseconds();
@@ -110,6 +131,25 @@ void TestTimingGrid::TheBlankingIsThatOfASecondEvaluation()
             });
             if (QTest::currentTestFailed())
                 return;
+        }
+    }
+}
+
+void TestTimingGrid::TheVerticalSyncIsThatOfThePlainSteps()
+{
+    // Heights of every magnitude and sign, each with the widths where its ratios begin and end.
+    constexpr double c_ratios[] = {4.0 / 3.0, 16.0 / 9.0, 16.0 / 10.0, 5.0 / 4.0, 15.0 / 9.0};
+    std::mt19937 random(20260);
+    for (int nRound = 0; nRound < 40000; ++nRound) {
+        const int nHeight = int(random()) >> (nRound % 32);
+        for (const double dRatio : c_ratios) {
+            for (const int nMore : {-16, -9, -8, -7, -1, 0, 1, 7, 8}) {
+                const int nWidth =
+                    int(std::clamp(nHeight * dRatio + nMore, double(INT_MIN), double(INT_MAX)));
+                const int nActual = Calculated({nWidth, nHeight, 60.0F, 0, 1, 0}).byVSync;
+                if (nActual != PlainVSync(nWidth, nHeight))
+                    QFAIL(qPrintable(QString::asprintf("%d x %d gives %d", nWidth, nHeight, nActual)));
+            }
         }
     }
 }
