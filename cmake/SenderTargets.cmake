@@ -42,7 +42,7 @@ function(sender_add_test NAME)
     endif()
 endfunction()
 
-# sender_add_benchmark(NAME SOURCES ... LINK ...): build/<preset>/benchmarks/NAME, run by ./run --bench NAME.
+# sender_add_benchmark(NAME SOURCES ... LINK ...): build/<preset>/bench/NAME, run by ./run --bench NAME.
 function(sender_add_benchmark NAME)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     set(TARGET bench_${NAME})
@@ -50,5 +50,5 @@ function(sender_add_benchmark NAME)
     target_link_libraries(${TARGET} PRIVATE sender_compile_options ${ARG_LINK} benchmark::benchmark)
     add_dependencies(sender_benchmarks ${TARGET})
     set_target_properties(${TARGET} PROPERTIES
-        OUTPUT_NAME ${NAME} RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/benchmarks")
+        OUTPUT_NAME ${NAME} RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bench")
 endfunction()

@@ -151,7 +151,7 @@ const CCCT2ColorCoord& CCCT2ColorCoord::Solved()
 
 bool CCCT2ColorCoord::CCTtoColorCoord(float fCCT, QPointF* pColorCoord, bool bExact) const
 {
-    if (!isCCTInRange(fCCT))
+    if (!DaylightLocus::IsInRange(fCCT))
         return false;
     QPointF& out = Deref(pColorCoord, "pColorCoord != nullptr");
     if (!bExact && std::abs(fCCT - c_fD65CCT) < c_fSnapTolerance) {
@@ -165,7 +165,7 @@ bool CCCT2ColorCoord::CCTtoColorCoord(float fCCT, QPointF* pColorCoord, bool bEx
 
 bool CCCT2ColorCoord::isCCTInRange(float fCCT) const
 {
-    return float(DaylightLocus::c_nLowestCCT) <= fCCT && fCCT <= float(DaylightLocus::c_nHighestCCT);
+    return DaylightLocus::IsInRange(fCCT);
 }
 
 bool CCCT2ColorCoord::TriangAlgCalcRelativeCCT(QPointF xyColorCoord, float* pCCT, bool bExact) const
@@ -181,7 +181,7 @@ bool CCCT2ColorCoord::TriangAlgCalcRelativeCCT(QPointF xyColorCoord, float* pCCT
 
     float& fCCT = Deref(pCCT, "pCCT != nullptr");
     fCCT = c_fMiredKelvin / TriangCalUrd(uv, arrPair);
-    if (!isCCTInRange(fCCT))
+    if (!DaylightLocus::IsInRange(fCCT))
         return false;
     if (!bExact && IsNear(xyColorCoord.x(), c_dD65X) && IsNear(xyColorCoord.y(), c_dD65Y))
         fCCT = c_fD65CCT;

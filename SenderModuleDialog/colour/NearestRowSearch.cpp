@@ -1,7 +1,12 @@
 #include "SenderModuleDialog/colour/NearestRowSearch.h"
 
+#include "SenderModuleDialog/Fault.h"
+
+#include <QtAlgorithms>
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -22,6 +27,13 @@ float RoundedDistance(double dU, double dV, QPointF uvPoint)
     const double dDeltaU = uvPoint.x() - dU;
     const double dDeltaV = uvPoint.y() - dV;
     return float(std::sqrt(dDeltaU * dDeltaU + dDeltaV * dDeltaV));
+}
+
+/// Writes one of the numbers that are held in pairs.
+template <class TPairs>
+void Set(TPairs& arrPairs, std::size_t nIndex, double dValue)
+{
+    arrPairs[nIndex / 2][nIndex % 2] = dValue;
 }
 
 } // namespace
@@ -52,9 +64,12 @@ CNearestRowSearch::CNearestRowSearch(const QVector<sCIE1931>& vecRows)
         m_vecPoints.append({row.dU, row.dV});
     for (std::size_t i = 0; i < c_arrShift.size(); ++i) {
         const int nRows = 1 << c_arrShift[i];
-        m_arrBlocks[i].reserve(LastRow() / nRows + 1);
-        for (int nFirst = 0; nFirst < LastRow(); nFirst += nRows)
-            m_arrBlocks[i].append(MakeBlock(nFirst, std::min(nFirst + nRows, LastRow())));
+        m_arrLevels[i].resize(LastRow() / (nRows * c_nTogether) + 1);
+        for (int nFirst = 0; nFirst < LastRow(); nFirst += nRows) {
+            const int nBlock = nFirst / nRows;
+            AddBlock(nFirst, std::min(nFirst + nRows, LastRow()), m_arrLevels[i][nBlock / c_nTogether],
+                     std::size_t(nBlock % c_nTogether));
+        }
     }
 }
 
@@ -65,25 +80,29 @@ SNearestRow CNearestRowSearch::Find(QPointF uvPoint) const
         return WalkToNearestRow(uvPoint, m_vecRows.constData(), m_vecRows.size());
 
     const int nLast = LastRow();
-    int nRow = 0;
-    float fBest = Distance(nRow, uvPoint);
+    const int nFinest = 1 << c_arrShift.back();
+    int nRow = ProvenEnd(0, uvPoint);
     while (nRow < nLast) {
-        const int nProven = ProvenEnd(nRow, uvPoint);
-        if (nProven != nRow) {
-            nRow = nProven;
-            fBest = Distance(nRow, uvPoint);
-            continue;
+        const int nEnd = std::min(nRow - nRow % nFinest + nFinest, nLast);
+        float fBest = Distance(nRow, uvPoint);
+        for (; nRow < nEnd; ++nRow) {
+            const float fDistance = Distance(nRow + 1, uvPoint);
+            if (!(fDistance < fBest))
+                return {nRow, true, nRow + 1};
+            fBest = fDistance;
         }
-        const float fDistance = Distance(nRow + 1, uvPoint);
-        if (!(fDistance < fBest))
-            return {nRow, true, nRow + 1};
-        ++nRow;
-        fBest = fDistance;
+        nRow = ProvenEnd(nRow, uvPoint);
     }
-    return {nRow, true, -1};
+    return {nLast, true, -1};
 }
 
-CNearestRowSearch::SBlock CNearestRowSearch::MakeBlock(int nFirst, int nLast) const
+CNearestRowSearch::SBlocks::SBlocks()
+{
+    for (std::size_t i = 0; i < c_nTogether; ++i)
+        Set(arrLead, i, std::numeric_limits<double>::infinity());
+}
+
+void CNearestRowSearch::AddBlock(int nFirst, int nLast, SBlocks& blocks, std::size_t nBlock) const
 {
     const SPoint first = m_vecPoints[nFirst];
     const SPoint last = m_vecPoints[nLast];
@@ -107,27 +126,48 @@ CNearestRowSearch::SBlock CNearestRowSearch::MakeBlock(int nFirst, int nLast) co
         dSlope = std::max(dSlope, std::abs(dAcross) / dAlong);
         dLead = std::max(dLead, (dMiddleU * dCU + dMiddleV * dCV) / dAlong);
     }
+    Require(dShortest > 0.0, "dShortest > 0");
+
     const double dScale = dShortest / c_dLargestGap;
-    return {dTU * dScale, dTV * dScale, dSlope, (dLead + c_dSlack) * dScale};
+    Set(blocks.arrFirstU, nBlock, first.dU);
+    Set(blocks.arrFirstV, nBlock, first.dV);
+    Set(blocks.arrAlongU, nBlock, dTU * dScale);
+    Set(blocks.arrAlongV, nBlock, dTV * dScale);
+    Set(blocks.arrSlope, nBlock, dSlope);
+    Set(blocks.arrLead, nBlock, (dLead + c_dSlack) * dScale);
 }
 
-bool CNearestRowSearch::Falls(const SBlock& block, int nFirst, QPointF uvPoint) const
+/// One bit for each block, set where (2) holds.
+inline unsigned int CNearestRowSearch::Falling(const SBlocks& blocks, QPointF uvPoint)
 {
-    const SPoint first = m_vecPoints[nFirst];
-    const double dU = uvPoint.x() - first.dU;
-    const double dV = uvPoint.y() - first.dV;
-    const double dAlong = dU * block.dAlongU + dV * block.dAlongV;
-    const double dAcross = dV * block.dAlongU - dU * block.dAlongV;
-    return dAlong - block.dSlope * std::abs(dAcross) - (dU * dU + dV * dV) > block.dLead;
+    const CDoublePair pairU = {uvPoint.x(), uvPoint.x()};
+    const CDoublePair pairV = {uvPoint.y(), uvPoint.y()};
+    CBitsPair bits = {0, 0};
+    CBitsPair bitsOfPair = {1, 2};
+    for (std::size_t i = 0; i < c_nPairs; ++i) {
+        const CDoublePair u = pairU - blocks.arrFirstU[i];
+        const CDoublePair v = pairV - blocks.arrFirstV[i];
+        const CDoublePair along = u * blocks.arrAlongU[i] + v * blocks.arrAlongV[i];
+        const CDoublePair across = v * blocks.arrAlongU[i] - u * blocks.arrAlongV[i];
+        const CDoublePair acrossSize = across < 0.0 ? -across : across;
+        bits |= (along - blocks.arrSlope[i] * acrossSize - (u * u + v * v) > blocks.arrLead[i]) & bitsOfPair;
+        bitsOfPair <<= 2;
+    }
+    return unsigned(bits[0] | bits[1]);
 }
 
-/// The end of the largest block from this row on over which the distances provably fall, or the row itself.
+/// A row up to which the distances provably fall from this one on: over the coarse blocks as far as they
+/// hold, then over the middle ones, then over the fine ones.
 int CNearestRowSearch::ProvenEnd(int nRow, QPointF uvPoint) const
 {
     for (std::size_t i = 0; i < c_arrShift.size(); ++i) {
         const int nRows = 1 << c_arrShift[i];
-        if (nRow % nRows == 0 && Falls(m_arrBlocks[i][nRow >> c_arrShift[i]], nRow, uvPoint))
-            return std::min(nRow + nRows, LastRow());
+        if (nRow % nRows != 0)
+            continue;
+        const int nBlock = nRow / nRows;
+        const SBlocks& blocks = m_arrLevels[i][nBlock / c_nTogether];
+        const unsigned int nFalling = Falling(blocks, uvPoint) >> (nBlock % c_nTogether);
+        nRow = std::min(nRow + nRows * int(qCountTrailingZeroBits(~nFalling)), LastRow());
     }
     return nRow;
 }

@@ -2,11 +2,13 @@
 #define SENDERMODULEDIALOG_COLOUR_NEARESTROWSEARCH_H
 
 #include "SenderModuleDialog/colour/CIE1931Row.h"
+#include "SenderModuleDialog/colour/DoublePair.h"
 
 #include <QPointF>
 #include <QVector>
 
 #include <array>
+#include <cstddef>
 
 /// Where the walk along the colour temperature table ends.
 struct SNearestRow
@@ -77,27 +79,35 @@ private:
         double dV;
     };
 
-    /// The numbers of (2) for one block.
-    struct SBlock
+    /// Blocks that are tested together: without a branch between them a processor predicts nothing wrong.
+    static constexpr int c_nTogether = 8;
+    static constexpr std::size_t c_nPairs = c_nTogether / 2;
+
+    /// The numbers of (2) for neighbouring blocks. Where the table has no more rows, the lead is infinite.
+    struct SBlocks
     {
-        double dAlongU; ///< t scaled by min c_t / K
-        double dAlongV;
-        double dSlope;
-        double dLead;
+        SBlocks();
+
+        std::array<CDoublePair, c_nPairs> arrFirstU = {}; ///< r(g)
+        std::array<CDoublePair, c_nPairs> arrFirstV = {};
+        std::array<CDoublePair, c_nPairs> arrAlongU = {}; ///< t scaled by min c_t / K
+        std::array<CDoublePair, c_nPairs> arrAlongV = {};
+        std::array<CDoublePair, c_nPairs> arrSlope = {};
+        std::array<CDoublePair, c_nPairs> arrLead = {};
     };
 
     /// Rows per block from coarse to fine, as powers of two.
     static constexpr std::array<int, 3> c_arrShift = {9, 6, 3};
 
-    SBlock MakeBlock(int nFirst, int nLast) const;
-    bool Falls(const SBlock& block, int nFirst, QPointF uvPoint) const;
+    void AddBlock(int nFirst, int nLast, SBlocks& blocks, std::size_t nBlock) const;
+    static unsigned int Falling(const SBlocks& blocks, QPointF uvPoint);
     int ProvenEnd(int nRow, QPointF uvPoint) const;
     float Distance(int nRow, QPointF uvPoint) const;
-    int LastRow() const { return m_vecPoints.size() - 1; }
+    int LastRow() const { return m_vecRows.size() - 1; }
 
     QVector<sCIE1931> m_vecRows;
     QVector<SPoint> m_vecPoints;
-    std::array<QVector<SBlock>, c_arrShift.size()> m_arrBlocks;
+    std::array<QVector<SBlocks>, c_arrShift.size()> m_arrLevels; ///< one for each of `c_arrShift`
 };
 
 #endif // SENDERMODULEDIALOG_COLOUR_NEARESTROWSEARCH_H
