@@ -18,7 +18,8 @@ function(sender_host_library NAME)
     string(TOUPPER ${NAME} UPPER_NAME)
     add_library(${NAME} SHARED ${ARG_SOURCES})
     target_compile_definitions(${NAME} PRIVATE ${UPPER_NAME}_LIBRARY)
-    target_link_libraries(${NAME} PUBLIC sender_compile_options ${ARG_LINK})
+    target_link_libraries(${NAME} PRIVATE sender_compile_options PUBLIC ${ARG_LINK})
+    set_target_properties(${NAME} PROPERTIES INSTALL_RPATH "$ORIGIN")
 endfunction()
 
 # sender_add_test(NAME SOURCES ... LINK ... [LABELS ...] [ARGS ...] [TIMEOUT seconds]): one Qt Test class.

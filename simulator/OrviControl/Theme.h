@@ -1,6 +1,8 @@
 #ifndef SIMULATOR_ORVICONTROL_THEME_H
 #define SIMULATOR_ORVICONTROL_THEME_H
 
+#include "host/HostExport.h"
+
 #include <QColor>
 #include <QFont>
 #include <QPalette>
@@ -39,10 +41,10 @@ constexpr int c_nRadius = 4;
 constexpr int c_nSlideDuration = 120;
 
 /// The colours for widgets that no style sheet reaches.
-QPalette Palette();
+ORVICONTROL_EXPORT QPalette Palette();
 
 /// The host's font at the size of the controls.
-QFont Font();
+ORVICONTROL_EXPORT QFont Font();
 
 /// Gives a window and what is in it the colours and the font.
 void Apply(QWidget* pWindow);

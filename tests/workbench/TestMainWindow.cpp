@@ -1,0 +1,279 @@
+#include "SenderModuleDialog/SenderModuleDialogInit.h"
+#include "simulator/CommonClass/Simulator.h"
+#include "workbench/JournalDock.h"
+#include "workbench/MainWindow.h"
+#include "workbench/ProjectActions.h"
+#include "workbench/SenderTree.h"
+#include "workbench/edid/EdidPage.h"
+#include "workbench/edid/HexView.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+/// A workbench with settings of its own.
+class CWorkbenchFixture
+{
+public:
+    CWorkbenchFixture()
+        : settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat)
+        , window(language, settings)
+    {
+        CSimulator::Instance().NewProject();
+    }
+
+    QString File(const char* szName) const { return folder.filePath(QString::fromLatin1(szName)); }
+
+    QTemporaryDir folder;
+    CLanguage language;
+    QSettings settings;
+    CMainWindow window;
+};
+
+/// Presses the button with that text in the next message box, and notes what the box said.
+class CMessageAnswer : public QObject
+{
+public:
+    explicit CMessageAnswer(const char* szButton)
+        : m_strButton(QString::fromUtf8(szButton))
+    {
+        qApp->installEventFilter(this);
+    }
+
+    QString strText;
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        auto* pBox = qobject_cast<QMessageBox*>(pWatched);
+        if (pBox != nullptr && pEvent->type() == QEvent::Show)
+            QMetaObject::invokeMethod(
+                pBox, [this, pBox] { Press(pBox); }, Qt::QueuedConnection);
+        return QObject::eventFilter(pWatched, pEvent);
+    }
+
+private:
+    void Press(QMessageBox* pBox)
+    {
+        strText = pBox->text();
+        for (QAbstractButton* pButton : pBox->buttons())
+            if (pButton->text() == m_strButton)
+                return pButton->click();
+        pBox->reject();
+    }
+
+    const QString m_strButton;
+};
+
+void MakeAChange()
+{
+    CSimulator::Instance().Change(
+        [](SSimulatedProject& project) { project.listSenders[0].strName += QLatin1Char('!'); });
+}
+
+} // namespace
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void TheTreeShowsEachSenderWithItsInputs();
+    void SelectingASenderMakesItTheCurrentOne();
+    void TheTreeFollowsSendersThatComeAndGo();
+    void TheLanguageSwitchesAtRunTime();
+    void AProjectIsSavedAndOpenedAgain();
+    void TheLastProjectOpensAtStart();
+    void UnsavedChangesAreAskedAbout_data();
+    void UnsavedChangesAreAskedAbout();
+    void ABrokenFileIsToldAndTheProjectStays();
+    void AWrittenSettingFillsTheMemoryAndShowsTheChange();
+    void ABlockIsSavedWhole();
+    void ABlockThatCannotBeSavedIsTold();
+    void ChoosingAByteMarksItsField();
+    void TheJournalShowsAndFiltersCalls();
+};
+
+void TestMainWindow::initTestCase()
+{
+    SenderModuleDialogInit(CSimulator::Instance().Label());
+}
+
+void TestMainWindow::TheTreeShowsEachSenderWithItsInputs()
+{
+    CWorkbenchFixture workbench;
+    const auto& listSenders = CSimulator::Instance().Project().listSenders;
+    QCOMPARE(workbench.window.Tree().topLevelItemCount(), int(listSenders.size()));
+    QCOMPARE(workbench.window.Tree().topLevelItem(0)->childCount(), int(listSenders[0].listInputs.size()));
+    QCOMPARE(workbench.window.Tree().topLevelItem(2)->text(1),
+             QString::number(listSenders[2].capability.nType));
+}
+
+void TestMainWindow::SelectingASenderMakesItTheCurrentOne()
+{
+    CWorkbenchFixture workbench;
+    workbench.window.Tree().Select({3, -1});
+    QCOMPARE(CSimulator::Instance().Project().nCurSender, 3);
+}
+
+void TestMainWindow::TheTreeFollowsSendersThatComeAndGo()
+{
+    CWorkbenchFixture workbench;
+    const int nBefore = workbench.window.Tree().topLevelItemCount();
+    const int nSender = CSimulator::Instance().AddSender(CCatalogue::Instance().Types().first());
+    QCOMPARE(workbench.window.Tree().topLevelItemCount(), nBefore + 1);
+    CSimulator::Instance().RemoveSender(nSender);
+    QCOMPARE(workbench.window.Tree().topLevelItemCount(), nBefore);
+}
+
+void TestMainWindow::TheLanguageSwitchesAtRunTime()
+{
+    CWorkbenchFixture workbench;
+    QCOMPARE(workbench.window.menuBar()->actions().first()->text(), QStringLiteral("工程(&P)"));
+    workbench.language.Set(enLanguage::English);
+    QTRY_COMPARE(workbench.window.menuBar()->actions().first()->text(), QStringLiteral("&Project"));
+    QCOMPARE(workbench.window.Tree().headerItem()->text(0), QStringLiteral("Sender"));
+    workbench.language.Set(enLanguage::Chinese);
+    QTRY_COMPARE(workbench.window.menuBar()->actions().first()->text(), QStringLiteral("工程(&P)"));
+}
+
+void TestMainWindow::AProjectIsSavedAndOpenedAgain()
+{
+    CWorkbenchFixture workbench;
+    MakeAChange();
+    const QString strName = CSimulator::Instance().Project().listSenders[0].strName;
+    QVERIFY(workbench.window.isWindowModified());
+    QVERIFY(workbench.window.Project().SaveAs(workbench.File("a.json")));
+    QVERIFY(!workbench.window.isWindowModified());
+    QVERIFY(workbench.window.Project().NewEmpty());
+    QVERIFY(workbench.window.Project().Open(workbench.File("a.json")));
+    QCOMPARE(CSimulator::Instance().Project().listSenders[0].strName, strName);
+    QCOMPARE(workbench.window.Project().RecentFiles().List(), QStringList{workbench.File("a.json")});
+}
+
+void TestMainWindow::TheLastProjectOpensAtStart()
+{
+    CWorkbenchFixture workbench;
+    QVERIFY(workbench.window.Project().SaveAs(workbench.File("a.json")));
+    CSimulator::Instance().NewEmptyProject();
+    workbench.window.Project().OpenLast();
+    QCOMPARE(CSimulator::Instance().FilePath(), workbench.File("a.json"));
+}
+
+void TestMainWindow::UnsavedChangesAreAskedAbout_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<bool>("leaves");
+    QTest::addColumn<bool>("saved");
+    QTest::newRow("save") << QByteArray("保存") << true << true;
+    QTest::newRow("discard") << QByteArray("不保存") << true << false;
+    QTest::newRow("cancel") << QByteArray("取消") << false << false;
+}
+
+void TestMainWindow::UnsavedChangesAreAskedAbout()
+{
+    QFETCH(QByteArray, button);
+    CWorkbenchFixture workbench;
+    QVERIFY(workbench.window.Project().SaveAs(workbench.File("a.json")));
+    MakeAChange();
+    const CMessageAnswer answer(button.constData());
+    QTEST(workbench.window.Project().MayLeave(), "leaves");
+    QCOMPARE(answer.strText, QStringLiteral("工程有未保存的更改。要保存吗？"));
+    QTEST(!CSimulator::Instance().IsModified(), "saved");
+}
+
+void TestMainWindow::ABrokenFileIsToldAndTheProjectStays()
+{
+    CWorkbenchFixture workbench;
+    QFile file(workbench.File("broken.json"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("{ not json");
+    file.close();
+    const std::size_t nSenders = CSimulator::Instance().Project().listSenders.size();
+    const CMessageAnswer answer("OK");
+    QVERIFY(!workbench.window.Project().Open(file.fileName()));
+    QVERIFY2(answer.strText.contains(QStringLiteral("broken.json")), qPrintable(answer.strText));
+    QCOMPARE(CSimulator::Instance().Project().listSenders.size(), nSenders);
+}
+
+void TestMainWindow::AWrittenSettingFillsTheMemoryAndShowsTheChange()
+{
+    CWorkbenchFixture workbench;
+    const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
+    workbench.window.Tree().Select({0, nInterfaceId});
+    auto* pBytes = workbench.window.findChild<CHexView*>();
+    QVERIFY(pBytes->Bytes().isEmpty());
+    const auto funcWrite = [&](quint16 wWidth, quint16 wHeight) {
+        CSimulator::Instance().Change([&](SSimulatedProject& project) {
+            SEdidSetting setting;
+            setting.wWidth = wWidth;
+            setting.wHeight = wHeight;
+            setting.byRate = 60;
+            project.FindSender(0)->FindInput(nInterfaceId)->setting = setting;
+        });
+        Q_EMIT CSimulator::Instance().OnEdidWritten(0, nInterfaceId);
+    };
+    funcWrite(1920, 1080);
+    QCOMPARE(pBytes->Bytes().size(), 128);
+    QVERIFY(pBytes->Changed().isEmpty());
+    funcWrite(1920, 1200);
+    QVERIFY(pBytes->Changed().contains(127));
+    QVERIFY(!pBytes->Changed().contains(0));
+}
+
+void TestMainWindow::ABlockIsSavedWhole()
+{
+    CWorkbenchFixture workbench;
+    const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
+    QVERIFY(CSimulator::Instance().SetEdidMemory(0, nInterfaceId, QByteArray(128, 'x')));
+    workbench.window.Tree().Select({0, nInterfaceId});
+    QVERIFY(workbench.window.findChild<CEdidPage*>()->SaveBlock(workbench.File("edid.bin")));
+    QFile file(workbench.File("edid.bin"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray(128, 'x'));
+}
+
+void TestMainWindow::ABlockThatCannotBeSavedIsTold()
+{
+    CWorkbenchFixture workbench;
+    auto* pPage = workbench.window.findChild<CEdidPage*>();
+    QSignalSpy spy(pPage, &CWorkbenchPage::Reported);
+    QVERIFY(!pPage->SaveBlock(workbench.File("no/such/folder/edid.bin")));
+    QVERIFY(spy.last().first().toString().contains(QStringLiteral("edid.bin")));
+}
+
+void TestMainWindow::ChoosingAByteMarksItsField()
+{
+    CWorkbenchFixture workbench;
+    const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
+    QVERIFY(CSimulator::Instance().SetEdidMemory(0, nInterfaceId, QByteArray(128, 1)));
+    workbench.window.Tree().Select({0, nInterfaceId});
+    auto* pBytes = workbench.window.findChild<CHexView*>();
+    pBytes->resize(pBytes->sizeHint());
+    QTest::mouseClick(pBytes, Qt::LeftButton, Qt::NoModifier, pBytes->ByteRect(0x37).center());
+    QCOMPARE(pBytes->Marked(), (QVector<int>{0x36, 0x37}));
+}
+
+void TestMainWindow::TheJournalShowsAndFiltersCalls()
+{
+    CWorkbenchFixture workbench;
+    CSimulator::Instance().Journal().Clear();
+    SJournalEntry entry;
+    entry.strOperation = QStringLiteral("SetOutput50Hz");
+    CSimulator::Instance().Journal().Append(entry);
+    entry.strOperation = QStringLiteral("GetSenderType");
+    CSimulator::Instance().Journal().Append(entry);
+    workbench.window.Journal().SetFilterText(QStringLiteral("50Hz"));
+    QCOMPARE(workbench.window.Journal().ShownLines().count(QLatin1Char('\n')), 0);
+    QVERIFY(workbench.window.Journal().ShownLines().contains(QStringLiteral("SetOutput50Hz")));
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "TestMainWindow.moc"

@@ -1,0 +1,536 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="zh_CN">
+<context>
+    <name>CCustomDialog</name>
+    <message>
+        <source>分辨率的宽或高不能小于%1。</source>
+        <translation>Width and height must be at least %1.</translation>
+    </message>
+    <message>
+        <source>分辨率的宽不能大于%1。</source>
+        <translation>The width may be at most %1.</translation>
+    </message>
+    <message>
+        <source>分辨率的高不能大于%1。</source>
+        <translation>The height may be at most %1.</translation>
+    </message>
+    <message>
+        <source>此帧率下分辨率的面积不能大于%1。</source>
+        <translation>At this rate the area may be at most %1.</translation>
+    </message>
+    <message>
+        <source>像素时钟%1MHz超过接口的最大值%2MHz。</source>
+        <translation>The pixel clock of %1 MHz is above the input&apos;s maximum of %2 MHz.</translation>
+    </message>
+    <message>
+        <source>已使用DisplayID 1.3扩展块</source>
+        <translation>A DisplayID 1.3 extension block is in use</translation>
+    </message>
+    <message>
+        <source>此接口不支持需要EDID扩展块的分辨率。</source>
+        <translation>This input has no modes that need an EDID extension block.</translation>
+    </message>
+</context>
+<context>
+    <name>CEdidFieldText</name>
+    <message>
+        <source>%1 像素</source>
+        <translation>%1 pixels</translation>
+    </message>
+    <message>
+        <source>%1 行</source>
+        <translation>%1 lines</translation>
+    </message>
+    <message>
+        <source>正确</source>
+        <translation>good</translation>
+    </message>
+    <message>
+        <source>错误</source>
+        <translation>wrong</translation>
+    </message>
+    <message>
+        <source>%1 %2 %3（不是字母）</source>
+        <translation>%1 %2 %3 (no letters)</translation>
+    </message>
+    <message>
+        <source>%1 年</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>%1 年第 %2 周</source>
+        <translation>%1, week %2</translation>
+    </message>
+    <message>
+        <source>数字</source>
+        <translation>digital</translation>
+    </message>
+    <message>
+        <source>模拟</source>
+        <translation>analogue</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>第一个详细时序为首选</source>
+        <translation>preferred timing is the first detailed one</translation>
+    </message>
+    <message>
+        <source>没有首选时序</source>
+        <translation>no preferred timing</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>水平 %1，垂直 %2</source>
+        <translation>horizontal %1, vertical %2</translation>
+    </message>
+    <message>
+        <source>产品</source>
+        <translation>Product</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Display</translation>
+    </message>
+    <message>
+        <source>色度</source>
+        <translation>Chromaticities</translation>
+    </message>
+    <message>
+        <source>时序</source>
+        <translation>Timings</translation>
+    </message>
+    <message>
+        <source>详细时序</source>
+        <translation>Detailed timing</translation>
+    </message>
+    <message>
+        <source>描述符</source>
+        <translation>Descriptors</translation>
+    </message>
+    <message>
+        <source>结尾</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>标头</source>
+        <translation>Header</translation>
+    </message>
+    <message>
+        <source>制造商</source>
+        <translation>Manufacturer</translation>
+    </message>
+    <message>
+        <source>产品代码</source>
+        <translation>Product code</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Serial number</translation>
+    </message>
+    <message>
+        <source>制造时间</source>
+        <translation>Manufactured</translation>
+    </message>
+    <message>
+        <source>EDID 版本</source>
+        <translation>EDID version</translation>
+    </message>
+    <message>
+        <source>输入</source>
+        <translation>Input</translation>
+    </message>
+    <message>
+        <source>物理尺寸</source>
+        <translation>Physical size</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>特性</source>
+        <translation>Features</translation>
+    </message>
+    <message>
+        <source>红</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>既定时序</source>
+        <translation>Established timings</translation>
+    </message>
+    <message>
+        <source>标准时序</source>
+        <translation>Standard timings</translation>
+    </message>
+    <message>
+        <source>像素时钟</source>
+        <translation>Pixel clock</translation>
+    </message>
+    <message>
+        <source>宽</source>
+        <translation>Width</translation>
+    </message>
+    <message>
+        <source>水平消隐</source>
+        <translation>Horizontal blanking</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>Height</translation>
+    </message>
+    <message>
+        <source>垂直消隐</source>
+        <translation>Vertical blanking</translation>
+    </message>
+    <message>
+        <source>水平前肩</source>
+        <translation>Horizontal front porch</translation>
+    </message>
+    <message>
+        <source>水平同步</source>
+        <translation>Horizontal sync</translation>
+    </message>
+    <message>
+        <source>垂直前肩</source>
+        <translation>Vertical front porch</translation>
+    </message>
+    <message>
+        <source>垂直同步</source>
+        <translation>Vertical sync</translation>
+    </message>
+    <message>
+        <source>同步极性</source>
+        <translation>Sync polarity</translation>
+    </message>
+    <message>
+        <source>序列文本</source>
+        <translation>Serial text</translation>
+    </message>
+    <message>
+        <source>显示器名称</source>
+        <translation>Display name</translation>
+    </message>
+    <message>
+        <source>垂直频率</source>
+        <translation>Vertical rates</translation>
+    </message>
+    <message>
+        <source>水平频率</source>
+        <translation>Horizontal rates</translation>
+    </message>
+    <message>
+        <source>最大像素时钟</source>
+        <translation>Maximum pixel clock</translation>
+    </message>
+    <message>
+        <source>扩展块</source>
+        <translation>Extensions</translation>
+    </message>
+    <message>
+        <source>校验和</source>
+        <translation>Checksum</translation>
+    </message>
+</context>
+<context>
+    <name>CEdidPage</name>
+    <message>
+        <source>没有设置：对话框以默认值打开</source>
+        <translation>No setting: the dialog opens with its defaults</translation>
+    </message>
+    <message>
+        <source>EDID</source>
+        <translation>EDID</translation>
+    </message>
+    <message>
+        <source>只提供低帧率</source>
+        <translation>Low rates only</translation>
+    </message>
+    <message>
+        <source>对话框不提供 50 Hz 以上的帧率</source>
+        <translation>The dialog offers no rate above 50 Hz</translation>
+    </message>
+    <message>
+        <source>编辑 EDID...</source>
+        <translation>Edit EDID...</translation>
+    </message>
+    <message>
+        <source>保存块...</source>
+        <translation>Save block...</translation>
+    </message>
+    <message>
+        <source>字段</source>
+        <translation>Field</translation>
+    </message>
+    <message>
+        <source>值</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>EDID 字节</source>
+        <translation>EDID bytes</translation>
+    </message>
+    <message>
+        <source>请选择一个输入</source>
+        <translation>Choose an input</translation>
+    </message>
+    <message>
+        <source>EDID 存储器没有变化。</source>
+        <translation>The EDID memory has not changed.</translation>
+    </message>
+    <message>
+        <source>EDID 存储器更改了 %1 个字节（以颜色标出）。</source>
+        <translation>%1 bytes of the EDID memory have changed (shown in colour).</translation>
+    </message>
+    <message>
+        <source>当前模式：%1</source>
+        <translation>Mode in force: %1</translation>
+    </message>
+    <message>
+        <source>保存 EDID 块</source>
+        <translation>Save EDID block</translation>
+    </message>
+    <message>
+        <source>EDID 块 (*.bin);;所有文件 (*)</source>
+        <translation>EDID blocks (*.bin);;All files (*)</translation>
+    </message>
+    <message>
+        <source>已保存 %1</source>
+        <translation>Saved %1</translation>
+    </message>
+    <message>
+        <source>无法写入 %1：%2。请选择别的位置。</source>
+        <translation>%1 cannot be written: %2. Choose another place.</translation>
+    </message>
+    <message>
+        <source>EDID 存储器原来是空的，已写入 128 个字节。</source>
+        <translation>The EDID memory was empty; 128 bytes have been written.</translation>
+    </message>
+</context>
+<context>
+    <name>CJournalDock</name>
+    <message>
+        <source>主机调用记录</source>
+        <translation>Host calls</translation>
+    </message>
+    <message>
+        <source>筛选</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>显示读取</source>
+        <translation>Show reads</translation>
+    </message>
+    <message>
+        <source>复制</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Clear</translation>
+    </message>
+</context>
+<context>
+    <name>CMainWindow</name>
+    <message>
+        <source>工程</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>工程(&amp;P)</source>
+        <translation>&amp;Project</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>New</translation>
+    </message>
+    <message>
+        <source>演示发送器</source>
+        <translation>Demo senders</translation>
+    </message>
+    <message>
+        <source>所有类型的发送器</source>
+        <translation>Senders of all types</translation>
+    </message>
+    <message>
+        <source>空工程</source>
+        <translation>Empty project</translation>
+    </message>
+    <message>
+        <source>打开...</source>
+        <translation>Open...</translation>
+    </message>
+    <message>
+        <source>最近的工程</source>
+        <translation>Recent projects</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>另存为...</source>
+        <translation>Save as...</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>没有</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>发送器(&amp;S)</source>
+        <translation>&amp;Senders</translation>
+    </message>
+    <message>
+        <source>添加</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>删除所选的发送器</source>
+        <translation>Remove the selected sender</translation>
+    </message>
+    <message>
+        <source>视图(&amp;V)</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>语言(&amp;L)</source>
+        <translation>&amp;Language</translation>
+    </message>
+    <message>
+        <source>未命名</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>发送器工作台</source>
+        <translation>Sender Workbench</translation>
+    </message>
+</context>
+<context>
+    <name>CProjectActions</name>
+    <message>
+        <source>工程 (*.json);;所有文件 (*)</source>
+        <translation>Projects (*.json);;All files (*)</translation>
+    </message>
+    <message>
+        <source>打开工程</source>
+        <translation>Open project</translation>
+    </message>
+    <message>
+        <source>无法打开工程。
+%1</source>
+        <translation>The project cannot be opened.
+%1</translation>
+    </message>
+    <message>
+        <source>已打开 %1</source>
+        <translation>Opened %1</translation>
+    </message>
+    <message>
+        <source>保存工程</source>
+        <translation>Save project</translation>
+    </message>
+    <message>
+        <source>无法保存工程。
+%1</source>
+        <translation>The project cannot be saved.
+%1</translation>
+    </message>
+    <message>
+        <source>原有文件不是可读的工程，已另存为 %1。</source>
+        <translation>The file that was there is no readable project; it is kept as %1.</translation>
+    </message>
+    <message>
+        <source>已保存 %1</source>
+        <translation>Saved %1</translation>
+    </message>
+    <message>
+        <source>未保存的更改</source>
+        <translation>Unsaved changes</translation>
+    </message>
+    <message>
+        <source>工程有未保存的更改。要保存吗？</source>
+        <translation>The project has unsaved changes. Save them?</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>不保存</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>工程</source>
+        <translation>Project</translation>
+    </message>
+</context>
+<context>
+    <name>CSenderTree</name>
+    <message>
+        <source>写入失败</source>
+        <translation>writes fail</translation>
+    </message>
+    <message>
+        <source>慢</source>
+        <translation>slow</translation>
+    </message>
+    <message>
+        <source>正常</source>
+        <translation>good</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>没有设置</source>
+        <translation>no setting</translation>
+    </message>
+    <message>
+        <source>发送器</source>
+        <translation>Sender</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>State</translation>
+    </message>
+</context>
+<context>
+    <name>CSimulatorText</name>
+    <message>
+        <source>Input %1</source>
+        <translation>输入 %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,111 @@
+#include "workbench/JournalDock.h"
+
+#include "simulator/CommonClass/Simulator.h"
+#include "workbench/JournalFilter.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+CJournalDock::CJournalDock(QWidget* pParent)
+    : QDockWidget(pParent)
+    , m_pFilter(new CJournalFilter(this))
+{
+    setObjectName(QStringLiteral("journalDock"));
+    m_pFilter->setSourceModel(&CSimulator::Instance().Journal());
+    auto* pContent = new QWidget(this);
+    auto* pLayout = new QVBoxLayout(pContent);
+    pLayout->setContentsMargins(4, 4, 4, 4);
+    pLayout->addWidget(CreateBar());
+    pLayout->addWidget(CreateTable());
+    setWidget(pContent);
+    Retranslate();
+}
+
+QWidget* CJournalDock::CreateBar()
+{
+    auto* pBar = new QWidget(this);
+    m_pText = new QLineEdit(pBar);
+    m_pText->setClearButtonEnabled(true);
+    m_pReads = new QCheckBox(pBar);
+    m_pReads->setChecked(true);
+    m_pCopy = new QPushButton(pBar);
+    m_pClear = new QPushButton(pBar);
+    auto* pLayout = new QHBoxLayout(pBar);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(m_pText, 1);
+    pLayout->addWidget(m_pReads);
+    pLayout->addWidget(m_pCopy);
+    pLayout->addWidget(m_pClear);
+    connect(m_pText, &QLineEdit::textChanged, m_pFilter, &CJournalFilter::SetText);
+    connect(m_pReads, &QCheckBox::toggled, m_pFilter, &CJournalFilter::SetReadsShown);
+    connect(m_pCopy, &QPushButton::clicked, this, &CJournalDock::CopySelected);
+    connect(m_pClear, &QPushButton::clicked, this, [] { CSimulator::Instance().Journal().Clear(); });
+    return pBar;
+}
+
+QWidget* CJournalDock::CreateTable()
+{
+    m_pTable = new QTableView(this);
+    m_pTable->setModel(m_pFilter);
+    m_pTable->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_pTable->setAlternatingRowColors(true);
+    m_pTable->setWordWrap(false);
+    m_pTable->verticalHeader()->hide();
+    m_pTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    m_pTable->horizontalHeader()->setSectionResizeMode(CHostJournal::enColumnCall, QHeaderView::Stretch);
+    auto* pCopyAction = new QAction(m_pTable);
+    pCopyAction->setShortcut(QKeySequence::Copy);
+    pCopyAction->setShortcutContext(Qt::WidgetShortcut);
+    m_pTable->addAction(pCopyAction);
+    connect(pCopyAction, &QAction::triggered, this, &CJournalDock::CopySelected);
+    connect(m_pFilter, &QAbstractItemModel::rowsInserted, m_pTable, &QTableView::scrollToBottom);
+    return m_pTable;
+}
+
+void CJournalDock::Retranslate()
+{
+    setWindowTitle(tr("主机调用记录"));
+    m_pText->setPlaceholderText(tr("筛选"));
+    m_pReads->setText(tr("显示读取"));
+    m_pCopy->setText(tr("复制"));
+    m_pClear->setText(tr("清空"));
+}
+
+void CJournalDock::SetFilterText(const QString& strText)
+{
+    m_pText->setText(strText);
+}
+
+QString CJournalDock::Lines(const QModelIndexList& listRows) const
+{
+    QStringList listLines;
+    for (const QModelIndex& index : listRows)
+        listLines.append(index.data(CHostJournal::enRoleLine).toString());
+    return listLines.join(QLatin1Char('\n'));
+}
+
+QString CJournalDock::ShownLines() const
+{
+    QModelIndexList listRows;
+    for (int i = 0; i < m_pFilter->rowCount(); ++i)
+        listRows.append(m_pFilter->index(i, 0));
+    return Lines(listRows);
+}
+
+void CJournalDock::CopySelected()
+{
+    QModelIndexList listRows = m_pTable->selectionModel()->selectedRows();
+    std::sort(listRows.begin(), listRows.end());
+    // Nothing selected: everything that is shown.
+    QGuiApplication::clipboard()->setText(listRows.isEmpty() ? ShownLines() : Lines(listRows));
+}

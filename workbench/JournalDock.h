@@ -1,0 +1,42 @@
+#ifndef WORKBENCH_JOURNALDOCK_H
+#define WORKBENCH_JOURNALDOCK_H
+
+#include <QDockWidget>
+#include <QModelIndexList>
+
+class CJournalFilter;
+class QCheckBox;
+class QLineEdit;
+class QPushButton;
+class QTableView;
+
+/// Shows every host call in order: filtered by text and kind, and copied to the clipboard as lines.
+class CJournalDock : public QDockWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CJournalDock(QWidget* pParent = nullptr);
+
+    /// Puts all texts into the current language.
+    void Retranslate();
+    /// The calls that are shown, one a line.
+    QString ShownLines() const;
+    /// Shows only calls that hold the text.
+    void SetFilterText(const QString& strText);
+
+private:
+    QWidget* CreateBar();
+    QWidget* CreateTable();
+    void CopySelected();
+    QString Lines(const QModelIndexList& listRows) const;
+
+    CJournalFilter* m_pFilter = nullptr;
+    QLineEdit* m_pText = nullptr;
+    QCheckBox* m_pReads = nullptr;
+    QPushButton* m_pCopy = nullptr;
+    QPushButton* m_pClear = nullptr;
+    QTableView* m_pTable = nullptr;
+};
+
+#endif // WORKBENCH_JOURNALDOCK_H

@@ -1,0 +1,32 @@
+#ifndef WORKBENCH_SENDERTREE_H
+#define WORKBENCH_SENDERTREE_H
+
+#include "workbench/WorkbenchPage.h"
+
+#include <QTreeWidget>
+
+/// The senders of the simulated project with their inputs: name, type code or interface id, state.
+class CSenderTree : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CSenderTree(QWidget* pParent = nullptr);
+
+    SSelection Selection() const;
+    /// Selects a sender or input; a selection that is not there selects the first sender.
+    void Select(const SSelection& selection);
+    /// Puts all texts into the current language.
+    void Retranslate();
+
+Q_SIGNALS:
+    void SelectionMoved(const SSelection& selection);
+
+private:
+    void Rebuild();
+    void Refresh();
+    bool HasProjectShape() const;
+    QTreeWidgetItem* Find(const SSelection& selection) const;
+};
+
+#endif // WORKBENCH_SENDERTREE_H

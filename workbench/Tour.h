@@ -1,0 +1,52 @@
+#ifndef WORKBENCH_TOUR_H
+#define WORKBENCH_TOUR_H
+
+#include <QObject>
+#include <QStringList>
+
+#include <functional>
+
+class QDialog;
+class QWidget;
+
+/// A walk through the workbench that leaves a picture of each window and notes what went wrong.
+class CTour : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param strFolder where the pictures go; created when it is not there
+    explicit CTour(const QString& strFolder);
+    ~CTour() override;
+
+    QString Folder() const { return m_strFolder; }
+    /// Put before the name of each picture from now on: the language, the page.
+    void SetPrefix(const QString& strPrefix) { m_strPrefix = strPrefix; }
+
+    /// Lays out and paints a window and saves its picture under `prefix-name.png`.
+    void Picture(QWidget* pWindow, const QString& strName);
+    /// Notes a failure unless the condition holds.
+    void Check(bool bHolds, const QString& strWhat);
+    /// Shows a dialog without blocking, lets the action look at it and operate it, and closes it.
+    void WithDialog(QDialog& dialog, const std::function<void()>& funcAction);
+    /// Runs an action that shows a modal message; the message's picture is saved under the name, and the
+    /// button of `CCustomMessageBox` with that value is pressed.
+    void WithMessage(const QString& strName, int nButton, const std::function<void()>& funcAction);
+
+    QStringList Failures() const { return m_listFailures; }
+    QStringList Pictures() const { return m_listPictures; }
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
+private:
+    void AnswerMessage(QDialog* pMessage);
+
+    QString m_strFolder;
+    QString m_strPrefix;
+    QString m_strMessageName;
+    int m_nMessageButton = 0;
+    QStringList m_listFailures;
+    QStringList m_listPictures;
+};
+
+#endif // WORKBENCH_TOUR_H

@@ -1,0 +1,83 @@
+#include "workbench/Workbench.h"
+
+#include "SenderModuleDialog/SenderModuleDialogInit.h"
+#include "simulator/CommonClass/Simulator.h"
+#include "workbench/MainWindow.h"
+#include "workbench/ProjectActions.h"
+#include "workbench/Tour.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLocale>
+#include <QSettings>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+enLanguage LanguageOf(const SWorkbenchOptions& options, const QSettings& settings)
+{
+    const QString strCode = options.strLanguage.isEmpty()
+                                ? settings.value(QStringLiteral("language")).toString()
+                                : options.strLanguage;
+    return CLanguage::ForLocale(strCode.isEmpty() ? QLocale::system().name() : strCode);
+}
+
+/// What the tour leaves beside its pictures: the project as it was saved and opened again, and a block.
+void LeaveFiles(CTour& tour, CMainWindow& window)
+{
+    const QString strFile = QDir(tour.Folder()).filePath(QStringLiteral("project.json"));
+    tour.Check(window.Project().SaveAs(strFile),
+               QStringLiteral("the project cannot be saved as %1").arg(strFile));
+    SFileProblem problem;
+    tour.Check(CSimulator::Instance().Open(strFile, problem), problem.Text());
+}
+
+int Report(const CTour& tour)
+{
+    for (const QString& strFailure : tour.Failures())
+        std::fprintf(stderr, "sender-workbench: %s\n", qPrintable(strFailure));
+    std::printf("%d pictures in %s, %d failures\n", int(tour.Pictures().size()), qPrintable(tour.Folder()),
+                int(tour.Failures().size()));
+    return tour.Failures().isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+} // namespace
+
+int RunWorkbench(const SWorkbenchOptions& options)
+{
+    QSettings settings;
+    CLanguage language;
+    language.Set(LanguageOf(options, settings));
+    SenderModuleDialogInit(CSimulator::Instance().Label());
+    CMainWindow window(language, settings);
+    if (options.strFile.isEmpty())
+        window.Project().OpenLast();
+    else if (!window.Project().Open(options.strFile))
+        CSimulator::Instance().NewProject();
+    window.show();
+    return QApplication::exec();
+}
+
+int RunTour(const SWorkbenchOptions& options)
+{
+    // A tour neither reads nor writes what the operator's workbench remembers.
+    CTour tour(options.strTourFolder);
+    QSettings settings(QDir(options.strTourFolder).filePath(QStringLiteral("settings.ini")),
+                       QSettings::IniFormat);
+    settings.clear();
+    SenderModuleDialogInit(CSimulator::Instance().Label());
+    CLanguage language;
+    for (const enLanguage current : {enLanguage::Chinese, enLanguage::English}) {
+        language.Set(current);
+        tour.SetPrefix(CLanguage::Code(current));
+        CSimulator::Instance().NewProject();
+        CMainWindow window(language, settings);
+        window.show();
+        window.Tour(tour);
+        if (current == enLanguage::English)
+            LeaveFiles(tour, window);
+    }
+    return Report(tour);
+}

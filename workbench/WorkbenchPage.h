@@ -1,0 +1,44 @@
+#ifndef WORKBENCH_WORKBENCHPAGE_H
+#define WORKBENCH_WORKBENCHPAGE_H
+
+#include <QWidget>
+
+class CTour;
+
+/// What is selected in the tree of senders.
+struct SSelection
+{
+    int nSender = -1;      ///< index of the sender, -1 for none
+    int nInterfaceId = -1; ///< video interface of that sender, -1 when the sender itself is selected
+
+    bool HasSender() const { return nSender >= 0; }
+    bool HasInput() const { return HasSender() && nInterfaceId >= 0; }
+};
+
+/// One page of the workbench: a view of the selected sender or input with the dialogs that belong to it.
+class CWorkbenchPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CWorkbenchPage(QWidget* pParent = nullptr)
+        : QWidget(pParent)
+    {}
+
+    /// The page's title in the current language.
+    virtual QString Title() const = 0;
+    /// Shows another sender or input.
+    virtual void ShowSelection(const SSelection& selection) = 0;
+    /// Puts all texts into the current language.
+    virtual void Retranslate() = 0;
+    /// Walks through what the page offers. The workbench's window is given to take pictures of.
+    virtual void Tour(CTour& tour, QWidget* pWorkbench) = 0;
+
+Q_SIGNALS:
+    /// One line for the status bar: what has just happened.
+    void Reported(const QString& strText);
+    /// Another sender or input is to be selected in the tree.
+    void SelectionWanted(const SSelection& selection);
+};
+
+#endif // WORKBENCH_WORKBENCHPAGE_H

@@ -1,0 +1,63 @@
+#ifndef WORKBENCH_EDID_EDIDPAGE_H
+#define WORKBENCH_EDID_EDIDPAGE_H
+
+#include "workbench/WorkbenchPage.h"
+#include "workbench/edid/EdidFields.h"
+
+class CEdidMemoryUpdater;
+class CHexView;
+class QCheckBox;
+class QLabel;
+class QPushButton;
+class QTreeWidget;
+struct SSimulatedInput;
+
+/// The EDID of the selected input: the mode in force, the memory as decoded fields beside its bytes, the
+/// dialog that changes it, and what the last change did.
+class CEdidPage : public CWorkbenchPage
+{
+    Q_OBJECT
+
+public:
+    explicit CEdidPage(QWidget* pParent = nullptr);
+
+    QString Title() const override;
+    void ShowSelection(const SSelection& selection) override;
+    void Retranslate() override;
+    void Tour(CTour& tour, QWidget* pWorkbench) override;
+
+    /// Saves the block that is shown.
+    /// @return false when the file could not be written; the status line tells why
+    bool SaveBlock(const QString& strFile);
+
+private:
+    QWidget* CreateHead();
+    QWidget* CreateMemoryView();
+    const SSimulatedInput* Input() const;
+    void EditEdid();
+    void ChooseFileAndSave();
+    void Refresh();
+    void ShowBlock(const QByteArray& block);
+    void ShowFields(const QByteArray& block);
+    void ShowChange(const QByteArray& blockBefore, const QByteArray& blockAfter);
+    void MarkSelectedField();
+    void SelectFieldOfByte(int nOffset);
+    void TourOfDialog(CTour& tour);
+    void AcceptMode(CTour& tour, int nResolution);
+    void TourOfFailure(CTour& tour);
+    void TourOfSenders(CTour& tour);
+
+    SSelection m_selection;
+    QVector<SEdidField> m_vecFields;
+    CEdidMemoryUpdater* m_pUpdater = nullptr;
+    QLabel* m_pInput = nullptr;
+    QLabel* m_pMode = nullptr;
+    QLabel* m_pChange = nullptr;
+    QCheckBox* m_pLowRates = nullptr;
+    QPushButton* m_pEdit = nullptr;
+    QPushButton* m_pSave = nullptr;
+    QTreeWidget* m_pFields = nullptr;
+    CHexView* m_pBytes = nullptr;
+};
+
+#endif // WORKBENCH_EDID_EDIDPAGE_H

@@ -1,0 +1,111 @@
+#include "SenderModuleDialog/edid/EdidSetDlg.h"
+#include "simulator/CommonClass/Simulator.h"
+#include "workbench/Tour.h"
+#include "workbench/edid/EdidPage.h"
+#include "workbench/edid/HexView.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTimer>
+
+namespace {
+
+constexpr int c_nChosenResolution = 2; ///< entry of the resolution menu that the tour picks, 0 being custom
+constexpr int c_nProgressTime = 300;   ///< ms after OK at which the progress is half-way enough for a picture
+
+SSelection FirstInput()
+{
+    const SSimulatedSender* pSender = CSimulator::Instance().Project().FindSender(0);
+    if (pSender == nullptr || pSender->listInputs.empty())
+        return {};
+    return {0, pSender->listInputs.front().nInterfaceId};
+}
+
+void Invoke(QDialog& dialog, const char* szSlot)
+{
+    QMetaObject::invokeMethod(&dialog, szSlot);
+}
+
+void PictureOfProgress(CTour& tour, QDialog& dialog)
+{
+    if (auto* pProgress = dialog.findChild<QProgressDialog*>())
+        tour.Picture(pProgress, QStringLiteral("edid-progress"));
+}
+
+} // namespace
+
+void CEdidPage::TourOfDialog(CTour& tour)
+{
+    // The first write fills an empty memory; the second shows what a change of mode changes.
+    AcceptMode(tour, 0);
+    CEdidSetDlg dialog(this, m_selection.nInterfaceId, false);
+    tour.WithDialog(dialog, [&] {
+        tour.Picture(&dialog, QStringLiteral("edid-dialog"));
+        QMetaObject::invokeMethod(&dialog, "OnResolutionComboBoxSelect", Q_ARG(int, 0));
+        tour.Picture(&dialog, QStringLiteral("edid-dialog-custom"));
+    });
+    AcceptMode(tour, c_nChosenResolution);
+}
+
+void CEdidPage::AcceptMode(CTour& tour, int nResolution)
+{
+    CEdidSetDlg dialog(this, m_selection.nInterfaceId, false);
+    tour.WithDialog(dialog, [&] {
+        QMetaObject::invokeMethod(&dialog, "OnResolutionComboBoxSelect", Q_ARG(int, nResolution));
+        QTimer::singleShot(c_nProgressTime, &dialog, [&] { PictureOfProgress(tour, dialog); });
+        Invoke(dialog, "OnOKPushButtonClicked");
+    });
+    tour.Check(dialog.result() == QDialog::Accepted, QStringLiteral("the EDID dialog did not accept"));
+}
+
+void CEdidPage::TourOfSenders(CTour& tour)
+{
+    CSimulator& simulator = CSimulator::Instance();
+    simulator.NewCatalogueProject();
+    const int nSenders = int(simulator.Project().listSenders.size());
+    for (int nSender = 0; nSender < nSenders; ++nSender) {
+        const SSimulatedSender* pSender = simulator.Project().FindSender(nSender);
+        if (pSender->listInputs.empty())
+            continue;
+        simulator.SetCurrentSender(nSender);
+        CEdidSetDlg dialog(this, pSender->listInputs.front().nInterfaceId, false);
+        tour.WithDialog(dialog, [&] {
+            tour.Picture(&dialog, QStringLiteral("edid-type%1").arg(pSender->capability.nType));
+        });
+    }
+    simulator.NewProject();
+}
+
+void CEdidPage::TourOfFailure(CTour& tour)
+{
+    CSimulator& simulator = CSimulator::Instance();
+    const int nSender = m_selection.nSender;
+    simulator.Change(
+        [nSender](SSimulatedProject& project) { project.FindSender(nSender)->faults.nEdidWriteResult = 1; });
+    CEdidSetDlg dialog(this, m_selection.nInterfaceId, false);
+    tour.WithMessage(QStringLiteral("edid-write-failed"), 1,
+                     [&] { tour.WithDialog(dialog, [&] { Invoke(dialog, "OnOKPushButtonClicked"); }); });
+    tour.Check(!dialog.IsSetSuccessed(), QStringLiteral("a write that failed was reported as good"));
+    simulator.Change(
+        [nSender](SSimulatedProject& project) { project.FindSender(nSender)->faults.nEdidWriteResult = 0; });
+}
+
+void CEdidPage::Tour(CTour& tour, QWidget* pWorkbench)
+{
+    TourOfSenders(tour);
+    Q_EMIT SelectionWanted(FirstInput());
+    tour.Check(Input() != nullptr, QStringLiteral("the project has no input"));
+    if (Input() == nullptr)
+        return;
+    tour.Picture(pWorkbench, QStringLiteral("edid-before"));
+    TourOfDialog(tour);
+    tour.Check(Input()->baEdid.size() == EdidFields::c_nBlockSize,
+               QStringLiteral("the EDID memory holds no block after the dialog"));
+    tour.Check(m_pBytes->Bytes() == Input()->baEdid, QStringLiteral("the page shows another block"));
+    tour.Picture(pWorkbench, QStringLiteral("edid-after"));
+    const QString strFile = QDir(tour.Folder()).filePath(QStringLiteral("edid.bin"));
+    tour.Check(SaveBlock(strFile), QStringLiteral("the block cannot be saved as %1").arg(strFile));
+    TourOfFailure(tour);
+}

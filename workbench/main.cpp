@@ -1,0 +1,67 @@
+#include "simulator/OrviControl/Theme.h"
+#include "workbench/Workbench.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QStyleFactory>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr int c_nUsageError = 2; ///< exit status of a wrong call
+
+/// Reads the command line; ends the program on --help and on a wrong call.
+SWorkbenchOptions ReadOptions(const QApplication& application)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Sets up simulated LED-display senders with the dialogs of SenderModuleDialog."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption tourOption(
+        QStringLiteral("tour"), QStringLiteral("Walk through the workbench and save pictures to <folder>."),
+        QStringLiteral("folder"));
+    const QCommandLineOption languageOption(QStringLiteral("language"), QStringLiteral("Language: zh or en."),
+                                            QStringLiteral("language"));
+    parser.addOptions({tourOption, languageOption});
+    parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("Project to open."),
+                                 QStringLiteral("[file]"));
+
+    QString strError;
+    if (!parser.parse(application.arguments()))
+        strError = parser.errorText();
+    else if (parser.positionalArguments().size() > 1)
+        strError = QStringLiteral("More than one project file was given.");
+    else if (parser.isSet(languageOption) &&
+             !QStringList{QStringLiteral("zh"), QStringLiteral("en")}.contains(parser.value(languageOption)))
+        strError = QStringLiteral("There is no language '%1'; there are zh and en.")
+                       .arg(parser.value(languageOption));
+    if (!strError.isEmpty()) {
+        std::fprintf(stderr, "sender-workbench: %s See sender-workbench --help.\n", qPrintable(strError));
+        std::exit(c_nUsageError);
+    }
+    if (parser.isSet(QStringLiteral("help")))
+        parser.showHelp();
+    if (parser.isSet(QStringLiteral("version")))
+        parser.showVersion();
+    return {parser.positionalArguments().value(0), parser.value(tourOption), parser.value(languageOption)};
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("sender-workbench"));
+    QApplication::setOrganizationName(QStringLiteral("SenderModuleDialog"));
+    QApplication::setApplicationVersion(QStringLiteral(SENDER_VERSION));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(Theme::Palette());
+    QApplication::setFont(Theme::Font());
+    const SWorkbenchOptions options = ReadOptions(application);
+    return options.strTourFolder.isEmpty() ? RunWorkbench(options) : RunTour(options);
+}
