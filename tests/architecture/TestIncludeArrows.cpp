@@ -98,10 +98,9 @@ const std::vector<SLayer>& Layers()
 const QStringList& QtValues()
 {
     static const QStringList s_listValues = {
-        L("QByteArray"), L("QLatin1Char"), L("QLatin1String"), L("QLine"),   L("QLineF"),       L("QList"),
-        L("QMap"),       L("QPair"),       L("QPoint"),        L("QPointF"), L("QPolygonF"),    L("QRectF"),
-        L("QSize"),      L("QSizeF"),      L("QString"),       L("QVector"), L("QtAlgorithms"), L("QtEndian"),
-        L("QtGlobal"),   L("QtNumeric"),   L("QtMath")};
+        L("QByteArray"), L("QLatin1Char"), L("QLatin1String"), L("QLine"),   L("QLineF"),    L("QList"),
+        L("QMap"),       L("QPair"),       L("QPoint"),        L("QPointF"), L("QPolygonF"), L("QRectF"),
+        L("QSize"),      L("QSizeF"),      L("QString"),       L("QVector"), L("QtGlobal"),  L("QtMath")};
     return s_listValues;
 }
 
