@@ -1,5 +1,8 @@
 #include "tools/Arguments.h"
+#include "tools/CctCommand.h"
 #include "tools/EdidCommand.h"
+#include "tools/GamutCommand.h"
+#include "tools/LocusCommand.h"
 #include "tools/Output.h"
 #include "tools/Report.h"
 #include "tools/TimingCommand.h"
@@ -24,8 +27,7 @@ using Subcommands = std::vector<SSubcommand>;
 Subcommands AllSubcommands()
 {
     return {
-        EdidSubcommand(),
-        TimingSubcommand(),
+        EdidSubcommand(), TimingSubcommand(), CctSubcommand(), GamutSubcommand(), LocusSubcommand(),
     };
 }
 
