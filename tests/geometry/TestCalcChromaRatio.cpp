@@ -144,6 +144,8 @@ void TestCalcChromaRatio::TheOutlineIsCollectedInOrder_data()
     QTest::newRow("crossings come first, by a's edges and then by b's")
         << Triangle{{0, 0}, {8, 0}, {4, 8}} << Triangle{{2, -2}, {6, -2}, {4, 4}}
         << Split("5.33333,0 2.66667,0 4,4");
+    QTest::newRow("of corners with one number b's comes before a's")
+        << Triangle{{0, 0}, {4, 0}, {0, 4}} << Triangle{{1, 1}, {-3, 1}, {1, -3}} << Split("1,0 0,1 1,1 0,0");
     QTest::newRow("a corner on an edge is there once")
         << Triangle{{0, 0}, {4, 0}, {0, 4}} << Triangle{{2, 0}, {3, -2}, {1, -2}} << Split("2,0");
 }
