@@ -17,7 +17,7 @@ enum enJournalCategory
 };
 
 /// One host call.
-struct SJournalEntry
+struct COMMONCLASS_EXPORT SJournalEntry
 {
     qint64 nNumber = 0;    ///< running number, from 1; goes on after a clear
     qint64 nTimeStamp = 0; ///< start of the call, ms since 1970-01-01 UTC

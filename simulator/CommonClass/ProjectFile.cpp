@@ -17,7 +17,7 @@ const QString c_strVersionKey = QStringLiteral("version");
 const QString c_strProjectKey = QStringLiteral("project");
 
 /// A larger file is no project; it is not read into memory.
-constexpr qint64 c_nLargestFile = 64 * 1024 * 1024;
+constexpr qint64 c_nLargestFile = qint64(64) * 1024 * 1024;
 
 void Refuse(SFileProblem& problem, const QString& strWhat, const QString& strAdvice)
 {

@@ -47,10 +47,10 @@ QString LoadVerdict(const SSimulatedInput& input, int nWidth, int nHeight, int n
 QString EdidVerdict(const SSenderCapability& capability, const SSimulatedInput& input, int nWidth,
                     int nHeight, int nLimit)
 {
-    const QString strSide = SideVerdict(input, nWidth, nHeight);
+    QString strSide = SideVerdict(input, nWidth, nHeight);
     if (!strSide.isEmpty())
         return strSide;
-    const QString strLoad = LoadVerdict(input, nWidth, nHeight, nLimit);
+    QString strLoad = LoadVerdict(input, nWidth, nHeight, nLimit);
     if (!strLoad.isEmpty() || !NeedsExtensionBlock(input, nWidth, nHeight, nLimit))
         return strLoad;
     // The dialog compares the first of these texts with its own translation to tell the notice from an error.

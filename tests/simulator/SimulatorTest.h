@@ -4,6 +4,7 @@
 #include "simulator/CommonClass/AddressText.h"
 #include "simulator/CommonClass/Simulator.h"
 
+#include <QStandardPaths>
 #include <QtTest>
 
 /// A network for tests: one interface 192.168.1.17/24 behind the gateway 192.168.1.254, and loopback.
@@ -18,9 +19,10 @@ inline SNetworkFacts TestNetwork()
 }
 
 /// Puts the one simulator of the process into a known state: the test network, a project without senders, an
-/// empty journal, no waiting.
+/// empty journal, no waiting, and nothing in the person's own folders.
 inline CSimulator& FreshSimulator()
 {
+    QStandardPaths::setTestModeEnabled(true);
     CSimulator& simulator = CSimulator::Instance();
     simulator.SetNetworkFacts(TestNetwork);
     simulator.SetSleep([](int) {});
