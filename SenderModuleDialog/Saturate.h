@@ -22,11 +22,12 @@ constexpr TTo SaturateTo(TFrom value)
         // value itself may be rounded up to it.
         constexpr TTo c_halfRange = limits::max() / 2 + 1;
         constexpr TFrom c_aboveMax = TFrom(c_halfRange) * 2;
-        if (value != value)
-            return 0;
         if (value >= c_aboveMax)
             return limits::max();
-        return value <= TFrom(limits::min()) ? limits::min() : TTo(value);
+        if (value > TFrom(limits::min()))
+            return TTo(value);
+        // What is no number is not in any order.
+        return value <= TFrom(limits::min()) ? limits::min() : TTo(0);
     } else {
         if (value < 0)
             return std::intmax_t(value) < std::intmax_t(limits::min()) ? limits::min() : TTo(value);

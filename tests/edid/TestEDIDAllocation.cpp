@@ -31,8 +31,8 @@ void TestEDIDAllocation::NoOperationAllocates_data()
     static tagSBlankTiming s_timing;
     static int s_nId;
     QTest::addColumn<std::function<void()>>("operation");
-    const auto Add = [](const char* szName, std::function<void()> operation) {
-        QTest::newRow(szName) << std::move(operation);
+    const auto Add = [](const char* szName, const std::function<void()>& operation) {
+        QTest::newRow(szName) << operation;
     };
     Add("construction", [] { s_edid = CEDIDRaw(); });
     Add("ChangeWH", [] { s_edid.ChangeWH(1920, 1080, 60.0F); });
