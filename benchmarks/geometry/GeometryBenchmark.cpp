@@ -40,7 +40,7 @@ void GetSegmentCross(benchmark::State& state)
 {
     const auto vecPoints = RandomPoints(c_nSegments + 3);
     std::size_t i = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         float fX = 0.0F;
         float fY = 0.0F;
         benchmark::DoNotOptimize(CLine::GetSegmentCross(vecPoints[i], vecPoints[i + 1], vecPoints[i + 2],
@@ -56,7 +56,7 @@ void GetSegmentCross_QLineF(benchmark::State& state)
 {
     const auto vecPoints = RandomPoints(c_nSegments + 3);
     std::size_t i = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const QLineF line(Widened(vecPoints[i]), Widened(vecPoints[i + 1]));
         const QLineF lineOther(Widened(vecPoints[i + 2]), Widened(vecPoints[i + 3]));
         QPointF ptCross;
@@ -72,7 +72,7 @@ void GrahamScan(benchmark::State& state)
     QVector<QPointF> vecPoints;
     for (const CPointEx<float>& pt : RandomPoints(int(state.range(0))))
         vecPoints.append(Widened(pt));
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         CPolygon polygon(vecPoints);
         polygon.GrahamScan();
         benchmark::DoNotOptimize(polygon);
@@ -89,7 +89,7 @@ void CalcChromaRatio(benchmark::State& state)
 {
     Triangle vecA = c_triangleSrgb;
     Triangle vecB = c_triangleNtsc;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         float fRatio = 0.0F;
         CCalcChromaRatio().CalcChromaRatio(vecA, vecB, fRatio);
         benchmark::DoNotOptimize(fRatio);
@@ -106,7 +106,7 @@ void CalcChromaRatio_ClipperInDouble(benchmark::State& state)
 {
     const PlainGeometry::Polygon a = Widened(c_triangleSrgb);
     const PlainGeometry::Polygon b = Widened(c_triangleNtsc);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         double dRatio = PlainGeometry::Area(PlainGeometry::Overlap(a, b)) / PlainGeometry::Area(b);
         benchmark::DoNotOptimize(dRatio);
     }
