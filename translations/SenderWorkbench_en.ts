@@ -2,6 +2,92 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="zh_CN">
 <context>
+    <name>CAddressListModel</name>
+    <message>
+        <source>改为 %1，尚未应用</source>
+        <translation>changed to %1, not yet in force</translation>
+    </message>
+    <message>
+        <source>原为 %1</source>
+        <translation>was %1</translation>
+    </message>
+    <message>
+        <source>原样</source>
+        <translation>as first stored</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>State</translation>
+    </message>
+</context>
+<context>
+    <name>CAddressPage</name>
+    <message>
+        <source>批量添加...</source>
+        <translation>Add a batch...</translation>
+    </message>
+    <message>
+        <source>设置地址...</source>
+        <translation>Set addresses...</translation>
+    </message>
+    <message>
+        <source>修改...</source>
+        <translation>Modify...</translation>
+    </message>
+    <message>
+        <source>恢复原样</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>手动添加主控...</source>
+        <translation>Add processors...</translation>
+    </message>
+    <message>
+        <source>新建演示工程...</source>
+        <translation>New demo project...</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Addresses</translation>
+    </message>
+    <message>
+        <source>要设置的主控数量</source>
+        <translation>Processors to set</translation>
+    </message>
+    <message>
+        <source>检查地址</source>
+        <translation>Check an address</translation>
+    </message>
+    <message>
+        <source>要检查的地址</source>
+        <translation>Address to check</translation>
+    </message>
+    <message>
+        <source>地址已修改。</source>
+        <translation>The address has been changed.</translation>
+    </message>
+    <message>
+        <source>已恢复为 %1。</source>
+        <translation>Reset to %1.</translation>
+    </message>
+    <message>
+        <source>已添加 %1 个主控，各有 %2 个输出口。</source>
+        <translation>Added %1 processors with %2 output ports each.</translation>
+    </message>
+</context>
+<context>
     <name>CCustomDialog</name>
     <message>
         <source>分辨率的宽或高不能小于%1。</source>
@@ -21,7 +107,7 @@
     </message>
     <message>
         <source>像素时钟%1MHz超过接口的最大值%2MHz。</source>
-        <translation>The pixel clock of %1 MHz is above the input&apos;s maximum of %2 MHz.</translation>
+        <translation>The pixel clock of %1 MHz is above the input's maximum of %2 MHz.</translation>
     </message>
     <message>
         <source>已使用DisplayID 1.3扩展块</source>
@@ -531,6 +617,41 @@
     <message>
         <source>Input %1</source>
         <translation>输入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>CVerdictText</name>
+    <message>
+        <source>可以使用</source>
+        <translation>can be used</translation>
+    </message>
+    <message>
+        <source>本机的地址：需要确认</source>
+        <translation>an address of this computer: needs a confirmation</translation>
+    </message>
+    <message>
+        <source>已在列表中</source>
+        <translation>is in the list already</translation>
+    </message>
+    <message>
+        <source>以 0 开头</source>
+        <translation>begins with 0</translation>
+    </message>
+    <message>
+        <source>默认网关的地址</source>
+        <translation>the address of the default gateway</translation>
+    </message>
+    <message>
+        <source>广播地址</source>
+        <translation>a broadcast address</translation>
+    </message>
+    <message>
+        <source>主机不能使用的地址：组播、保留或网络地址</source>
+        <translation>no host can have it: multicast, reserved, or a network's own address</translation>
+    </message>
+    <message>
+        <source>不是完整的地址</source>
+        <translation>no complete address</translation>
     </message>
 </context>
 </TS>

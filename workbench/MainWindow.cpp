@@ -5,6 +5,7 @@
 #include "workbench/ProjectActions.h"
 #include "workbench/SenderTree.h"
 #include "workbench/Tour.h"
+#include "workbench/addresses/AddressPage.h"
 #include "workbench/edid/EdidPage.h"
 
 #include <QCloseEvent>
@@ -79,6 +80,7 @@ CMainWindow::~CMainWindow() = default;
 void CMainWindow::AddPages()
 {
     AddPage(new CEdidPage(this));
+    AddPage(new CAddressPage(this));
 }
 
 void CMainWindow::AddPage(CWorkbenchPage* pPage)

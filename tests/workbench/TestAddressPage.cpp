@@ -1,0 +1,222 @@
+#include "SenderModuleDialog/SenderModuleDialogInit.h"
+#include "host/OrviControl/CustomIPEdit.h"
+#include "simulator/CommonClass/Simulator.h"
+#include "workbench/addresses/AddressPage.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QtTest>
+
+#include <functional>
+
+namespace {
+
+/// Operates the next dialog that opens.
+class CDialogOperator : public QObject
+{
+public:
+    explicit CDialogOperator(std::function<void(QDialog*)> funcOperate)
+        : m_funcOperate(std::move(funcOperate))
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        auto* pDialog = qobject_cast<QDialog*>(pWatched);
+        if (pDialog != nullptr && pEvent->type() == QEvent::Show && m_funcOperate) {
+            const auto funcOperate = std::exchange(m_funcOperate, {});
+            QMetaObject::invokeMethod(
+                pDialog, [funcOperate, pDialog] { funcOperate(pDialog); }, Qt::QueuedConnection);
+        }
+        return QObject::eventFilter(pWatched, pEvent);
+    }
+
+private:
+    std::function<void(QDialog*)> m_funcOperate;
+};
+
+void Press(QDialog* pDialog, const char* szText)
+{
+    for (QPushButton* pButton : pDialog->findChildren<QPushButton*>())
+        if (pButton->text() == QString::fromUtf8(szText))
+            return QTest::mouseClick(pButton, Qt::LeftButton);
+    pDialog->reject();
+}
+
+void EnterAddress(QDialog* pDialog, const char* szAddress)
+{
+    pDialog->findChild<CCustomIPEdit*>()->setText(QString::fromLatin1(szAddress));
+}
+
+QStringList Stored()
+{
+    return CSimulator::Instance().Project().addresses.listStored;
+}
+
+/// A list of three entries, made by the batch dialog.
+void MakeList(CAddressPage& page)
+{
+    const CDialogOperator dialogOperator([](QDialog* pDialog) {
+        EnterAddress(pDialog, "192.168.1.20");
+        Press(pDialog, "确定");
+    });
+    page.AddBatch();
+}
+
+} // namespace
+
+class TestAddressPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void ABatchFillsTheListUpTo16();
+    void ModifyingPutsTheEntryIntoForce();
+    void ResettingBringsTheFirstAddressBack();
+    void AddingByHandAddsSendersAndAddresses();
+    void StartingTheDemoReplacesTheProject();
+    void TheCheckFieldSaysWhyAnAddressIsRefused_data();
+    void TheCheckFieldSaysWhyAnAddressIsRefused();
+    void ButtonsOfAnEntryNeedOne();
+};
+
+void TestAddressPage::initTestCase()
+{
+    SenderModuleDialogInit(CSimulator::Instance().Label());
+    CSimulator::Instance().SetNetworkFacts([] {
+        SNetworkFacts facts;
+        facts.listLocal = {{0xC0A8010A, 0xFFFFFF00, 0xC0A801FF}};
+        facts.listGateways = {0xC0A80101};
+        return facts;
+    });
+}
+
+void TestAddressPage::init()
+{
+    CSimulator::Instance().NewProject();
+}
+
+void TestAddressPage::ABatchFillsTheListUpTo16()
+{
+    CAddressPage page;
+    MakeList(page);
+    QCOMPARE(Stored().size(), 16);
+    QCOMPARE(Stored().first(), QStringLiteral("192.168.1.20()"));
+    QCOMPARE(page.findChild<QTableView*>()->model()->rowCount(), 16);
+}
+
+void TestAddressPage::ModifyingPutsTheEntryIntoForce()
+{
+    CAddressPage page;
+    MakeList(page);
+    page.SelectRow(1);
+    const CDialogOperator dialogOperator([](QDialog* pDialog) {
+        EnterAddress(pDialog, "192.168.1.99");
+        Press(pDialog, "确定");
+    });
+    page.ModifySelected();
+    QCOMPARE(Stored().at(1), QStringLiteral("192.168.1.99()"));
+}
+
+void TestAddressPage::ResettingBringsTheFirstAddressBack()
+{
+    CAddressPage page;
+    MakeList(page);
+    page.SelectRow(1);
+    {
+        const CDialogOperator dialogOperator([](QDialog* pDialog) {
+            EnterAddress(pDialog, "192.168.1.99");
+            Press(pDialog, "确定");
+        });
+        page.ModifySelected();
+    }
+    page.SelectRow(1);
+    QSignalSpy spy(&page, &CWorkbenchPage::Reported);
+    page.ResetSelected();
+    QCOMPARE(Stored().at(1), QStringLiteral("192.168.1.21()"));
+    QVERIFY(spy.last().first().toString().contains(QStringLiteral("192.168.1.21(IP21)")));
+}
+
+void TestAddressPage::AddingByHandAddsSendersAndAddresses()
+{
+    CSimulator::Instance().Change([](SSimulatedProject& project) {
+        project.addressing.nDetectStrategy = 2;
+        project.addressing.bIPAddressMode = true;
+        project.addressing.nAddedSenderCount = 0;
+    });
+    CAddressPage page;
+    const std::size_t nBefore = CSimulator::Instance().Project().listSenders.size();
+    const CDialogOperator dialogOperator([](QDialog* pDialog) {
+        EnterAddress(pDialog, "192.168.1.50");
+        Press(pDialog, "确定");
+    });
+    page.AddByHand();
+    QCOMPARE(CSimulator::Instance().Project().listSenders.size(), nBefore + 3);
+    QCOMPARE(Stored(), (QStringList{QStringLiteral("192.168.1.50()"), QStringLiteral("192.168.1.51()"),
+                                    QStringLiteral("192.168.1.52()")}));
+}
+
+void TestAddressPage::StartingTheDemoReplacesTheProject()
+{
+    CAddressPage page;
+    const CDialogOperator dialogOperator([](QDialog* pDialog) { Press(pDialog, "确认"); });
+    page.StartDemo();
+    QCOMPARE(int(CSimulator::Instance().Project().listSenders.size()), 1);
+    QCOMPARE(CSimulator::Instance().Project().listSenders[0].capability.nType, 21);
+    QVERIFY(CSimulator::Instance().Project().bDemoMode);
+}
+
+void TestAddressPage::TheCheckFieldSaysWhyAnAddressIsRefused_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("good") << "192.168.1.77"
+                          << "可以使用";
+    QTest::newRow("this computer") << "192.168.1.10"
+                                   << "本机的地址：需要确认";
+    QTest::newRow("gateway") << "192.168.1.1"
+                             << "默认网关的地址";
+    QTest::newRow("broadcast") << "192.168.1.255"
+                               << "广播地址";
+    QTest::newRow("first octet 0") << "0.1.2.3"
+                                   << "以 0 开头";
+    QTest::newRow("multicast") << "224.0.0.1"
+                               << "主机不能使用的地址：组播、保留或网络地址";
+    QTest::newRow("incomplete") << "192.168"
+                                << "不是完整的地址";
+    QTest::newRow("empty") << ""
+                           << "";
+}
+
+void TestAddressPage::TheCheckFieldSaysWhyAnAddressIsRefused()
+{
+    QFETCH(QString, address);
+    CAddressPage page;
+    page.findChild<CCustomIPEdit*>()->setText(address);
+    QTEST(page.ShownVerdict(), "expected");
+}
+
+void TestAddressPage::ButtonsOfAnEntryNeedOne()
+{
+    CAddressPage page;
+    const auto funcEnabled = [&page](const char* szText) {
+        for (const QPushButton* pButton : page.findChildren<QPushButton*>())
+            if (pButton->text() == QString::fromUtf8(szText))
+                return pButton->isEnabled();
+        return false;
+    };
+    QVERIFY(!funcEnabled("修改..."));
+    MakeList(page);
+    page.SelectRow(0);
+    QVERIFY(funcEnabled("修改..."));
+    QVERIFY(funcEnabled("删除"));
+}
+
+QTEST_MAIN(TestAddressPage)
+#include "TestAddressPage.moc"

@@ -1,0 +1,86 @@
+#include "SenderModuleDialog/addressing/CustomAddProcessorDlg.h"
+#include "SenderModuleDialog/addressing/DemoProjectConfigDlg.h"
+#include "SenderModuleDialog/addressing/SetIPOfflineDlg.h"
+#include "host/OrviControl/CustomIPEdit.h"
+#include "simulator/CommonClass/Simulator.h"
+#include "workbench/Tour.h"
+#include "workbench/addresses/AddressPage.h"
+
+namespace {
+
+/// The modes of the address dialog.
+struct SMode
+{
+    const char* szName;
+    int nCount;
+    bool bSet;
+};
+
+constexpr SMode c_arrModes[] = {{"address-batch", -1, true},
+                                {"address-set-one", 1, true},
+                                {"address-set-two", 2, true},
+                                {"address-modify", 1, false}};
+
+/// A network of a few addresses, so that the pictures are the same on every machine.
+SNetworkFacts TourNetwork()
+{
+    SNetworkFacts facts;
+    facts.listLocal = {{0xC0A8010A, 0xFFFFFF00, 0xC0A801FF}};
+    facts.listGateways = {0xC0A80101};
+    return facts;
+}
+
+void PictureOfHandDialog(CTour& tour, QWidget* pParent, bool bExisting, bool bAddresses)
+{
+    CSimulator::Instance().Change([&](SSimulatedProject& project) {
+        project.addressing.nAddedSenderCount = bExisting ? 1 : 0;
+        project.addressing.bIPAddressMode = bAddresses;
+    });
+    CCustomAddProcessorDlg dialog(pParent);
+    tour.WithDialog(dialog, [&] {
+        tour.Picture(&dialog, QStringLiteral("address-hand%1%2")
+                                  .arg(bExisting ? QString() : QStringLiteral("-ports"),
+                                       bAddresses ? QStringLiteral("-addresses") : QString()));
+    });
+}
+
+} // namespace
+
+void CAddressPage::Tour(CTour& tour, QWidget* pWorkbench)
+{
+    CSimulator& simulator = CSimulator::Instance();
+    simulator.SetNetworkFacts(TourNetwork);
+    {
+        CSetIPOfflineDlg dialog(0, -1, true, false, this);
+        tour.WithDialog(dialog, [&] {
+            dialog.findChild<CCustomIPEdit*>()->setText(QStringLiteral("192.168.1.20"));
+            QMetaObject::invokeMethod(&dialog, "ActionSlots", Q_ARG(int, 0));
+        });
+        simulator.NoticeChanges();
+        tour.Check(simulator.Project().addresses.listStored.size() == 16,
+                   QStringLiteral("the first batch did not fill the list up to 16"));
+    }
+    SelectRow(2);
+    for (const SMode& mode : c_arrModes) {
+        CSetIPOfflineDlg dialog(2, mode.nCount, mode.bSet, false, this);
+        tour.WithDialog(dialog, [&] { tour.Picture(&dialog, QString::fromLatin1(mode.szName)); });
+    }
+    {
+        CSetIPOfflineDlg dialog(0, -1, true, false, this);
+        dialog.findChild<CCustomIPEdit*>()->setText(QStringLiteral("192.168.1.10"));
+        tour.WithMessage(QStringLiteral("address-question"), 4,
+                         [&] { QMetaObject::invokeMethod(&dialog, "ActionSlots", Q_ARG(int, 0)); });
+        dialog.findChild<CCustomIPEdit*>()->setText(QStringLiteral("192.168.1.1"));
+        tour.WithMessage(QStringLiteral("address-refused"), 1,
+                         [&] { QMetaObject::invokeMethod(&dialog, "ActionSlots", Q_ARG(int, 0)); });
+    }
+    for (const bool bExisting : {false, true})
+        for (const bool bAddresses : {false, true})
+            PictureOfHandDialog(tour, this, bExisting, bAddresses);
+    CDemoProjectConfigDlg dialogDemo(this);
+    tour.WithDialog(dialogDemo, [&] { tour.Picture(&dialogDemo, QStringLiteral("demo-project")); });
+    m_pCheck->setText(QStringLiteral("192.168.1.255"));
+    tour.Picture(pWorkbench, QStringLiteral("addresses"));
+    m_pCheck->setText(QString());
+    simulator.SetNetworkFacts(MachineNetworkFacts);
+}
