@@ -30,7 +30,7 @@ private Q_SLOTS:
     void WaitLength();
     void DemoModeIsAskedOnEveryPass_data();
     void DemoModeIsAskedOnEveryPass();
-    void TheBarRunsFrom2To98AtTheWaitsAndEndsAt99();
+    void TheBarShows2To98AtTheWaits();
     void TheBarBelongsToTheDialog();
     void TheSenderTypeOfTheWaitIsReadAnew();
     void TheDefaultWaitSleeps();
@@ -234,7 +234,7 @@ void TestEdidSetDlgCommit::DemoModeIsAskedOnEveryPass()
     QCOMPARE(host.vecWaits.at(10), 10000U);
 }
 
-void TestEdidSetDlgCommit::TheBarRunsFrom2To98AtTheWaitsAndEndsAt99()
+void TestEdidSetDlgCommit::TheBarShows2To98AtTheWaits()
 {
     CEdidHost host;
     CEdidDialog dialog(host);
