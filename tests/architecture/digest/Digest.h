@@ -115,6 +115,7 @@ struct SDigestFunction
 /// @name One table a folder
 /// @{
 std::vector<SDigestFunction> GeometryDigests();
+std::vector<SDigestFunction> ColourDigests();
 std::vector<SDigestFunction> EdidDigests();
 /// @}
 

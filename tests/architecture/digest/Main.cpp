@@ -11,6 +11,7 @@ using GetTable = std::vector<SDigestFunction> (*)();
 
 constexpr GetTable c_arrTables[] = {
     GeometryDigests,
+    ColourDigests,
     EdidDigests,
 };
 
