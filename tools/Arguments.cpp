@@ -3,7 +3,6 @@
 #include "tools/Report.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace {
 
@@ -121,7 +120,7 @@ void CArguments::ParseLong(const SSubcommand& subcommand, const QString& strWord
     std::optional<QString> attached;
     if (strWord.contains(QLatin1Char('=')))
         attached = strWord.section(QLatin1Char('='), 1);
-    m_mapValues.insert(strName, TakeValue(subcommand, option, attached, listRest));
+    Take(subcommand, option, attached, listRest);
 }
 
 void CArguments::ParseShort(const SSubcommand& subcommand, const QString& strWord, QStringList& listRest)
@@ -131,7 +130,15 @@ void CArguments::ParseShort(const SSubcommand& subcommand, const QString& strWor
     std::optional<QString> attached;
     if (strWord.size() > 2)
         attached = strWord.mid(2);
-    m_mapValues.insert(Latin(option.szName), TakeValue(subcommand, option, attached, listRest));
+    Take(subcommand, option, attached, listRest);
+}
+
+void CArguments::Take(const SSubcommand& subcommand, const SOption& option,
+                      const std::optional<QString>& attached, QStringList& listRest)
+{
+    const QString strValue = TakeValue(subcommand, option, attached, listRest);
+    m_mapValues.insert(Latin(option.szName), strValue);
+    m_vecGiven.append({Latin(option.szName), strValue});
 }
 
 void CArguments::CheckCount(const SSubcommand& subcommand) const

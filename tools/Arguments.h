@@ -6,6 +6,16 @@
 #include <QHash>
 #include <QString>
 #include <QStringList>
+#include <QVector>
+
+#include <optional>
+
+/// An option as it was given.
+struct SGivenOption
+{
+    QString strName; ///< long name, without its dashes
+    QString strValue;
+};
 
 /// The command line of one subcommand, parsed: `--name VALUE`, `--name=VALUE`, `-n VALUE`, `-nVALUE`, flags,
 /// and positional arguments in any order. `--` ends the options. What begins with a dash and a digit is a
@@ -23,6 +33,8 @@ public:
     bool Has(const char* szOption) const;
     /// The value of an option, the default when it was not given.
     QString Value(const char* szOption, const QString& strDefault = QString()) const;
+    /// Every option that was given, in order and with repeats: for options that may be given several times.
+    const QVector<SGivenOption>& Given() const { return m_vecGiven; }
     /// The positional arguments, in order.
     const QStringList& Positional() const { return m_listPositional; }
 
@@ -30,10 +42,13 @@ private:
     void Parse(const SSubcommand& subcommand, QStringList listWords);
     void ParseLong(const SSubcommand& subcommand, const QString& strWord, QStringList& listRest);
     void ParseShort(const SSubcommand& subcommand, const QString& strWord, QStringList& listRest);
+    void Take(const SSubcommand& subcommand, const SOption& option, const std::optional<QString>& attached,
+              QStringList& listRest);
     void CheckCount(const SSubcommand& subcommand) const;
 
     bool m_bHelp = false;
     QHash<QString, QString> m_mapValues;
+    QVector<SGivenOption> m_vecGiven;
     QStringList m_listPositional;
 };
 

@@ -18,27 +18,15 @@ bool IsCoordinate(double dValue)
     return 0.0 <= dValue && dValue <= 1.0;
 }
 
-QString StandardLabels()
-{
-    QStringList listLabels;
-    for (const SColourStandard& standard : c_arrColourStandards)
-        listLabels += QString::fromLatin1(standard.szName);
-    return listLabels.join(QStringLiteral(", "));
-}
-
 std::vector<CPointEx<float>> ParseTriangle(const QString& strGamut)
 {
-    const QStringList listPoints = strGamut.split(QLatin1Char(';'));
-    if (listPoints.size() != c_nCorners)
+    // Counted first: a surplus or a missing point is the likelier slip.
+    const int nPoints = strGamut.count(QLatin1Char(';')) + 1;
+    if (nPoints != c_nCorners)
         throw CToolError(QStringLiteral("gamut '%1' has %2 points; write three as x,y;x,y;x,y")
                              .arg(strGamut)
-                             .arg(listPoints.size()));
-    std::vector<CPointEx<float>> vecTriangle;
-    for (const QString& strPoint : listPoints) {
-        const QPointF pt = ParseChromaticity(strPoint);
-        vecTriangle.emplace_back(float(pt.x()), float(pt.y()));
-    }
-    return vecTriangle;
+                             .arg(nPoints));
+    return ParseChromaticities(strGamut);
 }
 
 } // namespace
@@ -65,14 +53,37 @@ QPointF ParseChromaticity(const QString& strPoint)
     return pt;
 }
 
-std::vector<CPointEx<float>> ParseGamut(const QString& strGamut)
+std::vector<CPointEx<float>> ParseChromaticities(const QString& strPoints)
+{
+    std::vector<CPointEx<float>> vecPoints;
+    for (const QString& strPoint : strPoints.split(QLatin1Char(';'))) {
+        const QPointF pt = ParseChromaticity(strPoint);
+        vecPoints.emplace_back(float(pt.x()), float(pt.y()));
+    }
+    return vecPoints;
+}
+
+const SColourStandard* FindStandard(const QString& strLabel)
 {
     const auto* const pEnd = std::end(c_arrColourStandards);
     const auto* const pStandard =
-        std::find_if(std::begin(c_arrColourStandards), pEnd, [&strGamut](const SColourStandard& standard) {
-            return strGamut.compare(QLatin1String(standard.szName), Qt::CaseInsensitive) == 0;
+        std::find_if(std::begin(c_arrColourStandards), pEnd, [&strLabel](const SColourStandard& standard) {
+            return strLabel.compare(QLatin1String(standard.szName), Qt::CaseInsensitive) == 0;
         });
-    if (pStandard != pEnd)
+    return pStandard == pEnd ? nullptr : pStandard;
+}
+
+QString StandardLabels()
+{
+    QStringList listLabels;
+    for (const SColourStandard& standard : c_arrColourStandards)
+        listLabels += QString::fromLatin1(standard.szName);
+    return listLabels.join(QStringLiteral(", "));
+}
+
+std::vector<CPointEx<float>> ParseGamut(const QString& strGamut)
+{
+    if (const SColourStandard* const pStandard = FindStandard(strGamut))
         return {pStandard->ptRed, pStandard->ptGreen, pStandard->ptBlue};
     if (!strGamut.contains(QLatin1Char(',')))
         throw CToolError(QStringLiteral("'%1' is no gamut; write x,y;x,y;x,y or one of: %2")

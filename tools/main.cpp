@@ -1,5 +1,6 @@
 #include "tools/Arguments.h"
 #include "tools/CctCommand.h"
+#include "tools/ChartCommand.h"
 #include "tools/EdidCommand.h"
 #include "tools/GamutCommand.h"
 #include "tools/LocusCommand.h"
@@ -11,6 +12,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstring>
 #include <memory>
 
@@ -27,7 +29,8 @@ using Subcommands = std::vector<SSubcommand>;
 Subcommands AllSubcommands()
 {
     return {
-        EdidSubcommand(), TimingSubcommand(), CctSubcommand(), GamutSubcommand(), LocusSubcommand(),
+        EdidSubcommand(),  TimingSubcommand(), CctSubcommand(),
+        GamutSubcommand(), LocusSubcommand(),  ChartSubcommand(),
     };
 }
 
@@ -40,12 +43,21 @@ const SSubcommand* Find(const Subcommands& vecSubcommands, const char* szName)
     return it == vecSubcommands.end() ? nullptr : &*it;
 }
 
+/// Remarks of Qt about the surroundings, such as a runtime folder that is not there, are none of the user's:
+/// what the tool has to say on standard error, it says itself.
+void KeepSevere(QtMsgType type, const QMessageLogContext& /*context*/, const QString& strText)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(strText));
+}
+
 /// The application gets the program's name alone: every other word is the subcommand's.
 std::unique_ptr<QCoreApplication> CreateApplication(enApplication application, char** ppArguments)
 {
     static int s_nProgramNameAlone = 1;
     if (application == enApplication::enCore)
         return std::make_unique<QCoreApplication>(s_nProgramNameAlone, ppArguments);
+    qInstallMessageHandler(&KeepSevere);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     return std::make_unique<QApplication>(s_nProgramNameAlone, ppArguments);
 }

@@ -45,7 +45,7 @@ void TestToolFrame::HelpGoesToStandardOutput()
 void TestToolFrame::TheHelpListsEverySubcommand()
 {
     const SToolRun run = RunTool({"--help"});
-    for (const char* szName : {"  edid ", "  timing "})
+    for (const char* szName : {"  edid ", "  timing ", "  chart "})
         QVERIFY2(run.output.contains(szName), run.output.constData());
 }
 
