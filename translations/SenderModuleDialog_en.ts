@@ -5,11 +5,11 @@
     <name>CCustomDialog</name>
     <message>
         <source>DVI1~4的点数和不能超过888万。</source>
-        <translation>The pixels of DVI 1 to 4 together may not exceed 8.88 million.</translation>
+        <translation>DVI 1 to 4 together may not exceed 8.88 million pixels.</translation>
     </message>
     <message>
         <source>DVI5~8的点数和不能超过888万。</source>
-        <translation>The pixels of DVI 5 to 8 together may not exceed 8.88 million.</translation>
+        <translation>DVI 5 to 8 together may not exceed 8.88 million pixels.</translation>
     </message>
     <message>
         <source>EDID的输出面积不能超过260W。</source>

@@ -1,0 +1,106 @@
+#include "SenderModuleDialog/output/ResetCoefDlg.h"
+
+#include "SenderModuleDialog/DialogFrame.h"
+
+#include <QDoubleSpinBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+enum enAction
+{
+    enOk = 0,
+    enCancel = 1
+};
+
+/// Title and caption of a use of the dialog, source texts in the context `CCustomDialog`.
+struct SWording
+{
+    const char* szTitle;
+    const char* szCaption;
+};
+
+constexpr SWording c_wordingCorrection = {QT_TRANSLATE_NOOP("CCustomDialog", "重置校正系数"),
+                                          QT_TRANSLATE_NOOP("CCustomDialog", "校正系数")};
+constexpr SWording c_wordingSeamRepair = {QT_TRANSLATE_NOOP("CCustomDialog", "重置修缝系数"),
+                                          QT_TRANSLATE_NOOP("CCustomDialog", "修缝系数")};
+
+constexpr QSize c_sizeDialog(270, 105); // pixels
+constexpr QSize c_sizeSpin(70, 24);     // pixels
+constexpr int c_nMargin = 10;           // pixels
+constexpr int c_nDecimals = 3;
+constexpr double c_dStep = 0.001;
+
+} // namespace
+
+CResetCoefDlg::CResetCoefDlg(bool bCorrection, QWidget* pParent)
+    : CCustomDialog(pParent, false)
+    , m_bCorrection(bCorrection)
+{
+    setFixedSize(c_sizeDialog);
+    InitControl();
+}
+
+CResetCoefDlg::~CResetCoefDlg() = default;
+
+void CResetCoefDlg::InitControl()
+{
+    const SWording& wording = m_bCorrection ? c_wordingCorrection : c_wordingSeamRepair;
+    setWindowTitle(CCustomDialog::tr(wording.szTitle));
+
+    auto* pLabel = new QLabel(CCustomDialog::tr(wording.szCaption), this);
+    pLabel->setAlignment(Qt::AlignCenter);
+    DialogFrame::StyleCaption(pLabel);
+    // The field starts at 0 although the value is 1: it shows what the host presets, and nothing before.
+    m_pSpinValue = new QDoubleSpinBox(this);
+    m_pSpinValue->setDecimals(c_nDecimals);
+    m_pSpinValue->setRange(0.0, 1.0);
+    m_pSpinValue->setSingleStep(c_dStep);
+    m_pSpinValue->setFixedSize(c_sizeSpin);
+    DialogFrame::StyleSpinBox(m_pSpinValue, "QDoubleSpinBox");
+
+    auto* pFields = new QHBoxLayout;
+    pFields->setContentsMargins(0, 0, 0, 0);
+    pFields->addStretch();
+    pFields->addWidget(pLabel);
+    pFields->addStretch();
+    pFields->addWidget(m_pSpinValue);
+    pFields->addStretch();
+
+    auto* pButtons = new QHBoxLayout;
+    pButtons->addWidget(
+        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "确定"),
+                                         DialogFrame::c_sizeButton, [this] { ActionSlots(enOk); }}));
+    pButtons->addWidget(
+        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "取消"),
+                                         DialogFrame::c_sizeButton, [this] { ActionSlots(enCancel); }}));
+
+    auto* pOuter = new QVBoxLayout(this);
+    pOuter->setContentsMargins(c_nMargin, c_nMargin, c_nMargin, c_nMargin);
+    pOuter->addLayout(pFields);
+    pOuter->addLayout(pButtons);
+}
+
+void CResetCoefDlg::SetValue(float fValue)
+{
+    m_fValue = fValue;
+    m_pSpinValue->setValue(double(fValue));
+}
+
+void CResetCoefDlg::ActionSlots(int nID)
+{
+    if (nID == enOk)
+        Accept();
+    else if (nID == enCancel)
+        close();
+}
+
+void CResetCoefDlg::Accept()
+{
+    m_fValue = float(m_pSpinValue->value());
+    done(1);
+    close();
+}

@@ -1,0 +1,68 @@
+#ifndef SENDERMODULEDIALOG_OUTPUT_SETCANVASDLG_H
+#define SENDERMODULEDIALOG_OUTPUT_SETCANVASDLG_H
+
+#include "SenderModuleDialog/SenderModuleDialogGlobal.h"
+#include "host/OrviControl/CustomDialog.h"
+
+#include <QSize>
+#include <QString>
+
+class CCustomComboBox;
+class CCustomLabel;
+class CCustomSpinBox;
+class QPushButton;
+
+/// Asks for the canvas size of the current sender: a preset, or a width and a height. It validates on every
+/// change and writes nothing: the host reads the size after OK. The result is 1 on OK and 0 on Cancel.
+class SENDERMODULEDIALOG_EXPORT CSetCanvasDlg : public CCustomDialog
+{
+    Q_OBJECT
+
+public:
+    explicit CSetCanvasDlg(QWidget* pParent);
+    ~CSetCanvasDlg() override;
+
+    /// The size that the operator chose, pixels. Until OK, and after Cancel, the size read at opening: also
+    /// where it lies outside what the fields can show.
+    QSize GetCanvasSize() const { return m_sizeCanvas; }
+    /// Validates what the fields hold and shows the verdict: error text, OK enabled or not, window height.
+    /// @return true when it is valid
+    bool IsShowError();
+    /// Shows or hides the error without validating: label, OK and window height.
+    void ChangeSize(bool bShowError);
+
+public Q_SLOTS:
+    /// A preset was chosen.
+    /// @param id 0, 1 or 2; any other value validates and changes nothing else
+    void ComboBoxSelect(int id);
+    void SpinBoxValueChanged();
+    /// @param id 3 OK, 4 Cancel; any other value does nothing
+    void ButtonClicked(int id);
+
+private:
+    void InitControl();
+    void InitControlValue();
+    void InitStyle();
+    void SetControlRect();
+    void InitControlConnect();
+    void SetControlValue();
+
+    QSize FieldSize() const;
+    void ShowSizeText(QSize size);
+    QString Judge(QSize size) const;
+    void Accept();
+
+    QSize m_sizeCanvas;
+    QString m_strError; ///< empty when the input is valid
+
+    CCustomComboBox* m_pComboSize = nullptr;
+    CCustomLabel* m_pLabelWidth = nullptr;
+    CCustomSpinBox* m_pSpinWidth = nullptr;
+    CCustomLabel* m_pLabelHeight = nullptr;
+    CCustomSpinBox* m_pSpinHeight = nullptr;
+    CCustomLabel* m_pLabelError = nullptr;
+    QPushButton* m_pBtnOk = nullptr;
+    QPushButton* m_pBtnCancel = nullptr;
+};
+
+#endif // SENDERMODULEDIALOG_OUTPUT_SETCANVASDLG_H
