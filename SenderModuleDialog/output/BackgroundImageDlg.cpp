@@ -1,5 +1,6 @@
 #include "SenderModuleDialog/output/BackgroundImageDlg.h"
 
+#include "SenderModuleDialog/Constants.h"
 #include "SenderModuleDialog/DialogFrame.h"
 #include "SenderModuleDialog/HostAccess.h"
 #include "SenderModuleDialog/output/BackgroundRules.h"

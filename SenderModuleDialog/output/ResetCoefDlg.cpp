@@ -1,5 +1,6 @@
 #include "SenderModuleDialog/output/ResetCoefDlg.h"
 
+#include "SenderModuleDialog/Constants.h"
 #include "SenderModuleDialog/DialogFrame.h"
 
 #include <QDoubleSpinBox>
@@ -88,6 +89,11 @@ void CResetCoefDlg::SetValue(float fValue)
 {
     m_fValue = fValue;
     m_pSpinValue->setValue(double(fValue));
+}
+
+float CResetCoefDlg::GetValue() const
+{
+    return m_fValue;
 }
 
 void CResetCoefDlg::ActionSlots(int nID)

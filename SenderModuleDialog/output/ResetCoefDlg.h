@@ -22,7 +22,7 @@ public:
     /// @param fValue kept as it is, also outside 0 to 1, where the field shows the nearer end
     void SetValue(float fValue);
     /// The preset value, 1 without one; after OK what the field showed, three decimals.
-    float GetValue() const { return m_fValue; }
+    float GetValue() const;
 
 public Q_SLOTS:
     /// @param nID 0 OK, 1 Cancel; any other value does nothing

@@ -1,5 +1,6 @@
 #include "SenderModuleDialog/output/SetCanvasDlg.h"
 
+#include "SenderModuleDialog/Constants.h"
 #include "SenderModuleDialog/DialogFrame.h"
 #include "SenderModuleDialog/HostAccess.h"
 #include "SenderModuleDialog/output/CanvasRules.h"
@@ -159,6 +160,11 @@ void CSetCanvasDlg::InitControlConnect()
         connect(pSpin, &QDoubleSpinBox::textChanged, this, [this] { IsShowError(); });
     connect(m_pBtnOk, &QPushButton::clicked, this, [this] { ButtonClicked(enOk); });
     connect(m_pBtnCancel, &QPushButton::clicked, this, [this] { ButtonClicked(enCancel); });
+}
+
+QSize CSetCanvasDlg::GetCanvasSize() const
+{
+    return m_sizeCanvas;
 }
 
 /// A preset's text moves the fields to that preset; a custom text matches none.

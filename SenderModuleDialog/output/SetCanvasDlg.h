@@ -24,7 +24,7 @@ public:
 
     /// The size that the operator chose, pixels. Until OK, and after Cancel, the size read at opening: also
     /// where it lies outside what the fields can show.
-    QSize GetCanvasSize() const { return m_sizeCanvas; }
+    QSize GetCanvasSize() const;
     /// Validates what the fields hold and shows the verdict: error text, OK enabled or not, window height.
     /// @return true when it is valid
     bool IsShowError();

@@ -1,5 +1,6 @@
 #include "SenderModuleDialog/output/SetDepthRateDlg.h"
 
+#include "SenderModuleDialog/Constants.h"
 #include "SenderModuleDialog/DialogFrame.h"
 #include "SenderModuleDialog/HostAccess.h"
 #include "SenderModuleDialog/output/DepthRateRules.h"
@@ -165,7 +166,9 @@ void CSetDepthRateDlg::FillDepthMenu(QMenu* pMenu, int nSender)
     DepthRateRules::SDepthOffer offer = {true, true};
     CSenderLogic& logic = HostAccess::SenderLogic();
     if (logic.IsVideoProcessor(nSender)) {
-        offer = DepthRateRules::OfferDepths(logic.IsSupport10Bit(nSender), logic.IsSupport12Bit(nSender));
+        const bool bSupport10Bit = logic.IsSupport10Bit(nSender);
+        const bool bSupport12Bit = logic.IsSupport12Bit(nSender);
+        offer = DepthRateRules::OfferDepths(bSupport10Bit, bSupport12Bit);
         // A sender without a choice is set to its one depth merely by opening the dialog; the field still
         // shows the depth that it had.
         if (!offer.b10Bit)

@@ -376,7 +376,7 @@ float CRecordingVideoSourceLogic::GetMaxInputFrameRate(int nSender)
 
 bool CRecordingVideoSourceLogic::GetOutputLimitFlags(int nSender, unsigned int* pFlags)
 {
-    m_record.Add(Call("GetOutputLimitFlags", nSender));
+    m_record.Add(QStringLiteral("GetOutputLimitFlags(%1, 0x%2)").arg(nSender).arg(*pFlags, 0, 16));
     if (limitFlags)
         *pFlags = *limitFlags;
     return limitFlags.has_value();
