@@ -59,6 +59,9 @@ private Q_SLOTS:
     void rootsAtFourThousandAreThree();
     void tableHoldsTheLocus_data();
     void tableHoldsTheLocus();
+    void aWrittenTableIsFollowed();
+    void anEndlessOutwardSearchFaults_data();
+    void anEndlessOutwardSearchFaults();
     void solvingWithoutASearchAreaFaults();
     void assertionsNameTheirPlace_data();
     void assertionsNameTheirPlace();
@@ -217,6 +220,44 @@ void TestCCT2ColorCoord::tableHoldsTheLocus()
     COMPARE_BITS(row.fUrd, fUrd);
     QFETCH(QPointF, xy);
     COMPARE_BITS(QPointF(row.dX, row.dY), xy);
+}
+
+/// What is prepared for the usual table must not answer for another one.
+void TestCCT2ColorCoord::aWrittenTableIsFollowed()
+{
+    COpenCCT2ColorCoord cct;
+    const QPointF pt(0.3127, 0.329);
+    QVector<sCIE1931> vecFirst = cct.m_sColorCoordTables.mid(0, 10);
+    cct.m_sColorCoordTables = vecFirst;
+    QPointF uv;
+    cct.ColorCoordXYtoUV(pt, &uv);
+    sCIE1931 arrPair[2];
+    QVERIFY(cct.SearchNearestTwoPoint(uv, arrPair));
+    QCOMPARE(arrPair[0].nCCT, 4045);
+    QCOMPARE(arrPair[1].nCCT, 0);
+
+    cct.ColorCoordTables();
+    float fCCT = 0.0F;
+    QVERIFY(cct.TriangAlgCalcRelativeCCT(pt, &fCCT, false));
+    COMPARE_BITS(fCCT, 6500.0F);
+}
+
+void TestCCT2ColorCoord::anEndlessOutwardSearchFaults_data()
+{
+    QTest::addColumn<float>("fStep");
+    QTest::newRow("no step") << 0.0F;
+    QTest::newRow("the cubic keeps its sign on this side") << 0.01F;
+    QTest::newRow("infinite step") << std::numeric_limits<float>::infinity();
+}
+
+void TestCCT2ColorCoord::anEndlessOutwardSearchFaults()
+{
+    QFETCH(float, fStep);
+    const SDeath death = RunToDeath([fStep] {
+        float fOut = 0.0F;
+        CCCT2ColorCoord().SearchNewArea(2.0F, fStep, &fOut, 4000.0F);
+    });
+    QVERIFY(death.bAborted);
 }
 
 void TestCCT2ColorCoord::solvingWithoutASearchAreaFaults()

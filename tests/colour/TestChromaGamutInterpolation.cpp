@@ -5,6 +5,8 @@
 #include <QLineF>
 #include <QtTest>
 
+#include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -29,6 +31,7 @@ class TestChromaGamutInterpolation : public QObject
 
 private Q_SLOTS:
     void outlineStartsAt404Nanometres();
+    void outlineReachesTheTopOfTheLocus();
     void everyCallOfGetDataAppendsACopy();
     void usesAreAppendedWhenTheListIsAskedFor();
     void usesOfAWrittenOutlineKeepItsPoints();
@@ -47,6 +50,16 @@ void TestChromaGamutInterpolation::outlineStartsAt404Nanometres()
     QCOMPARE(gamut.GetQPointFData().size(), 156);
     COMPARE_BITS(float(gamut.GetQPointFData()[0].x()), 0.17310095F);
     COMPARE_BITS(float(gamut.GetQPointFData()[0].y()), 0.0047738748F);
+}
+
+void TestChromaGamutInterpolation::outlineReachesTheTopOfTheLocus()
+{
+    CChromaGamutInterpolation gamut;
+    const QVector<QPointF> vecOutline = gamut.GetQPointFData();
+    const auto top = std::max_element(vecOutline.cbegin(), vecOutline.cend(),
+                                      [](QPointF a, QPointF b) { return a.y() < b.y(); });
+    QVERIFY(std::abs(top->x() - 0.0820534) < 1e-7);
+    QVERIFY(std::abs(top->y() - 0.8340903) < 1e-7);
 }
 
 void TestChromaGamutInterpolation::everyCallOfGetDataAppendsACopy()
