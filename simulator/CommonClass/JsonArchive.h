@@ -2,6 +2,7 @@
 #define SIMULATOR_COMMONCLASS_JSONARCHIVE_H
 
 #include "simulator/CommonClass/FileProblem.h"
+#include "simulator/CommonClass/SimulatorText.h"
 
 #include <QByteArray>
 #include <QJsonArray>
@@ -85,7 +86,7 @@ void ReadJsonArray(const SJsonPlace& place, const QJsonValue& value, TContainer&
 {
     container.clear();
     if (!value.isArray())
-        return place.RefuseValue(value, QStringLiteral("an array"));
+        return place.RefuseValue(value, CSimulatorText::tr("an array"));
     const QJsonArray array = value.toArray();
     for (int nIndex = 0; nIndex < array.size() && !place.problem.IsSet(); ++nIndex) {
         container.push_back({});
@@ -230,7 +231,7 @@ template <class TRecord, std::enable_if_t<std::is_class_v<TRecord>, int>>
 void ReadJson(const SJsonPlace& place, const QJsonValue& value, TRecord& record)
 {
     if (!value.isObject())
-        return place.RefuseValue(value, QStringLiteral("an object"));
+        return place.RefuseValue(value, CSimulatorText::tr("an object"));
     CJsonReader reader(value.toObject(), place);
     Describe(reader, record);
     reader.RefuseUnknownKeys();
