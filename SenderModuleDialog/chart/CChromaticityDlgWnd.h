@@ -287,6 +287,8 @@ private:
     void HandOver(int nType, QImage image, quint64 nTicket);
     /// The worker's work, in its thread.
     void PaintWndBitmaps();
+    /// The last that the worker does with the chart, in its thread.
+    void RestWndBitmapThread();
     /// The worker has ended; on the GUI thread.
     void FinishWndBitmapThread();
 

@@ -123,7 +123,7 @@ void CChromaticityDlgWnd::StartWndBitmapThread()
     m_pThread->start();
     // Without a thread nobody would ever withdraw the announcement.
     if (!m_pThread->isRunning() && !m_pThread->isFinished())
-        m_pDesk->EndWorker();
+        m_pDesk->RestWorker();
 }
 
 void CChromaticityDlgWnd::StopWndBitmapThread()
@@ -140,6 +140,11 @@ void CChromaticityDlgWnd::PaintWndBitmaps()
     for (int nType = 0; nType < c_nWndBitmapCount && !m_pDesk->IsWorkerToStop(); ++nType)
         PaintBitmap(nType, true);
     m_pDesk->EndWorker();
+}
+
+void CChromaticityDlgWnd::RestWndBitmapThread()
+{
+    m_pDesk->RestWorker();
 }
 
 void CChromaticityDlgWnd::FinishWndBitmapThread()

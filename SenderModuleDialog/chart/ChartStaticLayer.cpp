@@ -94,6 +94,9 @@ void CChartStaticLayer::Repaint(const SContent& content, const SSurface& surface
     m_brush = painter.brush();
     m_font = painter.font();
     m_hints = painter.renderHints();
+    painter.end();
+    // From here on it is a picture of device pixels.
+    m_image.setDevicePixelRatio(1.0);
 }
 
 void CChartStaticLayer::CopyTo(QPainter& painter) const

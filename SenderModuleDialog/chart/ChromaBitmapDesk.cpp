@@ -22,31 +22,17 @@ void CChromaBitmapDesk::EndPainting()
     m_condition.notify_all();
 }
 
-void CChromaBitmapDesk::AnnounceWorker()
+void CChromaBitmapDesk::SetWorker(enWorker worker)
 {
     const CLock lock(m_mutex);
-    m_bWorkerAnnounced = true;
-}
-
-void CChromaBitmapDesk::BeginWorker()
-{
-    const CLock lock(m_mutex);
-    m_bWorkerAnnounced = false;
-    m_bWorkerRuns = true;
-}
-
-void CChromaBitmapDesk::EndWorker()
-{
-    const CLock lock(m_mutex);
-    m_bWorkerAnnounced = false;
-    m_bWorkerRuns = false;
+    m_worker = worker;
     m_condition.notify_all();
 }
 
 bool CChromaBitmapDesk::IsWorkerBusy()
 {
     const CLock lock(m_mutex);
-    return m_bWorkerAnnounced || m_bWorkerRuns;
+    return IsBusy();
 }
 
 void CChromaBitmapDesk::WaitWhilePainting(const std::atomic<bool>& bReady)
@@ -54,13 +40,11 @@ void CChromaBitmapDesk::WaitWhilePainting(const std::atomic<bool>& bReady)
     if (bReady)
         return;
     CLock lock(m_mutex);
-    m_condition.wait(lock, [this, &bReady] {
-        return bReady || (m_nPainters == 0 && !m_bWorkerAnnounced && !m_bWorkerRuns);
-    });
+    m_condition.wait(lock, [this, &bReady] { return bReady || (m_nPainters == 0 && !IsBusy()); });
 }
 
 void CChromaBitmapDesk::WaitForWorker()
 {
     CLock lock(m_mutex);
-    m_condition.wait(lock, [this] { return !m_bWorkerAnnounced && !m_bWorkerRuns; });
+    m_condition.wait(lock, [this] { return m_worker == enResting; });
 }

@@ -31,13 +31,17 @@ public:
     /// The painter is done: whoever waits looks again.
     void EndPainting();
 
-    /// Counts the worker in before its thread runs, so that nobody finds the time between idle.
-    void AnnounceWorker();
-    /// The worker runs: counts it in unless it was announced.
-    void BeginWorker();
-    /// The worker has nothing left to paint.
-    void EndWorker();
-    /// Whether the worker was announced or runs.
+    /// @name The worker's way
+    /// From rest it is announced before its thread runs, so that nobody finds the time between idle; it
+    /// paints, it reports its end, and it rests.
+    /// @{
+    void AnnounceWorker() { SetWorker(enAnnounced); }
+    void BeginWorker() { SetWorker(enPainting); }
+    void EndWorker() { SetWorker(enReporting); }
+    void RestWorker() { SetWorker(enResting); }
+    /// @}
+
+    /// Whether the worker paints or is about to.
     bool IsWorkerBusy();
 
     /// Tells the worker to stop at the next row of pixels, or withdraws that.
@@ -46,18 +50,29 @@ public:
 
     /// Waits until the bitmap is ready, or nobody is at work who could make it so.
     void WaitWhilePainting(const std::atomic<bool>& bReady);
-    /// Waits until the worker has nothing left to paint.
+    /// Waits until the worker rests.
     void WaitForWorker();
 
 private:
+    enum enWorker
+    {
+        enResting,
+        enAnnounced,
+        enPainting,
+        enReporting
+    };
+
+    /// Whoever waits looks again.
+    void SetWorker(enWorker worker);
+    bool IsBusy() const { return m_worker == enAnnounced || m_worker == enPainting; }
+
     std::mutex m_mutex;
     std::condition_variable m_condition;
     std::atomic<bool> m_bStopWorker{false};
     quint64 m_nLastTicket = 0;
     std::array<quint64, 6> m_arrHandedOver{}; ///< the tickets of the bitmaps shown, types -1 to 4
     int m_nPainters = 0;
-    bool m_bWorkerAnnounced = false;
-    bool m_bWorkerRuns = false;
+    enWorker m_worker = enResting;
 };
 
 /// A painter at work, for as long as it lives.

@@ -18,4 +18,6 @@ void CChromaGamutThread::run()
     if (m_pWnd != nullptr)
         m_pWnd->PaintWndBitmaps();
     Q_EMIT RunOver();
+    if (m_pWnd != nullptr)
+        m_pWnd->RestWndBitmapThread();
 }

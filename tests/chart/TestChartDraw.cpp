@@ -1,0 +1,420 @@
+#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "SenderModuleDialog/colour/ColourStandards.h"
+#include "tests/chart/PlainFrame.h"
+
+#include <QPainterPath>
+#include <QPicture>
+#include <QtTest>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+constexpr QSize c_sizeChart(420, 360);
+
+void AddGroup(CChromaticityDlgWnd& chart, int nKey, enColorStandard standard, bool bRgbMode)
+{
+    const SColourStandard& points = c_arrColourStandards[standard];
+    SChromaGroupInfo group;
+    group.ptRed = points.ptRed;
+    group.ptGreen = points.ptGreen;
+    group.ptBlue = points.ptBlue;
+    group.ptWhite = points.ptWhite;
+    group.bMoveRed = true;
+    group.nPenStyle = Qt::SolidLine;
+    group.bRgbMode = bRgbMode;
+    chart.AddChromaGroupByIndex(nKey, group);
+}
+
+std::unique_ptr<CChromaticityDlgWnd> MakeChart(QWidget* pParent = nullptr)
+{
+    auto pChart = std::make_unique<CChromaticityDlgWnd>(pParent);
+    pChart->resize(c_sizeChart);
+    pChart->SetSize(c_sizeChart.width(), c_sizeChart.height());
+    AddGroup(*pChart, enOutputColorSpace, enStandardRec2020, true);
+    AddGroup(*pChart, enScreenColorSpace, enStandardDCIP3, false);
+    pChart->m_ptMouse = QPoint(150, 200);
+    return pChart;
+}
+
+/// What a painter is set to, apart from the device.
+struct SPainterState
+{
+    QPen pen;
+    QBrush brush;
+    QFont font;
+    QPainter::RenderHints hints;
+    QTransform transform;
+    QPainter::CompositionMode mode;
+
+    explicit SPainterState(const QPainter& painter)
+        : pen(painter.pen())
+        , brush(painter.brush())
+        , font(painter.font())
+        , hints(painter.renderHints())
+        , transform(painter.worldTransform())
+        , mode(painter.compositionMode())
+    {}
+
+    bool operator==(const SPainterState& other) const
+    {
+        return pen == other.pen && brush == other.brush && font == other.font && hints == other.hints &&
+               transform == other.transform && mode == other.mode;
+    }
+};
+
+using FuncPrepare = std::function<void(QPainter&)>;
+
+void DrawFast(CChromaticityDlgWnd& chart, QPainter& painter)
+{
+    chart.Draw(painter);
+}
+
+void DrawPlain(CChromaticityDlgWnd& chart, QPainter& painter)
+{
+    PlainFrame::Draw(chart, chart, painter);
+}
+
+QImage Canvas(QImage::Format format, double dRatio = 1.0)
+{
+    QImage image((c_sizeChart + QSize(40, 30)) * dRatio, format);
+    image.setDevicePixelRatio(dRatio);
+    image.fill(QColor(200, 100, 20));
+    return image;
+}
+
+QImage Painted(CChromaticityDlgWnd& chart, void (*funcDraw)(CChromaticityDlgWnd&, QPainter&), QImage image,
+               const FuncPrepare& funcPrepare)
+{
+    QPainter painter(&image);
+    funcPrepare(painter);
+    funcDraw(chart, painter);
+    return image;
+}
+
+/// Whether two frames one after the other are the plain ones, the first of them perhaps painted anew.
+bool IsPlain(
+    CChromaticityDlgWnd& chart, const QImage& canvas, const FuncPrepare& funcPrepare = [](QPainter&) {})
+{
+    const QImage expected = Painted(chart, DrawPlain, canvas, funcPrepare);
+    return Painted(chart, DrawFast, canvas, funcPrepare) == expected &&
+           Painted(chart, DrawFast, canvas, funcPrepare) == expected;
+}
+
+/// A widget that paints a chart in the plain order.
+class CPlainChartWidget : public QWidget
+{
+public:
+    CPlainChartWidget(CChromaticityDlgWnd& chart, QWidget* pParent)
+        : QWidget(pParent)
+        , m_chart(chart)
+    {
+        resize(c_sizeChart);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        DrawPlain(m_chart, painter);
+    }
+
+private:
+    CChromaticityDlgWnd& m_chart;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(FuncPrepare)
+Q_DECLARE_METATYPE(std::function<void(CChromaticityDlgWnd&)>)
+
+class TestChartDraw : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void FramesAreThePlainOnes_data();
+    void FramesAreThePlainOnes();
+    void FramesFollowEveryChange_data();
+    void FramesFollowEveryChange();
+    void FramesFollowThePaintersState_data();
+    void FramesFollowThePaintersState();
+    void HighResolutionFramesAreThePlainOnes_data();
+    void HighResolutionFramesAreThePlainOnes();
+    void ADragIsPaintedAsPlainly();
+    void AGrabbedWidgetIsThePlainOne();
+    void AGrabbedParentIsThePlainOne();
+    void APictureIsDrawnInThePlainOrder();
+    void ThePainterIsLeftAsPlainly();
+    void TheDefaultBitmapIsPaintedOnce();
+    void ASmallerBitmapLeavesTheBackground();
+    void ALargerBitmapIsCut();
+    void AChartWithoutASizeDrawsWhatItCan();
+};
+
+void TestChartDraw::FramesAreThePlainOnes_data()
+{
+    QTest::addColumn<QImage::Format>("format");
+    QTest::newRow("RGB32") << QImage::Format_RGB32;
+    QTest::newRow("ARGB32") << QImage::Format_ARGB32;
+    QTest::newRow("ARGB32 premultiplied") << QImage::Format_ARGB32_Premultiplied;
+    QTest::newRow("RGBA8888 premultiplied") << QImage::Format_RGBA8888_Premultiplied;
+    QTest::newRow("RGB888") << QImage::Format_RGB888;
+    QTest::newRow("RGB16") << QImage::Format_RGB16;
+    QTest::newRow("30 bits") << QImage::Format_RGB30;
+    QTest::newRow("grey") << QImage::Format_Grayscale8;
+}
+
+void TestChartDraw::FramesAreThePlainOnes()
+{
+    QFETCH(QImage::Format, format);
+    const auto pChart = MakeChart();
+    QVERIFY(IsPlain(*pChart, Canvas(format)));
+}
+
+void TestChartDraw::FramesFollowEveryChange_data()
+{
+    using FuncChange = std::function<void(CChromaticityDlgWnd&)>;
+    QTest::addColumn<FuncChange>("change");
+    const auto AddRow = [](const char* szName, const FuncChange& funcChange) {
+        QTest::newRow(szName) << funcChange;
+    };
+    AddRow("mouse", [](auto& chart) { chart.m_ptMouse = QPoint(180, 210); });
+    AddRow("mouse outside", [](auto& chart) { chart.m_ptMouse = QPoint(0, 0); });
+    AddRow("background", [](auto& chart) { chart.SetBackgroundColor(Qt::darkGreen); });
+    AddRow("translucent background", [](auto& chart) { chart.SetBackgroundColor(QColor(0, 0, 200, 100)); });
+    AddRow("no background", [](auto& chart) { chart.SetBackgroundColor(QColor()); });
+    AddRow("grid", [](auto& chart) { chart.SetGridLineAlpha(30); });
+    AddRow("no grid", [](auto& chart) { chart.SetGridLineAlpha(0); });
+    AddRow("grid out of range", [](auto& chart) { chart.SetGridLineAlpha(300); });
+    AddRow("layout", [](auto& chart) { chart.SetSize(300, 340); });
+    AddRow("bitmap of another type", [](auto& chart) {
+        chart.SetWndData(2, 420, 360);
+        chart.SetWndType(2);
+    });
+    AddRow("bitmap painted anew", [](auto& chart) {
+        chart.SetWndData(2, 420, 360);
+        chart.SetWndType(2);
+        QImage image = Canvas(QImage::Format_RGB32);
+        QPainter painter(&image);
+        chart.Draw(painter);
+        chart.SetWndData(2, 300, 360);
+    });
+    AddRow("no bitmap", [](auto& chart) { chart.SetWndType(3); });
+    AddRow("unknown type", [](auto& chart) { chart.SetWndType(77); });
+    AddRow("default bitmap painted anew", [](auto& chart) {
+        chart.SetSize(400, 300);
+        chart.GetChromaticityBmp(-1);
+    });
+    AddRow("groups", [](auto& chart) { chart.RemoveChromaGroupByIndex(enOutputColorSpace); });
+    AddRow("temperature", [](auto& chart) {
+        chart.m_bShowCCT = true;
+        chart.m_bHitWhite = true;
+    });
+}
+
+void TestChartDraw::FramesFollowEveryChange()
+{
+    QFETCH(std::function<void(CChromaticityDlgWnd&)>, change);
+    for (const QImage::Format format :
+         {QImage::Format_RGB32, QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied}) {
+        const auto pChart = MakeChart();
+        QVERIFY(IsPlain(*pChart, Canvas(format)));
+        change(*pChart);
+        QVERIFY(IsPlain(*pChart, Canvas(format)));
+    }
+}
+
+void TestChartDraw::FramesFollowThePaintersState_data()
+{
+    QTest::addColumn<FuncPrepare>("prepare");
+    const auto AddRow = [](const char* szName, const FuncPrepare& funcPrepare) {
+        QTest::newRow(szName) << funcPrepare;
+    };
+    AddRow("moved by whole pixels", [](QPainter& painter) { painter.translate(13, 17); });
+    AddRow("moved by a part of a pixel", [](QPainter& painter) { painter.translate(0.5, 0.25); });
+    AddRow("scaled", [](QPainter& painter) { painter.scale(0.9, 0.9); });
+    AddRow("scaled up", [](QPainter& painter) { painter.scale(2, 2); });
+    AddRow("mirrored", [](QPainter& painter) {
+        painter.translate(420, 0);
+        painter.scale(-1, 1);
+    });
+    AddRow("rotated", [](QPainter& painter) { painter.rotate(5); });
+    AddRow("window and viewport", [](QPainter& painter) { painter.setWindow(0, 0, 900, 900); });
+    AddRow("clipped", [](QPainter& painter) { painter.setClipRect(50, 60, 200, 100); });
+    AddRow("clipped by a path", [](QPainter& painter) {
+        QPainterPath path;
+        path.addEllipse(50, 60, 200, 100);
+        painter.setClipPath(path);
+    });
+    AddRow("translucent", [](QPainter& painter) { painter.setOpacity(0.5); });
+    AddRow("another composition",
+           [](QPainter& painter) { painter.setCompositionMode(QPainter::CompositionMode_DestinationOver); });
+    AddRow("antialiased", [](QPainter& painter) { painter.setRenderHint(QPainter::Antialiasing); });
+    AddRow("smooth pixmaps",
+           [](QPainter& painter) { painter.setRenderHint(QPainter::SmoothPixmapTransform); });
+    AddRow("hard text", [](QPainter& painter) { painter.setRenderHint(QPainter::TextAntialiasing, false); });
+    AddRow("another font", [](QPainter& painter) {
+        QFont font = painter.font();
+        font.setItalic(true);
+        font.setWeight(QFont::Black);
+        font.setLetterSpacing(QFont::AbsoluteSpacing, 2);
+        painter.setFont(font);
+    });
+    AddRow("right to left", [](QPainter& painter) { painter.setLayoutDirection(Qt::RightToLeft); });
+}
+
+void TestChartDraw::FramesFollowThePaintersState()
+{
+    QFETCH(FuncPrepare, prepare);
+    for (const QImage::Format format :
+         {QImage::Format_RGB32, QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied}) {
+        const auto pChart = MakeChart();
+        QVERIFY(IsPlain(*pChart, Canvas(format)));
+        QVERIFY(IsPlain(*pChart, Canvas(format), prepare));
+        QVERIFY(IsPlain(*pChart, Canvas(format)));
+    }
+}
+
+void TestChartDraw::HighResolutionFramesAreThePlainOnes_data()
+{
+    QTest::addColumn<double>("ratio");
+    QTest::newRow("double") << 2.0;
+    QTest::newRow("triple") << 3.0;
+    QTest::newRow("one and a half") << 1.5;
+}
+
+void TestChartDraw::HighResolutionFramesAreThePlainOnes()
+{
+    QFETCH(double, ratio);
+    const auto pChart = MakeChart();
+    QVERIFY(IsPlain(*pChart, Canvas(QImage::Format_RGB32, ratio)));
+    QVERIFY(IsPlain(*pChart, Canvas(QImage::Format_ARGB32_Premultiplied, ratio),
+                    [](QPainter& painter) { painter.translate(7, 3); }));
+}
+
+void TestChartDraw::ADragIsPaintedAsPlainly()
+{
+    // The dots of a held group shrink from paint to paint, so each frame is painted once on each side.
+    const auto pFast = MakeChart();
+    const auto pPlain = MakeChart();
+    for (CChromaticityDlgWnd* pChart : {pFast.get(), pPlain.get()}) {
+        pChart->m_nHoverGroup = enOutputColorSpace;
+        pChart->m_nHoverPoint = enRedPoint;
+    }
+    for (int i = 0; i < 10; ++i) {
+        for (CChromaticityDlgWnd* pChart : {pFast.get(), pPlain.get()})
+            pChart->GetChromaGroupByIndex(enOutputColorSpace)->ptRed.x -= 0.01F;
+        const auto funcNothing = [](QPainter&) {};
+        const QImage canvas = Canvas(QImage::Format_RGB32);
+        QVERIFY(Painted(*pFast, DrawFast, canvas, funcNothing) ==
+                Painted(*pPlain, DrawPlain, canvas, funcNothing));
+    }
+}
+
+void TestChartDraw::AGrabbedWidgetIsThePlainOne()
+{
+    const auto pChart = MakeChart();
+    CPlainChartWidget plain(*pChart, nullptr);
+    const QImage expected = plain.grab().toImage();
+    QVERIFY(pChart->grab().toImage() == expected);
+    QVERIFY(pChart->grab().toImage() == expected);
+    QVERIFY(pChart->grab(QRect(30, 40, 200, 150)).toImage() == plain.grab(QRect(30, 40, 200, 150)).toImage());
+}
+
+void TestChartDraw::AGrabbedParentIsThePlainOne()
+{
+    QWidget parent;
+    const auto pChart = MakeChart(&parent);
+    pChart->move(33, 21);
+    parent.resize(600, 500);
+    parent.show();
+    QCoreApplication::processEvents();
+    const QImage actual = parent.grab().toImage();
+    pChart->hide();
+    CPlainChartWidget plain(*pChart, &parent);
+    plain.move(33, 21);
+    plain.show();
+    QVERIFY(actual == parent.grab().toImage());
+}
+
+void TestChartDraw::APictureIsDrawnInThePlainOrder()
+{
+    const auto pChart = MakeChart();
+    QVERIFY(IsPlain(*pChart, Canvas(QImage::Format_RGB32)));
+    const auto Record = [&pChart](void (*funcDraw)(CChromaticityDlgWnd&, QPainter&)) {
+        QPicture picture;
+        QPainter painter(&picture);
+        funcDraw(*pChart, painter);
+        painter.end();
+        return QByteArray(picture.data(), int(picture.size()));
+    };
+    const QByteArray expected = Record(DrawPlain);
+    QVERIFY(expected.size() > 1000);
+    QVERIFY(Record(DrawFast) == expected);
+}
+
+void TestChartDraw::ThePainterIsLeftAsPlainly()
+{
+    const auto pChart = MakeChart();
+    for (int i = 0; i < 2; ++i) {
+        QImage image = Canvas(QImage::Format_RGB32);
+        QPainter painter(&image);
+        painter.translate(3, 4);
+        pChart->Draw(painter);
+        const SPainterState actual(painter);
+        painter.end();
+        painter.begin(&image);
+        painter.translate(3, 4);
+        DrawPlain(*pChart, painter);
+        QVERIFY(actual == SPainterState(painter));
+    }
+}
+
+void TestChartDraw::TheDefaultBitmapIsPaintedOnce()
+{
+    const auto pChart = MakeChart();
+    QVERIFY(pChart->m_bDefaultDirty && pChart->m_pDefaultImage == nullptr);
+    pChart->grab();
+    QVERIFY(!pChart->m_bDefaultDirty);
+    const QImage* pImage = pChart->m_pDefaultImage;
+    QCOMPARE(pImage->size(), c_sizeChart);
+    pChart->SetSize(300, 300);
+    pChart->grab();
+    QCOMPARE(pChart->m_pDefaultImage, pImage);
+    QCOMPARE(pImage->size(), c_sizeChart);
+}
+
+void TestChartDraw::ASmallerBitmapLeavesTheBackground()
+{
+    const auto pChart = MakeChart();
+    pChart->SetWndData(0, 210, 360);
+    pChart->SetWndType(0);
+    const QImage image = pChart->grab().toImage();
+    const QPoint ptRight = pChart->Mapping().ToPixel(QPointF(0.62, 0.35)).toPoint();
+    QVERIFY(ptRight.x() > 210);
+    QCOMPARE(image.pixelColor(ptRight), pChart->m_clrBackground);
+}
+
+void TestChartDraw::ALargerBitmapIsCut()
+{
+    const auto pChart = MakeChart();
+    pChart->SetWndData(0, 1000, 900);
+    pChart->SetWndType(0);
+    QImage image = Canvas(QImage::Format_RGB32);
+    QPainter painter(&image);
+    pChart->Draw(painter);
+    painter.end();
+    QCOMPARE(image.pixelColor(c_sizeChart.width() + 5, 100), QColor(200, 100, 20));
+    QVERIFY(IsPlain(*pChart, Canvas(QImage::Format_RGB32)));
+}
+
+void TestChartDraw::AChartWithoutASizeDrawsWhatItCan()
+{
+    CChromaticityDlgWnd chart(nullptr);
+    QVERIFY(IsPlain(chart, Canvas(QImage::Format_RGB32)));
+}
+
+QTEST_MAIN(TestChartDraw)
+#include "TestChartDraw.moc"
