@@ -100,7 +100,7 @@ struct SENDERMODULEDIALOG_EXPORT SWndBitmap
     int nType = -1;                  ///< -1 until `SetWndData` names it
     int nWidth = 0;                  ///< in pixels
     int nHeight = 0;                 ///< in pixels
-    QImage* pImage = nullptr;        ///< owned; only ever a finished picture, handed over whole
+    QImage* pImage = nullptr;        ///< owned; only ever a whole picture. Read it while the worker rests
     std::atomic<bool> bReady{false}; ///< set after the first painting, which may run in the worker thread
 };
 

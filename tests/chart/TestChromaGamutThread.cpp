@@ -114,6 +114,7 @@ void TestChromaGamutThread::AStartedWorkerPaintsWhatTheCallerWouldPaint()
     connect(pChart->m_pThread, &CChromaGamutThread::RunOver, this, [&nEnds] { ++nEnds; });
     pChart->StartWndBitmapThread();
     QTRY_COMPARE(nEnds, 1);
+    pChart->StopWndBitmapThread();
     for (int nType = 0; nType < 5; ++nType)
         QVERIFY(*Bitmap(*pChart, nType).pImage == *Bitmap(*pOther, nType).pImage);
 }
@@ -158,6 +159,7 @@ void TestChromaGamutThread::StartingAgainPaintsTheNewSizes()
         pChart->StartWndBitmapThread();
     }
     QTRY_VERIFY(pChart->m_pThread->isFinished());
+    pChart->StopWndBitmapThread();
     for (int nType = 0; nType < 5; ++nType)
         QCOMPARE(Bitmap(*pChart, nType).pImage->size(), QSize(120, 120));
 }
@@ -249,6 +251,7 @@ void TestChromaGamutThread::APaintingThatBeganEarlierDoesNotReplaceALaterOne()
     // Whether the worker is at the large bitmap by now or not: the one that was asked for last is shown.
     pChart->SetWndData(0, 60, 50);
     QTRY_VERIFY(pChart->m_pThread->isFinished());
+    pChart->StopWndBitmapThread();
     QCOMPARE(Bitmap(*pChart, 0).pImage->size(), QSize(60, 50));
 }
 

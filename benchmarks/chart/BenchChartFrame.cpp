@@ -1,0 +1,162 @@
+#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "SenderModuleDialog/colour/ColourStandards.h"
+#include "tests/chart/PlainFrame.h"
+#include "tests/chart/PlainOverlays.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+#include <malloc.h>
+#include <time.h>
+
+/// @file
+/// A whole warm frame with two groups, tips, cross and legend under a moving mouse: in the plain order of
+/// painting with everything anew, and as `CChromaticityDlgWnd::Draw` paints it. `times_plain` is the ratio of
+/// the two, measured in turns.
+
+namespace {
+
+constexpr int c_nMouseSteps = 40;
+
+void AddGroup(CChromaticityDlgWnd& chart, int nKey, enColorStandard standard)
+{
+    const SColourStandard& points = c_arrColourStandards[standard];
+    SChromaGroupInfo group;
+    group.ptRed = points.ptRed;
+    group.ptGreen = points.ptGreen;
+    group.ptBlue = points.ptBlue;
+    group.ptWhite = points.ptWhite;
+    group.nPenStyle = Qt::SolidLine;
+    chart.AddChromaGroupByIndex(nKey, group);
+}
+
+/// A chart, its oracle and an image to paint them into.
+class CStage
+{
+public:
+    CStage(int nWidth, int nHeight, QImage::Format format)
+        : m_image(nWidth, nHeight, format)
+    {
+        m_chart.resize(nWidth, nHeight);
+        m_chart.SetSize(nWidth, nHeight);
+        AddGroup(m_chart, enOutputColorSpace, enStandardRec2020);
+        AddGroup(m_chart, enScreenColorSpace, enStandardSRGB);
+        PaintFast();
+        PaintPlain();
+    }
+
+    void PaintFast()
+    {
+        MoveMouse();
+        QPainter painter(&m_image);
+        m_chart.Draw(painter);
+    }
+
+    void PaintPlain()
+    {
+        MoveMouse();
+        QPainter painter(&m_image);
+        PlainFrame::Draw(m_chart, m_overlays, painter);
+    }
+
+private:
+    void MoveMouse()
+    {
+        m_nStep = (m_nStep + 1) % c_nMouseSteps;
+        const QPointF ptInside = m_chart.Mapping().ToPixel(QPointF(0.3, 0.35));
+        m_chart.m_ptMouse = ptInside.toPoint() + QPoint(m_nStep, 2 * m_nStep);
+    }
+
+    CChromaticityDlgWnd m_chart{nullptr};
+    CPlainOverlays m_overlays{m_chart};
+    QImage m_image;
+    int m_nStep = 0;
+};
+
+double Seconds(const timespec& start, const timespec& end)
+{
+    return double(end.tv_sec - start.tv_sec) + 1e-9 * double(end.tv_nsec - start.tv_nsec);
+}
+
+template <class TFunc>
+double SecondsOf(const TFunc& func)
+{
+    timespec start = {};
+    timespec end = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &start);
+    func();
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &end);
+    return Seconds(start, end);
+}
+
+double Median(std::vector<double>& vecSeconds)
+{
+    const auto middle = vecSeconds.begin() + std::ptrdiff_t(vecSeconds.size() / 2);
+    std::nth_element(vecSeconds.begin(), middle, vecSeconds.end());
+    return *middle;
+}
+
+/// Median of the plain frames by the median of the warm ones, painted in turns so that both see the same
+/// machine.
+double TimesPlain(CStage& stage)
+{
+    constexpr int c_nRounds = 60;
+    std::vector<double> vecFast;
+    std::vector<double> vecPlain;
+    for (int i = 0; i < c_nRounds; ++i) {
+        vecFast.push_back(SecondsOf([&stage] { stage.PaintFast(); }));
+        vecPlain.push_back(SecondsOf([&stage] { stage.PaintPlain(); }));
+    }
+    return Median(vecPlain) / Median(vecFast);
+}
+
+template <QImage::Format format>
+void BM_PlainFrame(benchmark::State& state)
+{
+    CStage stage(int(state.range(0)), int(state.range(1)), format);
+    for (auto _ : state)
+        stage.PaintPlain();
+}
+
+template <QImage::Format format>
+void BM_WarmFrame(benchmark::State& state)
+{
+    CStage stage(int(state.range(0)), int(state.range(1)), format);
+    for (auto _ : state)
+        stage.PaintFast();
+    state.counters["times_plain"] = TimesPlain(stage);
+}
+
+void Sizes(benchmark::internal::Benchmark* pBenchmark)
+{
+    pBenchmark->Args({1000, 1000})->Args({1920, 1080})->Unit(benchmark::kMicrosecond);
+}
+
+BENCHMARK_TEMPLATE(BM_PlainFrame, QImage::Format_RGB32)->Apply(Sizes);
+BENCHMARK_TEMPLATE(BM_WarmFrame, QImage::Format_RGB32)->Apply(Sizes);
+BENCHMARK_TEMPLATE(BM_PlainFrame, QImage::Format_ARGB32_Premultiplied)->Apply(Sizes);
+BENCHMARK_TEMPLATE(BM_WarmFrame, QImage::Format_ARGB32_Premultiplied)->Apply(Sizes);
+BENCHMARK_TEMPLATE(BM_PlainFrame, QImage::Format_ARGB32)->Apply(Sizes);
+BENCHMARK_TEMPLATE(BM_WarmFrame, QImage::Format_ARGB32)->Apply(Sizes);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Large blocks always come fresh from the system and go back to it, as they do in a new process. With what the
+    // allocator learns while it runs, the order of the benchmarks would decide what the plain frame's two temporary
+    // images cost.
+    constexpr int c_nMmapThreshold = 128 * 1024;
+    mallopt(M_MMAP_THRESHOLD, c_nMmapThreshold);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
