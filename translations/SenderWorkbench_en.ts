@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>像素时钟%1MHz超过接口的最大值%2MHz。</source>
-        <translation>The pixel clock of %1 MHz is above the input's maximum of %2 MHz.</translation>
+        <translation>The pixel clock of %1 MHz is above the input&apos;s maximum of %2 MHz.</translation>
     </message>
     <message>
         <source>已使用DisplayID 1.3扩展块</source>
@@ -154,7 +154,7 @@
     </message>
     <message>
         <source>模拟</source>
-        <translation>analogue</translation>
+        <translation>Simulation</translation>
     </message>
     <message>
         <source>未知</source>
@@ -578,6 +578,189 @@
     </message>
 </context>
 <context>
+    <name>CSenderPropertyText</name>
+    <message>
+        <source>发送器</source>
+        <translation>Sender</translation>
+    </message>
+    <message>
+        <source>输出</source>
+        <translation>Output</translation>
+    </message>
+    <message>
+        <source>画布</source>
+        <translation>Canvas</translation>
+    </message>
+    <message>
+        <source>故障</source>
+        <translation>Faults</translation>
+    </message>
+    <message>
+        <source>寻址（整个工程）</source>
+        <translation>Addressing (whole project)</translation>
+    </message>
+    <message>
+        <source>8 位</source>
+        <translation>8 bit</translation>
+    </message>
+    <message>
+        <source>10 位</source>
+        <translation>10 bit</translation>
+    </message>
+    <message>
+        <source>12 位</source>
+        <translation>12 bit</translation>
+    </message>
+    <message>
+        <source>由工程计算</source>
+        <translation>computed from the project</translation>
+    </message>
+    <message>
+        <source>没有超限</source>
+        <translation>none exceeded</translation>
+    </message>
+    <message>
+        <source>输出视频区域</source>
+        <translation>output video area</translation>
+    </message>
+    <message>
+        <source>DVI 1 至 4</source>
+        <translation>DVI 1 to 4</translation>
+    </message>
+    <message>
+        <source>DVI 5 至 8</source>
+        <translation>DVI 5 to 8</translation>
+    </message>
+    <message>
+        <source>输出口带载面积</source>
+        <translation>load of an output port</translation>
+    </message>
+    <message>
+        <source>EDID 输出面积</source>
+        <translation>EDID output area</translation>
+    </message>
+    <message>
+        <source>未知的标志</source>
+        <translation>a flag that is not known</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>视频处理器</source>
+        <translation>Video processor</translation>
+    </message>
+    <message>
+        <source>支持 10 位</source>
+        <translation>Offers 10 bit</translation>
+    </message>
+    <message>
+        <source>支持 12 位</source>
+        <translation>Offers 12 bit</translation>
+    </message>
+    <message>
+        <source>接受完整的 EDID 记录</source>
+        <translation>Takes the full EDID record</translation>
+    </message>
+    <message>
+        <source>支持 EDID 扩展块</source>
+        <translation>Has modes that need an extension block</translation>
+    </message>
+    <message>
+        <source>输出口数量</source>
+        <translation>Output ports</translation>
+    </message>
+    <message>
+        <source>工程帧率 (Hz)</source>
+        <translation>Frame rate of the project (Hz)</translation>
+    </message>
+    <message>
+        <source>工程色深（位）</source>
+        <translation>Colour depth of the project (bit)</translation>
+    </message>
+    <message>
+        <source>硬件色深</source>
+        <translation>Colour depth of the hardware</translation>
+    </message>
+    <message>
+        <source>硬件以 50 Hz 运行</source>
+        <translation>Hardware runs at 50 Hz</translation>
+    </message>
+    <message>
+        <source>实际输入帧率 (Hz)，0 为未知</source>
+        <translation>Rate that comes in (Hz), 0 unknown</translation>
+    </message>
+    <message>
+        <source>输出超限</source>
+        <translation>Output limits exceeded</translation>
+    </message>
+    <message>
+        <source>画布宽</source>
+        <translation>Canvas width</translation>
+    </message>
+    <message>
+        <source>画布高</source>
+        <translation>Canvas height</translation>
+    </message>
+    <message>
+        <source>从硬件读取画布</source>
+        <translation>Canvas is read from the hardware</translation>
+    </message>
+    <message>
+        <source>硬件画布宽</source>
+        <translation>Width in the hardware</translation>
+    </message>
+    <message>
+        <source>硬件画布高</source>
+        <translation>Height in the hardware</translation>
+    </message>
+    <message>
+        <source>最大宽</source>
+        <translation>Maximum width</translation>
+    </message>
+    <message>
+        <source>最大高</source>
+        <translation>Maximum height</translation>
+    </message>
+    <message>
+        <source>最大面积</source>
+        <translation>Maximum area</translation>
+    </message>
+    <message>
+        <source>EDID 写入失败</source>
+        <translation>Writing an EDID fails</translation>
+    </message>
+    <message>
+        <source>EDID 写入后不生效</source>
+        <translation>A written EDID does not take</translation>
+    </message>
+    <message>
+        <source>写入延迟（毫秒）</source>
+        <translation>Delay of a write (ms)</translation>
+    </message>
+    <message>
+        <source>演示模式</source>
+        <translation>Demo mode</translation>
+    </message>
+    <message>
+        <source>按 IP 地址寻址</source>
+        <translation>Processors are addressed by IP</translation>
+    </message>
+    <message>
+        <source>探测方式，2 要求起始地址</source>
+        <translation>Detect strategy, 2 asks for a first address</translation>
+    </message>
+    <message>
+        <source>已有主控数量，-1 为发送器的数量</source>
+        <translation>Processors that exist, -1 the number of senders</translation>
+    </message>
+    <message>
+        <source>主控数量上限（按地址）</source>
+        <translation>Most processors (by address)</translation>
+    </message>
+</context>
+<context>
     <name>CSenderTree</name>
     <message>
         <source>写入失败</source>
@@ -610,6 +793,13 @@
     <message>
         <source>状态</source>
         <translation>State</translation>
+    </message>
+</context>
+<context>
+    <name>CSimulationPage</name>
+    <message>
+        <source>模拟</source>
+        <translation>Simulation</translation>
     </message>
 </context>
 <context>
@@ -647,7 +837,7 @@
     </message>
     <message>
         <source>主机不能使用的地址：组播、保留或网络地址</source>
-        <translation>no host can have it: multicast, reserved, or a network's own address</translation>
+        <translation>no host can have it: multicast, reserved, or a network&apos;s own address</translation>
     </message>
     <message>
         <source>不是完整的地址</source>

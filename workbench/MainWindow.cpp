@@ -7,6 +7,7 @@
 #include "workbench/Tour.h"
 #include "workbench/addresses/AddressPage.h"
 #include "workbench/edid/EdidPage.h"
+#include "workbench/simulation/SimulationPage.h"
 
 #include <QCloseEvent>
 #include <QFileInfo>
@@ -81,6 +82,7 @@ void CMainWindow::AddPages()
 {
     AddPage(new CEdidPage(this));
     AddPage(new CAddressPage(this));
+    AddPage(new CSimulationPage(this));
 }
 
 void CMainWindow::AddPage(CWorkbenchPage* pPage)

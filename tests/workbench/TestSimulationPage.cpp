@@ -1,0 +1,101 @@
+#include "SenderModuleDialog/SenderModuleDialogInit.h"
+#include "simulator/CommonClass/Simulator.h"
+#include "workbench/simulation/SenderProperties.h"
+#include "workbench/simulation/SimulationPage.h"
+
+#include <QCheckBox>
+#include <QtTest>
+
+namespace {
+
+/// A value that differs from the present one and that the property takes.
+QVariant AnotherValue(const SSenderProperty& property, const QVariant& present)
+{
+    switch (property.editor) {
+    case enEditor::Text:
+        return present.toString() + QLatin1Char('!');
+    case enEditor::Switch:
+        return !present.toBool();
+    case enEditor::Choice:
+        return property.vecChoices.back().nValue == present.toInt() ? property.vecChoices.front().nValue
+                                                                    : property.vecChoices.back().nValue;
+    case enEditor::Number:
+    case enEditor::Decimal:
+        break;
+    }
+    return present.toInt() == property.nMax ? property.nMin : property.nMax;
+}
+
+} // namespace
+
+class TestSimulationPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void EachPropertyIsReadBackAsItWasWritten_data();
+    void EachPropertyIsReadBackAsItWasWritten();
+    void AnEditorChangesTheSelectedSender();
+    void EditorsFollowTheProject();
+    void WithoutASenderNothingCanBeEdited();
+};
+
+void TestSimulationPage::init()
+{
+    SenderModuleDialogInit(CSimulator::Instance().Label());
+    CSimulator::Instance().NewProject();
+}
+
+void TestSimulationPage::EachPropertyIsReadBackAsItWasWritten_data()
+{
+    QTest::addColumn<int>("index");
+    int nIndex = 0;
+    for (const SSenderProperty& property : SenderProperties::All())
+        QTest::addRow("%s: %s", property.szGroup, property.szName) << nIndex++;
+}
+
+void TestSimulationPage::EachPropertyIsReadBackAsItWasWritten()
+{
+    QFETCH(int, index);
+    const SSenderProperty& property = SenderProperties::All()[std::size_t(index)];
+    CSimulator& simulator = CSimulator::Instance();
+    const QVariant value = AnotherValue(property, property.funcRead(simulator.Project(), 1));
+    const QVariant otherBefore = property.funcRead(simulator.Project(), 2);
+    simulator.Change([&](SSimulatedProject& project) { property.funcWrite(project, 1, value); });
+    QCOMPARE(property.funcRead(simulator.Project(), 1).toString(), value.toString());
+    const bool bOfTheSender = property.szGroup != SenderProperties::All().back().szGroup;
+    if (bOfTheSender)
+        QCOMPARE(property.funcRead(simulator.Project(), 2), otherBefore);
+}
+
+void TestSimulationPage::AnEditorChangesTheSelectedSender()
+{
+    CSimulationPage page;
+    page.ShowSelection({3, -1});
+    const bool bBefore = CSimulator::Instance().Project().listSenders[3].capability.bVideoProcessor;
+    QTest::keyClick(page.findChild<QCheckBox*>(), Qt::Key_Space);
+    QCOMPARE(CSimulator::Instance().Project().listSenders[3].capability.bVideoProcessor, !bBefore);
+}
+
+void TestSimulationPage::EditorsFollowTheProject()
+{
+    CSimulationPage page;
+    page.ShowSelection({3, -1});
+    CSimulator::Instance().Change([](SSimulatedProject& project) {
+        project.listSenders[3].capability.bVideoProcessor =
+            !project.listSenders[3].capability.bVideoProcessor;
+    });
+    QCOMPARE(page.findChild<QCheckBox*>()->isChecked(),
+             CSimulator::Instance().Project().listSenders[3].capability.bVideoProcessor);
+}
+
+void TestSimulationPage::WithoutASenderNothingCanBeEdited()
+{
+    CSimulationPage page;
+    page.ShowSelection({-1, -1});
+    QVERIFY(!page.findChild<QCheckBox*>()->isEnabled());
+}
+
+QTEST_MAIN(TestSimulationPage)
+#include "TestSimulationPage.moc"

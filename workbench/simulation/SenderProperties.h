@@ -1,0 +1,52 @@
+#ifndef WORKBENCH_SIMULATION_SENDERPROPERTIES_H
+#define WORKBENCH_SIMULATION_SENDERPROPERTIES_H
+
+#include <QVariant>
+
+#include <functional>
+#include <vector>
+
+struct SSimulatedProject;
+
+/// How a property is edited.
+enum class enEditor
+{
+    Text,
+    Switch,
+    Number,
+    Decimal,
+    Choice
+};
+
+/// One choice of a property that has a few.
+struct SPropertyChoice
+{
+    const char* szText; ///< source text in the context `CSenderPropertyText`
+    int nValue;
+};
+
+/// One thing that a person may change about the simulated project: what a sender can do, what its hardware
+/// holds, how it misbehaves, and how processors are addressed.
+struct SSenderProperty
+{
+    const char* szGroup; ///< source text in the context `CSenderPropertyText`
+    const char* szName;  ///< source text in the context `CSenderPropertyText`
+    enEditor editor;
+    int nMin; ///< for numbers
+    int nMax;
+    std::vector<SPropertyChoice> vecChoices;
+    std::function<QVariant(const SSimulatedProject& project, int nSender)> funcRead;
+    std::function<void(SSimulatedProject& project, int nSender, const QVariant& value)> funcWrite;
+};
+
+namespace SenderProperties {
+
+/// All properties, group by group.
+const std::vector<SSenderProperty>& All();
+
+/// A text of the table in the current language.
+QString Text(const char* szText);
+
+} // namespace SenderProperties
+
+#endif // WORKBENCH_SIMULATION_SENDERPROPERTIES_H

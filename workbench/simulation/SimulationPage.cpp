@@ -1,0 +1,179 @@
+#include "workbench/simulation/SimulationPage.h"
+
+#include "simulator/CommonClass/Simulator.h"
+#include "workbench/Tour.h"
+#include "workbench/simulation/SenderProperties.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QScrollArea>
+#include <QSpinBox>
+
+namespace {
+
+/// Shows a value in the editor that its property has.
+void ShowValue(const SSenderProperty& property, QWidget* pEditor, const QVariant& value)
+{
+    switch (property.editor) {
+    case enEditor::Text:
+        if (static_cast<QLineEdit*>(pEditor)->text() != value.toString())
+            static_cast<QLineEdit*>(pEditor)->setText(value.toString());
+        break;
+    case enEditor::Switch:
+        static_cast<QCheckBox*>(pEditor)->setChecked(value.toBool());
+        break;
+    case enEditor::Number:
+        static_cast<QSpinBox*>(pEditor)->setValue(value.toInt());
+        break;
+    case enEditor::Decimal:
+        static_cast<QDoubleSpinBox*>(pEditor)->setValue(value.toDouble());
+        break;
+    case enEditor::Choice:
+        static_cast<QComboBox*>(pEditor)->setCurrentIndex(static_cast<QComboBox*>(pEditor)->findData(value));
+        break;
+    }
+}
+
+void TranslateChoices(const SSenderProperty& property, QWidget* pEditor)
+{
+    auto* pComboBox = qobject_cast<QComboBox*>(pEditor);
+    if (pComboBox == nullptr)
+        return;
+    for (int i = 0; i < pComboBox->count(); ++i)
+        pComboBox->setItemText(i, SenderProperties::Text(property.vecChoices[std::size_t(i)].szText));
+}
+
+} // namespace
+
+CSimulationPage::CSimulationPage(QWidget* pParent)
+    : CWorkbenchPage(pParent)
+    , m_pForms(new QWidget(this))
+{
+    auto* pColumn = new QVBoxLayout(m_pForms);
+    for (const SSenderProperty& property : SenderProperties::All()) {
+        QFormLayout* pForm = FormOf(property.szGroup, pColumn);
+        QWidget* pEditor = CreateEditor(property);
+        auto* pCaption = new QLabel(m_pForms);
+        pCaption->setBuddy(pEditor);
+        pForm->addRow(pCaption, pEditor);
+        m_vecRows.push_back({&property, pCaption, pEditor});
+    }
+    pColumn->addStretch();
+    auto* pScroll = new QScrollArea(this);
+    pScroll->setWidget(m_pForms);
+    pScroll->setWidgetResizable(true);
+    pScroll->setFrameShape(QFrame::NoFrame);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(pScroll);
+    connect(&CSimulator::Instance(), &CSimulator::OnProjectChanged, this, &CSimulationPage::Refresh);
+    Retranslate();
+}
+
+CSimulationPage::~CSimulationPage() = default;
+
+QFormLayout* CSimulationPage::FormOf(const char* szGroup, QVBoxLayout* pLayout)
+{
+    if (!m_vecGroups.empty() && m_vecGroups.back().szName == szGroup)
+        return m_vecGroups.back().pForm;
+    auto* pBox = new QGroupBox(m_pForms);
+    auto* pForm = new QFormLayout(pBox);
+    pLayout->addWidget(pBox);
+    m_vecGroups.push_back({szGroup, pBox, pForm});
+    return pForm;
+}
+
+QWidget* CSimulationPage::CreateEditor(const SSenderProperty& property)
+{
+    switch (property.editor) {
+    case enEditor::Text: {
+        auto* pEdit = new QLineEdit(m_pForms);
+        connect(pEdit, &QLineEdit::textEdited, this,
+                [this, &property](const QString& strText) { Write(property, strText); });
+        return pEdit;
+    }
+    case enEditor::Switch: {
+        auto* pCheckBox = new QCheckBox(m_pForms);
+        connect(pCheckBox, &QCheckBox::toggled, this, [this, &property](bool bOn) { Write(property, bOn); });
+        return pCheckBox;
+    }
+    case enEditor::Decimal: {
+        auto* pSpinBox = new QDoubleSpinBox(m_pForms);
+        pSpinBox->setRange(property.nMin, property.nMax);
+        connect(pSpinBox, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+                [this, &property](double dValue) { Write(property, dValue); });
+        return pSpinBox;
+    }
+    case enEditor::Choice: {
+        auto* pComboBox = new QComboBox(m_pForms);
+        for (const SPropertyChoice& choice : property.vecChoices)
+            pComboBox->addItem(SenderProperties::Text(choice.szText), choice.nValue);
+        connect(pComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+                [this, &property, pComboBox] { Write(property, pComboBox->currentData()); });
+        return pComboBox;
+    }
+    case enEditor::Number:
+        break;
+    }
+    auto* pSpinBox = new QSpinBox(m_pForms);
+    pSpinBox->setRange(property.nMin, property.nMax);
+    connect(pSpinBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            [this, &property](int nValue) { Write(property, nValue); });
+    return pSpinBox;
+}
+
+QString CSimulationPage::Title() const
+{
+    return tr("模拟");
+}
+
+void CSimulationPage::Retranslate()
+{
+    for (const SGroup& group : m_vecGroups)
+        group.pBox->setTitle(SenderProperties::Text(group.szName));
+    const QScopedValueRollback<bool> refreshing(m_bRefreshing, true);
+    for (const SRow& row : m_vecRows) {
+        row.pCaption->setText(SenderProperties::Text(row.pProperty->szName));
+        row.pEditor->setAccessibleName(SenderProperties::Text(row.pProperty->szName));
+        TranslateChoices(*row.pProperty, row.pEditor);
+    }
+}
+
+void CSimulationPage::ShowSelection(const SSelection& selection)
+{
+    m_selection = selection;
+    Refresh();
+}
+
+void CSimulationPage::Refresh()
+{
+    const SSimulatedProject& project = CSimulator::Instance().Project();
+    const bool bSender = project.FindSender(m_selection.nSender) != nullptr;
+    m_pForms->setEnabled(bSender);
+    if (!bSender)
+        return;
+    const QScopedValueRollback<bool> refreshing(m_bRefreshing, true);
+    for (const SRow& row : m_vecRows)
+        ShowValue(*row.pProperty, row.pEditor, row.pProperty->funcRead(project, m_selection.nSender));
+}
+
+void CSimulationPage::Write(const SSenderProperty& property, const QVariant& value)
+{
+    if (m_bRefreshing)
+        return;
+    const int nSender = m_selection.nSender;
+    CSimulator::Instance().Change(
+        [&](SSimulatedProject& project) { property.funcWrite(project, nSender, value); });
+}
+
+void CSimulationPage::Tour(CTour& tour, QWidget* pWorkbench)
+{
+    tour.Picture(pWorkbench, QStringLiteral("simulation"));
+    tour.Picture(m_pForms, QStringLiteral("simulation-all"));
+}
