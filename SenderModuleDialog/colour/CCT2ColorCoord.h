@@ -113,6 +113,7 @@ private:
     };
     explicit CCCT2ColorCoord(EnSolve);
     static const CCCT2ColorCoord& Solved();
+    void FindPair(QPointF uvcolorCoord, sCIE1931* pPair) const;
     float Bisect(float fLow, float fHigh, float fTargetCCT) const;
 
     const CNearestRowSearch* m_pSearch =

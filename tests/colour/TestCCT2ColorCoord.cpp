@@ -53,6 +53,7 @@ private Q_SLOTS:
     void temperatureOutsideTheLocusWritesNothing();
     void chromaticityGivesTheTemperature_data();
     void chromaticityGivesTheTemperature();
+    void theSmallestChromaticityFaultsNothing();
     void chromaticityOutsideTheGateWritesNothing_data();
     void chromaticityOutsideTheGateWritesNothing();
     void solvingEndsInTheKnownNumbers();
@@ -139,6 +140,16 @@ void TestCCT2ColorCoord::chromaticityGivesTheTemperature()
     QFETCH(double, dWithin);
     QVERIFY2(std::abs(double(temperature.fCCT) - dExpected) <= dWithin,
              qPrintable(QString::number(double(temperature.fCCT), 'g', 12)));
+}
+
+/// Its u rounds to 0, which the search alone would fault on.
+void TestCCT2ColorCoord::theSmallestChromaticityFaultsNothing()
+{
+    const QPointF pt(std::numeric_limits<double>::denorm_min(), 0.95);
+    QVERIFY(CCCT2ColorCoord().isCoordInArea(pt));
+    const STemperature temperature = TemperatureOf(pt, false);
+    QVERIFY(temperature.fCCT != c_fUnwritten);
+    QCOMPARE(temperature.bInRange, CCCT2ColorCoord().isCCTInRange(temperature.fCCT));
 }
 
 void TestCCT2ColorCoord::chromaticityOutsideTheGateWritesNothing_data()
