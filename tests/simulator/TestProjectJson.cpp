@@ -42,7 +42,7 @@ QJsonValue WithValueAt(const QJsonValue& root, const QStringList& listPath, cons
 {
     if (listPath.isEmpty())
         return value;
-    const QString strPart = listPath.first();
+    const QString& strPart = listPath.first();
     if (root.isArray()) {
         QJsonArray array = root.toArray();
         array[strPart.toInt()] = WithValueAt(array.at(strPart.toInt()), listPath.mid(1), value);
