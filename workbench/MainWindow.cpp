@@ -81,7 +81,7 @@ CMainWindow::~CMainWindow() = default;
 void CMainWindow::AddPages()
 {
     AddPage(new CEdidPage(this));
-    AddPage(new CAddressPage(this));
+    AddPage(new CAddressPage([this] { return m_pProject->MayLeave(); }, this));
     AddPage(new CSimulationPage(this));
 }
 

@@ -50,8 +50,8 @@ CNetworkNamespace::~CNetworkNamespace()
 
 void CNetworkNamespace::AddInterface(const STestInterface& testInterface)
 {
-    // A pair, because it is the kind of interface that every kernel with containers has; the far end is not
-    // used.
+    // A pair, because it is the kind of interface that every kernel with containers has. The far end is up
+    // too: an interface without a carrier does not count as up.
     Run(QStringLiteral("link add %1 type veth peer name %1-far").arg(testInterface.strName));
     for (const QString& strAddress : testInterface.listAddresses) {
         const QString strBroadcast =
@@ -59,6 +59,7 @@ void CNetworkNamespace::AddInterface(const STestInterface& testInterface)
         Run(QStringLiteral("addr add %1%2 dev %3").arg(strAddress, strBroadcast, testInterface.strName));
     }
     Run(QStringLiteral("link set %1 up").arg(testInterface.strName));
+    Run(QStringLiteral("link set %1-far up").arg(testInterface.strName));
 }
 
 void CNetworkNamespace::Run(const QString& strCommand)

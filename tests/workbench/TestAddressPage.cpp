@@ -52,6 +52,11 @@ void EnterAddress(QDialog* pDialog, const char* szAddress)
     pDialog->findChild<CCustomIPEdit*>()->setText(QString::fromLatin1(szAddress));
 }
 
+bool Leave()
+{
+    return true;
+}
+
 QStringList Stored()
 {
     return CSimulator::Instance().Project().addresses.listStored;
@@ -81,6 +86,7 @@ private Q_SLOTS:
     void ResettingBringsTheFirstAddressBack();
     void AddingByHandAddsSendersAndAddresses();
     void StartingTheDemoReplacesTheProject();
+    void TheDemoIsNotStartedWhenTheOperatorWantsToStay();
     void TheCheckFieldSaysWhyAnAddressIsRefused_data();
     void TheCheckFieldSaysWhyAnAddressIsRefused();
     void ButtonsOfAnEntryNeedOne();
@@ -104,7 +110,7 @@ void TestAddressPage::init()
 
 void TestAddressPage::ABatchFillsTheListUpTo16()
 {
-    CAddressPage page;
+    CAddressPage page(Leave);
     MakeList(page);
     QCOMPARE(Stored().size(), 16);
     QCOMPARE(Stored().first(), QStringLiteral("192.168.1.20()"));
@@ -113,7 +119,7 @@ void TestAddressPage::ABatchFillsTheListUpTo16()
 
 void TestAddressPage::ModifyingPutsTheEntryIntoForce()
 {
-    CAddressPage page;
+    CAddressPage page(Leave);
     MakeList(page);
     page.SelectRow(1);
     const CDialogOperator dialogOperator([](QDialog* pDialog) {
@@ -126,7 +132,7 @@ void TestAddressPage::ModifyingPutsTheEntryIntoForce()
 
 void TestAddressPage::ResettingBringsTheFirstAddressBack()
 {
-    CAddressPage page;
+    CAddressPage page(Leave);
     MakeList(page);
     page.SelectRow(1);
     {
@@ -150,7 +156,7 @@ void TestAddressPage::AddingByHandAddsSendersAndAddresses()
         project.addressing.bIPAddressMode = true;
         project.addressing.nAddedSenderCount = 0;
     });
-    CAddressPage page;
+    CAddressPage page(Leave);
     const std::size_t nBefore = CSimulator::Instance().Project().listSenders.size();
     const CDialogOperator dialogOperator([](QDialog* pDialog) {
         EnterAddress(pDialog, "192.168.1.50");
@@ -164,12 +170,20 @@ void TestAddressPage::AddingByHandAddsSendersAndAddresses()
 
 void TestAddressPage::StartingTheDemoReplacesTheProject()
 {
-    CAddressPage page;
+    CAddressPage page(Leave);
     const CDialogOperator dialogOperator([](QDialog* pDialog) { Press(pDialog, "确认"); });
     page.StartDemo();
     QCOMPARE(int(CSimulator::Instance().Project().listSenders.size()), 1);
     QCOMPARE(CSimulator::Instance().Project().listSenders[0].capability.nType, 21);
     QVERIFY(CSimulator::Instance().Project().bDemoMode);
+}
+
+void TestAddressPage::TheDemoIsNotStartedWhenTheOperatorWantsToStay()
+{
+    CAddressPage page([] { return false; });
+    const std::size_t nSenders = CSimulator::Instance().Project().listSenders.size();
+    page.StartDemo();
+    QCOMPARE(CSimulator::Instance().Project().listSenders.size(), nSenders);
 }
 
 void TestAddressPage::TheCheckFieldSaysWhyAnAddressIsRefused_data()
@@ -197,14 +211,14 @@ void TestAddressPage::TheCheckFieldSaysWhyAnAddressIsRefused_data()
 void TestAddressPage::TheCheckFieldSaysWhyAnAddressIsRefused()
 {
     QFETCH(QString, address);
-    CAddressPage page;
+    CAddressPage page(Leave);
     page.findChild<CCustomIPEdit*>()->setText(address);
     QTEST(page.ShownVerdict(), "expected");
 }
 
 void TestAddressPage::ButtonsOfAnEntryNeedOne()
 {
-    CAddressPage page;
+    CAddressPage page(Leave);
     const auto funcEnabled = [&page](const char* szText) {
         for (const QPushButton* pButton : page.findChildren<QPushButton*>())
             if (pButton->text() == QString::fromUtf8(szText))

@@ -16,6 +16,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr int c_nBatch = -1;        ///< the count by which the address dialog is asked for a batch
@@ -26,8 +28,9 @@ constexpr int c_nDefaultType = 21;
 
 } // namespace
 
-CAddressPage::CAddressPage(QWidget* pParent)
+CAddressPage::CAddressPage(std::function<bool()> funcMayLeave, QWidget* pParent)
     : CWorkbenchPage(pParent)
+    , m_funcMayLeave(std::move(funcMayLeave))
     , m_pModel(new CAddressListModel(this))
 {
     m_pTable = new QTableView(this);
@@ -224,6 +227,8 @@ void CAddressPage::TakeProcessors(const CCustomAddProcessorDlg& dialog)
 
 void CAddressPage::StartDemo()
 {
+    if (!m_funcMayLeave())
+        return;
     CDemoProjectConfigDlg dialog(this);
     dialog.exec();
 }

@@ -3,6 +3,7 @@
 
 #include "workbench/WorkbenchPage.h"
 
+#include <functional>
 #include <vector>
 
 class CAddressListModel;
@@ -20,7 +21,10 @@ class CAddressPage : public CWorkbenchPage
     Q_OBJECT
 
 public:
-    explicit CAddressPage(QWidget* pParent = nullptr);
+    /// @param funcMayLeave asks what is to become of unsaved changes before the demo project takes the
+    /// project's place;
+    ///                     false when the operator wants to stay
+    explicit CAddressPage(std::function<bool()> funcMayLeave, QWidget* pParent = nullptr);
     ~CAddressPage() override;
 
     QString Title() const override;
@@ -61,6 +65,7 @@ private:
     int SelectedRow() const;
     void TakeProcessors(const CCustomAddProcessorDlg& dialog);
 
+    const std::function<bool()> m_funcMayLeave;
     CAddressListModel* m_pModel = nullptr;
     QTableView* m_pTable = nullptr;
     QLabel* m_pCountCaption = nullptr;
