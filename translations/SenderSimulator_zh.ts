@@ -183,5 +183,21 @@
         <source>Choose a file to save it to.</source>
         <translation>请选择保存的文件。</translation>
     </message>
+    <message>
+        <source>an array</source>
+        <translation>数组</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>The project is saved, but not all background pictures could be copied.</source>
+        <translation>工程已保存，但有背景图片未能复制。</translation>
+    </message>
+    <message>
+        <source>Check that you may write to the folder, then choose the pictures anew.</source>
+        <translation>请检查是否有权写入该文件夹，然后重新选择图片。</translation>
+    </message>
 </context>
 </TS>
