@@ -116,6 +116,7 @@ struct SDigestFunction
 /// @{
 std::vector<SDigestFunction> GeometryDigests();
 std::vector<SDigestFunction> ColourDigests();
+std::vector<SDigestFunction> ChartDigests();
 std::vector<SDigestFunction> EdidDigests();
 /// @}
 

@@ -12,6 +12,7 @@ using GetTable = std::vector<SDigestFunction> (*)();
 constexpr GetTable c_arrTables[] = {
     GeometryDigests,
     ColourDigests,
+    ChartDigests,
     EdidDigests,
 };
 
