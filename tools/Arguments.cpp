@@ -163,9 +163,11 @@ QString CArguments::Value(const char* szOption, const QString& strDefault) const
 
 QString HelpText(const SSubcommand& subcommand)
 {
-    QString strHelp =
-        QStringLiteral("Usage: sender-tool %1 [options] %2\n\n%3\n\nOptions:\n")
-            .arg(Latin(subcommand.szName), Latin(subcommand.szArguments), Latin(subcommand.szSummary));
+    const QString strArguments = Latin(subcommand.szArguments);
+    QString strHelp = QStringLiteral("Usage: sender-tool %1 [options]%2\n\n%3\n\nOptions:\n")
+                          .arg(Latin(subcommand.szName),
+                               strArguments.isEmpty() ? strArguments : QLatin1Char(' ') + strArguments,
+                               Latin(subcommand.szSummary));
     for (const SOption& option : subcommand.vecOptions)
         strHelp += HelpLine(OptionTerm(option), option.szHelp);
     strHelp += HelpLine(QStringLiteral("-h, --help"), "this text");

@@ -186,11 +186,9 @@ SSubcommand ChartSubcommand()
         0,
         0,
         "paint the chromaticity chart into a picture",
-        "The file's name decides the format: .png, .svg or .pdf. Groups are drawn in the order in which "
-        "they\n"
-        "are given. With --coverage the first group is the screen's colour space and the second the "
-        "output's;\n"
-        "the legend tells how much of the second the first covers.\n"
+        "The file's name decides the format: .png, .svg or .pdf. Groups are drawn in the order in which\n"
+        "they are given. With --coverage the first group is the screen's colour space and the second the\n"
+        "output's: they are drawn last, and the legend tells how much of the second the first covers.\n"
         "Standards: sRGB, AdobeRGB, PAL, NTSC, Rec601, Rec709, Rec2020, DCIP3.\n",
         {
             {"output", 'o', "FILE", "the picture, written whole or not at all"},

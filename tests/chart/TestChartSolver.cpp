@@ -27,6 +27,8 @@ private Q_SLOTS:
     void JudgesGroupsLikeThePlainOne();
     void DragsLikeThePlainOne();
 
+    void AnOutlineHoldsWhatIsAtItsVertices_data();
+    void AnOutlineHoldsWhatIsAtItsVertices();
     void AWhiteEqualToAVertexIsInTheTriangle();
     void AVerticalStepMovesNothing();
     void AStepIsTakenFromTheNarrowedPoint();
@@ -266,6 +268,28 @@ void TestChartSolver::DragsLikeThePlainOne()
         const QString strDifference = both.Difference(true, true);
         QVERIFY2(strDifference.isEmpty(), qPrintable(strDifference));
     }
+}
+
+void TestChartSolver::AnOutlineHoldsWhatIsAtItsVertices_data()
+{
+    QTest::addColumn<float>("fX");
+    QTest::addColumn<float>("fY");
+    QTest::addColumn<bool>("bInside");
+    QTest::newRow("in the middle") << 150.0F << 150.0F << true;
+    QTest::newRow("on a vertex that the crossings leave out") << 100.0F << 100.0F << true;
+    QTest::newRow("0.00005 off a vertex") << 99.99995F << 99.99995F << true;
+    QTest::newRow("0.001 off a vertex") << 99.999F << 99.999F << false;
+    QTest::newRow("0.00005 off the middle of an edge") << 99.99995F << 150.0F << false;
+    QTest::newRow("outside") << 250.0F << 150.0F << false;
+}
+
+void TestChartSolver::AnOutlineHoldsWhatIsAtItsVertices()
+{
+    QFETCH(float, fX);
+    QFETCH(float, fY);
+    const CPoint aptSquare[] = {{100.0F, 100.0F}, {200.0F, 100.0F}, {200.0F, 200.0F}, {100.0F, 200.0F}};
+    QTEST(ChartGeometry::IsInOutline({fX, fY}, aptSquare, 4), "bInside");
+    QVERIFY(!ChartGeometry::IsInOutline({fX, fY}, aptSquare, 0));
 }
 
 void TestChartSolver::AWhiteEqualToAVertexIsInTheTriangle()
