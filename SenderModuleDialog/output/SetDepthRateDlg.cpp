@@ -221,7 +221,6 @@ void CSetDepthRateDlg::ShowWarning()
     setFixedSize(c_sizeWarning);
     m_pBtnOk->setEnabled(false);
     m_pLabelWarning->adjustSize();
-    m_pLabelWarning->raise();
     m_pLabelWarning->show();
     m_pLabelWarning->move(c_ptWarning);
 }

@@ -484,6 +484,7 @@ void TestBackgroundImageDlg::ASourceThatVanishedLeavesTheRecordAlone()
 void TestBackgroundImageDlg::ADirectoryInTheWayClearsTheRecord()
 {
     CFolderHost host;
+    host.SetRecord(128, true, 1);
     const QString strInTheWay = host.Write("kept/pictures/sender 0.png/inside.txt", "theirs");
     const QString strChosen = host.Write("album/a.png", "first");
     CProbe probe;
@@ -523,6 +524,7 @@ void TestBackgroundImageDlg::AReadOnlyFolderClearsTheRecord()
 void TestBackgroundImageDlg::AFolderThatCannotBeMadeClearsTheRecord()
 {
     CFolderHost host;
+    host.SetRecord(128, true, 1);
     host.Write("kept", "a file where the parent folder should be");
     const QString strChosen = host.Write("album/a.png", "first");
     CProbe probe;
@@ -535,6 +537,7 @@ void TestBackgroundImageDlg::AFolderThatCannotBeMadeClearsTheRecord()
 void TestBackgroundImageDlg::ACopyThatFailsHasRemovedTheOldPictureAlready()
 {
     CFolderHost host;
+    host.SetRecord(128, true, 1);
     host.Store("old");
     const QString strChosen = host.Write("album/a.png", "first");
     CProbe probe;
