@@ -60,10 +60,9 @@ void CCustomProgressbar::SetProgressValue(int nValue)
 {
     if (!isVisible())
         show();
+    // The caller's thread is the only one that can paint. A modal progress dialog processes events here, and
+    // input is modal to it alone, so nothing that is processed can start the caller's work again.
     setValue(nValue);
-    // The caller's thread is the only one that can paint. Input is modal to this dialog, so nothing that is
-    // processed here can start the caller's work again.
-    QCoreApplication::processEvents();
 }
 
 void CCustomProgressbar::CloseProgress()

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void SelectAllThenTypingStartsAnew();
     void SelectAllThenBackspaceClears();
     void ClickingAnOctetDropsTheSelectionOfAll();
+    void ClickingTheOctetWithTheFocusDropsItToo();
     void TabPassesTheFieldAsOneControl();
     void ReturnAndEscReachTheDialog();
     void TextChangedComesOnceForEachChange();
@@ -298,6 +299,16 @@ void TestCustomIPEdit::ClickingAnOctetDropsTheSelectionOfAll()
                       Octet(2)->rect().bottomRight() - QPoint(2, 5));
     Keyboard::Press(Qt::Key_Backspace);
     QCOMPARE(m_pEdit->text(), QStringLiteral("10.20.3.40"));
+}
+
+void TestCustomIPEdit::ClickingTheOctetWithTheFocusDropsItToo()
+{
+    m_pEdit->setText(QStringLiteral("10.20.30.40"));
+    Keyboard::Press(Qt::Key_A, Qt::ControlModifier);
+    QTest::mouseClick(Octet(0), Qt::LeftButton, Qt::NoModifier,
+                      Octet(0)->rect().bottomRight() - QPoint(2, 5));
+    Keyboard::Press(Qt::Key_Backspace);
+    QCOMPARE(m_pEdit->text(), QStringLiteral("1.20.30.40"));
 }
 
 void TestCustomIPEdit::TabPassesTheFieldAsOneControl()

@@ -13,6 +13,9 @@ namespace {
 
 constexpr int c_nNoTimeout = std::numeric_limits<int>::max();
 
+/// Widest line that still reads well, pixels; only a word that is longer makes a wider one.
+constexpr int c_nReadableWidth = 400;
+
 const auto c_buttonsQuestion = CCustomMessageBox::StandardButtons(QFlag(6));
 
 } // namespace
@@ -158,14 +161,16 @@ void TestCustomMessageBox::TheBoxBelongsToItsParentAndBearsItsTitle()
 void TestCustomMessageBox::NothingOfALongTextIsCut_data()
 {
     QTest::addColumn<QString>("strText");
-    QTest::newRow("short Chinese") << QStringLiteral("保存失败。");
+    QTest::addColumn<bool>("bWide");
+    QTest::newRow("short Chinese") << QStringLiteral("保存失败。") << false;
     QTest::newRow("long Chinese")
-        << QStringLiteral("工程设置支持的最大帧率小于实际输入的最大帧率，是否继续？").repeated(6);
+        << QStringLiteral("工程设置支持的最大帧率小于实际输入的最大帧率，是否继续？").repeated(6) << false;
     QTest::newRow("long English")
         << QStringLiteral("The highest rate of the project is below the highest rate of the input. ")
-               .repeated(8);
-    QTest::newRow("long word") << QStringLiteral("/a/very/long/path").repeated(5);
-    QTest::newRow("lines") << QStringLiteral("one\ntwo\nthree\nfour");
+               .repeated(8)
+        << false;
+    QTest::newRow("long word") << QStringLiteral("averylongname").repeated(7) << true;
+    QTest::newRow("lines") << QStringLiteral("one\ntwo\nthree\nfour") << false;
 }
 
 void TestCustomMessageBox::NothingOfALongTextIsCut()
@@ -180,6 +185,7 @@ void TestCustomMessageBox::NothingOfALongTextIsCut()
         const QLabel& label = **itText;
         QVERIFY(label.height() >= label.heightForWidth(label.width()));
         QVERIFY(box.rect().contains(label.geometry()));
+        QTEST(label.width() > c_nReadableWidth, "bWide");
         const QRect rcText =
             label.fontMetrics().boundingRect(QRect(0, 0, label.width(), 0), Qt::TextWordWrap, strText);
         QVERIFY(rcText.width() <= label.width());
