@@ -41,7 +41,7 @@ public:
     /// Writes a picture, with its folders, and gives its path.
     QString Write(const char* szName, const QByteArray& bytes) const
     {
-        const QString strPath = Path(szName);
+        QString strPath = Path(szName);
         QDir().mkpath(QFileInfo(strPath).absolutePath());
         QFile file(strPath);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
