@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -119,7 +120,7 @@ bool CChromaticityDlgWnd::SetChromaGroupByIndex(int nIndex, SChromaGroupInfo inf
         return false;
     // Replacing would leave every pointer that the host holds to the group dangling.
     Require(!m_mapGroups.contains(nIndex), "!m_mapGroups.contains(nIndex)");
-    return AddChromaGroupByIndex(nIndex, info);
+    return AddChromaGroupByIndex(nIndex, std::move(info));
 }
 
 void CChromaticityDlgWnd::ReleaseChromaData()
@@ -148,7 +149,7 @@ void CChromaticityDlgWnd::SetSize(int nWidth, int nHeight)
 
 void CChromaticityDlgWnd::SetBackgroundColor(QColor color)
 {
-    m_clrBackground = color;
+    m_clrBackground = std::move(color);
     update();
 }
 

@@ -2,7 +2,8 @@
 
 bool CChromaBitmapDesk::IsNewest(int nType, quint64 nTicket)
 {
-    quint64& nHandedOver = m_arrHandedOver[size_t(nType + 1)];
+    const int nPlace = nType + 1;
+    quint64& nHandedOver = m_arrHandedOver[size_t(nPlace)];
     if (nTicket < nHandedOver)
         return false;
     nHandedOver = nTicket;

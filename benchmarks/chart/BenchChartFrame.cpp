@@ -8,11 +8,11 @@
 #include <QApplication>
 
 #include <algorithm>
+#include <ctime>
 #include <memory>
 #include <vector>
 
 #include <malloc.h>
-#include <time.h>
 
 /// @file
 /// A whole warm frame with two groups, tips, cross and legend under a moving mouse: in the plain order of
@@ -119,7 +119,7 @@ template <QImage::Format format>
 void BM_PlainFrame(benchmark::State& state)
 {
     CStage stage(int(state.range(0)), int(state.range(1)), format);
-    for (auto _ : state)
+    while (state.KeepRunning())
         stage.PaintPlain();
 }
 
@@ -127,7 +127,7 @@ template <QImage::Format format>
 void BM_WarmFrame(benchmark::State& state)
 {
     CStage stage(int(state.range(0)), int(state.range(1)), format);
-    for (auto _ : state)
+    while (state.KeepRunning())
         stage.PaintFast();
     state.counters["times_plain"] = TimesPlain(stage);
 }
@@ -148,9 +148,9 @@ BENCHMARK_TEMPLATE(BM_WarmFrame, QImage::Format_ARGB32)->Apply(Sizes);
 
 int main(int argc, char** argv)
 {
-    // Large blocks always come fresh from the system and go back to it, as they do in a new process. With what the
-    // allocator learns while it runs, the order of the benchmarks would decide what the plain frame's two temporary
-    // images cost.
+    // Large blocks always come fresh from the system and go back to it, as they do in a new process. With
+    // what the allocator learns while it runs, the order of the benchmarks would decide what the plain
+    // frame's two temporary images cost.
     constexpr int c_nMmapThreshold = 128 * 1024;
     mallopt(M_MMAP_THRESHOLD, c_nMmapThreshold);
     qputenv("QT_QPA_PLATFORM", "offscreen");

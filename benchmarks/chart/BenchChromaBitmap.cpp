@@ -6,11 +6,10 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <ctime>
 #include <limits>
 #include <map>
 #include <utility>
-
-#include <time.h>
 
 /// @file
 /// The background bitmap: the plain procedure, each instruction set of the painter, and filling an image of
@@ -88,14 +87,14 @@ double FillSeconds(const SSource& source)
 void BM_Plain(benchmark::State& state)
 {
     const SSource source = Source(int(state.range(0)), int(state.range(1)));
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(PaintPlain(source));
 }
 
 void BM_Fill(benchmark::State& state)
 {
     QImage image(int(state.range(0)), int(state.range(1)), QImage::Format_ARGB32);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         image.fill(Qt::transparent);
         benchmark::DoNotOptimize(image.constBits());
     }
@@ -109,7 +108,7 @@ void BM_Paint(benchmark::State& state)
         return;
     }
     const SSource source = Source(int(state.range(0)), int(state.range(1)));
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(PaintFast(source, instructions));
     constexpr int c_nRounds = 200;
     const double dSeconds =
