@@ -2,6 +2,7 @@
 
 #include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/chart/CctCurve.h"
+#include "SenderModuleDialog/chart/ChartSharpBitmap.h"
 #include "SenderModuleDialog/chart/ChartSolver.h"
 #include "SenderModuleDialog/chart/ChartStaticLayer.h"
 #include "SenderModuleDialog/chart/ChromaBitmapDesk.h"
@@ -64,6 +65,7 @@ SWndBitmap::~SWndBitmap()
 CChromaticityDlgWnd::CChromaticityDlgWnd(QWidget* parent)
     : QWidget(parent)
     , m_pDesk(std::make_unique<CChromaBitmapDesk>())
+    , m_pSharp(std::make_unique<SChartSharpBitmap>())
     , m_pStaticLayer(std::make_unique<CChartStaticLayer>())
 {
     m_pCct = new CCCT2ColorCoord;

@@ -26,6 +26,7 @@ class CChromaGamutInterpolation;
 class CChromaGamutThread;
 class QImage;
 class QPainter;
+struct SChartSharpBitmap;
 namespace ChartOverlay {
 struct SChartFrame;
 }
@@ -279,12 +280,15 @@ private:
     /// The finished picture of the type that is shown; a null image if there is none. Waits for it while
     /// somebody paints.
     QImage TakeBitmap();
+    /// The same for a device with that many device pixels per pixel: above 1, painted in device pixels.
+    QImage TakeBitmap(double dRatio);
+    QImage PaintSharp(double dRatio);
     /// Paints a bitmap and shows it; the worker's is dropped when the worker is to stop.
     void PaintBitmap(int nType, bool bWorker);
     /// What the bitmap is to be painted from now, and the number of that painting.
     quint64 TakeMeasures(int nType, ChromaBitmap::SSource& source);
     /// Shows a picture, unless a painting that began later was handed over before.
-    void HandOver(int nType, QImage image, quint64 nTicket);
+    void HandOver(int nType, QImage image, ChromaBitmap::SSource source, quint64 nTicket);
     /// The worker's work, in its thread.
     void PaintWndBitmaps();
     /// The last that the worker does with the chart, in its thread.
@@ -306,6 +310,7 @@ private:
     /// The layers that stay the same from paint to paint: background, bitmap, locus and grid.
     void DrawStaticLayers(QPainter& painter, const QImage& imgBitmap);
     void DrawBitmap(QPainter& painter, const QImage& imgBitmap);
+    void DrawSharpBitmap(QPainter& painter, const QImage& imgBitmap);
     /// The line around the chart.
     void DrawFrame(QPainter& painter);
 
@@ -313,6 +318,7 @@ private:
     std::unique_ptr<CChartSolver> m_pSolver;           ///< keeps groups legal
     std::unique_ptr<CCctCurve> m_pCctCurve;            ///< the curve of colour temperatures
     std::unique_ptr<CChromaBitmapDesk> m_pDesk;        ///< what the threads that paint bitmaps agree by
+    std::unique_ptr<SChartSharpBitmap> m_pSharp;       ///< for screens with more device pixels than pixels
     std::unique_ptr<CChartStaticLayer> m_pStaticLayer; ///< the layers that stay the same from paint to paint
 };
 

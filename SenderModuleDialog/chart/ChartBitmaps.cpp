@@ -1,4 +1,5 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "SenderModuleDialog/chart/ChartSharpBitmap.h"
 #include "SenderModuleDialog/chart/ChromaBitmapDesk.h"
 #include "SenderModuleDialog/chart/ChromaBitmapPainter.h"
 #include "SenderModuleDialog/chart/ChromaGamutThread.h"
@@ -76,7 +77,7 @@ void CChromaticityDlgWnd::PaintBitmap(int nType, bool bWorker)
         source, [this, bWorker] { return m_bAbortPaint || (bWorker && m_pDesk->IsWorkerToStop()); });
     // A worker that is stopped leaves the old bitmap; a host's abort shows what there is.
     if (!bWorker || !m_pDesk->IsWorkerToStop())
-        HandOver(nType, std::move(image), nTicket);
+        HandOver(nType, std::move(image), std::move(source), nTicket);
 }
 
 quint64 CChromaticityDlgWnd::TakeMeasures(int nType, ChromaBitmap::SSource& source)
@@ -90,10 +91,10 @@ quint64 CChromaticityDlgWnd::TakeMeasures(int nType, ChromaBitmap::SSource& sour
     return m_pDesk->TakeTicket();
 }
 
-void CChromaticityDlgWnd::HandOver(int nType, QImage image, quint64 nTicket)
+void CChromaticityDlgWnd::HandOver(int nType, QImage image, ChromaBitmap::SSource source, quint64 nTicket)
 {
     const auto lock = m_pDesk->Lock();
-    if (!m_pDesk->IsNewest(nType, nTicket))
+    if (!m_pDesk->Note(nType, std::move(source), nTicket))
         return;
     SWndBitmap* pBitmap = WndBitmap(nType);
     QImage*& pImage = pBitmap != nullptr ? pBitmap->pImage : m_pDefaultImage;
@@ -114,6 +115,28 @@ QImage CChromaticityDlgWnd::TakeBitmap()
     const auto lock = m_pDesk->Lock();
     const QImage* pImage = pBitmap != nullptr ? pBitmap->pImage : m_pDefaultImage;
     return pImage != nullptr ? *pImage : QImage();
+}
+
+QImage CChromaticityDlgWnd::TakeBitmap(double dRatio)
+{
+    const QImage imgBitmap = TakeBitmap();
+    if (imgBitmap.isNull() || dRatio <= 1.0)
+        return imgBitmap;
+    if (m_pSharp->nBitmapKey != imgBitmap.cacheKey() || m_pSharp->dRatio != dRatio)
+        *m_pSharp = {imgBitmap.cacheKey(), dRatio, PaintSharp(dRatio)};
+    return m_pSharp->image;
+}
+
+QImage CChromaticityDlgWnd::PaintSharp(double dRatio)
+{
+    ChromaBitmap::SSource source;
+    {
+        const auto lock = m_pDesk->Lock();
+        source = m_pDesk->Source(m_nWndType).Scaled(dRatio);
+    }
+    QImage image = ChromaBitmap::Paint(source, [this] { return m_bAbortPaint.load(); });
+    image.setDevicePixelRatio(dRatio);
+    return image;
 }
 
 void CChromaticityDlgWnd::StartWndBitmapThread()

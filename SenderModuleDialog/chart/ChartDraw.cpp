@@ -3,16 +3,18 @@
 #include "host/OrviControl/Style.h"
 
 #include <QImage>
+#include <QPaintDevice>
 #include <QPainter>
 #include <QPen>
+#include <QtMath>
 
 /// @file
 /// The order in which the chart is painted.
 
 namespace {
 
-/// `QPainter::NonCosmeticDefaultPen`: Qt's headers call the name old, since pens of width 0 are so by now, but the
-/// hint is still part of a painter's state.
+/// `QPainter::NonCosmeticDefaultPen`: Qt's headers call the name old, since pens of width 0 are so by now,
+/// but the hint is still part of a painter's state.
 constexpr auto c_hintNonCosmeticPen = QPainter::RenderHint(0x10);
 
 /// Width of the line around the chart.
@@ -22,7 +24,7 @@ constexpr double c_dFrameWidth = 1.0;
 
 void CChromaticityDlgWnd::Draw(QPainter& painter)
 {
-    const QImage imgBitmap = TakeBitmap();
+    const QImage imgBitmap = TakeBitmap(painter.device()->devicePixelRatioF());
     const CChartStaticLayer::SContent content = {m_rcChart,    m_clrBackground, imgBitmap.cacheKey(),
                                                  m_nGridAlpha, m_fMarginX,      m_fMarginY,
                                                  m_fScale,     GetFontFamily()};
@@ -53,12 +55,25 @@ void CChromaticityDlgWnd::DrawStaticLayers(QPainter& painter, const QImage& imgB
 void CChromaticityDlgWnd::DrawBitmap(QPainter& painter, const QImage& imgBitmap)
 {
     const QSize size(m_nWndWidth, m_nWndHeight);
+    if (imgBitmap.devicePixelRatioF() > 1.0) {
+        DrawSharpBitmap(painter, imgBitmap);
+        return;
+    }
     // What the bitmap does not cover stays transparent.
     QImage imgShown(size, QImage::Format_ARGB32);
     imgShown.fill(Qt::transparent);
     if (!imgBitmap.isNull())
         imgShown = imgBitmap.copy(QRect(QPoint(0, 0), size));
     painter.drawImage(QRect(QPoint(0, 0), size), imgShown);
+}
+
+void CChromaticityDlgWnd::DrawSharpBitmap(QPainter& painter, const QImage& imgBitmap)
+{
+    // The part that the chart shows, pixel by device pixel.
+    const double dRatio = imgBitmap.devicePixelRatioF();
+    const QRect rcSource =
+        QRect(0, 0, qCeil(m_nWndWidth * dRatio), qCeil(m_nWndHeight * dRatio)) & imgBitmap.rect();
+    painter.drawImage(QRectF(QPointF(0, 0), QSizeF(rcSource.size()) / dRatio), imgBitmap, QRectF(rcSource));
 }
 
 void CChromaticityDlgWnd::DrawFrame(QPainter& painter)

@@ -1,13 +1,29 @@
 #include "SenderModuleDialog/chart/ChromaBitmapDesk.h"
 
-bool CChromaBitmapDesk::IsNewest(int nType, quint64 nTicket)
+#include <utility>
+
+namespace {
+
+size_t Place(int nType)
 {
     const int nPlace = nType + 1;
-    quint64& nHandedOver = m_arrHandedOver[size_t(nPlace)];
-    if (nTicket < nHandedOver)
+    return size_t(nPlace);
+}
+
+} // namespace
+
+bool CChromaBitmapDesk::Note(int nType, ChromaBitmap::SSource source, quint64 nTicket)
+{
+    SNote& note = m_arrNotes[Place(nType)];
+    if (nTicket < note.nTicket)
         return false;
-    nHandedOver = nTicket;
+    note = {nTicket, std::move(source)};
     return true;
+}
+
+const ChromaBitmap::SSource& CChromaBitmapDesk::Source(int nType) const
+{
+    return m_arrNotes[Place(nType)].source;
 }
 
 void CChromaBitmapDesk::BeginPainting()

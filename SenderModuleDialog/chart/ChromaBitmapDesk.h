@@ -1,6 +1,8 @@
 #ifndef SENDERMODULEDIALOG_CHART_CHROMABITMAPDESK_H
 #define SENDERMODULEDIALOG_CHART_CHROMABITMAPDESK_H
 
+#include "SenderModuleDialog/chart/ChromaBitmapPainter.h"
+
 #include <QtGlobal>
 
 #include <array>
@@ -21,10 +23,13 @@ public:
     /// A number that is larger than those of all paintings that took their measures before. Call it under the
     /// lock.
     quint64 TakeTicket() { return ++m_nLastTicket; }
-    /// Whether this painting took its measures later than the last one that was handed over for the type,
-    /// which it is from now on. Call it under the lock.
+    /// Notes what the bitmap of a type was painted from, unless a painting with a later ticket was noted
+    /// before. Call it under the lock.
     /// @param nType -1 to 4
-    bool IsNewest(int nType, quint64 nTicket);
+    /// @return whether this painting is the newest
+    bool Note(int nType, ChromaBitmap::SSource source, quint64 nTicket);
+    /// What the bitmap that was noted last for a type was painted from. Call it under the lock.
+    const ChromaBitmap::SSource& Source(int nType) const;
 
     /// One more painter is at work.
     void BeginPainting();
@@ -62,6 +67,16 @@ private:
         enReporting
     };
 
+    /// Number of window types, which begin at -1.
+    static constexpr int c_nTypes = 6;
+
+    /// A bitmap that was handed over.
+    struct SNote
+    {
+        quint64 nTicket = 0;
+        ChromaBitmap::SSource source;
+    };
+
     /// Whoever waits looks again.
     void SetWorker(enWorker worker);
     bool IsBusy() const { return m_worker == enAnnounced || m_worker == enPainting; }
@@ -70,7 +85,7 @@ private:
     std::condition_variable m_condition;
     std::atomic<bool> m_bStopWorker{false};
     quint64 m_nLastTicket = 0;
-    std::array<quint64, 6> m_arrHandedOver{}; ///< the tickets of the bitmaps shown, types -1 to 4
+    std::array<SNote, c_nTypes> m_arrNotes;
     int m_nPainters = 0;
     enWorker m_worker = enResting;
 };

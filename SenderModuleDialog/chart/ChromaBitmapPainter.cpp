@@ -415,6 +415,15 @@ int PaintBox(const CPixels& pixels, const QRect& rcBox, const SSource& source, c
 
 } // namespace
 
+SSource SSource::Scaled(double dRatio) const
+{
+    SSource scaled = {SaturateTo<int>(std::ceil(double(nWidth) * dRatio)),
+                      SaturateTo<int>(std::ceil(double(nHeight) * dRatio)), vecLocus, vecOutline};
+    for (Point& pt : scaled.vecOutline)
+        pt = {float(double(pt.x) * dRatio), float(double(pt.y) * dRatio)};
+    return scaled;
+}
+
 SMapping SMapping::ForSize(int nWidth, int nHeight)
 {
     SMapping mapping;

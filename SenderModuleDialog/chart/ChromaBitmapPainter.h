@@ -20,6 +20,9 @@ struct SSource
     int nHeight = 0;           ///< of the bitmap, in pixels
     QVector<QPointF> vecLocus; ///< the locus in chromaticities: it gives the colours and the box
     std::vector<CPointEx<float>> vecOutline; ///< the locus in the widget's pixels: it gives the shape
+
+    /// The same bitmap on a screen with more device pixels than pixels.
+    SSource Scaled(double dRatio) const;
 };
 
 /// The bitmap's own mapping of chromaticities to pixels. It is meant to differ from the chart's: whole

@@ -1,7 +1,6 @@
 #ifndef SENDERMODULEDIALOG_CHART_CHROMAGROUPINFO_H
 #define SENDERMODULEDIALOG_CHART_CHROMAGROUPINFO_H
 
-#include "SenderModuleDialog/SenderModuleDialogGlobal.h"
 #include "host/CommonClass/PointEx.h"
 
 #include <QString>
@@ -90,7 +89,7 @@ struct SChromaGroupInfo
 /// One painted background bitmap of the chart.
 ///
 /// It goes from empty (no image, not ready) to painted, and never back: painting it again replaces the image.
-struct SENDERMODULEDIALOG_EXPORT SWndBitmap
+struct SWndBitmap
 {
     SWndBitmap() = default;
     ~SWndBitmap();

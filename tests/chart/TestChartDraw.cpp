@@ -1,4 +1,6 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "SenderModuleDialog/chart/ChromaBitmapPainter.h"
+#include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
 #include "SenderModuleDialog/colour/ColourStandards.h"
 #include "tests/chart/PlainFrame.h"
 #include "tests/chart/PlainOverlays.h"
@@ -142,8 +144,10 @@ private Q_SLOTS:
     void FramesFollowEveryChange();
     void FramesFollowThePaintersState_data();
     void FramesFollowThePaintersState();
-    void HighResolutionFramesAreThePlainOnes_data();
-    void HighResolutionFramesAreThePlainOnes();
+    void HighResolutionFramesAreDrawnInOrder_data();
+    void HighResolutionFramesAreDrawnInOrder();
+    void AHighResolutionBitmapIsSharp_data();
+    void AHighResolutionBitmapIsSharp();
     void ADragIsPaintedAsPlainly();
     void AGrabbedWidgetIsThePlainOne();
     void AGrabbedParentIsThePlainOne();
@@ -279,7 +283,7 @@ void TestChartDraw::FramesFollowThePaintersState()
     }
 }
 
-void TestChartDraw::HighResolutionFramesAreThePlainOnes_data()
+void TestChartDraw::HighResolutionFramesAreDrawnInOrder_data()
 {
     QTest::addColumn<double>("ratio");
     QTest::newRow("double") << 2.0;
@@ -287,13 +291,43 @@ void TestChartDraw::HighResolutionFramesAreThePlainOnes_data()
     QTest::newRow("one and a half") << 1.5;
 }
 
-void TestChartDraw::HighResolutionFramesAreThePlainOnes()
+void TestChartDraw::HighResolutionFramesAreDrawnInOrder()
 {
     QFETCH(double, ratio);
     const auto pChart = MakeChart();
-    QVERIFY(IsPlain(*pChart, Canvas(QImage::Format_RGB32, ratio)));
-    QVERIFY(IsPlain(*pChart, Canvas(QImage::Format_ARGB32_Premultiplied, ratio),
-                    [](QPainter& painter) { painter.translate(7, 3); }));
+    for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied}) {
+        const QImage canvas = Canvas(format, ratio);
+        // Under a clip nothing is copied.
+        const QImage expected = Painted(*pChart, DrawFast, canvas,
+                                        [](QPainter& painter) { painter.setClipRect(-10, -10, 900, 900); });
+        for (int i = 0; i < 2; ++i)
+            QVERIFY(Painted(*pChart, DrawFast, canvas, [](QPainter&) {}) == expected);
+    }
+}
+
+void TestChartDraw::AHighResolutionBitmapIsSharp_data()
+{
+    HighResolutionFramesAreDrawnInOrder_data();
+}
+
+void TestChartDraw::AHighResolutionBitmapIsSharp()
+{
+    QFETCH(double, ratio);
+    const auto pChart = MakeChart();
+    pChart->SetGridLineAlpha(0);
+    const QImage image = Painted(*pChart, DrawFast, Canvas(QImage::Format_RGB32, ratio), [](QPainter&) {});
+    ChromaBitmap::SSource source;
+    source.nWidth = c_sizeChart.width();
+    source.nHeight = c_sizeChart.height();
+    source.vecLocus = pChart->m_pGamut->GetQPointFData();
+    source.vecOutline.assign(pChart->m_pBoundaryPxF, pChart->m_pBoundaryPxF + source.vecLocus.size());
+    const QImage sharp = ChromaBitmap::Paint(source.Scaled(ratio), [] { return false; });
+    // A part of the green, where no line passes.
+    const QPoint ptFirst = (pChart->Mapping().ToPixel(QPointF(0.18, 0.7)) * ratio).toPoint();
+    for (int y = 0; y < 15; ++y) {
+        for (int x = 0; x < 12; ++x)
+            QCOMPARE(image.pixel(ptFirst + QPoint(x, y)), sharp.pixel(ptFirst + QPoint(x, y)));
+    }
 }
 
 void TestChartDraw::ADragIsPaintedAsPlainly()
