@@ -25,9 +25,11 @@ constexpr double c_dFrameWidth = 1.0;
 void CChromaticityDlgWnd::Draw(QPainter& painter)
 {
     const QImage imgBitmap = TakeBitmap(painter.device()->devicePixelRatioF());
+    const QByteArray boundary(reinterpret_cast<const char*>(m_pBoundaryPx),
+                              m_nBoundaryCount * int(sizeof(QPointF)));
     const CChartStaticLayer::SContent content = {m_rcChart,    m_clrBackground, imgBitmap.cacheKey(),
                                                  m_nGridAlpha, m_fMarginX,      m_fMarginY,
-                                                 m_fScale,     GetFontFamily()};
+                                                 m_fScale,     GetFontFamily(), boundary};
     const auto funcPaint = [this, &imgBitmap](QPainter& target) { DrawStaticLayers(target, imgBitmap); };
     if (!m_pStaticLayer->Show(painter, content, funcPaint))
         funcPaint(painter);

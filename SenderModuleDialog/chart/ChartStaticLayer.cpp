@@ -45,7 +45,8 @@ bool CChartStaticLayer::SContent::operator==(const SContent& other) const
 {
     const auto Fields = [](const SContent& content) {
         return std::tie(content.rcChart, content.clrBackground, content.nBitmapKey, content.nGridAlpha,
-                        content.fMarginX, content.fMarginY, content.fScale, content.strFontFamily);
+                        content.fMarginX, content.fMarginY, content.fScale, content.strFontFamily,
+                        content.boundary);
     };
     return Fields(*this) == Fields(other);
 }

@@ -2,6 +2,7 @@
 #define SENDERMODULEDIALOG_CHART_CHARTSTATICLAYER_H
 
 #include <QBrush>
+#include <QByteArray>
 #include <QColor>
 #include <QFont>
 #include <QImage>
@@ -30,6 +31,7 @@ public:
         float fMarginY = 0.0F;
         float fScale = 0.0F;
         QString strFontFamily;
+        QByteArray boundary; ///< the bytes of the locus in widget pixels
 
         bool operator==(const SContent& other) const;
     };

@@ -195,6 +195,10 @@ void TestChartDraw::FramesFollowEveryChange_data()
     AddRow("no grid", [](auto& chart) { chart.SetGridLineAlpha(0); });
     AddRow("grid out of range", [](auto& chart) { chart.SetGridLineAlpha(300); });
     AddRow("layout", [](auto& chart) { chart.SetSize(300, 340); });
+    AddRow("outline", [](auto& chart) {
+        chart.m_pGamut->GetQPointFData()[40] += QPointF(0.05, 0.02);
+        chart.SetSize(c_sizeChart.width(), c_sizeChart.height());
+    });
     AddRow("bitmap of another type", [](auto& chart) {
         chart.SetWndData(2, 420, 360);
         chart.SetWndType(2);
