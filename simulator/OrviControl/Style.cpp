@@ -42,11 +42,12 @@ QString g_checkBoxStyle = Theme::Resolve(
     "QCheckBox::indicator:checked:disabled{image:url(:/OrviControl/icons/check-disabled.svg);}");
 
 QString g_doubleSpinBoxStyle = Theme::Resolve(
-    "QDoubleSpinBox{background:@field@; color:@text@; border:1px solid @edge@; border-radius:4px;"
+    "QDoubleSpinBox{background:@field@; color:@text@; border:1px solid @edge@; border-radius:4px; "
+    "padding-left:2px;"
     " selection-background-color:@accent@; selection-color:@text@;}"
     "QDoubleSpinBox:focus{border:1px solid @accent@;}"
     "QDoubleSpinBox:disabled{color:@text-disabled@; background:@field-disabled@;}"
-    "QDoubleSpinBox::up-button,QDoubleSpinBox::down-button{subcontrol-origin:border; width:16px; border:none;"
+    "QDoubleSpinBox::up-button,QDoubleSpinBox::down-button{subcontrol-origin:border; width:14px; border:none;"
     " background:@button@;}"
     "QDoubleSpinBox::up-button{subcontrol-position:top right; margin:1px 1px 0px 0px; "
     "border-top-right-radius:3px;}"
