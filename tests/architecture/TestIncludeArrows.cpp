@@ -98,9 +98,10 @@ const std::vector<SLayer>& Layers()
 const QStringList& QtValues()
 {
     static const QStringList s_listValues = {
-        L("QByteArray"), L("QLatin1Char"), L("QLatin1String"), L("QLine"),   L("QLineF"),    L("QList"),
-        L("QMap"),       L("QPair"),       L("QPoint"),        L("QPointF"), L("QPolygonF"), L("QRectF"),
-        L("QSize"),      L("QSizeF"),      L("QString"),       L("QVector"), L("QtGlobal"),  L("QtMath")};
+        L("QByteArray"), L("QLatin1Char"),  L("QLatin1String"), L("QLine"),  L("QLineF"),
+        L("QList"),      L("QMap"),         L("QPair"),         L("QPoint"), L("QPointF"),
+        L("QPolygonF"),  L("QRectF"),       L("QSize"),         L("QSizeF"), L("QString"),
+        L("QVector"),    L("QtAlgorithms"), L("QtGlobal"),      L("QtMath")};
     return s_listValues;
 }
 
