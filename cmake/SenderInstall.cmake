@@ -20,6 +20,10 @@ install(TARGETS sender-workbench sender-tool
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/SenderModuleDialog" "${PROJECT_SOURCE_DIR}/host"
     DESTINATION "${SENDER_INCLUDE_FOLDER}"
     FILES_MATCHING PATTERN "*.h")
+# The simulated host can be used and watched through these.
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/simulator/CommonClass"
+    DESTINATION "${SENDER_INCLUDE_FOLDER}/simulator"
+    FILES_MATCHING PATTERN "*.h")
 
 install(EXPORT SenderModuleDialogTargets
     NAMESPACE SenderModuleDialog::

@@ -16,29 +16,19 @@
 #include "SenderModuleDialog/output/SetCanvasDlg.h"
 #include "SenderModuleDialog/output/SetDepthRateDlg.h"
 
-#include "host/KelvaroLabel.h"
+#include "simulator/CommonClass/Simulator.h"
 
 #include <QApplication>
 #include <QPointF>
 
 #include <cstdio>
 
-namespace {
-
-class CLabel : public IKelvaroLabel
-{
-public:
-    void PostLabelEvent(int, int, int, int) override {}
-};
-
-} // namespace
-
 /// Uses each family of the library once, as a host would.
 int main(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
-    CLabel label;
-    SenderModuleDialogInit(&label);
+    CSimulator::Instance().NewProject();
+    SenderModuleDialogInit(CSimulator::Instance().Label());
     CEDIDRaw raw;
     raw.ChangeWH(1920, 1080, 60.0F);
     QPointF ptWhite;
@@ -48,6 +38,7 @@ int main(int argc, char* argv[])
     chart.SetSize(400, 400);
     CResetCoefDlg dialog(true, nullptr);
     dialog.SetValue(0.5F);
+    const CSetCanvasDlg dialogCanvas(nullptr);
     std::printf("%02X %.4f %.1f\n", unsigned(reinterpret_cast<const unsigned char*>(&raw)[127]), ptWhite.x(),
                 double(dialog.GetValue()));
     return 0;
