@@ -71,7 +71,7 @@ QColor ParseBackground(const CArguments& arguments, const QColor& colorOwn)
     if (!arguments.Has("background"))
         return colorOwn;
     const QString strColor = arguments.Value("background");
-    const QColor color(strColor);
+    QColor color(strColor);
     if (!color.isValid())
         throw CToolError(
             QStringLiteral("'%1' is no colour; write #RRGGBB, for example #323232").arg(strColor));

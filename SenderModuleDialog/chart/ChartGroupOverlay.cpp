@@ -21,7 +21,6 @@ namespace {
 
 using ChartOverlay::CDotRadii;
 using ChartOverlay::CGroupMap;
-using ChartOverlay::SChartFrame;
 using ChartOverlay::SHeldPoint;
 
 /// A dot's radius is the scale over this; the held one is larger, one that may not be moved smaller.
@@ -171,7 +170,7 @@ std::vector<CPointEx<float>> StoredTriangle(const SChromaGroupInfo& group)
 
 QString OutputSpaceText(CGroupMap& mapGroups, enLegendWalk walk)
 {
-    const QString strName = CCustomDialog::tr(c_szOutputSpace[walk]);
+    QString strName = CCustomDialog::tr(c_szOutputSpace[walk]);
     const int nRatio = ChartOverlay::CalcRatio(mapGroups);
     if (nRatio < 0)
         return strName;
@@ -272,7 +271,8 @@ void DrawLegend(QPainter& painter, const SChartFrame& frame, CGroupMap& mapGroup
     const int nWidest = WidestNote(mapGroups, QFontMetrics(font));
     const double dX = c_dLegendAxisSpan * double(frame.mapping.Scale()) + double(frame.mapping.MarginX()) -
                       nWidest - c_dLegendIndent * dRatio;
-    double dY = (nWidgetHeight - 1) / c_nLegendHeightDivisor;
+    const int nFirstRow = (nWidgetHeight - 1) / c_nLegendHeightDivisor;
+    double dY = nFirstRow;
     ForEachNote(mapGroups, enDrawWalk, [&](const SChromaGroupInfo& group, const QString& strText) {
         if (strText.isEmpty())
             return;

@@ -199,7 +199,8 @@ void DrawCctLabel(QPainter& painter, const SChartFrame& frame, QPointF pt, int n
     const int nFontSize = FontSize(frame.mapping, c_fCctFontDivisor);
     painter.setFont(QFont(frame.strFontFamily, nFontSize, c_nCctFontWeight, false));
     painter.setPen(Qt::black);
-    const QRectF rcLabel(pt.x() + nFontSize / 2, pt.y(), c_dCctLabelWidth * nFontSize,
+    const int nIndent = nFontSize / 2;
+    const QRectF rcLabel(pt.x() + nIndent, pt.y(), c_dCctLabelWidth * nFontSize,
                          c_dCctLabelHeight * nFontSize);
     painter.drawText(rcLabel, QString::number(nTemperature), QTextOption());
 }

@@ -356,9 +356,9 @@ void CPlainChart::GetFeasibleRegionNearstPoint2(const QList<CPoint>& region, CPo
     if (region.size() < 3 || HoverGroup() == nullptr || nHoverPoint < 0 || nHoverPoint > 2)
         return;
     CPoint ptSum(0.0F, 0.0F);
-    for (int i = 0; i < region.size(); ++i) {
-        ptSum.x = ptSum.x + region[i].x;
-        ptSum.y = ptSum.y + region[i].y;
+    for (const CPoint& pt : region) {
+        ptSum.x = ptSum.x + pt.x;
+        ptSum.y = ptSum.y + pt.y;
     }
     StopAtRegion(region, CPoint(ptSum.x / float(region.size()), ptSum.y / float(region.size())), point);
 }

@@ -82,8 +82,8 @@ void CPlainOverlays::DrawTipsString(QPainter& painter) const
 
     painter.setFont(QFont(GetFontFamily(), fs, 128, false));
     painter.setPen(QPen(QColor(Qt::yellow), 1.0));
-    const double left = m_chart.m_rcChart.right() / 4 * 3;
-    const double y = m_chart.m_rcChart.bottom() / 6 * 5;
+    const int left = m_chart.m_rcChart.right() / 4 * 3;
+    const int y = m_chart.m_rcChart.bottom() / 6 * 5;
     const double w = double(m_chart.m_fScale) / 5.0;
     const double h = 1.5 * fs;
     painter.drawText(QRectF(left, y, w, h), Qt::AlignCenter,
@@ -181,7 +181,8 @@ void CPlainOverlays::DrawCCTLineString(QPainter& painter, double x, double y, in
     const int fs = int(m_chart.m_fScale / 50.0F);
     painter.setFont(QFont(GetFontFamily(), fs, -1, false));
     painter.setPen(QColor(Qt::black));
-    painter.drawText(QRectF(x + fs / 2, y, 4 * fs, 2 * fs), QString::number(nCCT), QTextOption());
+    const int nHalf = fs / 2;
+    painter.drawText(QRectF(x + nHalf, y, 4 * fs, 2 * fs), QString::number(nCCT), QTextOption());
 }
 
 void CPlainOverlays::DrawChromTriangle(QPainter& painter)
@@ -306,7 +307,8 @@ void CPlainOverlays::DrawChromNote(QPainter& painter) const
     for (int nWalk = 0; nWalk < 2; ++nWalk) {
         if (nWalk == 1) {
             x = 0.8 * double(m_chart.m_fScale) + double(m_chart.m_fMarginX) - w - 30.0 * t;
-            y = (m_chart.height() - 1) / 12;
+            const int nFirstRow = (m_chart.height() - 1) / 12;
+            y = nFirstRow;
         }
         for (auto it = m_chart.m_mapGroups.constBegin(); it != m_chart.m_mapGroups.constEnd(); ++it) {
             const SChromaGroupInfo& group = *it.value();
@@ -352,8 +354,9 @@ void CPlainOverlays::DrawCIEStandardShow(QPainter& painter) const
     m_chart.CalcCIEStandardValid();
     if (m_chart.m_nStandard < 0)
         return;
-    const double x = (m_chart.width() - 1) / 3 * 2;
-    const double y = (m_chart.height() - 1) / 9 * 2 + 0.5 * fs;
+    const int x = (m_chart.width() - 1) / 3 * 2;
+    const int nTop = (m_chart.height() - 1) / 9 * 2;
+    const double y = nTop + 0.5 * fs;
     const double w = double(m_chart.m_fScale) / 5.0;
     painter.setFont(QFont(GetFontFamily(), fs, 128, false));
     painter.setPen(QColor(Qt::red));

@@ -468,7 +468,7 @@ void TestChartMouse::ADragStepAllocatesNothing()
         chart.m_nHoverPoint = nPoint;
         const CAllocationCounter counter;
         for (int i = 0; i < c_nSide; ++i)
-            chart.CalcCurrentPoint(QPointF(i, c_nSide - i / 2), &chart.First());
+            chart.CalcCurrentPoint(QPointF(i, c_nSide - 0.5 * i), &chart.First());
         QCOMPARE(counter.Count(), std::size_t(0));
     }
 }

@@ -318,7 +318,7 @@ void TestChartSolver::APointInsideTheConeIsMovedOntoItsEdge()
 {
     CChromaGamutInterpolation gamut;
     CChartSolver solver(gamut);
-    const SChromaGroupInfo group = Srgb();
+    const SChromaGroupInfo& group = Srgb();
     QVERIFY(ChartGeometry::IsInTriangle(group.ptWhite, TriangleOf(group)));
     QPointF ptNearest;
     QVERIFY(solver.GetNearestPoint(group.ptWhite, group.ptRed, group.ptGreen, group.ptBlue, ptNearest));
