@@ -119,7 +119,7 @@ QImage CChromaticityDlgWnd::TakeBitmap()
 
 QImage CChromaticityDlgWnd::TakeBitmap(double dRatio)
 {
-    const QImage imgBitmap = TakeBitmap();
+    QImage imgBitmap = TakeBitmap();
     if (imgBitmap.isNull() || dRatio <= 1.0)
         return imgBitmap;
     if (m_pSharp->nBitmapKey != imgBitmap.cacheKey() || m_pSharp->dRatio != dRatio)

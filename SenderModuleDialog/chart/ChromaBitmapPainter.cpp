@@ -53,6 +53,7 @@ struct SGradient
     float fEstimate;     ///< see `SRamp`
     float fFullTerm;     ///< the smallest term for which the component is full
     double dInverseA;    ///< 1 / a, for guesses
+    bool bRegular;       ///< can be painted in pieces
 };
 
 float Term(const SGradient& gradient, Point pt)
@@ -112,7 +113,20 @@ float FullTerm(const SGradient& gradient)
     return FloatOf(nFull);
 }
 
-SGradient MakeGradient(Point ptFrom, Point ptTo, Point ptCentre)
+/// Whether the gradient can be painted in pieces. In bitmaps of a few pixels the corners may fall together,
+/// or onto the centre; then what rounding does to a side or a term may be as large as a full term.
+bool IsRegular(const SGradient& gradient, Point ptLast)
+{
+    // Far above the few roundings of 2^-24 of the largest summand.
+    constexpr float c_fRoundings = 3.814697265625e-06F; // 2^-18
+    const float fLargest =
+        std::fabs(gradient.fA) * ptLast.x + std::fabs(gradient.fB) * ptLast.y + std::fabs(gradient.fC);
+    return gradient.fLength > 0.0F && gradient.fFullDistance > 0.0F && std::isnormal(gradient.fEstimate) &&
+           gradient.fCentreSide != 0.0F && gradient.fFullTerm > fLargest * c_fRoundings;
+}
+
+/// @param ptLast the corner of the bitmap that is farthest from (0, 0)
+SGradient MakeGradient(Point ptFrom, Point ptTo, Point ptCentre, Point ptLast)
 {
     SGradient gradient = {};
     gradient.fA = ptTo.y - ptFrom.y;
@@ -125,15 +139,8 @@ SGradient MakeGradient(Point ptFrom, Point ptTo, Point ptCentre)
                                (double(gradient.fLength) * double(gradient.fFullDistance)));
     gradient.fFullTerm = FullTerm(gradient);
     gradient.dInverseA = 1.0 / double(gradient.fA);
+    gradient.bRegular = IsRegular(gradient, ptLast);
     return gradient;
-}
-
-/// Whether the gradient can be painted in pieces: in bitmaps of a few pixels the corners may fall together,
-/// or onto the centre.
-bool IsRegular(const SGradient& gradient)
-{
-    return gradient.fLength > 0.0F && gradient.fFullDistance > 0.0F && std::isnormal(gradient.fEstimate) &&
-           gradient.fCentreSide != 0.0F;
 }
 
 struct SCorners
@@ -167,15 +174,15 @@ SCorners FindCorners(const std::vector<Point>& vecLocus)
     return corners;
 }
 
-Gradients MakeGradients(const std::vector<Point>& vecLocus, const SMapping& mapping)
+Gradients MakeGradients(const std::vector<Point>& vecLocus, const SMapping& mapping, Point ptLast)
 {
     const SCorners corners = FindCorners(vecLocus);
     const double dThird = double(mapping.nScale) / c_dCentreDivisor;
     const Point ptCentre(float(double(mapping.nMarginX) + dThird),
                          float(double(mapping.nHeight - mapping.nMarginY) - dThird));
-    return {MakeGradient(corners.ptTop, corners.ptLeft, ptCentre),
-            MakeGradient(corners.ptRight, corners.ptLeft, ptCentre),
-            MakeGradient(corners.ptRight, corners.ptTop, ptCentre)};
+    return {MakeGradient(corners.ptTop, corners.ptLeft, ptCentre, ptLast),
+            MakeGradient(corners.ptRight, corners.ptLeft, ptCentre, ptLast),
+            MakeGradient(corners.ptRight, corners.ptTop, ptCentre, ptLast)};
 }
 
 /// The whole pixels of the image inside the box around the locus.
@@ -249,7 +256,8 @@ public:
     CRowPainter(const Gradients& arrGradients, FuncPaintPiece funcPaintPiece)
         : m_arrGradients(arrGradients)
         , m_funcPaintPiece(funcPaintPiece)
-        , m_bRegular(std::all_of(arrGradients.begin(), arrGradients.end(), IsRegular))
+        , m_bRegular(std::all_of(arrGradients.begin(), arrGradients.end(),
+                                 [](const SGradient& gradient) { return gradient.bRegular; }))
     {}
 
     /// Makes ready for a row, of which the pixels from nBegin to before nEnd may be painted.
@@ -476,8 +484,10 @@ QImage ChromaBitmap::Paint(const SSource& source, const FuncStop& funcStop, enIn
         return image;
     }
     pixels.ClearRows(0, rcBox.top());
-    const int nPainted = PaintBox(pixels, rcBox, source, MakeGradients(vecLocus, mapping),
-                                  PiecePainter(instructions), funcStop);
+    const int nPainted =
+        PaintBox(pixels, rcBox, source,
+                 MakeGradients(vecLocus, mapping, {float(source.nWidth), float(source.nHeight)}),
+                 PiecePainter(instructions), funcStop);
     pixels.ClearRows(nPainted, source.nHeight);
     return image;
 }
