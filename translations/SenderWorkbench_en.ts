@@ -88,6 +88,13 @@
     </message>
 </context>
 <context>
+    <name>CCanvasPreview</name>
+    <message>
+        <source>%1 × %2 像素，显示为 %3%</source>
+        <translation>%1 × %2 pixels, shown at %3%</translation>
+    </message>
+</context>
+<context>
     <name>CCustomDialog</name>
     <message>
         <source>分辨率的宽或高不能小于%1。</source>
@@ -512,6 +519,187 @@
     <message>
         <source>发送器工作台</source>
         <translation>Sender Workbench</translation>
+    </message>
+</context>
+<context>
+    <name>COutputPage</name>
+    <message>
+        <source>开</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>关</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>没有设置</source>
+        <translation>Not set</translation>
+    </message>
+    <message>
+        <source>没有文件</source>
+        <translation>No file</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Unreadable</translation>
+    </message>
+    <message>
+        <source>背景图片已启用，但文件不存在：
+%1
+请重新选取图片。</source>
+        <translation>The background picture is switched on, but its file is missing:
+%1
+Choose a picture again.</translation>
+    </message>
+    <message>
+        <source>无法读取背景图片：
+%1
+%2
+请选取另一张图片。</source>
+        <translation>The background picture cannot be read:
+%1
+%2
+Choose another picture.</translation>
+    </message>
+    <message>
+        <source>背景图片太大（%1 像素），此处不显示。</source>
+        <translation>The background picture (%1 pixels) is too large to be shown here.</translation>
+    </message>
+    <message>
+        <source>画布、帧率和色深</source>
+        <translation>Canvas, rate and depth</translation>
+    </message>
+    <message>
+        <source>工程</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>硬件</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <source>画布</source>
+        <translation>Canvas</translation>
+    </message>
+    <message>
+        <source>最大帧率</source>
+        <translation>Highest frame rate</translation>
+    </message>
+    <message>
+        <source>输入的最大帧率</source>
+        <translation>Highest input rate</translation>
+    </message>
+    <message>
+        <source>输出色深</source>
+        <translation>Output depth</translation>
+    </message>
+    <message>
+        <source>画布大小...</source>
+        <translation>Canvas size...</translation>
+    </message>
+    <message>
+        <source>帧率和色深...</source>
+        <translation>Rate and depth...</translation>
+    </message>
+    <message>
+        <source>启用</source>
+        <translation>Enabled</translation>
+    </message>
+    <message>
+        <source>不透明度</source>
+        <translation>Opacity</translation>
+    </message>
+    <message>
+        <source>契合度</source>
+        <translation>Fit</translation>
+    </message>
+    <message>
+        <source>图片</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>背景图片</source>
+        <translation>Background picture</translation>
+    </message>
+    <message>
+        <source>设置背景图片...</source>
+        <translation>Background picture...</translation>
+    </message>
+    <message>
+        <source>校正</source>
+        <translation>Correction</translation>
+    </message>
+    <message>
+        <source>预设值</source>
+        <translation>Preset</translation>
+    </message>
+    <message>
+        <source>取得的值</source>
+        <translation>Taken</translation>
+    </message>
+    <message>
+        <source>校正系数</source>
+        <translation>Correction coefficient</translation>
+    </message>
+    <message>
+        <source>修缝系数</source>
+        <translation>Seam repair coefficient</translation>
+    </message>
+    <message>
+        <source>重置...</source>
+        <translation>Reset...</translation>
+    </message>
+    <message>
+        <source>输出</source>
+        <translation>Output</translation>
+    </message>
+    <message>
+        <source>请选择一个发送器</source>
+        <translation>Select a sender</translation>
+    </message>
+    <message>
+        <source>50 Hz：%1</source>
+        <translation>50 Hz: %1</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Unknown</translation>
+    </message>
+    <message>
+        <source>拉伸</source>
+        <translation>Stretch</translation>
+    </message>
+    <message>
+        <source>画布没有面积：%1</source>
+        <translation>The canvas has no area: %1</translation>
+    </message>
+    <message>
+        <source>没有背景图片</source>
+        <translation>No background picture</translation>
+    </message>
+    <message>
+        <source>背景图片已关闭</source>
+        <translation>The background picture is switched off</translation>
+    </message>
+    <message>
+        <source>背景图片完全透明</source>
+        <translation>The background picture is fully transparent</translation>
+    </message>
+    <message>
+        <source>画布大小已设为 %1。</source>
+        <translation>The canvas is now %1.</translation>
+    </message>
+    <message>
+        <source>最大帧率已设为 %1 Hz，输出色深已设为 %2 bit。</source>
+        <translation>The highest frame rate is now %1 Hz, the output depth %2 bit.</translation>
+    </message>
+    <message>
+        <source>校正系数：%1</source>
+        <translation>Correction coefficient: %1</translation>
+    </message>
+    <message>
+        <source>修缝系数：%1</source>
+        <translation>Seam repair coefficient: %1</translation>
     </message>
 </context>
 <context>

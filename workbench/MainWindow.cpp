@@ -7,6 +7,7 @@
 #include "workbench/Tour.h"
 #include "workbench/addresses/AddressPage.h"
 #include "workbench/edid/EdidPage.h"
+#include "workbench/output/OutputPage.h"
 #include "workbench/simulation/SimulationPage.h"
 
 #include <QCloseEvent>
@@ -81,6 +82,7 @@ CMainWindow::~CMainWindow() = default;
 void CMainWindow::AddPages()
 {
     AddPage(new CEdidPage(this));
+    AddPage(new COutputPage(this));
     AddPage(new CAddressPage([this] { return m_pProject->MayLeave(); }, this));
     AddPage(new CSimulationPage(this));
 }

@@ -62,6 +62,9 @@ int RunWorkbench(const SWorkbenchOptions& options)
 
 int RunTour(const SWorkbenchOptions& options)
 {
+    // The pictures show switches at rest, and file dialogs that the tour can answer.
+    qputenv("ORVICONTROL_ANIMATIONS", "0");
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     // A tour neither reads nor writes what the operator's workbench remembers.
     CTour tour(options.strTourFolder);
     QSettings settings(QDir(options.strTourFolder).filePath(QStringLiteral("settings.ini")),

@@ -1,51 +1,16 @@
 #include "SenderModuleDialog/SenderModuleDialogInit.h"
 #include "host/OrviControl/CustomIPEdit.h"
 #include "simulator/CommonClass/Simulator.h"
+#include "tests/workbench/DialogOperator.h"
 #include "workbench/addresses/AddressPage.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QtTest>
 
-#include <functional>
-
 namespace {
-
-/// Operates the next dialog that opens.
-class CDialogOperator : public QObject
-{
-public:
-    explicit CDialogOperator(std::function<void(QDialog*)> funcOperate)
-        : m_funcOperate(std::move(funcOperate))
-    {
-        qApp->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
-    {
-        auto* pDialog = qobject_cast<QDialog*>(pWatched);
-        if (pDialog != nullptr && pEvent->type() == QEvent::Show && m_funcOperate) {
-            const auto funcOperate = std::exchange(m_funcOperate, {});
-            QMetaObject::invokeMethod(
-                pDialog, [funcOperate, pDialog] { funcOperate(pDialog); }, Qt::QueuedConnection);
-        }
-        return QObject::eventFilter(pWatched, pEvent);
-    }
-
-private:
-    std::function<void(QDialog*)> m_funcOperate;
-};
-
-void Press(QDialog* pDialog, const char* szText)
-{
-    for (QPushButton* pButton : pDialog->findChildren<QPushButton*>())
-        if (pButton->text() == QString::fromUtf8(szText))
-            return QTest::mouseClick(pButton, Qt::LeftButton);
-    pDialog->reject();
-}
 
 void EnterAddress(QDialog* pDialog, const char* szAddress)
 {

@@ -1,0 +1,48 @@
+#ifndef WORKBENCH_OUTPUT_CANVASPICTURE_H
+#define WORKBENCH_OUTPUT_CANVASPICTURE_H
+
+#include <QDateTime>
+#include <QImage>
+#include <QString>
+
+/// What became of reading a picture file.
+enum class enPictureState
+{
+    Missing,    ///< there is no such file
+    Unreadable, ///< it holds no picture that could be shown
+    TooLarge,   ///< it has more pixels than a view should spend memory on
+    Good
+};
+
+/// A background picture as it is read from its file.
+struct SCanvasPicture
+{
+    enPictureState state = enPictureState::Missing;
+    QString strFile;
+    QString strProblem; ///< why it is unreadable
+    QSize size;         ///< pixels, as in the file
+    QImage image;       ///< the picture, made smaller where it is larger than any view
+};
+
+/// Reads background pictures, and keeps the last one until its file changes: a slider that moves asks for the
+/// same picture again and again.
+class CCanvasPictureReader
+{
+public:
+    /// Longest side of a picture that is kept as it is, pixels: more than a view shows.
+    static constexpr int c_nMaxKeptSide = 4096;
+    /// Most pixels of a picture that is read; while it is read they take 4 bytes each.
+    static constexpr qint64 c_nMaxPixels = 128LL * 1024 * 1024;
+
+    /// The picture of a file as it is now.
+    const SCanvasPicture& Read(const QString& strFile);
+    /// Reads the file again next time, whether it seems to have changed or not.
+    void Forget() { m_picture = {}; }
+
+private:
+    SCanvasPicture m_picture;
+    QDateTime m_timeModified;
+    qint64 m_nFileSize = 0;
+};
+
+#endif // WORKBENCH_OUTPUT_CANVASPICTURE_H
