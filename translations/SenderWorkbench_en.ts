@@ -95,6 +95,127 @@
     </message>
 </context>
 <context>
+    <name>CChartControls</name>
+    <message>
+        <source>拖动的点现在留在区域内。</source>
+        <translation>Dragged points now stay inside the region.</translation>
+    </message>
+    <message>
+        <source>白点的色温</source>
+        <translation>Temperature of white</translation>
+    </message>
+    <message>
+        <source>鼠标在白点上时显示色温</source>
+        <translation>Show the colour temperature while the mouse is on a white point</translation>
+    </message>
+    <message>
+        <source>白点吸附 6500 K</source>
+        <translation>White snaps to 6500 K</translation>
+    </message>
+    <message>
+        <source>标准名称</source>
+        <translation>Name of standard</translation>
+    </message>
+    <message>
+        <source>第一个组与标准相符时，在图上显示标准的名称</source>
+        <translation>Name the standard on the chart when the first group matches one</translation>
+    </message>
+    <message>
+        <source>网格</source>
+        <translation>Grid</translation>
+    </message>
+    <message>
+        <source>背景...</source>
+        <translation>Background...</translation>
+    </message>
+    <message>
+        <source>可行区域</source>
+        <translation>Feasible region</translation>
+    </message>
+    <message>
+        <source>点留在区域内</source>
+        <translation>Keep points inside</translation>
+    </message>
+    <message>
+        <source>绘制</source>
+        <translation>Draw</translation>
+    </message>
+    <message>
+        <source>清除</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>图的背景颜色</source>
+        <translation>Background of the chart</translation>
+    </message>
+    <message>
+        <source>单击放置顶点，双击或回车完成，退格键撤回一个顶点，Esc 取消。</source>
+        <translation>Click to set corners. Double-click or Enter closes the region, Backspace takes a corner back, Esc cancels.</translation>
+    </message>
+</context>
+<context>
+    <name>CChartEditor</name>
+    <message>
+        <source>拖动</source>
+        <translation>Drag</translation>
+    </message>
+</context>
+<context>
+    <name>CColourPage</name>
+    <message>
+        <source>色彩</source>
+        <translation>Colour</translation>
+    </message>
+    <message>
+        <source>CIE 1931 色度图</source>
+        <translation>CIE 1931 chromaticity chart</translation>
+    </message>
+    <message>
+        <source>复制图片</source>
+        <translation>Copy picture</translation>
+    </message>
+    <message>
+        <source>导出 PNG...</source>
+        <translation>Export PNG...</translation>
+    </message>
+    <message>
+        <source>导出 SVG...</source>
+        <translation>Export SVG...</translation>
+    </message>
+    <message>
+        <source>拖动白边的点；灰边的点不能移动。</source>
+        <translation>Drag the dots with a white rim; those with a grey rim stay where they are.</translation>
+    </message>
+    <message>
+        <source>图片已复制到剪贴板。</source>
+        <translation>The picture is on the clipboard.</translation>
+    </message>
+    <message>
+        <source>导出 SVG</source>
+        <translation>Export SVG</translation>
+    </message>
+    <message>
+        <source>SVG 图形 (*.svg)</source>
+        <translation>SVG drawing (*.svg)</translation>
+    </message>
+    <message>
+        <source>导出 PNG</source>
+        <translation>Export PNG</translation>
+    </message>
+    <message>
+        <source>PNG 图片 (*.png)</source>
+        <translation>PNG picture (*.png)</translation>
+    </message>
+    <message>
+        <source>已保存 %1</source>
+        <translation>Saved %1</translation>
+    </message>
+    <message>
+        <source>无法写入 %1：%2。请选择别的位置。</source>
+        <translation>Cannot write %1: %2. Please choose another place.</translation>
+    </message>
+</context>
+<context>
     <name>CCustomDialog</name>
     <message>
         <source>分辨率的宽或高不能小于%1。</source>
@@ -417,6 +538,144 @@
     <message>
         <source>EDID 存储器原来是空的，已写入 128 个字节。</source>
         <translation>The EDID memory was empty; 128 bytes have been written.</translation>
+    </message>
+</context>
+<context>
+    <name>CGroupModel</name>
+    <message>
+        <source>勾选：可以在图上拖动。双击：输入 x, y。</source>
+        <translation>Tick: can be dragged on the chart. Double-click: type x, y.</translation>
+    </message>
+    <message>
+        <source>勾选：使用自己的颜色，否则按显示顺序取色。双击：选择颜色。</source>
+        <translation>Tick: has a colour of its own; otherwise colours go by the order of the groups shown. Double-click: choose a colour.</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Visible</translation>
+    </message>
+    <message>
+        <source>模式</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>红 / 青</source>
+        <translation>Red / cyan</translation>
+    </message>
+    <message>
+        <source>绿 / 品红</source>
+        <translation>Green / magenta</translation>
+    </message>
+    <message>
+        <source>蓝 / 黄</source>
+        <translation>Blue / yellow</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>颜色</source>
+        <translation>Colour</translation>
+    </message>
+    <message>
+        <source>图例</source>
+        <translation>Legend</translation>
+    </message>
+    <message>
+        <source>输出色彩空间</source>
+        <translation>Output colour space</translation>
+    </message>
+    <message>
+        <source>屏幕色彩空间</source>
+        <translation>Screen colour space</translation>
+    </message>
+    <message>
+        <source>键 %1</source>
+        <translation>Key %1</translation>
+    </message>
+    <message>
+        <source>更改%1</source>
+        <translation>Change %1</translation>
+    </message>
+    <message>
+        <source>“%1”不是色度坐标。请输入 0 到 1 之间的两个数，例如 0.3127, 0.3290。</source>
+        <translation>"%1" is no chromaticity. Please type two numbers from 0 to 1, such as 0.3127, 0.3290.</translation>
+    </message>
+    <message>
+        <source>白点必须在光谱轨迹以内。</source>
+        <translation>The white point has to lie inside the spectral locus.</translation>
+    </message>
+</context>
+<context>
+    <name>CGroupPanel</name>
+    <message>
+        <source>添加</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>输出和屏幕色彩空间</source>
+        <translation>Output and screen colour space</translation>
+    </message>
+    <message>
+        <source>预设</source>
+        <translation>Preset</translation>
+    </message>
+    <message>
+        <source>所选的组取标准的色度坐标</source>
+        <translation>The selected group takes the points of a standard</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>色彩组</source>
+        <translation>Colour groups</translation>
+    </message>
+    <message>
+        <source>屏幕覆盖输出色彩空间的 %1%</source>
+        <translation>The screen covers %1% of the output colour space</translation>
+    </message>
+    <message>
+        <source>没有覆盖率：需要显示输出和屏幕色彩空间</source>
+        <translation>No coverage: show the output and the screen colour space</translation>
+    </message>
+    <message>
+        <source>添加 %1</source>
+        <translation>Add %1</translation>
+    </message>
+    <message>
+        <source>添加输出和屏幕色彩空间</source>
+        <translation>Add output and screen colour space</translation>
+    </message>
+    <message>
+        <source>删除组</source>
+        <translation>Remove group</translation>
+    </message>
+    <message>
+        <source>已删除输出和屏幕色彩空间：覆盖率需要两者。</source>
+        <translation>The output and the screen colour space were removed: the coverage needs both.</translation>
+    </message>
+    <message>
+        <source>预设 %1</source>
+        <translation>Preset %1</translation>
+    </message>
+    <message>
+        <source>组的颜色</source>
+        <translation>Colour of the group</translation>
     </message>
 </context>
 <context>
@@ -763,6 +1022,41 @@ Choose another picture.</translation>
     <message>
         <source>工程</source>
         <translation>Project</translation>
+    </message>
+</context>
+<context>
+    <name>CReadoutText</name>
+    <message>
+        <source>红</source>
+        <translation>red</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>green</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>blue</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>white</translation>
+    </message>
+    <message>
+        <source>青</source>
+        <translation>cyan</translation>
+    </message>
+    <message>
+        <source>品红</source>
+        <translation>magenta</translation>
+    </message>
+    <message>
+        <source>黄</source>
+        <translation>yellow</translation>
+    </message>
+    <message>
+        <source>%1，色温 %2 K</source>
+        <translation>%1, colour temperature %2 K</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,7 @@
 #include "workbench/SenderTree.h"
 #include "workbench/Tour.h"
 #include "workbench/addresses/AddressPage.h"
+#include "workbench/colour/ColourPage.h"
 #include "workbench/edid/EdidPage.h"
 #include "workbench/output/OutputPage.h"
 #include "workbench/simulation/SimulationPage.h"
@@ -82,6 +83,7 @@ CMainWindow::~CMainWindow() = default;
 void CMainWindow::AddPages()
 {
     AddPage(new CEdidPage(this));
+    AddPage(new CColourPage(this));
     AddPage(new COutputPage(this));
     AddPage(new CAddressPage([this] { return m_pProject->MayLeave(); }, this));
     AddPage(new CSimulationPage(this));

@@ -1,0 +1,390 @@
+#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "workbench/colour/ChartControls.h"
+#include "workbench/colour/ChartTransform.h"
+#include "workbench/colour/ChartView.h"
+#include "workbench/colour/ColourPage.h"
+#include "workbench/colour/GroupModel.h"
+#include "workbench/colour/GroupPanel.h"
+#include "workbench/colour/PointReadout.h"
+#include "workbench/colour/RegionOverlay.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QSignalSpy>
+#include <QSvgRenderer>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+/// The page as it starts: the output and the screen colour space, the latter to be dragged.
+struct SShown
+{
+    CColourPage page;
+
+    SShown()
+    {
+        page.resize(1000, 640);
+        page.show();
+        QCoreApplication::processEvents();
+        View().WaitForBitmap();
+    }
+
+    CChartView& View() { return page.View(); }
+    CChromaticityDlgWnd& Chart() { return page.View().Chart(); }
+    QUndoStack& Steps() { return page.View().Editor().Steps(); }
+    SChromaGroupInfo& Screen() { return *Chart().GetChromaGroupByIndex(enScreenColorSpace); }
+
+    void Move(CPointEx<float> pt) { QTest::mouseMove(&Chart(), View().PixelOf(pt)); }
+    void Press(CPointEx<float> pt)
+    {
+        Move(pt);
+        QTest::mousePress(&Chart(), Qt::LeftButton, Qt::NoModifier, View().PixelOf(pt));
+    }
+    /// A move with the left button held, which QTest::mouseMove would not say.
+    void Pull(CPointEx<float> pt)
+    {
+        const QPoint pos = View().PixelOf(pt);
+        QMouseEvent event(QEvent::MouseMove, pos, Chart().mapToGlobal(pos), Qt::NoButton, Qt::LeftButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(&Chart(), &event);
+    }
+    void Release(CPointEx<float> pt)
+    {
+        QTest::mouseRelease(&Chart(), Qt::LeftButton, Qt::NoModifier, View().PixelOf(pt));
+    }
+    void Drag(CPointEx<float> ptFrom, CPointEx<float> ptTo)
+    {
+        constexpr int c_nSteps = 5;
+        Press(ptFrom);
+        for (int i = 1; i <= c_nSteps; ++i) {
+            const float fPart = float(i) / float(c_nSteps);
+            Pull({ptFrom.x + (ptTo.x - ptFrom.x) * fPart, ptFrom.y + (ptTo.y - ptFrom.y) * fPart});
+        }
+        Release(ptTo);
+    }
+    void Draw(const QPolygonF& polygon)
+    {
+        page.Controls().DrawRegion();
+        for (const QPointF& pt : polygon)
+            QTest::mouseClick(&View().Overlay(), Qt::LeftButton, Qt::NoModifier,
+                              ChartTransform(Chart()).map(pt).toPoint());
+    }
+};
+
+QString Text(CPointEx<float> point)
+{
+    return ColourGroups::PointText(point);
+}
+
+QPolygonF Pentagon()
+{
+    return QPolygonF({{0.20, 0.20}, {0.50, 0.28}, {0.46, 0.46}, {0.30, 0.62}, {0.20, 0.45}});
+}
+
+QByteArray Content(const QString& strFile)
+{
+    QFile file(strFile);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class TestColourPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ItStartsWithBothSpaces();
+    void AResizeLaysTheChartOutAndPaintsItsBitmap_data();
+    void AResizeLaysTheChartOutAndPaintsItsBitmap();
+    void ADragIsOneStep();
+    void UndoAndRedoFollowTheKeys();
+    void ADragOfAFixedPointIsNoStep();
+    void NoStepIsTakenInTheMiddleOfADrag();
+    void ARegionHoldsADraggedPoint();
+    void ARegionIsDrawnByClicksAndKeys();
+    void EscapeKeepsTheRegion();
+    void ADragInCmyModeStaysLegal();
+    void TheNameOfTheStandardOutlivesADrag();
+    void APresetTakesThePointsAndCanBeUndone_data();
+    void APresetTakesThePointsAndCanBeUndone();
+    void RemovingOneSpaceRemovesBoth();
+    void GroupsCanBeAddedAfterAllWereRemoved();
+    void WhiteSnapsWhileItIsTold();
+    void TheReadoutNamesThePointUnderTheMouse();
+    void APictureIsCopied();
+    void FilesHoldTheChart();
+    void AFileThatCannotBeWrittenIsTold();
+    void AnExportLeavesTheChartAsItWas();
+};
+
+void TestColourPage::ItStartsWithBothSpaces()
+{
+    SShown shown;
+    QCOMPARE(shown.Chart().m_mapGroups.keys(), (QList<int>{enOutputColorSpace, enScreenColorSpace}));
+    QVERIFY(!shown.Steps().canUndo());
+    QCOMPARE(ColourGroups::Coverage(shown.Chart()).value_or(-1), 72);
+}
+
+void TestColourPage::AResizeLaysTheChartOutAndPaintsItsBitmap_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("large") << QSize(900, 800);
+    QTest::newRow("small") << QSize(220, 240);
+    QTest::newRow("wide") << QSize(1200, 300);
+    QTest::newRow("below what can be read") << QSize(50, 20);
+}
+
+void TestColourPage::AResizeLaysTheChartOutAndPaintsItsBitmap()
+{
+    QFETCH(QSize, size);
+    CChartView view;
+    view.resize(size);
+    view.show();
+    view.resize(size + QSize(7, 3));
+    view.WaitForBitmap();
+    const QSize sizeChart = (size + QSize(7, 3)).expandedTo(view.minimumSizeHint());
+    QCOMPARE(view.Chart().size(), sizeChart);
+    QCOMPARE(QSize(view.Chart().m_nWndWidth, view.Chart().m_nWndHeight), sizeChart);
+    QVERIFY(view.Chart().m_wndBitmap0.bReady);
+    QCOMPARE(view.Chart().m_wndBitmap0.pImage->size(), sizeChart);
+}
+
+void TestColourPage::ADragIsOneStep()
+{
+    SShown shown;
+    const CPointEx<float> ptBefore = shown.Screen().ptGreen;
+    shown.Drag(ptBefore, {0.30F, 0.60F});
+    const QString strAfter = Text(shown.Screen().ptGreen);
+    QVERIFY(strAfter != Text(ptBefore));
+    QCOMPARE(shown.Steps().count(), 1);
+    shown.View().Editor().Undo();
+    QCOMPARE(Text(shown.Screen().ptGreen), Text(ptBefore));
+    shown.View().Editor().Redo();
+    QCOMPARE(Text(shown.Screen().ptGreen), strAfter);
+}
+
+void TestColourPage::UndoAndRedoFollowTheKeys()
+{
+    SShown shown;
+    shown.page.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&shown.page));
+    const CPointEx<float> ptBefore = shown.Screen().ptGreen;
+    shown.Drag(ptBefore, {0.30F, 0.60F});
+    QTest::keySequence(&shown.Chart(), QKeySequence::Undo);
+    QCOMPARE(Text(shown.Screen().ptGreen), Text(ptBefore));
+    QTest::keySequence(&shown.Chart(), QKeySequence::Redo);
+    QVERIFY(Text(shown.Screen().ptGreen) != Text(ptBefore));
+}
+
+void TestColourPage::ADragOfAFixedPointIsNoStep()
+{
+    SShown shown;
+    const CPointEx<float> ptFixed = shown.Chart().GetChromaGroupByIndex(enOutputColorSpace)->ptGreen;
+    shown.Drag(ptFixed, {0.30F, 0.60F});
+    QCOMPARE(shown.Steps().count(), 0);
+    QCOMPARE(Text(shown.Chart().GetChromaGroupByIndex(enOutputColorSpace)->ptGreen), Text(ptFixed));
+}
+
+void TestColourPage::NoStepIsTakenInTheMiddleOfADrag()
+{
+    SShown shown;
+    shown.Drag(shown.Screen().ptGreen, {0.30F, 0.60F});
+    shown.Press(shown.Screen().ptGreen);
+    shown.Pull({0.32F, 0.58F});
+    shown.View().Editor().Undo();
+    QCOMPARE(shown.Steps().index(), 1);
+    shown.Release({0.32F, 0.58F});
+    QCOMPARE(shown.Steps().index(), 2);
+}
+
+void TestColourPage::ARegionHoldsADraggedPoint()
+{
+    SShown shown;
+    shown.View().Region().SetPolygon(Pentagon());
+    shown.page.Controls().SetRegionOn(true);
+    shown.Drag(shown.Screen().ptGreen, {0.32F, 0.66F});
+    QVERIFY(shown.View().Region().Allows(shown.Screen().ptGreen));
+    shown.page.Controls().SetRegionOn(false);
+    shown.Drag(shown.Screen().ptGreen, {0.28F, 0.66F});
+    QVERIFY(
+        !Pentagon().containsPoint(shown.Chart().CPointFToQPointF(shown.Screen().ptGreen), Qt::OddEvenFill));
+}
+
+void TestColourPage::ARegionIsDrawnByClicksAndKeys()
+{
+    SShown shown;
+    QPolygonF polygon = Pentagon();
+    polygon.append(QPointF(0.1, 0.1));
+    shown.Draw(polygon);
+    QVERIFY(shown.View().Overlay().IsDrawing());
+    QTest::keyClick(&shown.View().Overlay(), Qt::Key_Backspace);
+    QTest::keyClick(&shown.View().Overlay(), Qt::Key_Return);
+    QVERIFY(!shown.View().Overlay().IsDrawing());
+    QVERIFY(shown.View().Region().IsOn());
+    QCOMPARE(shown.View().Region().Polygon().size(), Pentagon().size());
+    constexpr double c_dPixel = 0.003; // a pixel of this chart
+    for (int i = 0; i < Pentagon().size(); ++i)
+        QVERIFY(QLineF(shown.View().Region().Polygon().at(i), Pentagon().at(i)).length() < c_dPixel);
+}
+
+void TestColourPage::EscapeKeepsTheRegion()
+{
+    SShown shown;
+    shown.View().Region().SetPolygon(Pentagon());
+    shown.Draw(QPolygonF(QVector<QPointF>{{0.3, 0.3}, {0.4, 0.3}}));
+    QTest::keyClick(&shown.View().Overlay(), Qt::Key_Return);
+    QVERIFY2(shown.View().Overlay().IsDrawing(), "two corners close nothing");
+    QTest::keyClick(&shown.View().Overlay(), Qt::Key_Escape);
+    QVERIFY(!shown.View().Overlay().IsDrawing());
+    QCOMPARE(shown.View().Region().Polygon(), Pentagon());
+}
+
+void TestColourPage::ADragInCmyModeStaysLegal()
+{
+    SShown shown;
+    ColourGroups::SetMode(shown.Screen(), false);
+    shown.Drag(shown.Screen().ptRed, {0.05F, 0.30F});
+    SChromaGroupInfo group = shown.Screen();
+    ColourGroups::SetMode(group, true);
+    for (const int nPoint : {enRedPoint, enGreenPoint, enBluePoint})
+        QVERIFY(shown.Chart().IsPointInRegion(&group, nPoint));
+}
+
+void TestColourPage::TheNameOfTheStandardOutlivesADrag()
+{
+    SShown shown;
+    shown.page.Controls().SetStandardShown(true);
+    shown.page.grab();
+    QVERIFY(shown.Chart().m_bShowStandard);
+    QCOMPARE(shown.Chart().m_nStandard, int(enStandardRec2020));
+    shown.Drag(shown.Screen().ptGreen, {0.30F, 0.60F});
+    QVERIFY(shown.Chart().m_bShowStandard);
+    shown.page.Controls().SetStandardShown(false);
+    QVERIFY(!shown.Chart().m_bShowStandard);
+}
+
+void TestColourPage::APresetTakesThePointsAndCanBeUndone_data()
+{
+    QTest::addColumn<int>("nStandard");
+    for (int i = 0; i < c_nColorStandardCount; ++i)
+        QTest::addRow("standard %d", i) << i;
+}
+
+void TestColourPage::APresetTakesThePointsAndCanBeUndone()
+{
+    QFETCH(int, nStandard);
+    SShown shown;
+    shown.page.Controls().SetStandardShown(true);
+    shown.page.Groups().SelectKey(enOutputColorSpace);
+    shown.page.Groups().ApplyStandard(enColorStandard(nStandard));
+    shown.page.grab();
+    QCOMPARE(shown.Chart().m_nStandard, nStandard);
+    shown.View().Editor().Undo();
+    shown.page.grab();
+    QCOMPARE(shown.Chart().m_nStandard, int(enStandardRec2020));
+}
+
+void TestColourPage::RemovingOneSpaceRemovesBoth()
+{
+    SShown shown;
+    shown.page.Groups().SelectKey(enOutputColorSpace);
+    shown.page.Groups().RemoveSelected();
+    shown.page.grab();
+    QVERIFY(shown.Chart().m_mapGroups.isEmpty());
+    shown.View().Editor().Undo();
+    QCOMPARE(shown.Chart().m_mapGroups.size(), 2);
+}
+
+void TestColourPage::GroupsCanBeAddedAfterAllWereRemoved()
+{
+    SShown shown;
+    shown.page.Controls().SetStandardShown(true);
+    shown.page.Groups().RemoveSelected();
+    shown.page.grab();
+    QCOMPARE(shown.page.Groups().SelectedKey(), -1);
+    shown.page.Groups().AddStandard(enStandardNTSC);
+    shown.page.Groups().AddCoveragePair();
+    shown.page.grab();
+    QCOMPARE(shown.Chart().m_mapGroups.keys(), (QList<int>{0, enOutputColorSpace, enScreenColorSpace}));
+    QCOMPARE(shown.Chart().m_nStandard, int(enStandardNTSC));
+}
+
+void TestColourPage::WhiteSnapsWhileItIsTold()
+{
+    SShown shown;
+    shown.page.Controls().SetSnapping(true);
+    shown.Drag(shown.Screen().ptWhite, {0.325F, 0.335F});
+    QCOMPARE(shown.Screen().ptWhite.x, float(shown.Chart().m_ptD65.x()));
+    QCOMPARE(shown.Screen().ptWhite.y, float(shown.Chart().m_ptD65.y()));
+}
+
+void TestColourPage::TheReadoutNamesThePointUnderTheMouse()
+{
+    SShown shown;
+    shown.Move(shown.Screen().ptGreen);
+    const QString strGreen = PointReadout::Of(shown.Chart());
+    QVERIFY(strGreen.contains(QString::fromUtf8("绿")));
+    QVERIFY(strGreen.contains(Text(shown.Screen().ptGreen)));
+    shown.Move(shown.Screen().ptWhite);
+    QVERIFY(PointReadout::Of(shown.Chart()).contains(QStringLiteral(" K")));
+    shown.Move({0.2F, 0.4F});
+    QVERIFY(PointReadout::Of(shown.Chart()).startsWith(QStringLiteral("x, y = 0.2")));
+    shown.Move({0.7F, 0.7F});
+    QVERIFY(PointReadout::Of(shown.Chart()).isEmpty());
+}
+
+void TestColourPage::APictureIsCopied()
+{
+    SShown shown;
+    shown.page.CopyPicture();
+    QCOMPARE(QGuiApplication::clipboard()->image().size(), shown.Chart().size());
+}
+
+void TestColourPage::FilesHoldTheChart()
+{
+    SShown shown;
+    const QTemporaryDir folder;
+    const QString strPng = folder.filePath(QStringLiteral("chart.png"));
+    QVERIFY(shown.page.SavePng(strPng));
+    const QImage image(strPng);
+    QCOMPARE(image.size(), shown.Chart().size());
+    const QPoint ptGreen = shown.View().PixelOf(shown.Screen().ptGreen);
+    QCOMPARE(image.pixelColor(ptGreen), QColor(Qt::green));
+    const QString strSvg = folder.filePath(QStringLiteral("chart.svg"));
+    QVERIFY(shown.page.SaveSvg(strSvg));
+    const QSvgRenderer renderer(strSvg);
+    QVERIFY(renderer.isValid());
+    QCOMPARE(renderer.viewBox().size(), shown.Chart().size());
+    QVERIFY(Content(strSvg).contains("<text"));
+}
+
+void TestColourPage::AFileThatCannotBeWrittenIsTold()
+{
+    SShown shown;
+    const QTemporaryDir folder;
+    QSignalSpy spy(&shown.page, &CColourPage::Reported);
+    for (const char* szName : {"missing/chart.png", "missing/chart.svg"}) {
+        const QString strFile = folder.filePath(QString::fromLatin1(szName));
+        QVERIFY(!(strFile.endsWith(QStringLiteral("svg")) ? shown.page.SaveSvg(strFile)
+                                                          : shown.page.SavePng(strFile)));
+        QCOMPARE(spy.count(), 1);
+        QVERIFY(spy.takeFirst().first().toString().contains(strFile));
+    }
+    QVERIFY(QDir(folder.path()).isEmpty());
+}
+
+void TestColourPage::AnExportLeavesTheChartAsItWas()
+{
+    SShown shown;
+    shown.Move(shown.Screen().ptGreen);
+    const int nHover = shown.Chart().m_nHoverPoint;
+    const ColourGroups::Groups groups = ColourGroups::Take(shown.Chart());
+    shown.page.CopyPicture();
+    QCOMPARE(shown.Chart().m_nHoverPoint, nHover);
+    QVERIFY(ColourGroups::AreSame(ColourGroups::Take(shown.Chart()), groups));
+}
+
+QTEST_MAIN(TestColourPage)
+#include "TestColourPage.moc"

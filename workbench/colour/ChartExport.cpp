@@ -1,0 +1,73 @@
+#include "workbench/colour/ChartExport.h"
+
+#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "workbench/colour/ColourGroups.h"
+#include "workbench/colour/RegionOverlay.h"
+
+#include <QBuffer>
+#include <QPainter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+
+namespace {
+
+/// Paints a chart of its own that shows the same: the one on the screen follows the mouse.
+void Paint(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, QPainter& painter)
+{
+    CChromaticityDlgWnd copy(nullptr);
+    copy.resize(chart.size());
+    copy.SetSize(chart.m_nWndWidth, chart.m_nWndHeight);
+    copy.SetBackgroundColor(chart.m_clrBackground);
+    copy.SetGridLineAlpha(chart.m_nGridAlpha);
+    copy.ShowCIEStandard(chart.m_nGroupIndex, enColorStandard(chart.m_nStandard), chart.m_bShowStandard);
+    ColourGroups::Restore(copy, ColourGroups::Take(chart));
+    copy.Draw(painter);
+    CRegionOverlay::Paint(painter, copy, region);
+}
+
+QString Save(const QString& strFile, const QByteArray& baContent)
+{
+    QSaveFile file(strFile);
+    const bool bSaved =
+        file.open(QIODevice::WriteOnly) && file.write(baContent) == baContent.size() && file.commit();
+    return bSaved ? QString() : file.errorString();
+}
+
+} // namespace
+
+QImage ChartExport::Picture(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, double dRatio)
+{
+    QImage image((QSizeF(chart.m_nWndWidth, chart.m_nWndHeight) * dRatio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(dRatio);
+    image.fill(chart.m_clrBackground);
+    QPainter painter(&image);
+    Paint(chart, region, painter);
+    return image;
+}
+
+QString ChartExport::SavePng(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, double dRatio,
+                             const QString& strFile)
+{
+    QByteArray baContent;
+    QBuffer buffer(&baContent);
+    Picture(chart, region, dRatio).save(&buffer, "PNG");
+    return Save(strFile, baContent);
+}
+
+QString ChartExport::SaveSvg(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region,
+                             const QString& strFile)
+{
+    const QSize size(chart.m_nWndWidth, chart.m_nWndHeight);
+    QByteArray baContent;
+    QBuffer buffer(&baContent);
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setSize(size);
+    generator.setViewBox(QRect(QPoint(0, 0), size));
+    // Fonts have sizes in points: they are to be as large as on the screen.
+    generator.setResolution(chart.logicalDpiY());
+    QPainter painter(&generator);
+    Paint(chart, region, painter);
+    painter.end();
+    return Save(strFile, baContent);
+}

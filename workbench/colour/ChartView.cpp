@@ -1,0 +1,135 @@
+#include "workbench/colour/ChartView.h"
+
+#include "SenderModuleDialog/chart/ChartGroupPoints.h"
+#include "SenderModuleDialog/chart/ChromaGamutThread.h"
+#include "workbench/colour/ChartTransform.h"
+#include "workbench/colour/RegionOverlay.h"
+
+#include <QMouseEvent>
+
+#include <algorithm>
+
+namespace {
+
+/// The window type that shows the bitmap which the worker paints.
+constexpr int c_nWorkerType = 0;
+
+/// The chart is laid out for sides above 100 pixels; below twice that it cannot be read.
+constexpr int c_nSmallestSide = 200;
+constexpr QSize c_sizeFirst(560, 560);
+
+} // namespace
+
+CChartView::CChartView(QWidget* pParent)
+    : QWidget(pParent)
+    , m_pChart(new CChromaticityDlgWnd(this))
+    , m_pEditor(new CChartEditor(*m_pChart, this))
+    , m_pOverlay(new CRegionOverlay(*m_pChart, m_region, this))
+{
+    m_pChart->SetWndType(c_nWorkerType);
+    m_pChart->installEventFilter(this);
+    // The answer is read right after the emission.
+    connect(m_pChart, &CChromaticityDlgWnd::OnPositionChangeSignal, this, &CChartView::Answer,
+            Qt::DirectConnection);
+    connect(m_pEditor, &CChartEditor::Changed, m_pChart, QOverload<>::of(&QWidget::update));
+    resize(c_sizeFirst);
+    LayOut();
+}
+
+QSize CChartView::sizeHint() const
+{
+    return c_sizeFirst;
+}
+
+QSize CChartView::minimumSizeHint() const
+{
+    return {c_nSmallestSide, c_nSmallestSide};
+}
+
+void CChartView::resizeEvent(QResizeEvent* /*pEvent*/)
+{
+    LayOut();
+}
+
+void CChartView::LayOut()
+{
+    const QSize size = this->size().expandedTo(minimumSizeHint());
+    m_pChart->setGeometry(QRect(QPoint(0, 0), size));
+    m_pOverlay->setGeometry(m_pChart->geometry());
+    m_pChart->SetSize(size.width(), size.height());
+    m_pChart->StoreWndData(c_nWorkerType, size.width(), size.height());
+    m_pChart->StartWndBitmapThread();
+    m_pChart->update();
+}
+
+void CChartView::WaitForBitmap()
+{
+    m_pChart->m_pThread->wait();
+    m_pChart->update();
+}
+
+QPoint CChartView::PixelOf(CPointEx<float> point) const
+{
+    return ChartTransform(*m_pChart).map(QPointF(double(point.x), double(point.y))).toPoint();
+}
+
+bool CChartView::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pWatched != m_pChart)
+        return QWidget::eventFilter(pWatched, pEvent);
+    const auto IsLeft = [pEvent] {
+        return static_cast<const QMouseEvent*>(pEvent)->button() == Qt::LeftButton;
+    };
+    if (pEvent->type() == QEvent::MouseButtonPress && IsLeft())
+        m_pEditor->BeginDrag();
+    else if (pEvent->type() == QEvent::MouseMove)
+        RememberPlace();
+    else if (pEvent->type() == QEvent::MouseButtonRelease && IsLeft())
+        EndDrag();
+    return QWidget::eventFilter(pWatched, pEvent);
+}
+
+void CChartView::RememberPlace()
+{
+    if (const SChromaGroupInfo* pGroup = m_pChart->m_mapGroups.value(m_pChart->m_nHoverGroup, nullptr))
+        m_ptBefore = GroupPointOrOrigin(*pGroup, m_pChart->m_nHoverPoint);
+    QMetaObject::invokeMethod(this, &CChartView::MouseMoved, Qt::QueuedConnection);
+}
+
+void CChartView::Answer(int nGroup, int nPoint, bool& bSuccessed)
+{
+    bSuccessed = m_region.Answer(*m_pChart, nGroup, nPoint, m_ptBefore);
+    SChromaGroupInfo* pGroup = m_pChart->GetChromaGroupByIndex(nGroup);
+    // The chart holds the dragged point in the locus; in CMY mode the triangle's vertices are others.
+    if (bSuccessed && pGroup != nullptr && !pGroup->bRgbMode)
+        m_pChart->ReCalCMY(pGroup);
+    // The point has its final place only after the answer was read.
+    QMetaObject::invokeMethod(m_pEditor, &CChartEditor::Changed, Qt::QueuedConnection);
+}
+
+void CChartView::EndDrag()
+{
+    m_pEditor->EndDrag();
+    AskForStandard();
+    // The chart itself does not repaint at the end of a drag.
+    m_pChart->update();
+}
+
+void CChartView::SetStandardShown(bool bShown)
+{
+    m_bStandardShown = bShown;
+    AskForStandard();
+}
+
+void CChartView::PreferStandard(enColorStandard standard)
+{
+    m_standard = standard;
+    AskForStandard();
+}
+
+void CChartView::AskForStandard()
+{
+    // The chart only ever names its first group, which it asks for by the index 0.
+    m_pChart->ShowCIEStandard(0, m_standard, m_bStandardShown);
+    m_pChart->update();
+}

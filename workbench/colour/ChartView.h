@@ -1,0 +1,68 @@
+#ifndef WORKBENCH_COLOUR_CHARTVIEW_H
+#define WORKBENCH_COLOUR_CHARTVIEW_H
+
+#include "workbench/colour/ChartEditor.h"
+#include "workbench/colour/FeasibleRegion.h"
+
+#include <QWidget>
+
+class CRegionOverlay;
+
+/// The chart at the size of this widget, with what the workbench shows over it. It answers the chart's
+/// question whether a dragged point may keep its place, and makes each drag one step of the editor.
+///
+/// A new size lays the chart out at once; the worker paints the bitmap for it, and the chart repaints when it
+/// is there. On screens with several device pixels for one of the widget's the chart paints all in device
+/// pixels.
+class CChartView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CChartView(QWidget* pParent = nullptr);
+
+    CChromaticityDlgWnd& Chart() { return *m_pChart; }
+    CChartEditor& Editor() { return *m_pEditor; }
+    CFeasibleRegion& Region() { return m_region; }
+    CRegionOverlay& Overlay() { return *m_pOverlay; }
+
+    /// Names the standard of the first group, or no longer. A drag does not end it.
+    void SetStandardShown(bool bShown);
+    bool IsStandardShown() const { return m_bStandardShown; }
+    /// Of two standards with the same points, names this one.
+    void PreferStandard(enColorStandard standard);
+
+    /// The widget pixel of a chromaticity.
+    QPoint PixelOf(CPointEx<float> point) const;
+    /// Waits until the bitmap for the present size is painted.
+    void WaitForBitmap();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
+Q_SIGNALS:
+    /// The mouse moved over the chart, and the chart has taken note of it.
+    void MouseMoved();
+
+protected:
+    void resizeEvent(QResizeEvent* pEvent) override;
+
+private:
+    void LayOut();
+    void Answer(int nGroup, int nPoint, bool& bSuccessed);
+    void RememberPlace();
+    void EndDrag();
+    void AskForStandard();
+
+    CChromaticityDlgWnd* m_pChart = nullptr;
+    CChartEditor* m_pEditor = nullptr;
+    CFeasibleRegion m_region;
+    CRegionOverlay* m_pOverlay = nullptr;
+    CPointEx<float> m_ptBefore; ///< where the dragged point was before the present move
+    enColorStandard m_standard = enStandardSRGB;
+    bool m_bStandardShown = false;
+};
+
+#endif // WORKBENCH_COLOUR_CHARTVIEW_H

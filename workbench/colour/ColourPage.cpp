@@ -1,0 +1,159 @@
+#include "workbench/colour/ColourPage.h"
+
+#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "workbench/colour/ChartControls.h"
+#include "workbench/colour/ChartExport.h"
+#include "workbench/colour/ChartView.h"
+#include "workbench/colour/GroupPanel.h"
+#include "workbench/colour/PointReadout.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int c_nSideWidth = 392; ///< pixels: two groups with their captions
+constexpr int c_nSideMargin = 4;  ///< pixels between the splitter's handle and the side
+
+} // namespace
+
+CColourPage::CColourPage(QWidget* pParent)
+    : CWorkbenchPage(pParent)
+    , m_pView(new CChartView(this))
+    , m_pReadout(new QLabel(this))
+{
+    auto* pSplitter = new QSplitter(this);
+    pSplitter->addWidget(CreateChart());
+    pSplitter->addWidget(CreateSide());
+    pSplitter->setStretchFactor(0, 1);
+    pSplitter->setChildrenCollapsible(false);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->addWidget(pSplitter);
+    connect(m_pGroups, &CGroupPanel::Reported, this, &CColourPage::Reported);
+    connect(m_pGroups, &CGroupPanel::StandardChosen, m_pView, &CChartView::PreferStandard);
+    connect(m_pControls, &CChartControls::Reported, this, &CColourPage::Reported);
+    connect(m_pView, &CChartView::MouseMoved, this, &CColourPage::ShowReadout);
+    StartAnew();
+    Retranslate();
+}
+
+QWidget* CColourPage::CreateChart()
+{
+    auto* pChart = new QWidget(this);
+    auto* pLayout = new QVBoxLayout(pChart);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(m_pView, 1);
+    pLayout->addWidget(m_pReadout);
+    return pChart;
+}
+
+QWidget* CColourPage::CreateSide()
+{
+    m_pGroups = new CGroupPanel(m_pView->Editor(), this);
+    m_pControls = new CChartControls(*m_pView, this);
+    auto* pSide = new QWidget(this);
+    pSide->setMinimumWidth(c_nSideWidth);
+    auto* pLayout = new QVBoxLayout(pSide);
+    pLayout->setContentsMargins(c_nSideMargin, 0, 0, 0);
+    pLayout->addWidget(m_pGroups, 1);
+    pLayout->addWidget(m_pControls);
+    pLayout->addWidget(CreateExports());
+    return pSide;
+}
+
+QWidget* CColourPage::CreateExports()
+{
+    auto* pExports = new QWidget(this);
+    m_pCopy = new QPushButton(pExports);
+    m_pPng = new QPushButton(pExports);
+    m_pSvg = new QPushButton(pExports);
+    auto* pLayout = new QHBoxLayout(pExports);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    for (QPushButton* pButton : {m_pCopy, m_pPng, m_pSvg})
+        pLayout->addWidget(pButton);
+    connect(m_pCopy, &QPushButton::clicked, this, &CColourPage::CopyPicture);
+    connect(m_pPng, &QPushButton::clicked, this, [this] { ChooseFileAndSave(false); });
+    connect(m_pSvg, &QPushButton::clicked, this, [this] { ChooseFileAndSave(true); });
+    return pExports;
+}
+
+void CColourPage::StartAnew()
+{
+    m_pGroups->AddCoveragePair();
+    m_pView->Editor().Steps().clear();
+}
+
+QString CColourPage::Title() const
+{
+    return tr("色彩");
+}
+
+void CColourPage::ShowSelection(const SSelection& selection)
+{
+    Q_UNUSED(selection)
+}
+
+void CColourPage::Retranslate()
+{
+    m_pGroups->Retranslate();
+    m_pControls->Retranslate();
+    m_pView->Chart().setAccessibleName(tr("CIE 1931 色度图"));
+    ShowReadout();
+    m_pCopy->setText(tr("复制图片"));
+    m_pPng->setText(tr("导出 PNG..."));
+    m_pSvg->setText(tr("导出 SVG..."));
+}
+
+void CColourPage::ShowReadout()
+{
+    const QString strReadout = PointReadout::Of(m_pView->Chart());
+    m_pReadout->setText(strReadout.isEmpty() ? tr("拖动白边的点；灰边的点不能移动。") : strReadout);
+}
+
+void CColourPage::CopyPicture()
+{
+    QGuiApplication::clipboard()->setImage(
+        ChartExport::Picture(m_pView->Chart(), m_pView->Region(), devicePixelRatioF()));
+    Q_EMIT Reported(tr("图片已复制到剪贴板。"));
+}
+
+void CColourPage::ChooseFileAndSave(bool bSvg)
+{
+    const QString strFile =
+        bSvg ? QFileDialog::getSaveFileName(this, tr("导出 SVG"), QStringLiteral("chart.svg"),
+                                            tr("SVG 图形 (*.svg)"))
+             : QFileDialog::getSaveFileName(this, tr("导出 PNG"), QStringLiteral("chart.png"),
+                                            tr("PNG 图片 (*.png)"));
+    if (strFile.isEmpty())
+        return;
+    if (bSvg)
+        SaveSvg(strFile);
+    else
+        SavePng(strFile);
+}
+
+bool CColourPage::SavePng(const QString& strFile)
+{
+    return ReportSaved(
+        strFile, ChartExport::SavePng(m_pView->Chart(), m_pView->Region(), devicePixelRatioF(), strFile));
+}
+
+bool CColourPage::SaveSvg(const QString& strFile)
+{
+    return ReportSaved(strFile, ChartExport::SaveSvg(m_pView->Chart(), m_pView->Region(), strFile));
+}
+
+bool CColourPage::ReportSaved(const QString& strFile, const QString& strError)
+{
+    const QString strName = QDir::toNativeSeparators(strFile);
+    Q_EMIT Reported(strError.isEmpty() ? tr("已保存 %1").arg(strName)
+                                       : tr("无法写入 %1：%2。请选择别的位置。").arg(strName, strError));
+    return strError.isEmpty();
+}

@@ -1,0 +1,61 @@
+#ifndef WORKBENCH_COLOUR_COLOURPAGE_H
+#define WORKBENCH_COLOUR_COLOURPAGE_H
+
+#include "workbench/WorkbenchPage.h"
+
+class CChartControls;
+class CChartView;
+class CGroupPanel;
+class QLabel;
+class QPushButton;
+
+/// The chromaticity chart with its groups in a table beside it, what it shows and holds, and pictures of it.
+/// The groups are the page's own: no sender has any part in them.
+class CColourPage : public CWorkbenchPage
+{
+    Q_OBJECT
+
+public:
+    explicit CColourPage(QWidget* pParent = nullptr);
+
+    QString Title() const override;
+    void ShowSelection(const SSelection& selection) override;
+    void Retranslate() override;
+    void Tour(CTour& tour, QWidget* pWorkbench) override;
+
+    CChartView& View() { return *m_pView; }
+    CGroupPanel& Groups() { return *m_pGroups; }
+    CChartControls& Controls() { return *m_pControls; }
+
+    /// @name Pictures of the chart
+    /// @return false when the file could not be written; the status line tells why
+    /// @{
+    void CopyPicture();
+    bool SavePng(const QString& strFile);
+    bool SaveSvg(const QString& strFile);
+    /// @}
+
+private:
+    QWidget* CreateChart();
+    QWidget* CreateSide();
+    QWidget* CreateExports();
+    void ChooseFileAndSave(bool bSvg);
+    bool ReportSaved(const QString& strFile, const QString& strError);
+    void StartAnew();
+    void ShowReadout();
+    void TourOfModes(CTour& tour);
+    void TourOfLook(CTour& tour);
+    void TourOfRegion(CTour& tour);
+    void TourOfDrag(CTour& tour);
+    void TourOfFiles(CTour& tour);
+
+    CChartView* m_pView = nullptr;
+    CGroupPanel* m_pGroups = nullptr;
+    CChartControls* m_pControls = nullptr;
+    QLabel* m_pReadout = nullptr;
+    QPushButton* m_pCopy = nullptr;
+    QPushButton* m_pPng = nullptr;
+    QPushButton* m_pSvg = nullptr;
+};
+
+#endif // WORKBENCH_COLOUR_COLOURPAGE_H

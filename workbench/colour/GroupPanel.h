@@ -1,0 +1,71 @@
+#ifndef WORKBENCH_COLOUR_GROUPPANEL_H
+#define WORKBENCH_COLOUR_GROUPPANEL_H
+
+#include "SenderModuleDialog/chart/ChromaGroupInfo.h"
+
+#include <QWidget>
+
+class CChartEditor;
+class CGroupModel;
+class QAction;
+class QLabel;
+class QTableView;
+class QPushButton;
+
+/// The table of the chart's groups with what adds, removes and presets them, and the steps back and forward.
+class CGroupPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CGroupPanel(CChartEditor& editor, QWidget* pParent = nullptr);
+
+    void Retranslate();
+    CGroupModel& Model() { return *m_pModel; }
+
+    /// @name What the buttons do
+    /// @{
+
+    /// Adds a group with the points of a standard, under the next free key.
+    void AddStandard(enColorStandard standard);
+    /// Adds the output and the screen colour space: the chart's coverage asks for both or neither.
+    void AddCoveragePair();
+    /// Removes the selected group; of the output and the screen colour space, both.
+    void RemoveSelected();
+    /// Gives the selected group the points of a standard.
+    void ApplyStandard(enColorStandard standard);
+    /// Asks for a colour of the selected group's own.
+    void ChooseColour();
+    /// @}
+
+    /// Selects the group with the key.
+    void SelectKey(int nKey);
+    /// Key of the selected group, -1 for none.
+    int SelectedKey() const;
+
+Q_SIGNALS:
+    /// One line for the status bar.
+    void Reported(const QString& strText);
+    /// Of two standards with the same points, the operator chose this one.
+    void StandardChosen(enColorStandard standard);
+
+private:
+    void CreateButtons();
+    void CreateSteps();
+    QWidget* CreateBar();
+    void CreateTable();
+    void Refresh();
+
+    CChartEditor& m_editor;
+    CGroupModel* m_pModel = nullptr;
+    QTableView* m_pTable = nullptr;
+    QLabel* m_pCoverage = nullptr;
+    QPushButton* m_pAdd = nullptr;
+    QAction* m_pAddPair = nullptr;
+    QPushButton* m_pRemove = nullptr;
+    QPushButton* m_pPreset = nullptr;
+    QAction* m_pUndo = nullptr;
+    QAction* m_pRedo = nullptr;
+};
+
+#endif // WORKBENCH_COLOUR_GROUPPANEL_H
