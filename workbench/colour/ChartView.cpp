@@ -15,7 +15,7 @@ namespace {
 constexpr int c_nWorkerType = 0;
 
 /// The chart is laid out for sides above 100 pixels; below twice that it cannot be read.
-constexpr int c_nSmallestSide = 200;
+constexpr QSize c_sizeSmallest(200, 200);
 constexpr QSize c_sizeFirst(560, 560);
 
 } // namespace
@@ -43,7 +43,7 @@ QSize CChartView::sizeHint() const
 
 QSize CChartView::minimumSizeHint() const
 {
-    return {c_nSmallestSide, c_nSmallestSide};
+    return c_sizeSmallest;
 }
 
 void CChartView::resizeEvent(QResizeEvent* /*pEvent*/)
@@ -53,11 +53,11 @@ void CChartView::resizeEvent(QResizeEvent* /*pEvent*/)
 
 void CChartView::LayOut()
 {
-    const QSize size = this->size().expandedTo(minimumSizeHint());
-    m_pChart->setGeometry(QRect(QPoint(0, 0), size));
+    const QSize sizeChart = size().expandedTo(c_sizeSmallest);
+    m_pChart->setGeometry(QRect(QPoint(0, 0), sizeChart));
     m_pOverlay->setGeometry(m_pChart->geometry());
-    m_pChart->SetSize(size.width(), size.height());
-    m_pChart->StoreWndData(c_nWorkerType, size.width(), size.height());
+    m_pChart->SetSize(sizeChart.width(), sizeChart.height());
+    m_pChart->StoreWndData(c_nWorkerType, sizeChart.width(), sizeChart.height());
     m_pChart->StartWndBitmapThread();
     m_pChart->update();
 }

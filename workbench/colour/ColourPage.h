@@ -11,7 +11,7 @@ class QPushButton;
 
 /// The chromaticity chart with its groups in a table beside it, what it shows and holds, and pictures of it.
 /// The groups are the page's own: no sender has any part in them.
-class CColourPage : public CWorkbenchPage
+class CColourPage final : public CWorkbenchPage
 {
     Q_OBJECT
 
