@@ -960,6 +960,14 @@ Choose another picture.</translation>
         <source>修缝系数：%1</source>
         <translation>Seam repair coefficient: %1</translation>
     </message>
+    <message>
+        <source>重置校正系数</source>
+        <translation>Reset the correction coefficient</translation>
+    </message>
+    <message>
+        <source>重置修缝系数</source>
+        <translation>Reset the seam repair coefficient</translation>
+    </message>
 </context>
 <context>
     <name>CProjectActions</name>

@@ -114,6 +114,7 @@ private Q_SLOTS:
     void AnotherSenderForgetsTheCoefficients();
     void ASenderThatIsNoVideoProcessorHasNoHardwareValues();
     void WithoutSenderNothingCanBeOpened();
+    void ButtonsThatReadAlikeHaveNamesOfTheirOwn();
     void TheEventsReachTheJournal();
     void ACanvasWithoutAreaIsTold();
 };
@@ -370,6 +371,16 @@ void TestOutputPage::WithoutSenderNothingCanBeOpened()
     for (const QPushButton* pButton : page.findChildren<QPushButton*>())
         QVERIFY(!pButton->isEnabled());
     QCOMPARE(page.Content().strNote, QStringLiteral("请选择一个发送器"));
+}
+
+void TestOutputPage::ButtonsThatReadAlikeHaveNamesOfTheirOwn()
+{
+    const CShownPage page;
+    QStringList listNames;
+    for (const QPushButton* pButton : page.findChildren<QPushButton*>())
+        listNames.append(pButton->accessibleName().isEmpty() ? pButton->text() : pButton->accessibleName());
+    QCOMPARE(listNames.removeDuplicates(), 0);
+    QVERIFY(listNames.contains(QStringLiteral("重置修缝系数")));
 }
 
 void TestOutputPage::TheEventsReachTheJournal()

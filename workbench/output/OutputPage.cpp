@@ -16,7 +16,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QScrollBar>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -152,7 +152,7 @@ QGroupBox* COutputPage::CreateOutputGroup(QWidget* pParent)
         enHardware
     };
     auto* pGroup = new QGroupBox(pParent);
-    m_vecCaptions.push_back({pGroup, QT_TR_NOOP("画布、帧率和色深")});
+    m_vecCaptions.push_back({pGroup, "title", QT_TR_NOOP("画布、帧率和色深")});
     auto* pGrid = new QGridLayout(pGroup);
     AddCaption(pGrid, 0, enProject, QT_TR_NOOP("工程"));
     AddCaption(pGrid, 0, enHardware, QT_TR_NOOP("硬件"));
@@ -186,7 +186,7 @@ QGroupBox* COutputPage::CreatePictureGroup(QWidget* pParent)
                                   {QT_TR_NOOP("契合度"), enPictureFitting},
                                   {QT_TR_NOOP("图片"), enPictureFile}};
     auto* pGroup = new QGroupBox(pParent);
-    m_vecCaptions.push_back({pGroup, QT_TR_NOOP("背景图片")});
+    m_vecCaptions.push_back({pGroup, "title", QT_TR_NOOP("背景图片")});
     auto* pGrid = new QGridLayout(pGroup);
     int nRow = 0;
     for (const SRow& row : c_arrRows) {
@@ -202,17 +202,19 @@ QGroupBox* COutputPage::CreatePictureGroup(QWidget* pParent)
 QGroupBox* COutputPage::CreateCorrectionGroup(QWidget* pParent)
 {
     auto* pGroup = new QGroupBox(pParent);
-    m_vecCaptions.push_back({pGroup, QT_TR_NOOP("校正")});
+    m_vecCaptions.push_back({pGroup, "title", QT_TR_NOOP("校正")});
     auto* pGrid = new QGridLayout(pGroup);
     AddCaption(pGrid, 0, 1, QT_TR_NOOP("预设值"));
     AddCaption(pGrid, 0, 2, QT_TR_NOOP("取得的值"));
-    AddCorrectionRow(pGrid, true, QT_TR_NOOP("校正系数"), &COutputPage::ResetCorrection);
-    AddCorrectionRow(pGrid, false, QT_TR_NOOP("修缝系数"), &COutputPage::ResetSeamRepair);
+    AddCorrectionRow(pGrid, true, QT_TR_NOOP("校正系数"), QT_TR_NOOP("重置校正系数"),
+                     &COutputPage::ResetCorrection);
+    AddCorrectionRow(pGrid, false, QT_TR_NOOP("修缝系数"), QT_TR_NOOP("重置修缝系数"),
+                     &COutputPage::ResetSeamRepair);
     return pGroup;
 }
 
 void COutputPage::AddCorrectionRow(QGridLayout* pGrid, bool bCorrection, const char* szCaption,
-                                   void (COutputPage::*pAction)())
+                                   const char* szAccessibleName, void (COutputPage::*pAction)())
 {
     const int nRow = pGrid->rowCount();
     auto* pPreset = new QDoubleSpinBox(pGrid->parentWidget());
@@ -224,7 +226,10 @@ void COutputPage::AddCorrectionRow(QGridLayout* pGrid, bool bCorrection, const c
     auto* pTaken = new QLabel(pGrid->parentWidget());
     pGrid->addWidget(pPreset, nRow, 1);
     pGrid->addWidget(pTaken, nRow, 2);
-    pGrid->addWidget(CreateButton(pGrid->parentWidget(), QT_TR_NOOP("重置..."), pAction), nRow, 3);
+    // The two buttons read alike: their accessible names tell which is which.
+    QPushButton* pButton = CreateButton(pGrid->parentWidget(), QT_TR_NOOP("重置..."), pAction);
+    m_vecCaptions.push_back({pButton, "accessibleName", szAccessibleName});
+    pGrid->addWidget(pButton, nRow, 3);
     m_vecCorrections.push_back({bCorrection, pPreset, pTaken, 0, false});
 }
 
@@ -232,7 +237,7 @@ QLabel* COutputPage::AddCaption(QGridLayout* pGrid, int nRow, int nColumn, const
 {
     auto* pLabel = new QLabel(pGrid->parentWidget());
     pGrid->addWidget(pLabel, nRow, nColumn);
-    m_vecCaptions.push_back({pLabel, szText});
+    m_vecCaptions.push_back({pLabel, "text", szText});
     return pLabel;
 }
 
@@ -247,7 +252,7 @@ QPushButton* COutputPage::CreateButton(QWidget* pParent, const char* szText, voi
 {
     auto* pButton = new QPushButton(pParent);
     connect(pButton, &QPushButton::clicked, this, pAction);
-    m_vecCaptions.push_back({pButton, szText});
+    m_vecCaptions.push_back({pButton, "text", szText});
     m_vecButtons.push_back(pButton);
     return pButton;
 }
@@ -259,10 +264,8 @@ QString COutputPage::Title() const
 
 void COutputPage::Retranslate()
 {
-    for (const SCaption& caption : m_vecCaptions) {
-        const char* szProperty = qobject_cast<QGroupBox*>(caption.pWidget) != nullptr ? "title" : "text";
-        caption.pWidget->setProperty(szProperty, tr(caption.szText));
-    }
+    for (const SCaption& caption : m_vecCaptions)
+        caption.pWidget->setProperty(caption.szProperty, tr(caption.szText));
     m_pPreview->setAccessibleName(tr("画布"));
     Refresh();
 }

@@ -62,6 +62,7 @@ private:
     struct SCaption
     {
         QWidget* pWidget;
+        const char* szProperty; ///< of the widget, that holds the text
         const char* szText;
     };
 
@@ -80,7 +81,7 @@ private:
     QGroupBox* CreatePictureGroup(QWidget* pParent);
     QGroupBox* CreateCorrectionGroup(QWidget* pParent);
     void AddCorrectionRow(QGridLayout* pGrid, bool bCorrection, const char* szCaption,
-                          void (COutputPage::*pAction)());
+                          const char* szAccessibleName, void (COutputPage::*pAction)());
     QLabel* AddCaption(QGridLayout* pGrid, int nRow, int nColumn, const char* szText);
     void AddFact(QGridLayout* pGrid, int nRow, int nColumn, enFact fact);
     QPushButton* CreateButton(QWidget* pParent, const char* szText, void (COutputPage::*pAction)());

@@ -230,6 +230,7 @@ void COutputPage::TourOfBackground(CTour& tour, QWidget* pWorkbench)
     tour.WithDialog(dialog, [&] {
         tour.Picture(&dialog, QStringLiteral("background-off"));
         Invoke(dialog, "ActionSlots", c_nPictureSwitch);
+        tour.Picture(&dialog, QStringLiteral("background-nothing-chosen"));
         AnswerFileDialog(dialog, strFile);
         Invoke(dialog, "ActionSlots", c_nPictureChoose);
         for (const SPictureState& state : c_arrPictureStates) {
