@@ -109,6 +109,7 @@ private Q_SLOTS:
     void TheNameOfTheStandardOutlivesADrag();
     void APresetTakesThePointsAndCanBeUndone_data();
     void APresetTakesThePointsAndCanBeUndone();
+    void APresetOfAnotherGroupLeavesTheNameAlone();
     void RemovingOneSpaceRemovesBoth();
     void GroupsCanBeAddedAfterAllWereRemoved();
     void WhiteSnapsWhileItIsTold();
@@ -284,6 +285,19 @@ void TestColourPage::APresetTakesThePointsAndCanBeUndone()
     shown.View().Editor().Undo();
     shown.page.grab();
     QCOMPARE(shown.Chart().m_nStandard, int(enStandardRec2020));
+}
+
+void TestColourPage::APresetOfAnotherGroupLeavesTheNameAlone()
+{
+    SShown shown;
+    shown.page.Controls().SetStandardShown(true);
+    shown.page.Groups().SelectKey(enOutputColorSpace);
+    shown.page.Groups().ApplyStandard(enStandardRec709);
+    shown.page.Groups().SelectKey(enScreenColorSpace);
+    shown.page.Groups().ApplyStandard(enStandardPAL);
+    shown.Drag(shown.Screen().ptGreen, {0.25F, 0.55F});
+    shown.page.grab();
+    QCOMPARE(shown.Chart().m_nStandard, int(enStandardRec709));
 }
 
 void TestColourPage::RemovingOneSpaceRemovesBoth()

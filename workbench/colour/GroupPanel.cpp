@@ -169,7 +169,13 @@ void CGroupPanel::AddStandard(enColorStandard standard)
     m_editor.Change(tr("添加 %1").arg(NameOf(standard)),
                     [&] { return chart.AddChromaGroupByIndex(nKey, ColourGroups::OfStandard(standard)); });
     SelectKey(nKey);
-    Q_EMIT StandardChosen(standard);
+    TellStandard(nKey, standard);
+}
+
+void CGroupPanel::TellStandard(int nKey, enColorStandard standard)
+{
+    if (m_editor.Chart().m_mapGroups.firstKey() == nKey)
+        Q_EMIT StandardChosen(standard);
 }
 
 void CGroupPanel::AddCoveragePair()
@@ -205,7 +211,7 @@ void CGroupPanel::ApplyStandard(enColorStandard standard)
         ColourGroups::SetStandard(*pGroup, standard);
         return true;
     });
-    Q_EMIT StandardChosen(standard);
+    TellStandard(SelectedKey(), standard);
 }
 
 void CGroupPanel::ChooseColour()

@@ -46,7 +46,7 @@ public:
 Q_SIGNALS:
     /// One line for the status bar.
     void Reported(const QString& strText);
-    /// Of two standards with the same points, the operator chose this one.
+    /// The first group took the points of this standard.
     void StandardChosen(enColorStandard standard);
 
 private:
@@ -54,6 +54,7 @@ private:
     void CreateSteps();
     QWidget* CreateBar();
     void CreateTable();
+    void TellStandard(int nKey, enColorStandard standard);
     void Refresh();
 
     CChartEditor& m_editor;
