@@ -1,12 +1,7 @@
-#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
-#include "workbench/colour/ChartControls.h"
-#include "workbench/colour/ChartTransform.h"
-#include "workbench/colour/ChartView.h"
-#include "workbench/colour/ColourPage.h"
+#include "tests/workbench/ShownColourPage.h"
 #include "workbench/colour/GroupModel.h"
 #include "workbench/colour/GroupPanel.h"
 #include "workbench/colour/PointReadout.h"
-#include "workbench/colour/RegionOverlay.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -16,61 +11,6 @@
 #include <QtTest>
 
 namespace {
-
-/// The page as it starts: the output and the screen colour space, the latter to be dragged.
-struct SShown
-{
-    CColourPage page;
-
-    SShown()
-    {
-        page.resize(1000, 640);
-        page.show();
-        QCoreApplication::processEvents();
-        View().WaitForBitmap();
-    }
-
-    CChartView& View() { return page.View(); }
-    CChromaticityDlgWnd& Chart() { return page.View().Chart(); }
-    QUndoStack& Steps() { return page.View().Editor().Steps(); }
-    SChromaGroupInfo& Screen() { return *Chart().GetChromaGroupByIndex(enScreenColorSpace); }
-
-    void Move(CPointEx<float> pt) { QTest::mouseMove(&Chart(), View().PixelOf(pt)); }
-    void Press(CPointEx<float> pt)
-    {
-        Move(pt);
-        QTest::mousePress(&Chart(), Qt::LeftButton, Qt::NoModifier, View().PixelOf(pt));
-    }
-    /// A move with the left button held, which QTest::mouseMove would not say.
-    void Pull(CPointEx<float> pt)
-    {
-        const QPoint pos = View().PixelOf(pt);
-        QMouseEvent event(QEvent::MouseMove, pos, Chart().mapToGlobal(pos), Qt::NoButton, Qt::LeftButton,
-                          Qt::NoModifier);
-        QCoreApplication::sendEvent(&Chart(), &event);
-    }
-    void Release(CPointEx<float> pt)
-    {
-        QTest::mouseRelease(&Chart(), Qt::LeftButton, Qt::NoModifier, View().PixelOf(pt));
-    }
-    void Drag(CPointEx<float> ptFrom, CPointEx<float> ptTo)
-    {
-        constexpr int c_nSteps = 5;
-        Press(ptFrom);
-        for (int i = 1; i <= c_nSteps; ++i) {
-            const float fPart = float(i) / float(c_nSteps);
-            Pull({ptFrom.x + (ptTo.x - ptFrom.x) * fPart, ptFrom.y + (ptTo.y - ptFrom.y) * fPart});
-        }
-        Release(ptTo);
-    }
-    void Draw(const QPolygonF& polygon)
-    {
-        page.Controls().DrawRegion();
-        for (const QPointF& pt : polygon)
-            QTest::mouseClick(&View().Overlay(), Qt::LeftButton, Qt::NoModifier,
-                              ChartTransform(Chart()).map(pt).toPoint());
-    }
-};
 
 QString Text(CPointEx<float> point)
 {
@@ -122,7 +62,7 @@ private Q_SLOTS:
 
 void TestColourPage::ItStartsWithBothSpaces()
 {
-    SShown shown;
+    SShownColourPage shown;
     QCOMPARE(shown.Chart().m_mapGroups.keys(), (QList<int>{enOutputColorSpace, enScreenColorSpace}));
     QVERIFY(!shown.Steps().canUndo());
     QCOMPARE(ColourGroups::Coverage(shown.Chart()).value_or(-1), 72);
@@ -154,7 +94,7 @@ void TestColourPage::AResizeLaysTheChartOutAndPaintsItsBitmap()
 
 void TestColourPage::ADragIsOneStep()
 {
-    SShown shown;
+    SShownColourPage shown;
     const CPointEx<float> ptBefore = shown.Screen().ptGreen;
     shown.Drag(ptBefore, {0.30F, 0.60F});
     const QString strAfter = Text(shown.Screen().ptGreen);
@@ -168,7 +108,7 @@ void TestColourPage::ADragIsOneStep()
 
 void TestColourPage::UndoAndRedoFollowTheKeys()
 {
-    SShown shown;
+    SShownColourPage shown;
     shown.page.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&shown.page));
     const CPointEx<float> ptBefore = shown.Screen().ptGreen;
@@ -181,7 +121,7 @@ void TestColourPage::UndoAndRedoFollowTheKeys()
 
 void TestColourPage::ADragOfAFixedPointIsNoStep()
 {
-    SShown shown;
+    SShownColourPage shown;
     const CPointEx<float> ptFixed = shown.Chart().GetChromaGroupByIndex(enOutputColorSpace)->ptGreen;
     shown.Drag(ptFixed, {0.30F, 0.60F});
     QCOMPARE(shown.Steps().count(), 0);
@@ -190,7 +130,7 @@ void TestColourPage::ADragOfAFixedPointIsNoStep()
 
 void TestColourPage::NoStepIsTakenInTheMiddleOfADrag()
 {
-    SShown shown;
+    SShownColourPage shown;
     shown.Drag(shown.Screen().ptGreen, {0.30F, 0.60F});
     shown.Press(shown.Screen().ptGreen);
     shown.Pull({0.32F, 0.58F});
@@ -202,7 +142,7 @@ void TestColourPage::NoStepIsTakenInTheMiddleOfADrag()
 
 void TestColourPage::ARegionHoldsADraggedPoint()
 {
-    SShown shown;
+    SShownColourPage shown;
     shown.View().Region().SetPolygon(Pentagon());
     shown.page.Controls().SetRegionOn(true);
     shown.Drag(shown.Screen().ptGreen, {0.32F, 0.66F});
@@ -215,7 +155,7 @@ void TestColourPage::ARegionHoldsADraggedPoint()
 
 void TestColourPage::ARegionIsDrawnByClicksAndKeys()
 {
-    SShown shown;
+    SShownColourPage shown;
     QPolygonF polygon = Pentagon();
     polygon.append(QPointF(0.1, 0.1));
     shown.Draw(polygon);
@@ -232,7 +172,7 @@ void TestColourPage::ARegionIsDrawnByClicksAndKeys()
 
 void TestColourPage::EscapeKeepsTheRegion()
 {
-    SShown shown;
+    SShownColourPage shown;
     shown.View().Region().SetPolygon(Pentagon());
     shown.Draw(QPolygonF(QVector<QPointF>{{0.3, 0.3}, {0.4, 0.3}}));
     QTest::keyClick(&shown.View().Overlay(), Qt::Key_Return);
@@ -244,7 +184,7 @@ void TestColourPage::EscapeKeepsTheRegion()
 
 void TestColourPage::ADragInCmyModeStaysLegal()
 {
-    SShown shown;
+    SShownColourPage shown;
     ColourGroups::SetMode(shown.Screen(), false);
     shown.Drag(shown.Screen().ptRed, {0.05F, 0.30F});
     SChromaGroupInfo group = shown.Screen();
@@ -255,7 +195,7 @@ void TestColourPage::ADragInCmyModeStaysLegal()
 
 void TestColourPage::TheNameOfTheStandardOutlivesADrag()
 {
-    SShown shown;
+    SShownColourPage shown;
     shown.page.Controls().SetStandardShown(true);
     shown.page.grab();
     QVERIFY(shown.Chart().m_bShowStandard);
@@ -276,7 +216,7 @@ void TestColourPage::APresetTakesThePointsAndCanBeUndone_data()
 void TestColourPage::APresetTakesThePointsAndCanBeUndone()
 {
     QFETCH(int, nStandard);
-    SShown shown;
+    SShownColourPage shown;
     shown.page.Controls().SetStandardShown(true);
     shown.page.Groups().SelectKey(enOutputColorSpace);
     shown.page.Groups().ApplyStandard(enColorStandard(nStandard));
@@ -289,7 +229,7 @@ void TestColourPage::APresetTakesThePointsAndCanBeUndone()
 
 void TestColourPage::APresetOfAnotherGroupLeavesTheNameAlone()
 {
-    SShown shown;
+    SShownColourPage shown;
     shown.page.Controls().SetStandardShown(true);
     shown.page.Groups().SelectKey(enOutputColorSpace);
     shown.page.Groups().ApplyStandard(enStandardRec709);
@@ -302,7 +242,7 @@ void TestColourPage::APresetOfAnotherGroupLeavesTheNameAlone()
 
 void TestColourPage::RemovingOneSpaceRemovesBoth()
 {
-    SShown shown;
+    SShownColourPage shown;
     shown.page.Groups().SelectKey(enOutputColorSpace);
     shown.page.Groups().RemoveSelected();
     shown.page.grab();
@@ -313,7 +253,7 @@ void TestColourPage::RemovingOneSpaceRemovesBoth()
 
 void TestColourPage::GroupsCanBeAddedAfterAllWereRemoved()
 {
-    SShown shown;
+    SShownColourPage shown;
     shown.page.Controls().SetStandardShown(true);
     shown.page.Groups().RemoveSelected();
     shown.page.grab();
@@ -327,7 +267,7 @@ void TestColourPage::GroupsCanBeAddedAfterAllWereRemoved()
 
 void TestColourPage::WhiteSnapsWhileItIsTold()
 {
-    SShown shown;
+    SShownColourPage shown;
     shown.page.Controls().SetSnapping(true);
     shown.Drag(shown.Screen().ptWhite, {0.325F, 0.335F});
     QCOMPARE(shown.Screen().ptWhite.x, float(shown.Chart().m_ptD65.x()));
@@ -336,7 +276,7 @@ void TestColourPage::WhiteSnapsWhileItIsTold()
 
 void TestColourPage::TheReadoutNamesThePointUnderTheMouse()
 {
-    SShown shown;
+    SShownColourPage shown;
     shown.Move(shown.Screen().ptGreen);
     const QString strGreen = PointReadout::Of(shown.Chart());
     QVERIFY(strGreen.contains(QString::fromUtf8("绿")));
@@ -351,14 +291,14 @@ void TestColourPage::TheReadoutNamesThePointUnderTheMouse()
 
 void TestColourPage::APictureIsCopied()
 {
-    SShown shown;
+    SShownColourPage shown;
     shown.page.CopyPicture();
     QCOMPARE(QGuiApplication::clipboard()->image().size(), shown.Chart().size());
 }
 
 void TestColourPage::FilesHoldTheChart()
 {
-    SShown shown;
+    SShownColourPage shown;
     const QTemporaryDir folder;
     const QString strPng = folder.filePath(QStringLiteral("chart.png"));
     QVERIFY(shown.page.SavePng(strPng));
@@ -376,7 +316,7 @@ void TestColourPage::FilesHoldTheChart()
 
 void TestColourPage::AFileThatCannotBeWrittenIsTold()
 {
-    SShown shown;
+    SShownColourPage shown;
     const QTemporaryDir folder;
     QSignalSpy spy(&shown.page, &CColourPage::Reported);
     for (const char* szName : {"missing/chart.png", "missing/chart.svg"}) {
@@ -391,7 +331,7 @@ void TestColourPage::AFileThatCannotBeWrittenIsTold()
 
 void TestColourPage::AnExportLeavesTheChartAsItWas()
 {
-    SShown shown;
+    SShownColourPage shown;
     shown.Move(shown.Screen().ptGreen);
     const int nHover = shown.Chart().m_nHoverPoint;
     const ColourGroups::Groups groups = ColourGroups::Take(shown.Chart());

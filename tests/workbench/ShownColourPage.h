@@ -1,0 +1,68 @@
+#ifndef TESTS_WORKBENCH_SHOWNCOLOURPAGE_H
+#define TESTS_WORKBENCH_SHOWNCOLOURPAGE_H
+
+#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "workbench/colour/ChartControls.h"
+#include "workbench/colour/ChartTransform.h"
+#include "workbench/colour/ChartView.h"
+#include "workbench/colour/ColourPage.h"
+#include "workbench/colour/RegionOverlay.h"
+
+#include <QtTest>
+
+/// The page as it starts: the output and the screen colour space, the latter to be dragged.
+struct SShownColourPage
+{
+    CColourPage page;
+
+    SShownColourPage()
+    {
+        page.resize(1000, 640);
+        page.show();
+        QCoreApplication::processEvents();
+        View().WaitForBitmap();
+    }
+
+    CChartView& View() { return page.View(); }
+    CChromaticityDlgWnd& Chart() { return page.View().Chart(); }
+    QUndoStack& Steps() { return page.View().Editor().Steps(); }
+    SChromaGroupInfo& Screen() { return *Chart().GetChromaGroupByIndex(enScreenColorSpace); }
+
+    void Move(CPointEx<float> pt) { QTest::mouseMove(&Chart(), View().PixelOf(pt)); }
+    void Press(CPointEx<float> pt)
+    {
+        Move(pt);
+        QTest::mousePress(&Chart(), Qt::LeftButton, Qt::NoModifier, View().PixelOf(pt));
+    }
+    /// A move with the left button held, which QTest::mouseMove would not say.
+    void Pull(CPointEx<float> pt)
+    {
+        const QPoint pos = View().PixelOf(pt);
+        QMouseEvent event(QEvent::MouseMove, pos, Chart().mapToGlobal(pos), Qt::NoButton, Qt::LeftButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(&Chart(), &event);
+    }
+    void Release(CPointEx<float> pt)
+    {
+        QTest::mouseRelease(&Chart(), Qt::LeftButton, Qt::NoModifier, View().PixelOf(pt));
+    }
+    void Drag(CPointEx<float> ptFrom, CPointEx<float> ptTo)
+    {
+        constexpr int c_nSteps = 5;
+        Press(ptFrom);
+        for (int i = 1; i <= c_nSteps; ++i) {
+            const float fPart = float(i) / float(c_nSteps);
+            Pull({ptFrom.x + (ptTo.x - ptFrom.x) * fPart, ptFrom.y + (ptTo.y - ptFrom.y) * fPart});
+        }
+        Release(ptTo);
+    }
+    void Draw(const QPolygonF& polygon)
+    {
+        page.Controls().DrawRegion();
+        for (const QPointF& pt : polygon)
+            QTest::mouseClick(&View().Overlay(), Qt::LeftButton, Qt::NoModifier,
+                              ChartTransform(Chart()).map(pt).toPoint());
+    }
+};
+
+#endif // TESTS_WORKBENCH_SHOWNCOLOURPAGE_H
