@@ -21,9 +21,10 @@ struct SColour
     unsigned char nB;
 };
 
-/// The lines of the two colour spaces. A red byte of 0 or 255 gives a solid sample in the legend.
+/// The lines of the two colour spaces, to be seen on the bright bitmap and in the legend on the dark
+/// background. A red byte of 0 or 255 gives a solid sample in the legend.
 constexpr SColour c_clrOutput = {255, 255, 255};
-constexpr SColour c_clrScreen = {0, 0, 0};
+constexpr SColour c_clrScreen = {0, 70, 255};
 
 /// The midpoint of an edge. It takes the opposite vertex too, which plays no part, to pair with `Vertex`.
 CPointEx<float> Middle(CPointEx<float> ptA, CPointEx<float> ptB, CPointEx<float> /*ptOpposite*/)
