@@ -7,6 +7,7 @@
 #include "host/OrviControl/Style.h"
 
 #include <QAction>
+#include <QHBoxLayout>
 #include <QMenu>
 #include <QPushButton>
 
@@ -120,6 +121,22 @@ QPushButton* CreateButton(QWidget* pParent, const SButton& button)
     if (button.funcClick)
         QObject::connect(pButton, &QPushButton::clicked, pParent, button.funcClick);
     return pButton;
+}
+
+QHBoxLayout* CreateOkCancelRow(QWidget* pParent, const std::function<void(int nID)>& funcAction)
+{
+    auto* pRow = new QHBoxLayout;
+    pRow->addWidget(CreateButton(pParent, {QT_TRANSLATE_NOOP("CCustomDialog", "确定"), c_sizeButton,
+                                           [funcAction] { funcAction(enOk); }}));
+    pRow->addWidget(CreateButton(pParent, {QT_TRANSLATE_NOOP("CCustomDialog", "取消"), c_sizeButton,
+                                           [funcAction] { funcAction(enCancel); }}));
+    return pRow;
+}
+
+void Finish(QDialog* pDialog, int nResult)
+{
+    pDialog->done(nResult);
+    pDialog->close();
 }
 
 CCustomLabel* CreateCaption(QWidget* pParent, const QString& strText, Qt::Alignment alignment)

@@ -11,6 +11,8 @@
 
 class CCustomLabel;
 class QAction;
+class QDialog;
+class QHBoxLayout;
 class QMenu;
 class QPushButton;
 
@@ -77,6 +79,20 @@ struct SButton
 
 /// A styled, connected push button, owned by the parent.
 QPushButton* CreateButton(QWidget* pParent, const SButton& button);
+
+/// What the two buttons of a dialog ask for, as the slots of the dialogs take it.
+enum enAction
+{
+    enOk = 0,
+    enCancel = 1
+};
+
+/// A row with the buttons OK and Cancel.
+/// @param funcAction run with `enOk` or `enCancel`
+QHBoxLayout* CreateOkCancelRow(QWidget* pParent, const std::function<void(int nID)>& funcAction);
+
+/// Ends a dialog with a result and closes it.
+void Finish(QDialog* pDialog, int nResult);
 
 /// A styled caption label.
 /// @param strText the translated caption

@@ -41,10 +41,4 @@ CCustomIPEdit* CreateAddressField(QWidget* pDialog)
     return pEdit;
 }
 
-void Finish(QDialog* pDialog, int nResult)
-{
-    pDialog->done(nResult);
-    pDialog->close();
-}
-
 } // namespace AddressDialogs

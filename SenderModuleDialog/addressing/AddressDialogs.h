@@ -4,7 +4,6 @@
 #include "SenderModuleDialog/addressing/IPAddressRules.h"
 
 class CCustomIPEdit;
-class QDialog;
 class QWidget;
 
 /// What the address dialogs share between the rules and the host.
@@ -24,9 +23,6 @@ void Store(unsigned int nIP);
 
 /// An address field of the size that all address dialogs use.
 CCustomIPEdit* CreateAddressField(QWidget* pDialog);
-
-/// Ends a dialog with a result and closes it.
-void Finish(QDialog* pDialog, int nResult);
 
 } // namespace AddressDialogs
 

@@ -14,16 +14,9 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QMenu>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
-
-enum enAction
-{
-    enOk = 0,
-    enCancel = 1
-};
 
 constexpr int c_nDefaultCount = 3;
 constexpr int c_nAddressStrategy = 2; ///< the one detect strategy that finds processors by address
@@ -83,19 +76,11 @@ void CCustomAddProcessorDlg::InitControl()
     if (m_bUseIP)
         InitAddressRow(pGrid);
 
-    auto* pButtons = new QHBoxLayout;
-    pButtons->addWidget(
-        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "确定"),
-                                         DialogFrame::c_sizeButton, [this] { ActionSlots(enOk); }}));
-    pButtons->addWidget(
-        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "取消"),
-                                         DialogFrame::c_sizeButton, [this] { ActionSlots(enCancel); }}));
-
     auto* pOuter = new QVBoxLayout(this);
     pOuter->setContentsMargins(10, 20, 10, 20);
     pOuter->addLayout(pGrid);
     pOuter->addSpacing(10);
-    pOuter->addLayout(pButtons);
+    pOuter->addLayout(DialogFrame::CreateOkCancelRow(this, [this](int nID) { ActionSlots(nID); }));
 }
 
 void CCustomAddProcessorDlg::AddCaption(QGridLayout* pGrid, int nRow, const char* szText, int nMaxWidth)
@@ -159,10 +144,10 @@ bool CCustomAddProcessorDlg::CheckIPAddress()
 
 void CCustomAddProcessorDlg::ActionSlots(int nID)
 {
-    if (nID == enOk)
+    if (nID == DialogFrame::enOk)
         Accept();
-    else if (nID == enCancel)
-        AddressDialogs::Finish(this, 0);
+    else if (nID == DialogFrame::enCancel)
+        DialogFrame::Finish(this, 0);
 }
 
 void CCustomAddProcessorDlg::Accept()
@@ -175,7 +160,7 @@ void CCustomAddProcessorDlg::Accept()
             return;
         StoreAddresses();
     }
-    AddressDialogs::Finish(this, 1);
+    DialogFrame::Finish(this, 1);
 }
 
 void CCustomAddProcessorDlg::StoreAddresses()

@@ -3,7 +3,6 @@
 #include "SenderModuleDialog/Constants.h"
 #include "SenderModuleDialog/DialogFrame.h"
 #include "SenderModuleDialog/HostAccess.h"
-#include "SenderModuleDialog/addressing/AddressDialogs.h"
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomLabel.h"
 
@@ -137,7 +136,7 @@ void CDemoProjectConfigDlg::ControlClicked(int id, int sub)
         OpenDemoProject();
         break;
     case enCancel:
-        AddressDialogs::Finish(this, 0);
+        DialogFrame::Finish(this, 0);
         break;
     default:
         break;
@@ -156,5 +155,5 @@ void CDemoProjectConfigDlg::OpenDemoProject()
     if (const SDemoType* pType = TypeAt(m_nTypeIndex))
         HostAccess::ProjectData().SetDemoSenderType(pType->nSenderType);
     HostAccess::SenderLogic().ApplyDemoProject();
-    AddressDialogs::Finish(this, 1);
+    DialogFrame::Finish(this, 1);
 }

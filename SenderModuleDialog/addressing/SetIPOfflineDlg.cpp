@@ -13,19 +13,12 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <array>
 
 namespace {
-
-enum enAction
-{
-    enOk = 0,
-    enCancel = 1
-};
 
 constexpr int c_nBatch = -1; ///< the count that asks for a batch
 constexpr QSize c_sizeDialog(330, 125);
@@ -102,19 +95,11 @@ void CSetIPOfflineDlg::InitControl()
     else
         InitProcessorRows(pGrid);
 
-    auto* pButtons = new QHBoxLayout;
-    pButtons->addWidget(
-        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "确定"),
-                                         DialogFrame::c_sizeButton, [this] { ActionSlots(enOk); }}));
-    pButtons->addWidget(
-        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "取消"),
-                                         DialogFrame::c_sizeButton, [this] { ActionSlots(enCancel); }}));
-
     auto* pOuter = new QVBoxLayout(this);
     pOuter->setContentsMargins(10, 20, 10, 20);
     pOuter->addLayout(pGrid);
     pOuter->addSpacing(10);
-    pOuter->addLayout(pButtons);
+    pOuter->addLayout(DialogFrame::CreateOkCancelRow(this, [this](int nID) { ActionSlots(nID); }));
 }
 
 void CSetIPOfflineDlg::AddRow(QGridLayout* pGrid, const QString& strCaption, QWidget* pField)
@@ -285,8 +270,8 @@ bool CSetIPOfflineDlg::Commit()
 
 void CSetIPOfflineDlg::ActionSlots(int nID)
 {
-    if (nID == enCancel)
-        AddressDialogs::Finish(this, 0);
-    else if (nID == enOk && Commit())
-        AddressDialogs::Finish(this, 1);
+    if (nID == DialogFrame::enCancel)
+        DialogFrame::Finish(this, 0);
+    else if (nID == DialogFrame::enOk && Commit())
+        DialogFrame::Finish(this, 1);
 }

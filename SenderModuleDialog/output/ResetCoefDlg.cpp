@@ -6,16 +6,9 @@
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
-
-enum enAction
-{
-    enOk = 0,
-    enCancel = 1
-};
 
 /// Title and caption of a use of the dialog, source texts in the context `CCustomDialog`.
 struct SWording
@@ -71,18 +64,10 @@ void CResetCoefDlg::InitControl()
     pFields->addWidget(m_pSpinValue);
     pFields->addStretch();
 
-    auto* pButtons = new QHBoxLayout;
-    pButtons->addWidget(
-        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "确定"),
-                                         DialogFrame::c_sizeButton, [this] { ActionSlots(enOk); }}));
-    pButtons->addWidget(
-        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "取消"),
-                                         DialogFrame::c_sizeButton, [this] { ActionSlots(enCancel); }}));
-
     auto* pOuter = new QVBoxLayout(this);
     pOuter->setContentsMargins(c_nMargin, c_nMargin, c_nMargin, c_nMargin);
     pOuter->addLayout(pFields);
-    pOuter->addLayout(pButtons);
+    pOuter->addLayout(DialogFrame::CreateOkCancelRow(this, [this](int nID) { ActionSlots(nID); }));
 }
 
 void CResetCoefDlg::SetValue(float fValue)
@@ -98,15 +83,14 @@ float CResetCoefDlg::GetValue() const
 
 void CResetCoefDlg::ActionSlots(int nID)
 {
-    if (nID == enOk)
+    if (nID == DialogFrame::enOk)
         Accept();
-    else if (nID == enCancel)
+    else if (nID == DialogFrame::enCancel)
         close();
 }
 
 void CResetCoefDlg::Accept()
 {
     m_fValue = float(m_pSpinValue->value());
-    done(1);
-    close();
+    DialogFrame::Finish(this, 1);
 }
