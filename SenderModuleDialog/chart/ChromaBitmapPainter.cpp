@@ -241,7 +241,7 @@ struct SComponentRow
 template <class TCondition>
 int FirstWhere(int nBegin, int nEnd, double dGuess, const TCondition& condition)
 {
-    int nX = std::clamp(SaturateTo<int>(dGuess) + 1, nBegin, nEnd);
+    int nX = std::clamp(SaturateTo<int>(dGuess + 1.0), nBegin, nEnd);
     while (nX > nBegin && condition(nX - 1))
         --nX;
     while (nX < nEnd && !condition(nX))

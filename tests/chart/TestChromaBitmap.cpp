@@ -79,6 +79,7 @@ private Q_SLOTS:
     void RandomSizesArePaintedAsPlainly_data();
     void RandomSizesArePaintedAsPlainly();
     void RandomOutlinesArePaintedAsPlainly();
+    void ANearlyLevelLineIsPaintedAsPlainly();
     void AVertexOnAPixelIsInside();
     void AVertexJustOutOfReachIsNot();
     void TheMiddleIsNearlyWhite();
@@ -211,6 +212,17 @@ void TestChromaBitmap::RandomOutlinesArePaintedAsPlainly()
         }
         QCOMPARE(Difference(Paint(source, Never), Plain(source)), QString());
     }
+}
+
+void TestChromaBitmap::ANearlyLevelLineIsPaintedAsPlainly()
+{
+    // Left and right corner differ by a last bit in height: the line through them crosses a row billions of
+    // pixels away.
+    const QVector<QPointF> vecLocus = {{0.1, 0.1}, {0.7, 0.1 + 1e-7}, {0.3, 0.8}};
+    const SSource source = {1000, 1000, vecLocus, OutlineOfWidget({1000, 1000}, vecLocus)};
+    const SMapping mapping = SMapping::ForSize(1000, 1000);
+    QVERIFY(mapping.ToPixel(vecLocus[0]).y != mapping.ToPixel(vecLocus[1]).y);
+    QCOMPARE(Difference(Paint(source, Never), Plain(source)), QString());
 }
 
 void TestChromaBitmap::AVertexOnAPixelIsInside()
