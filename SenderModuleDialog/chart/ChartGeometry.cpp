@@ -1,5 +1,6 @@
 #include "SenderModuleDialog/chart/ChartGeometry.h"
 
+#include "SenderModuleDialog/geometry/EvenOdd.h"
 #include "SenderModuleDialog/geometry/Line.h"
 
 #include <algorithm>
@@ -31,15 +32,6 @@ CPointEx<float> InwardStep(CPointEx<float> pt, CPointEx<float> ptFrom)
     if (pt.x <= ptFrom.x)
         return {-fDX, -fDY};
     return {fDX, fDY};
-}
-
-// Whether the way from the left end of the plane to the point crosses the edge from P to Q.
-bool IsEdgeLeftOf(CPointEx<float> ptP, CPointEx<float> ptQ, CPointEx<float> pt)
-{
-    const bool bStraddles = (ptP.y < pt.y && pt.y <= ptQ.y) || (pt.y <= ptP.y && ptQ.y < pt.y);
-    if (!bStraddles || (ptP.x > pt.x && ptQ.x > pt.x))
-        return false;
-    return (ptQ.x - ptP.x) * ((pt.y - ptP.y) / (ptQ.y - ptP.y)) + ptP.x < pt.x;
 }
 
 // A second point on the bisector of the angle A W B: the middle between A and the point on the ray towards B
@@ -95,9 +87,9 @@ bool IsInTriangle(CPointEx<float> pt, const STriangle& triangle)
     const auto& [ptRed, ptGreen, ptBlue] = triangle;
     if (IsSamePoint(pt, ptRed) || IsSamePoint(pt, ptGreen) || IsSamePoint(pt, ptBlue))
         return true;
-    const bool bRedBlue = IsEdgeLeftOf(ptRed, ptBlue, pt);
-    const bool bGreenRed = IsEdgeLeftOf(ptGreen, ptRed, pt);
-    const bool bBlueGreen = IsEdgeLeftOf(ptBlue, ptGreen, pt);
+    const bool bRedBlue = IsEdgeLeftOf(pt, ptRed, ptBlue);
+    const bool bGreenRed = IsEdgeLeftOf(pt, ptGreen, ptRed);
+    const bool bBlueGreen = IsEdgeLeftOf(pt, ptBlue, ptGreen);
     return bRedBlue != (bGreenRed != bBlueGreen);
 }
 
@@ -108,7 +100,7 @@ bool IsInOutline(CPointEx<float> pt, const CPointEx<float>* pOutline, int nCount
         return true;
     bool bInside = false;
     for (int i = 0; i < nCount; ++i) {
-        if (IsEdgeLeftOf(pOutline[i], pOutline[(i + nCount - 1) % nCount], pt))
+        if (IsEdgeLeftOf(pt, pOutline[i], pOutline[(i + nCount - 1) % nCount]))
             bInside = !bInside;
     }
     return bInside;
