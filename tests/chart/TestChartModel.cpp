@@ -137,23 +137,39 @@ void TestChartModel::TheStandardsHaveTheirValues_data()
 {
     QTest::addColumn<int>("value");
     QTest::addColumn<int>("standard");
-    QTest::newRow("sRGB") << 0 << int(enStandardSRGB);
-    QTest::newRow("AdobeRGB") << 1 << int(enStandardAdobeRGB);
-    QTest::newRow("PAL") << 2 << int(enStandardPAL);
-    QTest::newRow("NTSC") << 3 << int(enStandardNTSC);
-    QTest::newRow("Rec601") << 4 << int(enStandardRec601);
-    QTest::newRow("Rec709") << 5 << int(enStandardRec709);
-    QTest::newRow("Rec2020") << 6 << int(enStandardRec2020);
-    QTest::newRow("DCIP3") << 7 << int(enStandardDCIP3);
+    QTest::addColumn<QVector<float>>("coordinates");
+    QTest::newRow("sRGB") << 0 << int(enStandardSRGB)
+                          << QVector<float>{0.64F, 0.33F, 0.30F, 0.60F, 0.15F, 0.06F, 0.3127F, 0.329F};
+    QTest::newRow("AdobeRGB") << 1 << int(enStandardAdobeRGB)
+                              << QVector<float>{0.64F, 0.33F, 0.21F, 0.71F, 0.15F, 0.06F, 0.3127F, 0.329F};
+    QTest::newRow("PAL") << 2 << int(enStandardPAL)
+                         << QVector<float>{0.60F, 0.33F, 0.148F, 0.60F, 0.15F, 0.16F, 0.3127F, 0.329F};
+    QTest::newRow("NTSC") << 3 << int(enStandardNTSC)
+                          << QVector<float>{0.67F, 0.33F, 0.21F, 0.71F, 0.14F, 0.08F, 0.31F, 0.316F};
+    QTest::newRow("Rec601") << 4 << int(enStandardRec601)
+                            << QVector<float>{0.64F, 0.33F, 0.29F, 0.60F, 0.15F, 0.06F, 0.3127F, 0.329F};
+    QTest::newRow("Rec709") << 5 << int(enStandardRec709)
+                            << QVector<float>{0.64F, 0.33F, 0.30F, 0.60F, 0.15F, 0.06F, 0.3127F, 0.329F};
+    QTest::newRow("Rec2020") << 6 << int(enStandardRec2020)
+                             << QVector<float>{0.708F, 0.292F, 0.17F,   0.797F,
+                                               0.131F, 0.046F, 0.3127F, 0.329F};
+    QTest::newRow("DCIP3") << 7 << int(enStandardDCIP3)
+                           << QVector<float>{0.68F, 0.32F, 0.265F, 0.69F, 0.15F, 0.06F, 0.3127F, 0.329F};
 }
 
 void TestChartModel::TheStandardsHaveTheirValues()
 {
     QFETCH(int, value);
     QFETCH(int, standard);
+    QFETCH(QVector<float>, coordinates);
     QCOMPARE(standard, value);
     QCOMPARE(int(std::size(c_arrColourStandards)), c_nColorStandardCount);
-    QCOMPARE(c_arrColourStandards[value].szName, QTest::currentDataTag());
+    const SColourStandard& row = c_arrColourStandards[value];
+    QCOMPARE(row.szName, QTest::currentDataTag());
+    const float arrActual[] = {row.ptRed.x,  row.ptRed.y,  row.ptGreen.x, row.ptGreen.y,
+                               row.ptBlue.x, row.ptBlue.y, row.ptWhite.x, row.ptWhite.y};
+    for (int i = 0; i < coordinates.size(); ++i)
+        COMPARE_BITS(arrActual[i], coordinates[i]);
 }
 
 void TestChartModel::TheChartIsAPlainWidgetWithOneSignal()
