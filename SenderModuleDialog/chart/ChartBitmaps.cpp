@@ -142,6 +142,8 @@ QImage CChromaticityDlgWnd::PaintSharp(double dRatio)
 void CChromaticityDlgWnd::StartWndBitmapThread()
 {
     StopWndBitmapThread();
+    // A thread that a host gave another chart, or none, would never take the announcement up.
+    m_pThread->SetChromaticityDlgWnd(this);
     m_pDesk->AnnounceWorker();
     m_pThread->start();
     // Without a thread nobody would ever withdraw the announcement.

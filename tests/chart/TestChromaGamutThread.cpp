@@ -58,6 +58,7 @@ private Q_SLOTS:
     void AStartedWorkerEnds();
     void AThreadThatTheHostStartsPaintsToo();
     void StartingAgainPaintsTheNewSizes();
+    void StartingPaintsForThisChartWhateverTheThreadWasGiven();
     void StoppingAtRestDoesNothing();
     void StoppingLeavesTheOldBitmap();
     void StoppingLetsTheNextStartPaint();
@@ -162,6 +163,21 @@ void TestChromaGamutThread::StartingAgainPaintsTheNewSizes()
     pChart->StopWndBitmapThread();
     for (int nType = 0; nType < 5; ++nType)
         QCOMPARE(Bitmap(*pChart, nType).pImage->size(), QSize(120, 120));
+}
+
+void TestChromaGamutThread::StartingPaintsForThisChartWhateverTheThreadWasGiven()
+{
+    const auto pOther = MakeChart();
+    for (CChromaticityDlgWnd* const pGiven : {pOther.get(), static_cast<CChromaticityDlgWnd*>(nullptr)}) {
+        const auto pChart = MakeChart();
+        pChart->StoreWndData(0, 100, 90);
+        pChart->SetWndType(0);
+        pChart->m_pThread->SetChromaticityDlgWnd(pGiven);
+        pChart->StartWndBitmapThread();
+        Painted(*pChart);
+        QVERIFY(Bitmap(*pChart, 0).bReady);
+    }
+    QVERIFY(!Bitmap(*pOther, 0).bReady);
 }
 
 void TestChromaGamutThread::StoppingAtRestDoesNothing()
