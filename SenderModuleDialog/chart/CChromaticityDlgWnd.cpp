@@ -70,9 +70,9 @@ CChromaticityDlgWnd::CChromaticityDlgWnd(QWidget* parent)
 {
     m_pCct = new CCCT2ColorCoord;
     m_pGamut = new CChromaGamutInterpolation;
-    m_nBoundaryCount = m_pGamut->GetQPointFData().size();
-    m_pBoundaryPx = new QPointF[size_t(m_nBoundaryCount)]();
-    m_pBoundaryPxF = new CPointEx<float>[size_t(m_nBoundaryCount)]();
+    m_nBoundarySize = m_pGamut->GetQPointFData().size();
+    m_pBoundaryPx = new QPointF[size_t(m_nBoundarySize)]();
+    m_pBoundaryPxF = new CPointEx<float>[size_t(m_nBoundarySize)]();
     setAttribute(Qt::WA_MouseTracking);
     m_pSolver = std::make_unique<CChartSolver>(*m_pGamut);
     m_pCctCurve = std::make_unique<CCctCurve>(*m_pCct);
@@ -143,10 +143,15 @@ void CChromaticityDlgWnd::SetSize(int nWidth, int nHeight)
     m_fMarginX = mapping.MarginX();
     m_fMarginY = mapping.MarginY();
     m_fScale = mapping.Scale();
-    for (int i = 0; i < std::min(m_nBoundaryCount, vecLocus.size()); ++i) {
+    for (int i = 0; i < BoundaryCount(); ++i) {
         m_pBoundaryPx[i] = mapping.ToPixel(vecLocus[i]);
         m_pBoundaryPxF[i] = QPointFToCPointF(m_pBoundaryPx[i]);
     }
+}
+
+int CChromaticityDlgWnd::BoundaryCount() const
+{
+    return std::min(m_nBoundarySize, m_pGamut->GetQPointFData().size());
 }
 
 void CChromaticityDlgWnd::SetBackgroundColor(QColor color)

@@ -296,6 +296,9 @@ private:
     /// The worker has ended; on the GUI thread.
     void FinishWndBitmapThread();
 
+    /// The points of the boundary that the locus has now: a host may have emptied or cut it.
+    int BoundaryCount() const;
+
     /// What the layers share.
     ChartOverlay::SChartFrame Frame() const;
     /// The chromaticity that the tips show, without negative coordinates.
@@ -314,7 +317,7 @@ private:
     /// The line around the chart.
     void DrawFrame(QPainter& painter);
 
-    int m_nBoundaryCount = 0;                          ///< number of points of the locus
+    int m_nBoundarySize = 0;                           ///< points that the boundary arrays have room for
     std::unique_ptr<CChartSolver> m_pSolver;           ///< keeps groups legal
     std::unique_ptr<CCctCurve> m_pCctCurve;            ///< the curve of colour temperatures
     std::unique_ptr<CChromaBitmapDesk> m_pDesk;        ///< what the threads that paint bitmaps agree by

@@ -87,7 +87,7 @@ quint64 CChromaticityDlgWnd::TakeMeasures(int nType, ChromaBitmap::SSource& sour
     source.nWidth = pBitmap != nullptr ? pBitmap->nWidth : m_nWndWidth;
     source.nHeight = pBitmap != nullptr ? pBitmap->nHeight : m_nWndHeight;
     source.vecLocus = m_pGamut->GetQPointFData();
-    source.vecOutline.assign(m_pBoundaryPxF, m_pBoundaryPxF + m_nBoundaryCount);
+    source.vecOutline.assign(m_pBoundaryPxF, m_pBoundaryPxF + BoundaryCount());
     return m_pDesk->TakeTicket();
 }
 

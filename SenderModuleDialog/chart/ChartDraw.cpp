@@ -26,7 +26,7 @@ void CChromaticityDlgWnd::Draw(QPainter& painter)
 {
     const QImage imgBitmap = TakeBitmap(painter.device()->devicePixelRatioF());
     const QByteArray boundary(reinterpret_cast<const char*>(m_pBoundaryPx),
-                              m_nBoundaryCount * int(sizeof(QPointF)));
+                              BoundaryCount() * int(sizeof(QPointF)));
     const CChartStaticLayer::SContent content = {m_rcChart,    m_clrBackground, imgBitmap.cacheKey(),
                                                  m_nGridAlpha, m_fMarginX,      m_fMarginY,
                                                  m_fScale,     GetFontFamily(), boundary};

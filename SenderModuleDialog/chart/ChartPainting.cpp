@@ -39,7 +39,7 @@ ChartOverlay::SChartFrame CChromaticityDlgWnd::Frame() const
 
 void CChromaticityDlgWnd::DrawBorder(QPainter& painter)
 {
-    ChartOverlay::DrawBorder(painter, m_pBoundaryPx, m_nBoundaryCount);
+    ChartOverlay::DrawBorder(painter, m_pBoundaryPx, BoundaryCount());
 }
 
 void CChromaticityDlgWnd::DrawHexCoorDialog(QPainter& painter)
@@ -80,7 +80,7 @@ void CChromaticityDlgWnd::DrawCrossLine(QPainter& painter)
 {
     // The mouse decides, during a drag too, where the cross stands at the point.
     const CPointEx<float> ptMouse(float(m_ptMouse.x()), float(m_ptMouse.y()));
-    if (ChartGeometry::IsInOutline(ptMouse, m_pBoundaryPxF, m_nBoundaryCount))
+    if (ChartGeometry::IsInOutline(ptMouse, m_pBoundaryPxF, BoundaryCount()))
         ChartOverlay::DrawCross(painter, m_rcChart, CrossPlace());
 }
 

@@ -199,6 +199,8 @@ void TestChartDraw::FramesFollowEveryChange_data()
         chart.m_pGamut->GetQPointFData()[40] += QPointF(0.05, 0.02);
         chart.SetSize(c_sizeChart.width(), c_sizeChart.height());
     });
+    AddRow("emptied outline", [](auto& chart) { chart.m_pGamut->GetQPointFData().clear(); });
+    AddRow("shortened outline", [](auto& chart) { chart.m_pGamut->GetQPointFData().resize(80); });
     AddRow("bitmap of another type", [](auto& chart) {
         chart.SetWndData(2, 420, 360);
         chart.SetWndType(2);
