@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <functional>
 #include <limits>
 
 namespace {
@@ -40,7 +41,11 @@ STemperature TemperatureOf(QPointF pt, bool bExact)
     return result;
 }
 
+using FuncMisuse = std::function<void(COpenCCT2ColorCoord&)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(FuncMisuse)
 
 class TestCCT2ColorCoord : public QObject
 {
@@ -66,6 +71,8 @@ private Q_SLOTS:
     void solvingWithoutASearchAreaFaults();
     void assertionsNameTheirPlace_data();
     void assertionsNameTheirPlace();
+    void misuseNamesWhatDoesNotHold_data();
+    void misuseNamesWhatDoesNotHold();
     void conversionsDoNotAllocate();
 };
 
@@ -269,6 +276,7 @@ void TestCCT2ColorCoord::anEndlessOutwardSearchFaults()
         CCCT2ColorCoord().SearchNewArea(2.0F, fStep, &fOut, 4000.0F);
     });
     QVERIFY(death.bAborted);
+    QVERIFY2(death.strOutput.contains("\"SearchNewArea\""), death.strOutput.constData());
 }
 
 void TestCCT2ColorCoord::solvingWithoutASearchAreaFaults()
@@ -279,6 +287,7 @@ void TestCCT2ColorCoord::solvingWithoutASearchAreaFaults()
         cct.AreaSolve(25000.0F);
     });
     QVERIFY(death.bAborted);
+    QVERIFY2(death.strOutput.contains("\"i < m_vecSearchArea.size()\""), death.strOutput.constData());
 }
 
 void TestCCT2ColorCoord::assertionsNameTheirPlace_data()
@@ -324,6 +333,49 @@ void TestCCT2ColorCoord::assertionsNameTheirPlace()
     QFETCH(QByteArray, strPlace);
     QVERIFY2(death.strOutput.contains(strPlace), death.strOutput.constData());
     QFETCH(QByteArray, strExpression);
+    QVERIFY2(death.strOutput.contains(strExpression), death.strOutput.constData());
+}
+
+void TestCCT2ColorCoord::misuseNamesWhatDoesNotHold_data()
+{
+    QTest::addColumn<FuncMisuse>("misuse");
+    QTest::addColumn<QByteArray>("strExpression");
+    const auto AddRow = [](const char* szName, const FuncMisuse& funcMisuse, const char* szExpression) {
+        QTest::newRow(szName) << funcMisuse << QByteArray(szExpression);
+    };
+    const QPointF ptD65(0.3127, 0.329);
+    AddRow(
+        "to chromaticity", [](auto& cct) { cct.CCTtoColorCoord(6500.0F, nullptr, false); },
+        "\"pColorCoord != nullptr\"");
+    AddRow(
+        "to temperature", [=](auto& cct) { cct.TriangAlgCalcRelativeCCT(ptD65, nullptr, false); },
+        "\"pCCT != nullptr\"");
+    AddRow(
+        "to u and v", [=](auto& cct) { cct.ColorCoordXYtoUV(ptD65, nullptr); },
+        "\"pUVColorCoord != nullptr\"");
+    AddRow(
+        "the pair of rows",
+        [](auto& cct) {
+            cct.SearchNearestTwoPoint({0.2, 0.3}, nullptr);
+        },
+        "\"NearTwoColorCoord != nullptr\"");
+    AddRow(
+        "a bound of the search", [](auto& cct) { cct.SearchNewArea(-4.0F, -0.01F, nullptr, 4000.0F); },
+        "\"pOut != nullptr\"");
+    AddRow(
+        "a turning point that there is not", [](auto& cct) { cct.isSearchNewArea(3, 4000.0F); },
+        "\"nWhich == 1 || nWhich == 2\"");
+}
+
+void TestCCT2ColorCoord::misuseNamesWhatDoesNotHold()
+{
+    QFETCH(FuncMisuse, misuse);
+    QFETCH(QByteArray, strExpression);
+    const SDeath death = RunToDeath([&misuse] {
+        COpenCCT2ColorCoord cct;
+        misuse(cct);
+    });
+    QVERIFY(death.bAborted);
     QVERIFY2(death.strOutput.contains(strExpression), death.strOutput.constData());
 }
 

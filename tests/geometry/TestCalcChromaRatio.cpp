@@ -75,6 +75,7 @@ private Q_SLOTS:
     void TheWrapOfTheEdgeTestIsThatOfATriangle_data();
     void TheWrapOfTheEdgeTestIsThatOfATriangle();
     void FewerThanThreePointsFault();
+    void NoPolygonFaults();
     void TestsOfPointsAllocateNothing();
     void TheVectorFormWorksOnACopy();
 };
@@ -378,6 +379,16 @@ void TestCalcChromaRatio::FewerThanThreePointsFault()
     });
     QVERIFY(death.bAborted);
     QVERIFY2(death.strOutput.contains("vecTriangle.size() >= 3"), death.strOutput.constData());
+}
+
+void TestCalcChromaRatio::NoPolygonFaults()
+{
+    const SDeath death = RunToDeath([] {
+        Point pt(0.3F, 0.3F);
+        CCalcChromaRatio::G_IsPointInPolygon(nullptr, pt);
+    });
+    QVERIFY(death.bAborted);
+    QVERIFY2(death.strOutput.contains("\"pVecPolygon != nullptr\""), death.strOutput.constData());
 }
 
 void TestCalcChromaRatio::TestsOfPointsAllocateNothing()

@@ -73,6 +73,8 @@ private Q_SLOTS:
     void TheScanAssertsThatItsResultIsConvex();
     void TheScanFaultsOutsideItsContract_data();
     void TheScanFaultsOutsideItsContract();
+    void NoPointToPullFaults_data();
+    void NoPointToPullFaults();
     void PullingAPointAllocatesNothing();
 };
 
@@ -351,6 +353,26 @@ void TestPolygon::TheScanFaultsOutsideItsContract()
     const SDeath death = RunToDeath([&polygon] { polygon.GrahamScan(); });
     QVERIFY(death.bAborted);
     QVERIFY2(death.strOutput.contains(strExpression), death.strOutput.constData());
+}
+
+void TestPolygon::NoPointToPullFaults_data()
+{
+    QTest::addColumn<Pull>("funcPull");
+    QTest::addColumn<Points>("vecPoints");
+    QTest::newRow("dispatched, convex") << Pull(&CPolygon::GetPointCloser) << Square();
+    QTest::newRow("dispatched, concave") << Pull(&CPolygon::GetPointCloser) << Bracket();
+    QTest::newRow("convex") << Pull(&CPolygon::GetPointCloser2Convex) << Square();
+    QTest::newRow("concave") << Pull(&CPolygon::GetPointCloser2Concave) << Bracket();
+}
+
+void TestPolygon::NoPointToPullFaults()
+{
+    QFETCH(Pull, funcPull);
+    QFETCH(Points, vecPoints);
+    const CPolygon polygon(vecPoints);
+    const SDeath death = RunToDeath([&] { (polygon.*funcPull)(nullptr); });
+    QVERIFY(death.bAborted);
+    QVERIFY2(death.strOutput.contains("\"pPoint != nullptr\""), death.strOutput.constData());
 }
 
 void TestPolygon::PullingAPointAllocatesNothing()
