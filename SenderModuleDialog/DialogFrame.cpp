@@ -96,8 +96,9 @@ QMenu* CreateMenu(QWidget* pParent, const std::vector<SMenuEntry>& vecEntries)
 
 QAction* AddEntry(QMenu* pMenu, const SMenuEntry& entry)
 {
-    QAction* pAction = pMenu->addAction(entry.strText);
+    auto* pAction = new QAction(entry.strText, pMenu->parent());
     pAction->setData(entry.nData);
+    pMenu->addAction(pAction);
     return pAction;
 }
 

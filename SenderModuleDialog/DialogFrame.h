@@ -60,10 +60,10 @@ struct SMenuEntry
     int nData; ///< what the entry stands for, kept as the action's data
 };
 
-/// A styled menu with one action for each entry, owned by the parent.
+/// A styled menu with one action for each entry; the parent owns the menu and the actions.
 QMenu* CreateMenu(QWidget* pParent, const std::vector<SMenuEntry>& vecEntries);
 
-/// Adds one action to a menu, owned by the menu.
+/// Adds one action to a menu, owned by the menu's parent: a dialog owns its actions as it owns its menus.
 QAction* AddEntry(QMenu* pMenu, const SMenuEntry& entry);
 
 /// Checks the first action with that data and no other. Data that no action has checks none.

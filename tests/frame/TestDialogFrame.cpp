@@ -29,6 +29,7 @@ private Q_SLOTS:
     void AQuestionIsAgreedToByYesAlone();
     void EnterAloneAgreesToNothing();
     void AMenuKeepsTextsAndData();
+    void TheParentOwnsTheActionsOfItsMenu();
     void CheckingAnEntryUnchecksTheOthers();
     void OnlyTheFirstOfTwoEqualEntriesIsChecked();
     void DataThatNoEntryHasChecksNone();
@@ -146,6 +147,13 @@ void TestDialogFrame::AMenuKeepsTextsAndData()
     QCOMPARE(pMenu->actions().at(1)->text(), QStringLiteral("two"));
     QCOMPARE(pMenu->actions().at(1)->data().toInt(), 20);
     QVERIFY(!pMenu->styleSheet().isEmpty());
+}
+
+void TestDialogFrame::TheParentOwnsTheActionsOfItsMenu()
+{
+    QWidget parent;
+    const QMenu* pMenu = DialogFrame::CreateMenu(&parent, {{QStringLiteral("one"), 1}});
+    QCOMPARE(pMenu->actions().first()->parent(), &parent);
 }
 
 namespace {
