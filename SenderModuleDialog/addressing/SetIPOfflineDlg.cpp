@@ -144,8 +144,10 @@ void CSetIPOfflineDlg::InitSingleRows(QGridLayout* pGrid)
 
 void CSetIPOfflineDlg::InitProcessorRows(QGridLayout* pGrid)
 {
+    // In 64 bits: the host's ordinal can be any int.
+    const qint64 nFirst = m_nIndex;
     for (int i = 0; i < m_nCount; ++i)
-        AddRow(pGrid, CCustomDialog::tr("主控 %1").arg(m_nIndex + i), AddProcessorField());
+        AddRow(pGrid, CCustomDialog::tr("主控 %1").arg(nFirst + i), AddProcessorField());
 }
 
 CCustomIPEdit* CSetIPOfflineDlg::AddProcessorField()

@@ -35,6 +35,7 @@ class TestSetIPOfflineDlg : public QObject
 private Q_SLOTS:
     void EachModeHasItsTitleRowsAndSize_data();
     void EachModeHasItsTitleRowsAndSize();
+    void TheOrdinalsOfTheRowsGoBeyondInt();
     void FieldsHaveTheirSizes();
     void TheNumberStartsByTheLengthOfTheList_data();
     void TheNumberStartsByTheLengthOfTheList();
@@ -112,6 +113,14 @@ void TestSetIPOfflineDlg::EachModeHasItsTitleRowsAndSize()
     QTEST(NameField(dialog) != nullptr, "named");
     QCOMPARE(Button(dialog, "确定")->size(), QSize(80, 24));
     QCOMPARE(Button(dialog, "取消")->size(), QSize(80, 24));
+}
+
+void TestSetIPOfflineDlg::TheOrdinalsOfTheRowsGoBeyondInt()
+{
+    const CRecordingHost host;
+    const CLocalAddressScript local({"10.0.0.5"});
+    const CSetIPOfflineDlg dialog(2147483647, 2, true, false, nullptr);
+    QCOMPARE(Captions(dialog), List({"主控 2147483647", "主控 2147483648"}));
 }
 
 void TestSetIPOfflineDlg::FieldsHaveTheirSizes()
