@@ -2,6 +2,7 @@
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomLabel.h"
 #include "host/OrviControl/CustomSpinBox.h"
+#include "host/OrviControl/Style.h"
 #include "tests/edid/EdidDialogHost.h"
 #include "tests/support/DeathTest.h"
 
@@ -13,6 +14,7 @@
 #include <QDesktopWidget>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QTranslator>
 
@@ -40,6 +42,7 @@ private Q_SLOTS:
     void TheSpinBoxesStartAtTheStoredSize();
     void SpinBoxRanges();
     void SizesOfTheControls();
+    void StylesOfTheControls();
     void PlacesOfTheControls();
     void ResultIsFalseAtFirst();
     void ADialogBeforeTheInitialisationFaults();
@@ -272,6 +275,32 @@ void TestEdidSetDlgOpening::SizesOfTheControls()
     QCOMPARE(probe.OK().maximumSize(), QSize(86, 26));
     QCOMPARE(probe.Cancel().maximumSize(), QSize(86, 26));
     QVERIFY(probe.Error().wordWrap());
+}
+
+void TestEdidSetDlgOpening::StylesOfTheControls()
+{
+    const auto Styled = [](const QString& strStyle, const char* szSelector) {
+        return GetFontStyleSheet(strStyle, QString::fromLatin1(szSelector), 12);
+    };
+    CEdidHost host;
+    const CEdidDialog dialog(host);
+    const CEdidSetDlgProbe& probe = dialog.probe;
+    int nCaptions = 0;
+    for (const CCustomLabel* pLabel : dialog.dlg.findChildren<CCustomLabel*>()) {
+        if (pLabel == &probe.Error())
+            continue;
+        ++nCaptions;
+        QCOMPARE(pLabel->alignment(), Qt::AlignCenter);
+        QCOMPARE(pLabel->styleSheet(), Styled(g_labelNoFrameStyle, "QLabel"));
+    }
+    QCOMPARE(nCaptions, 6);
+    QCOMPARE(probe.Error().styleSheet(), Styled(g_labelWarnStyle, "QLabel"));
+    QCOMPARE(probe.ConnectPC().styleSheet(), Styled(g_checkBoxStyle, "QCheckBox"));
+    QCOMPARE(probe.OK().styleSheet(), Styled(g_pushButtonStyle, "QPushButton"));
+    QCOMPARE(probe.Cancel().styleSheet(), Styled(g_pushButtonStyle, "QPushButton"));
+    for (const CCustomComboBox* pComboBox :
+         {&probe.Resolution(), &probe.Rate(), &probe.Depth(), &probe.Format(), &probe.Standard()})
+        QCOMPARE(pComboBox->menu()->styleSheet(), Styled(g_menuStyle, "QMenu"));
 }
 
 void TestEdidSetDlgOpening::PlacesOfTheControls()
