@@ -2,6 +2,7 @@
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomSpinBox.h"
 #include "tests/addressing/AddressDialogSupport.h"
+#include "tests/support/DeathTest.h"
 #include "tests/support/ModalAnswers.h"
 #include "tests/support/RecordingHost.h"
 
@@ -54,6 +55,7 @@ private Q_SLOTS:
     void AnotherIdDoesNothing();
     void TheHandlerIsReachedThroughTheMetaObject();
     void ClosingByTheTitleBarWritesNothing();
+    void BeforeTheHostIsThereTheDialogFaults();
 };
 
 void TestCustomAddProcessorDlg::RowsAndSizeFollowTheHost_data()
@@ -332,6 +334,13 @@ void TestCustomAddProcessorDlg::ClosingByTheTitleBarWritesNothing()
     dialog.close();
     QCOMPARE(host.record.Only(c_listWrites), QStringList());
     QCOMPARE(dialog.result(), 0);
+}
+
+void TestCustomAddProcessorDlg::BeforeTheHostIsThereTheDialogFaults()
+{
+    const SDeath death = RunToDeath([] { const CCustomAddProcessorDlg dialog(nullptr); });
+    QVERIFY(death.bAborted);
+    QVERIFY2(death.strOutput.contains("g_pSenderLogic != nullptr"), death.strOutput.constData());
 }
 
 QTEST_MAIN(TestCustomAddProcessorDlg)

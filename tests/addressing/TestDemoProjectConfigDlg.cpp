@@ -2,6 +2,7 @@
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomLabel.h"
 #include "tests/addressing/AddressDialogSupport.h"
+#include "tests/support/DeathTest.h"
 #include "tests/support/RecordingHost.h"
 
 #include <QMenu>
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void TheHandlerIsReachedThroughTheMetaObjectInBothForms();
     void AnotherIdDoesNothing();
     void ClosingByTheTitleBarWritesNothing();
+    void BeforeTheHostIsThereOkFaults();
 };
 
 void TestDemoProjectConfigDlg::ItLooksAsLaidOut()
@@ -154,6 +156,15 @@ void TestDemoProjectConfigDlg::ClosingByTheTitleBarWritesNothing()
     dialog.close();
     QCOMPARE(host.record.All(), QStringList());
     QCOMPARE(dialog.result(), 0);
+}
+
+void TestDemoProjectConfigDlg::BeforeTheHostIsThereOkFaults()
+{
+    // Nothing of the host is needed until then.
+    CDemoProjectConfigDlg dialog(nullptr);
+    const SDeath death = RunToDeath([&] { dialog.ControlClicked(1); });
+    QVERIFY(death.bAborted);
+    QVERIFY2(death.strOutput.contains("g_pProjectData != nullptr"), death.strOutput.constData());
 }
 
 QTEST_MAIN(TestDemoProjectConfigDlg)

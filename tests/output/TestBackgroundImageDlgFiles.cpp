@@ -1,4 +1,6 @@
+#include "SenderModuleDialog/SenderModuleDialogInit.h"
 #include "tests/output/BackgroundProbe.h"
+#include "tests/support/DeathTest.h"
 
 #include <QtTest>
 
@@ -38,6 +40,8 @@ private Q_SLOTS:
     void TheSlotOfTheSliderSavesNothing();
     void OtherIdsDoNothing();
     void TheTitleBarRunsNoHandler();
+    void WithoutAHostTheProcessEnds();
+    void ANullLabelEndsTheProcessAtTheEvent();
     void TextsAreLookedUpInOneContext();
 };
 
@@ -387,6 +391,23 @@ void TestBackgroundImageDlgFiles::TheTitleBarRunsNoHandler()
     QTimer::singleShot(0, &probe.dialog, &QWidget::close);
     QCOMPARE(probe.dialog.exec(), 0);
     QCOMPARE(host.host.record.All(), QStringList());
+}
+
+void TestBackgroundImageDlgFiles::WithoutAHostTheProcessEnds()
+{
+    const SDeath death = RunToDeath([] { const CBackgroundImageDlg dialog(nullptr); });
+    QVERIFY(death.bAborted);
+    QVERIFY2(death.strOutput.contains("g_pProjectData != nullptr"), death.strOutput.constData());
+}
+
+void TestBackgroundImageDlgFiles::ANullLabelEndsTheProcessAtTheEvent()
+{
+    CFolderHost host;
+    g_pIKelvaroLabel = nullptr;
+    CProbe probe;
+    const SDeath death = RunToDeath([&] { probe.Act(2); });
+    QVERIFY(death.bAborted);
+    QVERIFY2(death.strOutput.contains("g_pIKelvaroLabel != nullptr"), death.strOutput.constData());
 }
 
 void TestBackgroundImageDlgFiles::TextsAreLookedUpInOneContext()

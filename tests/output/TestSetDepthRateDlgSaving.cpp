@@ -1,3 +1,4 @@
+#include "SenderModuleDialog/SenderModuleDialogInit.h"
 #include "tests/output/DepthRateProbe.h"
 #include "tests/support/DeathTest.h"
 #include "tests/support/ModalAnswers.h"
@@ -32,6 +33,8 @@ private Q_SLOTS:
     void AMenuIsOperatedByTheMouse();
     void AMenuIsOperatedByKeys();
     void ANullActionEndsTheProcess();
+    void WithoutAHostTheProcessEnds();
+    void ANullLabelEndsTheProcessAtTheEvent();
     void TextsAreLookedUpInOneContext();
 };
 
@@ -320,6 +323,23 @@ void TestSetDepthRateDlgSaving::ANullActionEndsTheProcess()
     });
     QVERIFY(death.bAborted);
     QVERIFY2(death.strOutput.contains("action != nullptr"), death.strOutput.constData());
+}
+
+void TestSetDepthRateDlgSaving::WithoutAHostTheProcessEnds()
+{
+    const SDeath death = RunToDeath([] { const CSetDepthRateDlg dialog(nullptr); });
+    QVERIFY(death.bAborted);
+    QVERIFY2(death.strOutput.contains("g_pProjectData != nullptr"), death.strOutput.constData());
+}
+
+void TestSetDepthRateDlgSaving::ANullLabelEndsTheProcessAtTheEvent()
+{
+    CRecordingHost host;
+    g_pIKelvaroLabel = nullptr;
+    CProbe probe;
+    const SDeath death = RunToDeath([&] { probe.Press(2); });
+    QVERIFY(death.bAborted);
+    QVERIFY2(death.strOutput.contains("g_pIKelvaroLabel != nullptr"), death.strOutput.constData());
 }
 
 void TestSetDepthRateDlgSaving::TextsAreLookedUpInOneContext()
