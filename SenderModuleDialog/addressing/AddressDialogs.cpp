@@ -6,7 +6,17 @@
 #include "host/OrviControl/CustomDialog.h"
 #include "host/OrviControl/CustomIPEdit.h"
 
+#include <QVBoxLayout>
+
 namespace AddressDialogs {
+
+namespace {
+
+// The frame around rows and buttons, pixels.
+constexpr QMargins c_margins(10, 20, 10, 20);
+constexpr int c_nSpaceAboveButtons = 10;
+
+} // namespace
 
 bool Confirm(QWidget* pDialog, const IPAddressRules::SPath& path, const QStringList& listTexts,
              const QString& strOldAddress)
@@ -39,6 +49,15 @@ CCustomIPEdit* CreateAddressField(QWidget* pDialog)
     auto* pEdit = new CCustomIPEdit(pDialog);
     pEdit->setFixedSize(DialogFrame::c_sizeAddressField);
     return pEdit;
+}
+
+void LayOut(QWidget* pDialog, QLayout* pRows, QLayout* pButtons)
+{
+    auto* pOuter = new QVBoxLayout(pDialog);
+    pOuter->setContentsMargins(c_margins);
+    pOuter->addLayout(pRows);
+    pOuter->addSpacing(c_nSpaceAboveButtons);
+    pOuter->addLayout(pButtons);
 }
 
 } // namespace AddressDialogs

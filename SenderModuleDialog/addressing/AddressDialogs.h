@@ -4,6 +4,7 @@
 #include "SenderModuleDialog/addressing/IPAddressRules.h"
 
 class CCustomIPEdit;
+class QLayout;
 class QWidget;
 
 /// What the address dialogs share between the rules and the host.
@@ -23,6 +24,9 @@ void Store(unsigned int nIP);
 
 /// An address field of the size that all address dialogs use.
 CCustomIPEdit* CreateAddressField(QWidget* pDialog);
+
+/// Puts a dialog's rows above its buttons, in the frame that the address dialogs share.
+void LayOut(QWidget* pDialog, QLayout* pRows, QLayout* pButtons);
 
 } // namespace AddressDialogs
 

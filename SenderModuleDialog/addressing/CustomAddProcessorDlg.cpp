@@ -14,7 +14,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QMenu>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -76,11 +75,8 @@ void CCustomAddProcessorDlg::InitControl()
     if (m_bUseIP)
         InitAddressRow(pGrid);
 
-    auto* pOuter = new QVBoxLayout(this);
-    pOuter->setContentsMargins(10, 20, 10, 20);
-    pOuter->addLayout(pGrid);
-    pOuter->addSpacing(10);
-    pOuter->addLayout(DialogFrame::CreateOkCancelRow(this, [this](int nID) { ActionSlots(nID); }));
+    AddressDialogs::LayOut(this, pGrid,
+                           DialogFrame::CreateOkCancelRow(this, [this](int nID) { ActionSlots(nID); }));
 }
 
 void CCustomAddProcessorDlg::AddCaption(QGridLayout* pGrid, int nRow, const char* szText, int nMaxWidth)

@@ -13,7 +13,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <array>
@@ -23,7 +22,8 @@ namespace {
 constexpr int c_nBatch = -1; ///< the count that asks for a batch
 constexpr QSize c_sizeDialog(330, 125);
 constexpr QSize c_sizeCaption(80, 24);
-constexpr int c_nNameLength = 64; ///< longest name, characters
+constexpr int c_nGridSpacing = 15; ///< pixels
+constexpr int c_nNameLength = 64;  ///< longest name, characters
 
 /// The host has no style for the name field.
 constexpr const char* c_szNameStyle =
@@ -87,7 +87,7 @@ const char* CSetIPOfflineDlg::Title() const
 void CSetIPOfflineDlg::InitControl()
 {
     auto* pGrid = new QGridLayout;
-    pGrid->setSpacing(15);
+    pGrid->setSpacing(c_nGridSpacing);
     if (m_bBatch)
         InitBatchRows(pGrid);
     else if (IsSingle())
@@ -95,11 +95,8 @@ void CSetIPOfflineDlg::InitControl()
     else
         InitProcessorRows(pGrid);
 
-    auto* pOuter = new QVBoxLayout(this);
-    pOuter->setContentsMargins(10, 20, 10, 20);
-    pOuter->addLayout(pGrid);
-    pOuter->addSpacing(10);
-    pOuter->addLayout(DialogFrame::CreateOkCancelRow(this, [this](int nID) { ActionSlots(nID); }));
+    AddressDialogs::LayOut(this, pGrid,
+                           DialogFrame::CreateOkCancelRow(this, [this](int nID) { ActionSlots(nID); }));
 }
 
 void CSetIPOfflineDlg::AddRow(QGridLayout* pGrid, const QString& strCaption, QWidget* pField)

@@ -40,6 +40,9 @@ enum enGridRow
 constexpr int c_arrColumnStretch[] = {3, 2, 1, 2};
 constexpr int c_nColumns = 4;
 
+/// Around the grid, pixels.
+constexpr QMargins c_margins(30, 15, 30, 10);
+
 /// Height of the choices and spin boxes, pixels.
 constexpr int c_nControlHeight = 26;
 constexpr QSize c_sizeButton(86, 26);
@@ -80,7 +83,7 @@ QGridLayout* CEdidSetDlg::CreateGrid()
     auto* pOuter = new QVBoxLayout(this);
     pOuter->setContentsMargins(0, 0, 0, 0);
     auto* pGrid = new QGridLayout;
-    pGrid->setContentsMargins(30, 15, 30, 10);
+    pGrid->setContentsMargins(c_margins);
     pGrid->setHorizontalSpacing(0);
     pGrid->setVerticalSpacing(c_nRowGap);
     for (int i = 0; i < c_nColumns; ++i)
