@@ -9,11 +9,24 @@
 #include <QPixmap>
 #include <QPushButton>
 
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+/// Longest time between two pictures, ms: a commit behind a progress bar takes a second in demo mode.
+constexpr int c_nPatience = 120000;
+
+} // namespace
+
 CTour::CTour(const QString& strFolder)
-    : m_strFolder(strFolder)
+    : m_strFolder(QDir().absoluteFilePath(strFolder))
 {
-    Check(QDir().mkpath(strFolder), QStringLiteral("the folder %1 cannot be made").arg(strFolder));
+    Check(QDir().mkpath(m_strFolder), QStringLiteral("the folder %1 cannot be made").arg(m_strFolder));
     qApp->installEventFilter(this);
+    m_watchdog.setSingleShot(true);
+    connect(&m_watchdog, &QTimer::timeout, this, &CTour::GiveUp);
+    m_watchdog.start(c_nPatience);
 }
 
 CTour::~CTour()
@@ -21,8 +34,18 @@ CTour::~CTour()
     qApp->removeEventFilter(this);
 }
 
+void CTour::GiveUp()
+{
+    // A dialog that nobody answers holds the walk: nothing of it can be trusted, and nobody is there to close
+    // it.
+    std::fprintf(stderr, "sender-workbench: the tour is stuck after the picture %s\n",
+                 qPrintable(m_listPictures.isEmpty() ? QStringLiteral("(none)") : m_listPictures.last()));
+    std::_Exit(EXIT_FAILURE);
+}
+
 void CTour::Picture(QWidget* pWindow, const QString& strName)
 {
+    m_watchdog.start(c_nPatience);
     // What was changed just now is laid out and painted by posted events.
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 
 #include <functional>
 
@@ -40,8 +41,10 @@ public:
 
 private:
     void AnswerMessage(QDialog* pMessage);
+    void GiveUp();
 
-    QString m_strFolder;
+    QString m_strFolder; ///< absolute: dialogs are handed files in it
+    QTimer m_watchdog;   ///< runs out when a dialog that nobody answers holds the walk
     QString m_strPrefix;
     QString m_strMessageName;
     int m_nMessageButton = 0;
