@@ -127,7 +127,7 @@ void BM_PlainFirstStep(benchmark::State& state)
 {
     const SDrag& drag = c_aDrags[state.range(0)];
     CPlainDragBench plain(drag);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto round : state)
         state.SetIterationTime(plain.FirstSeconds());
     state.SetLabel(drag.szName);
 }
@@ -136,7 +136,7 @@ void BM_Step(benchmark::State& state)
 {
     const SDrag& drag = c_aDrags[state.range(0)];
     CDragBench bench(drag);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto round : state)
         bench.Step();
     CPlainDragBench plain(drag);
     const double dPlain = BestOf(c_nRounds, [&plain] { return plain.FirstSeconds(); });
@@ -153,7 +153,7 @@ void BM_LateStep(benchmark::State& state)
     const SDrag& drag = c_aDrags[state.range(0)];
     double dEarly = std::numeric_limits<double>::max();
     double dLate = dEarly;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto round : state) {
         CDragBench bench(drag);
         bench.SecondsOf(c_nEarly);
         dEarly = std::min(dEarly, bench.SecondsOf(c_nTimed));
@@ -170,7 +170,7 @@ void BM_PlainCrossing(benchmark::State& state)
     CChromaGamutInterpolation gamut;
     const QList<CPoint> listLocus = gamut.GetData();
     const SDrag& drag = c_aDrags[state.range(0)];
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto round : state) {
         CPoint ptOut;
         benchmark::DoNotOptimize(
             CPlainChart::GetCIEIntersection(listLocus, Group().ptWhite, drag.ptTo, ptOut));
@@ -182,7 +182,7 @@ void BM_Crossing(benchmark::State& state)
 {
     const CLocusEdges edges(CChromaGamutInterpolation().GetQPointFData());
     const SDrag& drag = c_aDrags[state.range(0)];
-    for (auto _ : state)
+    for ([[maybe_unused]] auto round : state)
         benchmark::DoNotOptimize(edges.LastCrossing(Group().ptWhite, drag.ptTo));
     state.SetLabel(drag.szName);
 }

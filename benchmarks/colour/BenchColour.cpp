@@ -69,6 +69,7 @@ std::vector<float> Temperatures()
     std::mt19937 engine(4);
     std::uniform_real_distribution<float> temperature(4000.0F, 25000.0F);
     std::vector<float> vecTemperatures;
+    vecTemperatures.reserve(c_nPoints);
     for (int i = 0; i < c_nPoints; ++i)
         vecTemperatures.push_back(temperature(engine));
     return vecTemperatures;
@@ -80,6 +81,7 @@ std::vector<QPointF> Diagram()
     std::uniform_real_distribution<double> x(0.0, 0.8);
     std::uniform_real_distribution<double> y(0.0, 0.9);
     std::vector<QPointF> vecPoints;
+    vecPoints.reserve(c_nPoints);
     for (int i = 0; i < c_nPoints; ++i)
         vecPoints.push_back(QPointF(x(engine), y(engine)));
     return vecPoints;
@@ -90,7 +92,7 @@ template <class T, class TCall>
 void RunOver(benchmark::State& state, const std::vector<T>& vecSet, TCall call)
 {
     std::size_t i = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto round : state) {
         benchmark::DoNotOptimize(call(vecSet[i]));
         i = i + 1 == vecSet.size() ? 0 : i + 1;
     }
@@ -167,25 +169,25 @@ bool PlainInside(const QPointF& pt)
 
 void ConstructLibraryTemperature(benchmark::State& state)
 {
-    for (auto _ : state)
+    for ([[maybe_unused]] auto round : state)
         benchmark::DoNotOptimize(CCCT2ColorCoord());
 }
 
 void ConstructPlainTemperature(benchmark::State& state)
 {
-    for (auto _ : state)
+    for ([[maybe_unused]] auto round : state)
         benchmark::DoNotOptimize(PlainColorimetry::MakeRows());
 }
 
 void ConstructLibraryOutline(benchmark::State& state)
 {
-    for (auto _ : state)
+    for ([[maybe_unused]] auto round : state)
         benchmark::DoNotOptimize(CChromaGamutInterpolation());
 }
 
 void ConstructPlainOutline(benchmark::State& state)
 {
-    for (auto _ : state)
+    for ([[maybe_unused]] auto round : state)
         benchmark::DoNotOptimize(SpectralLocus::Outline());
 }
 

@@ -66,6 +66,7 @@ std::vector<unsigned int> Proposals(unsigned int nBase, int nRows, const FHasErr
 {
     CProposalSearch search(nBase);
     std::vector<unsigned int> vecProposals;
+    vecProposals.reserve(std::size_t(nRows));
     for (int i = 0; i < nRows; ++i)
         vecProposals.push_back(search.Next(funcHasError).value_or(0));
     return vecProposals;

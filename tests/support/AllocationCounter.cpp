@@ -32,9 +32,11 @@ namespace {
 
 // The C library lets a program define the allocator, and keeps its own under these names.
 extern "C" {
+// NOLINTBEGIN(bugprone-reserved-identifier): these are the C library's own names.
 void* __libc_malloc(std::size_t nSize);
 void* __libc_calloc(std::size_t nCount, std::size_t nSize);
 void* __libc_realloc(void* pBlock, std::size_t nSize);
+// NOLINTEND(bugprone-reserved-identifier)
 
 __attribute__((visibility("default"))) void* malloc(std::size_t nSize)
 {

@@ -49,7 +49,7 @@ CAddressPage::CAddressPage(std::function<bool()> funcMayLeave, QWidget* pParent)
     connect(&CSimulator::Instance(), &CSimulator::OnProjectReplaced, this, &CAddressPage::Refresh);
     connect(m_pTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &CAddressPage::EnableButtons);
-    Retranslate();
+    CAddressPage::Retranslate();
 }
 
 CAddressPage::~CAddressPage() = default;

@@ -65,7 +65,7 @@ CEdidPage::CEdidPage(QWidget* pParent)
             if (nSender == m_selection.nSender && nInterfaceId == m_selection.nInterfaceId)
                 ShowChange(blockBefore, blockAfter);
         });
-    Retranslate();
+    CEdidPage::Retranslate();
 }
 
 QWidget* CEdidPage::CreateHead()

@@ -73,7 +73,7 @@ CSimulationPage::CSimulationPage(QWidget* pParent)
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(pScroll);
     connect(&CSimulator::Instance(), &CSimulator::OnProjectChanged, this, &CSimulationPage::Refresh);
-    Retranslate();
+    CSimulationPage::Retranslate();
 }
 
 CSimulationPage::~CSimulationPage() = default;
