@@ -78,76 +78,114 @@ struct SBlanking
     quint8 bySyncFlag;
 };
 
-/// `std::floor`, without the call that it is where the processor is not known to have an instruction for it.
-/// Adding and subtracting 1.5 x 2^23 rounds to the nearest whole number, because single precision has no
-/// finer step there; one less where that went up. Beyond 2^22 the sum would leave that range.
-float Floor(float fValue)
+/// How the steps of any mode are rounded and stored: nothing is known of the values.
+struct SAnyMode
 {
-    constexpr float c_fWholeStep = 12582912.0F;
-    constexpr float c_fLargest = 4194304.0F;
-    if (!(std::fabs(fValue) < c_fLargest))
-        return std::floor(fValue);
-    const float fNearest = (fValue + c_fWholeStep) - c_fWholeStep;
-    return fNearest - (fNearest > fValue ? 1.0F : 0.0F);
-}
+    static float Floor(float fValue) { return std::floor(fValue); }
 
+    /// Whether the ratio's width for a height rounds down to a whole number of cells. The difference is exact
+    /// wherever the answer hangs on it, so no rounding is needed to know.
+    static bool GivesWidth(const SAspectRatio& ratio, float fWidth, float fHeight)
+    {
+        const float fAbove = ratio.fNumerator * fHeight / ratio.fDenominator - fWidth;
+        return fAbove >= 0.0F && fAbove < c_fCell;
+    }
+
+    template <class TField>
+    static TField Store(float fValue)
+    {
+        return SaturateTo<TField>(fValue);
+    }
+};
+
+/// The same for the modes that displays have. Their steps are between 0 and what the fields hold, so plain
+/// conversions do: they cut the fraction, which rounds down.
+struct SUsualMode
+{
+    static constexpr int c_nMostPixels = 8192; ///< of the width and of the height
+    static constexpr float c_fLeastRate = 1.0F;
+    static constexpr float c_fMostRate = 1000.0F; ///< well below the rates at which no time is left for lines
+
+    static bool Is(const tagSCalTimingIn& in)
+    {
+        const auto IsUsualSize = [](int nSize) { return unsigned(nSize) - 1U < unsigned(c_nMostPixels); };
+        return IsUsualSize(in.nWidth) && IsUsualSize(in.nHeight) && in.fRate >= c_fLeastRate &&
+               in.fRate <= c_fMostRate;
+    }
+
+    static float Floor(float fValue) { return static_cast<float>(static_cast<int>(fValue)); }
+
+    /// Without a division: all products are whole numbers below 2^24 and so are exact, and the quotient is a
+    /// whole number or at least a tenth away from one, more than it would be rounded.
+    static bool GivesWidth(const SAspectRatio& ratio, float fWidth, float fHeight)
+    {
+        const float fAbove = ratio.fNumerator * fHeight - ratio.fDenominator * fWidth;
+        return fAbove >= 0.0F && fAbove < c_fCell * ratio.fDenominator;
+    }
+
+    template <class TField>
+    static TField Store(float fValue)
+    {
+        return static_cast<TField>(static_cast<int>(fValue));
+    }
+};
+
+template <class TMode>
 float RoundDownTo(float fStep, float fValue)
 {
-    return Floor(fValue / fStep) * fStep;
-}
-
-/// Whether a value rounds down to a whole number of cells. The difference is exact wherever the answer hangs
-/// on it, so no rounding is needed to know.
-bool RoundsDownToCells(float fCells, float fValue)
-{
-    const float fAbove = fValue - fCells;
-    return fAbove >= 0.0F && fAbove < c_fCell;
+    return TMode::Floor(fValue / fStep) * fStep;
 }
 
 /// Rounds up, where the published formula rounds down.
+template <class TMode>
 float WidthInCells(int nWidth)
 {
-    return RoundDownTo(c_fCell, static_cast<float>(nWidth) + c_fCell - 1.0F);
+    return RoundDownTo<TMode>(c_fCell, static_cast<float>(nWidth) + c_fCell - 1.0F);
 }
 
+template <class TMode>
 quint8 VSyncWidth(float fWidth, int nHeight)
 {
     const float fHeight = static_cast<float>(nHeight);
     for (const SAspectRatio& ratio : c_aspectRatios) {
-        if (RoundsDownToCells(fWidth, ratio.fNumerator * fHeight / ratio.fDenominator))
+        if (TMode::GivesWidth(ratio, fWidth, fHeight))
             return ratio.byVSync;
     }
     return c_byVSyncOtherRatio;
 }
 
+template <class TMode>
 float FieldLines(int nHeight, bool bInterlaced)
 {
     const float fHeight = static_cast<float>(nHeight);
-    return bInterlaced ? Floor(fHeight * 0.5F) : fHeight;
+    return bInterlaced ? TMode::Floor(fHeight * 0.5F) : fHeight;
 }
 
+template <class TMode>
 SFrame Frame(const tagSCalTimingIn& in)
 {
     const bool bInterlaced = in.bInterlaced != 0;
     const bool bMargins = in.bMargins != 0;
     SFrame frame = {};
     frame.fRate = in.fRate;
-    frame.fWidth = WidthInCells(in.nWidth);
-    frame.fHMargin = bMargins ? RoundDownTo(c_fCell, c_fHMarginPercent * frame.fWidth / c_fWholeLine) : 0.0F;
-    frame.fLines = FieldLines(in.nHeight, bInterlaced);
-    frame.fVMargin = bMargins ? Floor(c_fVMarginShare * frame.fLines) : 0.0F;
-    frame.byVSync = VSyncWidth(frame.fWidth, in.nHeight);
+    frame.fWidth = WidthInCells<TMode>(in.nWidth);
+    frame.fHMargin =
+        bMargins ? RoundDownTo<TMode>(c_fCell, c_fHMarginPercent * frame.fWidth / c_fWholeLine) : 0.0F;
+    frame.fLines = FieldLines<TMode>(in.nHeight, bInterlaced);
+    frame.fVMargin = bMargins ? TMode::Floor(c_fVMarginShare * frame.fLines) : 0.0F;
+    frame.byVSync = VSyncWidth<TMode>(frame.fWidth, in.nHeight);
     frame.fInterlace = bInterlaced ? 0.5F : 0.0F;
     return frame;
 }
 
 /// Whole lines that last at least the given time. No number of lines does when a line lasts no time at all,
 /// so it is the most that a field holds.
+template <class TMode>
 float LinesLasting(float fMicroseconds, float fLinePeriod)
 {
     if (fLinePeriod <= 0.0F)
         return c_fMostLines;
-    return Floor(fMicroseconds / fLinePeriod) + 1.0F;
+    return TMode::Floor(fMicroseconds / fLinePeriod) + 1.0F;
 }
 
 float ReducedLinePeriod(const SFrame& frame)
@@ -156,10 +194,12 @@ float ReducedLinePeriod(const SFrame& frame)
     return fActiveTime / (frame.fLines + frame.fVMargin + frame.fVMargin);
 }
 
+template <class TMode>
 SBlanking ReducedBlanking(const SFrame& frame)
 {
     const float fMinVBlank = c_fMinVPorch + float(frame.byVSync) + c_fMinVBackPorchReduced;
-    const float fVBlank = std::max(fMinVBlank, LinesLasting(c_fReducedMinVBlank, ReducedLinePeriod(frame)));
+    const float fVBlank =
+        std::max(fMinVBlank, LinesLasting<TMode>(c_fReducedMinVBlank, ReducedLinePeriod(frame)));
     return {c_fReducedHBlank, c_fReducedHBackPorch, c_fReducedHSync, fVBlank, c_byReducedSyncFlag};
 }
 
@@ -177,35 +217,49 @@ float DutyCycle(float fLinePeriod)
     return std::max(c_fMinDuty, fLinePeriod * c_fDutyGradient / c_fDutyGradientUnit + c_fDutyOffset);
 }
 
+template <class TMode>
 float NormalHBlank(float fActiveWidth, float fDutyCycle)
 {
-    return RoundDownTo(c_fHBlankStep, fDutyCycle * fActiveWidth / (c_fWholeLine - fDutyCycle));
+    return RoundDownTo<TMode>(c_fHBlankStep, fDutyCycle * fActiveWidth / (c_fWholeLine - fDutyCycle));
 }
 
+template <class TMode>
 SBlanking NormalBlanking(const SFrame& frame)
 {
     const float fActiveWidth = frame.fWidth + frame.fHMargin + frame.fHMargin;
     const float fLinePeriod = NormalLinePeriod(frame);
     const float fMinSyncBackPorch = float(frame.byVSync) + c_fMinVBackPorchNormal;
-    const float fSyncBackPorch = std::max(fMinSyncBackPorch, LinesLasting(c_fMinVSyncBackPorch, fLinePeriod));
-    const float fHBlank = NormalHBlank(fActiveWidth, DutyCycle(fLinePeriod));
-    const float fHSync = RoundDownTo(c_fCell, (fActiveWidth + fHBlank) * c_fHSyncShare);
+    const float fSyncBackPorch =
+        std::max(fMinSyncBackPorch, LinesLasting<TMode>(c_fMinVSyncBackPorch, fLinePeriod));
+    const float fHBlank = NormalHBlank<TMode>(fActiveWidth, DutyCycle(fLinePeriod));
+    const float fHSync = RoundDownTo<TMode>(c_fCell, (fActiveWidth + fHBlank) * c_fHSyncShare);
     return {fHBlank, 0.5F * fHBlank, fHSync, fSyncBackPorch + c_fMinVPorch, c_byNormalSyncFlag};
+}
+
+template <class TMode>
+void CalculateMode(const tagSCalTimingIn& in, tagSBlankTiming& timing)
+{
+    const SFrame frame = Frame<TMode>(in);
+    const SBlanking blanking =
+        in.bReducedBlank != 0 ? ReducedBlanking<TMode>(frame) : NormalBlanking<TMode>(frame);
+    timing.wHBlank = TMode::template Store<quint16>(blanking.fHBlank);
+    timing.wHFrontPorch =
+        TMode::template Store<quint16>(blanking.fHBlank - blanking.fHBackPorch - blanking.fHSync);
+    timing.wHSync = TMode::template Store<quint16>(blanking.fHSync);
+    timing.wVBlank = TMode::template Store<quint16>(blanking.fVBlank);
+    timing.byVFrontPorch = TMode::template Store<quint8>(c_fMinVPorch);
+    timing.byVSync = frame.byVSync;
+    timing.bySyncFlag = blanking.bySyncFlag;
 }
 
 } // namespace
 
 void Calculate(const tagSCalTimingIn& in, tagSBlankTiming& timing)
 {
-    const SFrame frame = Frame(in);
-    const SBlanking blanking = in.bReducedBlank != 0 ? ReducedBlanking(frame) : NormalBlanking(frame);
-    timing.wHBlank = SaturateTo<quint16>(blanking.fHBlank);
-    timing.wHFrontPorch = SaturateTo<quint16>(blanking.fHBlank - blanking.fHBackPorch - blanking.fHSync);
-    timing.wHSync = SaturateTo<quint16>(blanking.fHSync);
-    timing.wVBlank = SaturateTo<quint16>(blanking.fVBlank);
-    timing.byVFrontPorch = SaturateTo<quint8>(c_fMinVPorch);
-    timing.byVSync = frame.byVSync;
-    timing.bySyncFlag = blanking.bySyncFlag;
+    if (SUsualMode::Is(in))
+        CalculateMode<SUsualMode>(in, timing);
+    else
+        CalculateMode<SAnyMode>(in, timing);
 }
 
 } // namespace CvtTiming

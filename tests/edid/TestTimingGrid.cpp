@@ -17,10 +17,10 @@ namespace {
 constexpr float c_fInf = std::numeric_limits<float>::infinity();
 constexpr float c_fNan = std::numeric_limits<float>::quiet_NaN();
 
-const std::vector<float> c_rates = {1.0F,    15.0F,  23.976F, 24.0F,   25.0F,  29.97F,  30.0F,
-                                    47.952F, 48.0F,  50.0F,   59.94F,  60.0F,  71.928F, 72.0F,
-                                    75.0F,   85.0F,  100.0F,  119.88F, 120.0F, 143.9F,  144.0F,
-                                    165.0F,  200.0F, 239.76F, 240.0F,  360.0F, 480.0F};
+const std::vector<float> c_rates = {1.0F,   15.0F,   23.976F, 24.0F,   25.0F,   29.97F, 30.0F,  47.952F,
+                                    48.0F,  50.0F,   59.94F,  60.0F,   71.928F, 72.0F,  75.0F,  85.0F,
+                                    100.0F, 119.88F, 120.0F,  143.9F,  144.0F,  165.0F, 200.0F, 239.76F,
+                                    240.0F, 360.0F,  480.0F,  0.9999F, 1000.0F, 1000.1F};
 
 /// Sizes of ordinary displays, where the aspect ratios meet, and what is right beside them.
 std::vector<QSize> DisplaySizes()
@@ -45,6 +45,28 @@ std::vector<QSize> ScatteredSizes()
     std::vector<QSize> vecSizes;
     for (int nWidth = 1; nWidth <= 16384; nWidth += 241)
         for (int nHeight = 2; nHeight <= 16384; nHeight += 263)
+            vecSizes.emplace_back(nWidth, nHeight);
+    return vecSizes;
+}
+
+/// Each whole number of cells and what is right above it, for the lowest display and a usual one.
+std::vector<QSize> SizesOfEveryCell()
+{
+    std::vector<QSize> vecSizes;
+    for (int nCells = 0; nCells <= 1026; ++nCells)
+        for (const int nMore : {1, 8})
+            for (const int nHeight : {1, 720})
+                vecSizes.emplace_back(8 * nCells + nMore, nHeight);
+    return vecSizes;
+}
+
+/// Around the largest displays that are calculated the short way.
+std::vector<QSize> LargestSizes()
+{
+    const std::vector<int> vecSides = {1, 2, 3, 8183, 8184, 8185, 8191, 8192, 8193, 8200};
+    std::vector<QSize> vecSizes;
+    for (const int nWidth : vecSides)
+        for (const int nHeight : vecSides)
             vecSizes.emplace_back(nWidth, nHeight);
     return vecSizes;
 }
@@ -115,6 +137,8 @@ void TestTimingGrid::TheBlankingIsThatOfASecondEvaluation_data()
     };
     Add("ordinary displays and their neighbours", DisplaySizes());
     Add("scattered over the whole range", ScatteredSizes());
+    Add("every number of cells", SizesOfEveryCell());
+    Add("the largest displays and beyond", LargestSizes());
 }
 
 void TestTimingGrid::TheBlankingIsThatOfASecondEvaluation()
