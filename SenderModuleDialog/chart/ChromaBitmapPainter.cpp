@@ -50,6 +50,7 @@ struct SGradient
     float fLength;       ///< sqrt(b b + a a)
     float fFullDistance; ///< the centre's distance
     float fCentreSide;   ///< the centre's value of c + a x + b y: its sign is the side that is coloured
+    float fSign;         ///< 1 or -1, what turns terms positive on the coloured side
     float fEstimate;     ///< see `SRamp`
     float fFullTerm;     ///< the smallest term for which the component is full
     double dInverseA;    ///< 1 / a, for guesses
@@ -135,8 +136,9 @@ SGradient MakeGradient(Point ptFrom, Point ptTo, Point ptCentre, Point ptLast)
     gradient.fLength = std::sqrt(gradient.fB * gradient.fB + gradient.fA * gradient.fA);
     gradient.fFullDistance = std::fabs(Term(gradient, ptCentre)) / gradient.fLength;
     gradient.fCentreSide = Side(gradient, ptCentre);
-    gradient.fEstimate = float(double(c_fFull) * double(c_fFull) /
-                               (double(gradient.fLength) * double(gradient.fFullDistance)));
+    gradient.fSign = gradient.fCentreSide > 0.0F ? 1.0F : -1.0F;
+    const double dFull = double(c_fFull) * (1.0 + ChromaBitmap::c_dEnlarged) * ChromaBitmap::c_dParts;
+    gradient.fEstimate = float(dFull * dFull / (double(gradient.fLength) * double(gradient.fFullDistance)));
     gradient.fFullTerm = FullTerm(gradient);
     gradient.dInverseA = 1.0 / double(gradient.fA);
     gradient.bRegular = IsRegular(gradient, ptLast);
@@ -215,33 +217,55 @@ FuncPaintPiece PiecePainter(ChromaBitmap::enInstructions instructions)
     return &ChromaBitmap::PaintPiecePlain;
 }
 
-/// How a component goes along a row: it stays 0 on one side of the line, grows, and stays full. Each of its
-/// rounded steps rises or falls with x, so the two changes are at single whole x, which are exact.
-struct SComponentRow
+/// What a component adds to the pieces of one stretch of a row.
+struct SStretch
 {
-    /// What a component does in a stretch of the row.
-    enum enStretch
-    {
-        enNone,
-        enGrows,
-        enFull
-    };
+    unsigned int nGrowing; ///< its bit while it grows
+    std::uint32_t nBase;   ///< its bits while it stays
+};
 
-    std::array<int, 2> arrChanges;       ///< the pixels from where the second and the third stretch begin
-    std::array<enStretch, 3> arrStretch; ///< from left to right
+/// How a component goes along each row: it stays 0 on one side of the line, grows, and stays full, from left
+/// to right or from right to left.
+using Stretches = std::array<SStretch, 3>;
 
-    enStretch StretchAt(int nX) const
+/// Where the component of a row goes over to its second and to its third stretch. Each of its rounded steps
+/// rises or falls with x, so both are at single whole x, which are exact.
+struct SChanges
+{
+    int nFirst;
+    int nSecond;
+
+    /// The stretch that a pixel is in.
+    size_t StretchAt(int nX) const { return size_t(nX >= nFirst) + size_t(nX >= nSecond); }
+    /// One behind the last pixel of a stretch that ends at nEnd at the latest.
+    int EndOf(size_t nStretch, int nEnd) const
     {
-        return arrStretch[size_t(nX >= arrChanges[0]) + size_t(nX >= arrChanges[1])];
+        const std::array<int, 3> arrEnds = {nFirst, nSecond, nEnd};
+        return std::min(arrEnds[nStretch], nEnd);
     }
 };
+
+/// Whether the component grows from right to left.
+bool IsFalling(const SGradient& gradient)
+{
+    return gradient.fSign * gradient.fA < 0.0F;
+}
+
+Stretches MakeStretches(const SGradient& gradient, size_t nComponent)
+{
+    const SStretch none = {0, 0};
+    const SStretch growing = {1U << nComponent, 0};
+    const SStretch full = {0, c_nFull << c_arrShifts[nComponent]};
+    return IsFalling(gradient) ? Stretches{full, growing, none} : Stretches{none, growing, full};
+}
 
 /// The first x of the range for which the condition holds, from where on it holds; its end if there is none.
 /// @param dGuess where it should be
 template <class TCondition>
 int FirstWhere(int nBegin, int nEnd, double dGuess, const TCondition& condition)
 {
-    int nX = std::clamp(SaturateTo<int>(dGuess + 1.0), nBegin, nEnd);
+    // What is no number is held to the range too.
+    int nX = int(std::min(double(nEnd), std::max(double(nBegin), dGuess + 1.0)));
     while (nX > nBegin && condition(nX - 1))
         --nX;
     while (nX < nEnd && !condition(nX))
@@ -249,26 +273,60 @@ int FirstWhere(int nBegin, int nEnd, double dGuess, const TCondition& condition)
     return nX;
 }
 
+/// The changes of a component in the pixels of a row from nBegin to before nEnd.
+SChanges FindChanges(const SGradient& gradient, int nY, int nBegin, int nEnd)
+{
+    const float fY = float(nY);
+    const float fSign = gradient.fSign;
+    const auto IsColoured = [&](int nX) { return IsColouredSide(gradient, {float(nX), fY}); };
+    const auto IsFull = [&](int nX) { return fSign * Term(gradient, {float(nX), fY}) >= gradient.fFullTerm; };
+    if (gradient.fA == 0.0F) {
+        // Along a level line nothing changes.
+        const int nGrows = IsColoured(nBegin) ? nBegin : nEnd;
+        return {nGrows, IsFull(nBegin) ? nGrows : nEnd};
+    }
+    // Where the exact crossings are, but for the roundings.
+    const double dRest = double(gradient.fB) * double(fY) + double(gradient.fC);
+    const double dLine = -dRest * gradient.dInverseA;
+    const double dFull = (double(fSign * gradient.fFullTerm) - dRest) * gradient.dInverseA;
+    if (IsFalling(gradient)) {
+        const int nNone = FirstWhere(nBegin, nEnd, dLine, [&](int nX) { return !IsColoured(nX); });
+        const int nGrows = FirstWhere(nBegin, nEnd, dFull, [&](int nX) { return !IsFull(nX); });
+        return {std::min(nGrows, nNone), nNone};
+    }
+    const int nGrows = FirstWhere(nBegin, nEnd, dLine, IsColoured);
+    const int nFull = FirstWhere(nBegin, nEnd, dFull, IsFull);
+    return {nGrows, std::max(nGrows, nFull)};
+}
+
 /// Paints the rows of one bitmap.
 class CRowPainter
 {
 public:
-    CRowPainter(const Gradients& arrGradients, FuncPaintPiece funcPaintPiece)
+    /// @param rcBox where pixels may be painted
+    CRowPainter(const Gradients& arrGradients, FuncPaintPiece funcPaintPiece, const QRect& rcBox)
         : m_arrGradients(arrGradients)
         , m_funcPaintPiece(funcPaintPiece)
+        , m_nTop(rcBox.top())
         , m_bRegular(std::all_of(arrGradients.begin(), arrGradients.end(),
                                  [](const SGradient& gradient) { return gradient.bRegular; }))
-    {}
+    {
+        for (size_t i = 0; i < c_nComponents; ++i)
+            m_arrStretches[i] = MakeStretches(arrGradients[i], i);
+        if (m_bRegular)
+            FindAllChanges(rcBox);
+    }
 
-    /// Makes ready for a row, of which the pixels from nBegin to before nEnd may be painted.
-    void SetRow(int nY, int nBegin, int nEnd)
+    /// Makes ready for a row of the box.
+    void SetRow(int nY)
     {
         m_fY = float(nY);
-        for (size_t i = 0; m_bRegular && i < c_nComponents; ++i) {
+        m_pChanges = m_bRegular ? &m_vecChanges[size_t(nY - m_nTop)] : nullptr;
+        for (size_t i = 0; i < c_nComponents; ++i) {
             const SGradient& gradient = m_arrGradients[i];
-            m_arrRamps[i] = {gradient.fA,      gradient.fB * m_fY,     gradient.fC,
-                             gradient.fLength, gradient.fFullDistance, gradient.fEstimate};
-            m_arrRows[i] = ComponentRow(gradient, nBegin, nEnd);
+            const float fSign = gradient.fSign;
+            m_arrRamps[i] = {fSign * gradient.fA, fSign * (gradient.fB * m_fY), fSign * gradient.fC,
+                             gradient.fLength,    gradient.fFullDistance,       gradient.fEstimate};
         }
     }
 
@@ -288,112 +346,93 @@ public:
     }
 
 private:
-    SComponentRow ComponentRow(const SGradient& gradient, int nBegin, int nEnd) const;
-    SRowPiece PieceAt(int nLeft, int nRight) const;
+    using RowChanges = std::array<SChanges, c_nComponents>;
+
+    /// For all rows in one go: searching between two rows' painting takes the processor several times as
+    /// long.
+    void FindAllChanges(const QRect& rcBox)
+    {
+        m_vecChanges.resize(size_t(rcBox.height()));
+        for (int nY = rcBox.top(); nY <= rcBox.bottom(); ++nY) {
+            for (size_t i = 0; i < c_nComponents; ++i)
+                m_vecChanges[size_t(nY - m_nTop)][i] =
+                    FindChanges(m_arrGradients[i], nY, rcBox.left(), rcBox.right() + 1);
+        }
+    }
+
+    SRowPiece PieceAt(int nLeft, int nRight) const
+    {
+        SRowPiece piece = {nLeft, nRight, 0, c_nOpaque};
+        for (size_t i = 0; i < c_nComponents; ++i) {
+            const SChanges& changes = (*m_pChanges)[i];
+            const size_t nStretch = changes.StretchAt(nLeft);
+            const SStretch& stretch = m_arrStretches[i][nStretch];
+            piece.nRight = changes.EndOf(nStretch, piece.nRight);
+            piece.nGrowing |= stretch.nGrowing;
+            piece.nBase |= stretch.nBase;
+        }
+        return piece;
+    }
 
     const Gradients& m_arrGradients;
     const FuncPaintPiece m_funcPaintPiece;
+    const int m_nTop; ///< first row of the box
     const bool m_bRegular;
+    std::array<Stretches, c_nComponents> m_arrStretches = {};
+    std::vector<RowChanges> m_vecChanges; ///< by row of the box
     float m_fY = 0.0F;
+    const RowChanges* m_pChanges = nullptr; ///< of the row
     std::array<SRamp, c_nComponents> m_arrRamps = {};
-    std::array<SComponentRow, c_nComponents> m_arrRows = {};
 };
 
-SComponentRow CRowPainter::ComponentRow(const SGradient& gradient, int nBegin, int nEnd) const
-{
-    const float fSign = gradient.fCentreSide > 0.0F ? 1.0F : -1.0F;
-    const auto IsColoured = [&](int nX) { return IsColouredSide(gradient, {float(nX), m_fY}); };
-    const auto IsFull = [&](int nX) {
-        return fSign * Term(gradient, {float(nX), m_fY}) >= gradient.fFullTerm;
-    };
-    // Where the exact crossings are, but for the roundings.
-    const double dRest = double(gradient.fB) * double(m_fY) + double(gradient.fC);
-    const double dLine = -dRest * gradient.dInverseA;
-    const double dFull = (double(fSign * gradient.fFullTerm) - dRest) * gradient.dInverseA;
-    if (fSign * gradient.fA > 0.0F) {
-        const int nGrows = FirstWhere(nBegin, nEnd, dLine, IsColoured);
-        const int nFull = FirstWhere(nBegin, nEnd, dFull, IsFull);
-        return {{nGrows, std::max(nGrows, nFull)},
-                {SComponentRow::enNone, SComponentRow::enGrows, SComponentRow::enFull}};
-    }
-    if (fSign * gradient.fA < 0.0F) {
-        const int nNone = FirstWhere(nBegin, nEnd, dLine, [&](int nX) { return !IsColoured(nX); });
-        const int nGrows = FirstWhere(nBegin, nEnd, dFull, [&](int nX) { return !IsFull(nX); });
-        return {{std::min(nGrows, nNone), nNone},
-                {SComponentRow::enFull, SComponentRow::enGrows, SComponentRow::enNone}};
-    }
-    // Along a level line nothing changes.
-    const auto stretch = !IsColoured(nBegin) ? SComponentRow::enNone
-                         : IsFull(nBegin)    ? SComponentRow::enFull
-                                             : SComponentRow::enGrows;
-    return {{nEnd, nEnd}, {stretch, stretch, stretch}};
-}
-
-SRowPiece CRowPainter::PieceAt(int nLeft, int nRight) const
-{
-    SRowPiece piece = {nLeft, nRight, 0, c_nOpaque};
-    for (size_t i = 0; i < c_nComponents; ++i) {
-        for (const int nChange : m_arrRows[i].arrChanges) {
-            if (nChange > nLeft)
-                piece.nRight = std::min(piece.nRight, nChange);
-        }
-        const auto stretch = m_arrRows[i].StretchAt(nLeft);
-        if (stretch == SComponentRow::enGrows)
-            piece.nGrowing |= 1U << i;
-        else if (stretch == SComponentRow::enFull)
-            piece.nBase |= c_nFull << c_arrShifts[i];
-    }
-    return piece;
-}
-
-/// The rows of an image, as one block of 32-bit pixels.
+/// The pixels of an image, which is filled from its beginning to its end: rows of 32-bit pixels follow one
+/// another without a gap.
 class CPixels
 {
 public:
     explicit CPixels(QImage& image)
-        : m_pBits(image.bits())
-        , m_nStride(image.bytesPerLine())
+        : m_pBits(reinterpret_cast<std::uint32_t*>(image.bits()))
         , m_nWidth(image.width())
+        , m_pEnd(m_pBits + qptrdiff(image.height()) * m_nWidth)
+        , m_pDone(m_pBits)
     {}
 
     int Width() const { return m_nWidth; }
-    std::uint32_t* Row(int nY) const { return reinterpret_cast<std::uint32_t*>(m_pBits + nY * m_nStride); }
+    std::uint32_t* Row(int nY) const { return m_pBits + qptrdiff(nY) * m_nWidth; }
 
-    void ClearRows(int nTop, int nEnd) const
+    /// Makes transparent what lies before a pixel and is not done yet.
+    void ClearTo(const std::uint32_t* pPixel)
     {
-        if (nTop < nEnd)
-            std::memset(Row(nTop), 0, size_t(nEnd - nTop) * size_t(m_nStride));
+        if (m_pDone < pPixel)
+            std::memset(m_pDone, 0, size_t(pPixel - m_pDone) * sizeof(std::uint32_t));
     }
-
-    void Clear(int nY, int nLeft, int nRight) const
-    {
-        if (nLeft < nRight)
-            std::memset(Row(nY) + nLeft, 0, size_t(nRight - nLeft) * sizeof(std::uint32_t));
-    }
+    void ClearToEnd() { ClearTo(m_pEnd); }
+    /// All before a pixel is done.
+    void SetDone(std::uint32_t* pPixel) { m_pDone = pPixel; }
 
 private:
-    uchar* m_pBits;
-    qptrdiff m_nStride;
+    std::uint32_t* m_pBits;
     int m_nWidth;
+    const std::uint32_t* m_pEnd;
+    std::uint32_t* m_pDone;
 };
 
-/// Paints one row: its spans from left to right and what is transparent between them.
-void PaintRow(const CPixels& pixels, const CChromaOutlineSpans& spans, const QRect& rcBox, int nY,
+/// Paints the spans of one row from left to right, and makes transparent what lies before each.
+void PaintRow(CPixels& pixels, const CChromaOutlineSpans& spans, const QRect& rcBox, int nY,
               CRowPainter& painter)
 {
     const int nBegin = rcBox.left();
     const int nEnd = rcBox.right() + 1;
-    painter.SetRow(nY, nBegin, nEnd);
-    int nDone = 0;
+    std::uint32_t* const pRow = pixels.Row(nY);
+    painter.SetRow(nY);
     const int* const pEnd = spans.ThresholdsEnd(nY);
     for (const int* pThreshold = spans.ThresholdsBegin(nY); pThreshold != pEnd;) {
         const int nLeft = std::clamp(*pThreshold++, nBegin, nEnd);
         const int nRight = pThreshold != pEnd ? std::clamp(*pThreshold++, nBegin, nEnd) : nEnd;
-        pixels.Clear(nY, nDone, nLeft);
-        painter.PaintSpan(pixels.Row(nY), pixels.Width(), nLeft, nRight);
-        nDone = nRight;
+        pixels.ClearTo(pRow + nLeft);
+        painter.PaintSpan(pRow, pixels.Width(), nLeft, nRight);
+        pixels.SetDone(pRow + nRight);
     }
-    pixels.Clear(nY, nDone, pixels.Width());
 }
 
 std::vector<Point> MapLocus(const QVector<QPointF>& vecLocus, const SMapping& mapping)
@@ -405,20 +444,20 @@ std::vector<Point> MapLocus(const QVector<QPointF>& vecLocus, const SMapping& ma
     return vecMapped;
 }
 
-/// Paints the rows of the box. @return one behind the last row that was painted
-int PaintBox(const CPixels& pixels, const QRect& rcBox, const SSource& source, const Gradients& arrGradients,
-             FuncPaintPiece funcPaintPiece, const ChromaBitmap::FuncStop& funcStop)
+/// Paints the rows of the box until it is told to stop, and makes everything else transparent.
+void PaintBox(CPixels& pixels, const QRect& rcBox, const SSource& source, const Gradients& arrGradients,
+              FuncPaintPiece funcPaintPiece, const ChromaBitmap::FuncStop& funcStop)
 {
     const CChromaOutlineSpans spans(source.vecOutline, rcBox);
-    CRowPainter painter(arrGradients, funcPaintPiece);
+    CRowPainter painter(arrGradients, funcPaintPiece, rcBox);
     int nY = rcBox.top();
     for (; nY <= rcBox.bottom() && !funcStop(); ++nY)
         PaintRow(pixels, spans, rcBox, nY, painter);
+    pixels.ClearToEnd();
     for (const QPoint pt : spans.VertexPixels()) {
         if (pt.y() < nY)
             pixels.Row(pt.y())[pt.x()] = Pixel(arrGradients, {float(pt.x()), float(pt.y())});
     }
-    return nY;
 }
 
 } // namespace
@@ -478,16 +517,12 @@ QImage ChromaBitmap::Paint(const SSource& source, const FuncStop& funcStop, enIn
     const SMapping mapping = SMapping::ForSize(source.nWidth, source.nHeight);
     const std::vector<Point> vecLocus = MapLocus(source.vecLocus, mapping);
     const QRect rcBox = PixelBox(vecLocus, source.nWidth, source.nHeight);
-    const CPixels pixels(image);
-    if (rcBox.isEmpty()) {
-        pixels.ClearRows(0, source.nHeight);
-        return image;
-    }
-    pixels.ClearRows(0, rcBox.top());
-    const int nPainted =
+    CPixels pixels(image);
+    if (rcBox.isEmpty())
+        pixels.ClearToEnd();
+    else
         PaintBox(pixels, rcBox, source,
                  MakeGradients(vecLocus, mapping, {float(source.nWidth), float(source.nHeight)}),
                  PiecePainter(instructions), funcStop);
-    pixels.ClearRows(nPainted, source.nHeight);
     return image;
 }

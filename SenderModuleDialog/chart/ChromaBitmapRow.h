@@ -13,10 +13,16 @@ namespace ChromaBitmap {
 /// Number of colour components: red, green, blue.
 inline constexpr int c_nComponents = 3;
 
+/// An estimate is counted in such parts of a component, and enlarged by such a part of itself, which is more
+/// than it can be too small.
+inline constexpr double c_dParts = 4096.0;
+inline constexpr double c_dEnlarged = 9.5367431640625e-07; // 2^-20
+
 /// One colour component along one row of pixels, as a function of the distance from its line. With a, b, c
 /// the line's coefficients, and every product and sum rounded on its own in this order: the term is
 /// |(b y + a x) + c|, the distance is the term by the length of (a, b), and the component is the whole part
-/// of 255 sqrt(distance / full distance).
+/// of 255 sqrt(distance / full distance). All signs are turned such that the term is positive on the coloured
+/// side, but for its roundings.
 struct SRamp
 {
     float fA;            ///< a
@@ -24,7 +30,7 @@ struct SRamp
     float fC;            ///< c
     float fLength;       ///< sqrt(b b + a a)
     float fFullDistance; ///< from where the component is full
-    float fEstimate;     ///< what the term is to be multiplied by to give the square of the component, nearly
+    float fEstimate;     ///< what the term is to be multiplied by to give the square of the estimate
 };
 
 /// A piece of a row in which each component either grows, by its ramp, or stays.

@@ -7,18 +7,22 @@
 /// The loop over the pixels of a piece, written once over lanes: several pixels at a time. Each instruction
 /// set includes it in one file, which defines its lanes. All that is here has internal linkage.
 ///
-/// A component needs two divisions and a square root where every step is rounded. One product and one square
-/// root give it nearly: less than `c_fDoubt` off. Where that leaves no doubt about its whole part, which is
-/// nearly always, it is the component; in doubt all steps are taken.
+/// A component needs two divisions and a square root where every step is rounded. One product and one root
+/// give it nearly, and a little too large. Where that is well above a whole number, which it nearly always
+/// is, its whole part is the component; anywhere else it is in doubt, and all steps are taken.
 
 namespace {
 
 using ChromaBitmap::SRamp;
 using ChromaBitmap::SRowPiece;
 
-/// More than the estimate can be off: its three roundings and the five of the full steps, each at most 2^-24
-/// of the value or half of that behind the root, are below 0.0001 at 255.
-constexpr float c_fDoubt = 0.000244140625F;
+/// The fraction of an estimate counted in `c_dParts`.
+constexpr int c_nFractionBits = 12;
+/// An estimate is in doubt unless one of these bits of its fraction is set, that is less than 2^-11 above a
+/// whole number. Its roundings, the error of a quick root (2^-22) and the roundings of the full steps, each
+/// at most 2^-24 of the value or half of that behind the root, are below 2^-20 together, by which it is
+/// enlarged; so it is above the component, by less than 255 x 2^-19.
+constexpr std::uint32_t c_nDoubtMask = 0xFFE;
 
 constexpr float c_fFull = 255.0F;
 
@@ -26,84 +30,153 @@ constexpr float c_fFull = 255.0F;
 constexpr int c_nRedShift = 16;
 constexpr int c_nGreenShift = 8;
 constexpr int c_nBlueShift = 0;
+constexpr std::uint32_t c_nByteMask = 0xFF;
 
+/// A ramp in all lanes, which the estimate needs for each pixel.
 template <class TLanes>
-typename TLanes::Floats Term(const SRamp& ramp, typename TLanes::Floats x)
+struct SRampLanes
 {
-    const auto sum = TLanes::Add(TLanes::Set(ramp.fBy), TLanes::Multiply(TLanes::Set(ramp.fA), x));
-    return TLanes::Absolute(TLanes::Add(sum, TLanes::Set(ramp.fC)));
-}
+    typename TLanes::Floats a;
+    typename TLanes::Floats by;
+    typename TLanes::Floats c;
+    typename TLanes::Floats estimate;
+
+    /// @param fFactor what the estimated square is to be multiplied by, a power of two
+    SRampLanes(const SRamp& ramp, float fFactor)
+        : a(TLanes::Set(ramp.fA))
+        , by(TLanes::Set(ramp.fBy))
+        , c(TLanes::Set(ramp.fC))
+        , estimate(TLanes::Set(ramp.fEstimate * fFactor))
+    {}
+
+    typename TLanes::Floats Term(typename TLanes::Floats x) const
+    {
+        return TLanes::Add(TLanes::Add(by, TLanes::Multiply(a, x)), c);
+    }
+};
 
 /// The component by all its steps.
 template <class TLanes>
 typename TLanes::Integers Component(const SRamp& ramp, typename TLanes::Floats x)
 {
-    const auto distance = TLanes::Divide(Term<TLanes>(ramp, x), TLanes::Set(ramp.fLength));
+    const auto term = TLanes::Absolute(SRampLanes<TLanes>(ramp, 1.0F).Term(x));
+    const auto distance = TLanes::Divide(term, TLanes::Set(ramp.fLength));
     const auto share = TLanes::Divide(distance, TLanes::Set(ramp.fFullDistance));
     return TLanes::Truncate(TLanes::Multiply(TLanes::Set(c_fFull), TLanes::SquareRoot(share)));
 }
 
-/// Adds a component to the pixels by its estimate, and the lanes in doubt to the doubts.
-template <class TLanes, bool bGrows, int nShift>
-void AddEstimate(const SRamp& ramp, typename TLanes::Floats x, typename TLanes::Integers& pixels,
-                 typename TLanes::Integers& doubts)
+/// Moves a component from above the fraction to its place in the pixel.
+template <class TLanes, int nShift>
+typename TLanes::Integers InPlace(typename TLanes::Integers estimate)
 {
-    if constexpr (bGrows) {
-        const auto square = TLanes::Multiply(Term<TLanes>(ramp, x), TLanes::Set(ramp.fEstimate));
-        const auto estimate = TLanes::SquareRoot(square);
-        const auto low = TLanes::Truncate(TLanes::Add(estimate, TLanes::Set(-c_fDoubt)));
-        const auto high = TLanes::Truncate(TLanes::Add(estimate, TLanes::Set(c_fDoubt)));
-        doubts = TLanes::Or(doubts, TLanes::Xor(low, high));
-        pixels = TLanes::Or(pixels, TLanes::template ShiftLeft<nShift>(low));
-    }
+    constexpr int c_nLeft = nShift - c_nFractionBits;
+    if constexpr (c_nLeft > 0)
+        estimate = TLanes::template ShiftLeft<c_nLeft>(estimate);
+    else
+        estimate = TLanes::template ShiftRight<-c_nLeft>(estimate);
+    return TLanes::And(estimate, TLanes::SetInteger(c_nByteMask << nShift));
 }
 
-template <class TLanes, bool bGrows, int nShift>
-void AddComponent(const SRamp& ramp, typename TLanes::Floats x, typename TLanes::Integers& pixels)
-{
-    if constexpr (bGrows)
-        pixels = TLanes::Or(pixels, TLanes::template ShiftLeft<nShift>(Component<TLanes>(ramp, x)));
-}
-
-/// The pixels at some x, of a piece in which the components of the bits grow.
+/// The pixels of a piece in which the components of the bits grow.
 template <class TLanes, unsigned int nGrowing>
-typename TLanes::Integers Pixels(const SRamp* arrRamps, typename TLanes::Integers base,
-                                 typename TLanes::Floats x)
+class CGrowingPixels
 {
-    constexpr bool bRed = (nGrowing & 1U) != 0;
-    constexpr bool bGreen = (nGrowing & 2U) != 0;
-    constexpr bool bBlue = (nGrowing & 4U) != 0;
-    auto pixels = base;
-    auto doubts = TLanes::SetInteger(0);
-    AddEstimate<TLanes, bRed, c_nRedShift>(arrRamps[0], x, pixels, doubts);
-    AddEstimate<TLanes, bGreen, c_nGreenShift>(arrRamps[1], x, pixels, doubts);
-    AddEstimate<TLanes, bBlue, c_nBlueShift>(arrRamps[2], x, pixels, doubts);
-    if (TLanes::IsZero(doubts))
+public:
+    using Floats = typename TLanes::Floats;
+    using Integers = typename TLanes::Integers;
+
+    CGrowingPixels(const SRamp* arrRamps, std::uint32_t nBase)
+        : m_arrRamps(arrRamps)
+        , m_base(TLanes::SetInteger(nBase))
+        , m_red(arrRamps[0], Factor(c_bQuickRed))
+        , m_green(arrRamps[1], Factor(c_bQuickGreen))
+        , m_blue(arrRamps[2], Factor(false))
+    {}
+
+    Integers At(Floats x) const
+    {
+        auto pixels = m_base;
+        auto fractions = TLanes::SetInteger(c_nDoubtMask);
+        AddEstimate<c_bRed, c_nRedShift, c_bQuickRed>(m_red, x, pixels, fractions);
+        AddEstimate<c_bGreen, c_nGreenShift, c_bQuickGreen>(m_green, x, pixels, fractions);
+        AddEstimate<c_bBlue, c_nBlueShift, false>(m_blue, x, pixels, fractions);
+        return TLanes::IsAnyZero(fractions) ? InAllSteps(x) : pixels;
+    }
+
+private:
+    static constexpr bool c_bRed = (nGrowing & 1U) != 0;
+    static constexpr bool c_bGreen = (nGrowing & 2U) != 0;
+    static constexpr bool c_bBlue = (nGrowing & 4U) != 0;
+    // Processors have one unit for exact roots, which two components would wait for: the last takes it.
+    static constexpr bool c_bQuickRed = c_bRed && (c_bGreen || c_bBlue);
+    static constexpr bool c_bQuickGreen = c_bGreen && c_bBlue;
+
+    static constexpr float Factor(bool bQuickRoot) { return bQuickRoot ? TLanes::c_fQuickFactor : 1.0F; }
+
+    /// Adds a component to the pixels by its estimate, and takes the least of the fractions. A term that its
+    /// roundings have moved across the line has no root; then there is no fraction either, which is in doubt.
+    template <bool bGrows, int nShift, bool bQuickRoot>
+    static void AddEstimate(const SRampLanes<TLanes>& ramp, Floats x, Integers& pixels, Integers& fractions)
+    {
+        if constexpr (bGrows) {
+            const auto square = TLanes::Multiply(ramp.Term(x), ramp.estimate);
+            const auto root = bQuickRoot ? TLanes::QuickRoot(square) : TLanes::SquareRoot(square);
+            const auto estimate = TLanes::Truncate(root);
+            fractions = TLanes::Least(fractions, TLanes::And(estimate, TLanes::SetInteger(c_nDoubtMask)));
+            pixels = TLanes::Or(pixels, InPlace<TLanes, nShift>(estimate));
+        }
+    }
+
+    template <bool bGrows, int nShift>
+    static void AddComponent(const SRamp& ramp, Floats x, Integers& pixels)
+    {
+        if constexpr (bGrows)
+            pixels = TLanes::Or(pixels, TLanes::template ShiftLeft<nShift>(Component<TLanes>(ramp, x)));
+    }
+
+    Integers InAllSteps(Floats x) const
+    {
+        auto pixels = m_base;
+        AddComponent<c_bRed, c_nRedShift>(m_arrRamps[0], x, pixels);
+        AddComponent<c_bGreen, c_nGreenShift>(m_arrRamps[1], x, pixels);
+        AddComponent<c_bBlue, c_nBlueShift>(m_arrRamps[2], x, pixels);
         return pixels;
-    pixels = base;
-    AddComponent<TLanes, bRed, c_nRedShift>(arrRamps[0], x, pixels);
-    AddComponent<TLanes, bGreen, c_nGreenShift>(arrRamps[1], x, pixels);
-    AddComponent<TLanes, bBlue, c_nBlueShift>(arrRamps[2], x, pixels);
-    return pixels;
+    }
+
+    const SRamp* m_arrRamps;
+    Integers m_base;
+    SRampLanes<TLanes> m_red;
+    SRampLanes<TLanes> m_green;
+    SRampLanes<TLanes> m_blue;
+};
+
+/// How often all lanes fit into the row until nothing of the piece is left.
+template <class TLanes>
+int WholeSteps(int nWidth, const SRowPiece& piece)
+{
+    const int nNeeded = (piece.nRight - piece.nLeft + TLanes::c_nCount - 1) / TLanes::c_nCount;
+    const int nRoom = (nWidth - piece.nLeft) / TLanes::c_nCount;
+    return nNeeded < nRoom ? nNeeded : nRoom;
 }
 
 template <class TLanes, unsigned int nGrowing>
 void PaintGrowing(std::uint32_t* pRow, int nWidth, const SRamp* arrRamps, const SRowPiece& piece)
 {
-    const auto base = TLanes::SetInteger(piece.nBase);
+    const CGrowingPixels<TLanes, nGrowing> pixels(arrRamps, piece.nBase);
     auto x = TLanes::From(piece.nLeft);
-    int nX = piece.nLeft;
-    for (; nX < piece.nRight && nX + TLanes::c_nCount <= nWidth; nX += TLanes::c_nCount) {
-        TLanes::Store(pRow + nX, Pixels<TLanes, nGrowing>(arrRamps, base, x));
+    std::uint32_t* pPixel = pRow + piece.nLeft;
+    std::uint32_t* const pWhole = pPixel + WholeSteps<TLanes>(nWidth, piece) * TLanes::c_nCount;
+    for (; pPixel != pWhole; pPixel += TLanes::c_nCount) {
+        TLanes::Store(pPixel, pixels.At(x));
         x = TLanes::Add(x, TLanes::Set(float(TLanes::c_nCount)));
     }
-    if (nX >= piece.nRight)
+    if (pPixel >= pRow + piece.nRight)
         return;
     // At the right edge there is no room for all lanes.
     std::uint32_t arrLast[TLanes::c_nCount];
-    TLanes::Store(arrLast, Pixels<TLanes, nGrowing>(arrRamps, base, x));
-    for (int i = 0; nX + i < piece.nRight; ++i)
-        pRow[nX + i] = arrLast[i];
+    TLanes::Store(arrLast, pixels.At(x));
+    for (int i = 0; pPixel + i < pRow + piece.nRight; ++i)
+        pPixel[i] = arrLast[i];
 }
 
 template <class TLanes>

@@ -17,18 +17,26 @@ struct SPlainLane
     static Floats Multiply(Floats first, Floats second) { return first * second; }
     static Floats Divide(Floats first, Floats second) { return first / second; }
     static Floats SquareRoot(Floats value) { return std::sqrt(value); }
+    static constexpr float c_fQuickFactor = 1.0F;
+    static Floats QuickRoot(Floats value) { return SquareRoot(value); }
     static Floats Absolute(Floats value) { return std::fabs(value); }
-    /// The values are above -1 and far below the range's end.
-    static Integers Truncate(Floats value) { return std::uint32_t(std::int32_t(value)); }
+    /// The values are far below the range's end; 0 for what is no number.
+    static Integers Truncate(Floats value) { return value > 0.0F ? std::uint32_t(std::int32_t(value)) : 0; }
     static Integers SetInteger(std::uint32_t nValue) { return nValue; }
     static Integers Or(Integers first, Integers second) { return first | second; }
-    static Integers Xor(Integers first, Integers second) { return first ^ second; }
+    static Integers And(Integers first, Integers second) { return first & second; }
+    static Integers Least(Integers first, Integers second) { return first < second ? first : second; }
     template <int nShift>
     static Integers ShiftLeft(Integers value)
     {
         return value << nShift;
     }
-    static bool IsZero(Integers value) { return value == 0; }
+    template <int nShift>
+    static Integers ShiftRight(Integers value)
+    {
+        return value >> nShift;
+    }
+    static bool IsAnyZero(Integers value) { return value == 0; }
     static void Store(std::uint32_t* pPixels, Integers pixels) { *pPixels = pixels; }
 };
 

@@ -17,20 +17,28 @@ struct SSse2Lanes
     static Floats Multiply(Floats first, Floats second) { return _mm_mul_ps(first, second); }
     static Floats Divide(Floats first, Floats second) { return _mm_div_ps(first, second); }
     static Floats SquareRoot(Floats value) { return _mm_sqrt_ps(value); }
+    static constexpr float c_fQuickFactor = 1.0F;
+    static Floats QuickRoot(Floats value) { return SquareRoot(value); }
     static Floats Absolute(Floats value) { return _mm_andnot_ps(Set(-0.0F), value); }
     static Integers Truncate(Floats value) { return _mm_cvttps_epi32(value); }
     static Integers SetInteger(std::uint32_t nValue) { return _mm_set1_epi32(int(nValue)); }
     static Integers Or(Integers first, Integers second) { return _mm_or_si128(first, second); }
-    static Integers Xor(Integers first, Integers second) { return _mm_xor_si128(first, second); }
+    static Integers And(Integers first, Integers second) { return _mm_and_si128(first, second); }
+    /// Of values below 2^15.
+    static Integers Least(Integers first, Integers second) { return _mm_min_epi16(first, second); }
     template <int nShift>
     static Integers ShiftLeft(Integers value)
     {
         return _mm_slli_epi32(value, nShift);
     }
-    static bool IsZero(Integers value)
+    template <int nShift>
+    static Integers ShiftRight(Integers value)
     {
-        constexpr int c_nAllBytes = 0xFFFF;
-        return _mm_movemask_epi8(_mm_cmpeq_epi8(value, _mm_setzero_si128())) == c_nAllBytes;
+        return _mm_srli_epi32(value, nShift);
+    }
+    static bool IsAnyZero(Integers value)
+    {
+        return _mm_movemask_epi8(_mm_cmpeq_epi32(value, _mm_setzero_si128())) != 0;
     }
     static void Store(std::uint32_t* pPixels, Integers pixels)
     {

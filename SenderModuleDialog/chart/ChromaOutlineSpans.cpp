@@ -12,10 +12,20 @@ using Point = CPointEx<float>;
 /// How close a pixel is to a vertex to be inside, in x and in y. A tolerance of the inside test's own.
 constexpr float c_fVertexReach = 0.0001F;
 
+/// `std::floor`, without the call that it is where the processor is not known to have an instruction for it.
+int Floor(float fValue)
+{
+    constexpr float c_fSurelyInt = 1073741824.0F;
+    if (!(std::fabs(fValue) < c_fSurelyInt))
+        return SaturateTo<int>(std::floor(fValue));
+    const int nWhole = int(fValue);
+    return nWhole - (float(nWhole) > fValue ? 1 : 0);
+}
+
 /// The first whole number above a height or an x.
 int FirstAbove(float fValue)
 {
-    const int nFloor = SaturateTo<int>(std::floor(fValue));
+    const int nFloor = Floor(fValue);
     return nFloor == std::numeric_limits<int>::max() ? nFloor : nFloor + 1;
 }
 
@@ -24,24 +34,64 @@ int FirstAtOrAbove(float fValue)
     return SaturateTo<int>(std::ceil(fValue));
 }
 
-/// Where an edge is at a height that it spans, in single precision.
-float EdgeX(Point ptEnd, Point ptStart, float fY)
+/// An edge and the rows that it spans: its lower end excluded, its upper end included.
+struct SEdge
 {
-    return (ptStart.x - ptEnd.x) * ((fY - ptEnd.y) / (ptStart.y - ptEnd.y)) + ptEnd.x;
+    Point ptEnd;
+    Point ptStart;
+    int nTop;
+    int nBottom; ///< the last row, which may be above the first
+};
+
+SEdge MakeEdge(Point ptEnd, Point ptStart, const QRect& rcBox)
+{
+    return {ptEnd, ptStart, std::max(FirstAbove(std::min(ptEnd.y, ptStart.y)), rcBox.top()),
+            std::min(Floor(std::max(ptEnd.y, ptStart.y)), rcBox.bottom())};
 }
 
-/// From which pixel on the edge counts in a row.
-int Threshold(Point ptEnd, Point ptStart, int nY)
+/// From which pixel on an edge counts in each row.
+class CThresholds
 {
-    return std::max(FirstAbove(EdgeX(ptEnd, ptStart, float(nY))),
-                    FirstAtOrAbove(std::min(ptEnd.x, ptStart.x)));
+public:
+    explicit CThresholds(const SEdge& edge)
+        : m_edge(edge)
+        , m_nLeast(FirstAtOrAbove(std::min(edge.ptEnd.x, edge.ptStart.x)))
+    {}
+
+    int At(int nY) const { return std::max(FirstAbove(EdgeX(float(nY))), m_nLeast); }
+
+private:
+    /// Where the edge is at a height that it spans, in single precision.
+    float EdgeX(float fY) const
+    {
+        const Point ptEnd = m_edge.ptEnd;
+        const Point ptStart = m_edge.ptStart;
+        return (ptStart.x - ptEnd.x) * ((fY - ptEnd.y) / (ptStart.y - ptEnd.y)) + ptEnd.x;
+    }
+
+    SEdge m_edge;
+    int m_nLeast;
+};
+
+/// Calls `func(edge)` for each edge of an outline.
+template <class TFunc>
+void ForEachEdge(const std::vector<Point>& vecOutline, const QRect& rcBox, const TFunc& func)
+{
+    for (size_t i = 0; i < vecOutline.size(); ++i)
+        func(MakeEdge(vecOutline[i], vecOutline[i == 0 ? vecOutline.size() - 1 : i - 1], rcBox));
 }
 
 /// Sorts a row's thresholds: hardly ever more than two.
 void SortFew(int* pBegin, int* pEnd)
 {
-    for (int* pNext = pBegin; pNext != pEnd; ++pNext)
-        std::rotate(std::upper_bound(pBegin, pNext, *pNext), pNext, pNext + 1);
+    if (pEnd - pBegin != 2) {
+        std::sort(pBegin, pEnd);
+        return;
+    }
+    const int nFirst = pBegin[0];
+    const int nSecond = pBegin[1];
+    pBegin[0] = std::min(nFirst, nSecond);
+    pBegin[1] = std::max(nFirst, nSecond);
 }
 
 } // namespace
@@ -54,34 +104,24 @@ CChromaOutlineSpans::CChromaOutlineSpans(const Outline& vecOutline, const QRect&
     CollectVertexPixels(vecOutline);
 }
 
-/// Calls `func(row of the box, threshold)` for each edge and each row that it spans: its lower end excluded,
-/// its upper end included.
-template <class TFunc>
-void CChromaOutlineSpans::ForEachThreshold(const Outline& vecOutline, const TFunc& func) const
-{
-    for (size_t i = 0; i < vecOutline.size(); ++i) {
-        const Point ptEnd = vecOutline[i];
-        const Point ptStart = vecOutline[i == 0 ? vecOutline.size() - 1 : i - 1];
-        const int nTop = std::max(FirstAbove(std::min(ptEnd.y, ptStart.y)), m_rcBox.top());
-        const int nBottom =
-            std::min(SaturateTo<int>(std::floor(std::max(ptEnd.y, ptStart.y))), m_rcBox.bottom());
-        for (int nY = nTop; nY <= nBottom; ++nY)
-            func(size_t(nY - m_rcBox.top()), ptEnd, ptStart, nY);
-    }
-}
-
 void CChromaOutlineSpans::CollectThresholds(const Outline& vecOutline)
 {
     // Each row's count is taken two places behind, summed up to where the next row begins, and counted up to
     // where its own ends while the thresholds are filled in.
     std::vector<size_t>& vecNext = m_vecFirst;
+    const int nFirstRow = m_rcBox.top();
     vecNext.push_back(0);
-    ForEachThreshold(vecOutline, [&vecNext](size_t nRow, Point, Point, int) { ++vecNext[nRow + 2]; });
+    ForEachEdge(vecOutline, m_rcBox, [&vecNext, nFirstRow](const SEdge& edge) {
+        for (int nY = edge.nTop; nY <= edge.nBottom; ++nY)
+            ++vecNext[size_t(nY - nFirstRow) + 2];
+    });
     for (size_t i = 1; i < vecNext.size(); ++i)
         vecNext[i] += vecNext[i - 1];
     m_vecThresholds.resize(vecNext.back());
-    ForEachThreshold(vecOutline, [this, &vecNext](size_t nRow, Point ptEnd, Point ptStart, int nY) {
-        m_vecThresholds[vecNext[nRow + 1]++] = Threshold(ptEnd, ptStart, nY);
+    ForEachEdge(vecOutline, m_rcBox, [this, &vecNext, nFirstRow](const SEdge& edge) {
+        const CThresholds thresholds(edge);
+        for (int nY = edge.nTop; nY <= edge.nBottom; ++nY)
+            m_vecThresholds[vecNext[size_t(nY - nFirstRow) + 1]++] = thresholds.At(nY);
     });
     vecNext.pop_back();
     for (size_t i = 0; i + 1 < m_vecFirst.size(); ++i)

@@ -32,8 +32,6 @@ private:
     using Outline = std::vector<CPointEx<float>>;
 
     size_t First(int nY) const { return m_vecFirst[size_t(nY - m_rcBox.top())]; }
-    template <class TFunc>
-    void ForEachThreshold(const Outline& vecOutline, const TFunc& func) const;
     void CollectThresholds(const Outline& vecOutline);
     void CollectVertexPixels(const Outline& vecOutline);
 
