@@ -2,6 +2,7 @@
 
 #include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/chart/CctCurve.h"
+#include "SenderModuleDialog/chart/ChartKeptDrawings.h"
 #include "SenderModuleDialog/chart/ChartSharpBitmap.h"
 #include "SenderModuleDialog/chart/ChartSolver.h"
 #include "SenderModuleDialog/chart/ChartStaticLayer.h"
@@ -67,6 +68,7 @@ CChromaticityDlgWnd::CChromaticityDlgWnd(QWidget* parent)
     , m_pDesk(std::make_unique<CChromaBitmapDesk>())
     , m_pSharp(std::make_unique<SChartSharpBitmap>())
     , m_pStaticLayer(std::make_unique<CChartStaticLayer>())
+    , m_pKept(std::make_unique<CChartKeptDrawings>())
 {
     m_pCct = new CCCT2ColorCoord;
     m_pGamut = new CChromaGamutInterpolation;

@@ -19,6 +19,7 @@
 
 class CCCT2ColorCoord;
 class CCctCurve;
+class CChartKeptDrawings;
 class CChartSolver;
 class CChartStaticLayer;
 class CChromaBitmapDesk;
@@ -323,6 +324,7 @@ private:
     std::unique_ptr<CChromaBitmapDesk> m_pDesk;        ///< what the threads that paint bitmaps agree by
     std::unique_ptr<SChartSharpBitmap> m_pSharp;       ///< for screens with more device pixels than pixels
     std::unique_ptr<CChartStaticLayer> m_pStaticLayer; ///< the layers that stay the same from paint to paint
+    std::unique_ptr<CChartKeptDrawings> m_pKept;       ///< small drawings that stay the same, on top of them
 };
 
 #endif // SENDERMODULEDIALOG_CHART_CCHROMATICITYDLGWND_H

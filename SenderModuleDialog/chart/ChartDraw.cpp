@@ -1,5 +1,7 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "SenderModuleDialog/chart/ChartKeptDrawings.h"
 #include "SenderModuleDialog/chart/ChartStaticLayer.h"
+#include "SenderModuleDialog/chart/ChartSurface.h"
 #include "host/OrviControl/Style.h"
 
 #include <QImage>
@@ -31,13 +33,17 @@ void CChromaticityDlgWnd::Draw(QPainter& painter)
                                                  m_nGridAlpha, m_fMarginX,      m_fMarginY,
                                                  m_fScale,     GetFontFamily(), boundary};
     const auto funcPaint = [this, &imgBitmap](QPainter& target) { DrawStaticLayers(target, imgBitmap); };
-    if (!m_pStaticLayer->Show(painter, content, funcPaint))
+    const CChartSurface surface(painter);
+    if (m_pStaticLayer->Show(painter, surface, content, funcPaint))
+        m_pKept->Begin(surface, m_rcChart, m_pStaticLayer->Key());
+    else
         funcPaint(painter);
     DrawTipsString(painter);
     DrawCrossLine(painter);
     DrawCCTLine(painter);
     DrawChromTriangle(painter);
     DrawChromNote(painter);
+    m_pKept->End();
     DrawFrame(painter);
 }
 

@@ -3,13 +3,13 @@
 #include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/Saturate.h"
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
+#include "SenderModuleDialog/chart/ChartKeptDrawings.h"
 #include "SenderModuleDialog/chart/ChromaPalette.h"
 #include "SenderModuleDialog/geometry/CalcChromaRatio.h"
 #include "host/OrviControl/CustomDialog.h"
 
 #include <QColor>
 #include <QFont>
-#include <QFontMetrics>
 #include <QPainter>
 #include <QPen>
 
@@ -21,6 +21,7 @@ namespace {
 
 using ChartOverlay::CDotRadii;
 using ChartOverlay::CGroupMap;
+using ChartOverlay::SChartFrame;
 using ChartOverlay::SHeldPoint;
 
 /// A dot's radius is the scale over this; the held one is larger, one that may not be moved smaller.
@@ -47,6 +48,11 @@ constexpr double c_dLegendRowGap = 10.0;
 constexpr qreal c_dLegendLineWidth = 2.0;
 constexpr qreal c_dLegendDash = 2.0;
 constexpr int c_nRedByteMax = 255;
+
+/// How far beyond their places drawings touch pixels: at least half a pen's width, and a pixel.
+constexpr double c_dDiscReach = 3.0;
+constexpr double c_dLegendSampleReach = 3.0;
+constexpr double c_dLegendTextReach = 2.0;
 
 /// The legend's two walks: one measures, one draws. They call the output colour space by two names of the
 /// same length, and that is meant.
@@ -118,14 +124,20 @@ void DrawGroupLines(QPainter& painter, const CChartMapping& mapping, const SChro
         DrawTriangle(painter, pt1 + pt2 - pt0, pt2 + pt0 - pt1, pt1 + pt0 - pt2);
 }
 
-void DrawColourDot(QPainter& painter, QPointF pt, float fRadius)
+void DrawDisc(QPainter& painter, CChartKeptDrawings& kept, const QRect& rcDisc)
 {
-    const int nSize = SaturateTo<int>(2.0F * fRadius);
-    painter.drawEllipse(SaturateTo<int>(pt.x() - double(fRadius)), SaturateTo<int>(pt.y() - double(fRadius)),
-                        nSize, nSize);
+    kept.Draw(painter, {rcDisc, c_dDiscReach, QString()}, [&] { painter.drawEllipse(rcDisc); });
 }
 
-void DrawColourDots(QPainter& painter, const CChartMapping& mapping, const SChromaGroupInfo& group,
+void DrawColourDot(QPainter& painter, CChartKeptDrawings& kept, QPointF pt, float fRadius)
+{
+    const int nSize = SaturateTo<int>(2.0F * fRadius);
+    DrawDisc(painter, kept,
+             QRect(SaturateTo<int>(pt.x() - double(fRadius)), SaturateTo<int>(pt.y() - double(fRadius)),
+                   nSize, nSize));
+}
+
+void DrawColourDots(QPainter& painter, const SChartFrame& frame, const SChromaGroupInfo& group,
                     const CDotRadii& radii)
 {
     const QPen penMovable(Qt::white, c_dDotRim);
@@ -137,30 +149,32 @@ void DrawColourDots(QPainter& painter, const CChartMapping& mapping, const SChro
             continue;
         painter.setPen(group.*fields.pMove ? penMovable : penFixed);
         painter.setBrush(QBrush(pColors[i]));
-        DrawColourDot(painter, mapping.ToPixel(group.*fields.pPoint), radii[std::size_t(i)]);
+        DrawColourDot(painter, frame.kept, frame.mapping.ToPixel(group.*fields.pPoint),
+                      radii[std::size_t(i)]);
     }
 }
 
 // A disc in single precision, by its corner's offset and its size.
-void DrawWhiteDisc(QPainter& painter, CPointEx<float> pt, float fOffset, float fSize)
+void DrawWhiteDisc(QPainter& painter, CChartKeptDrawings& kept, CPointEx<float> pt, float fOffset,
+                   float fSize)
 {
     const int nSize = SaturateTo<int>(fSize);
-    painter.drawEllipse(SaturateTo<int>(pt.x - fOffset), SaturateTo<int>(pt.y - fOffset), nSize, nSize);
+    DrawDisc(painter, kept,
+             QRect(SaturateTo<int>(pt.x - fOffset), SaturateTo<int>(pt.y - fOffset), nSize, nSize));
 }
 
 // A disc in the group's colour with a white one in it. Its rim is white whether or not the point may be
 // moved.
-void DrawWhiteDot(QPainter& painter, const CChartMapping& mapping, const SChromaGroupInfo& group,
-                  float fRadius)
+void DrawWhiteDot(QPainter& painter, const SChartFrame& frame, const SChromaGroupInfo& group, float fRadius)
 {
-    const QPointF ptPixel = mapping.ToPixel(group.ptWhite);
+    const QPointF ptPixel = frame.mapping.ToPixel(group.ptWhite);
     const CPointEx<float> pt(float(ptPixel.x()), float(ptPixel.y()));
     painter.setPen(QPen(Qt::white, c_dWhiteDotRim));
     painter.setBrush(ColorOf(group));
-    DrawWhiteDisc(painter, pt, fRadius + 1.0F, 2.0F * (fRadius + 1.0F));
+    DrawWhiteDisc(painter, frame.kept, pt, fRadius + 1.0F, 2.0F * (fRadius + 1.0F));
     painter.setPen(Qt::white);
     painter.setBrush(Qt::white);
-    DrawWhiteDisc(painter, pt, (fRadius - 1.0F) / 2.0F, fRadius - 1.0F);
+    DrawWhiteDisc(painter, frame.kept, pt, (fRadius - 1.0F) / 2.0F, fRadius - 1.0F);
 }
 
 std::vector<CPointEx<float>> StoredTriangle(const SChromaGroupInfo& group)
@@ -196,11 +210,11 @@ void ForEachNote(CGroupMap& mapGroups, enLegendWalk walk, TAction action)
     }
 }
 
-int WidestNote(CGroupMap& mapGroups, const QFontMetrics& metrics)
+int WidestNote(CGroupMap& mapGroups, const QFont& font, CChartKeptDrawings& kept)
 {
     int nWidest = 0;
     ForEachNote(mapGroups, enMeasureWalk, [&](const SChromaGroupInfo&, const QString& strText) {
-        nWidest = std::max(nWidest, metrics.boundingRect(strText).width());
+        nWidest = std::max(nWidest, kept.TextWidth(font, strText));
     });
     return nWidest;
 }
@@ -225,22 +239,22 @@ float DotRadius(const CChartMapping& mapping)
     return mapping.Scale() / c_fDotDivisor;
 }
 
-void DrawGroups(QPainter& painter, const CChartMapping& mapping, const CGroupMap& mapGroups,
+void DrawGroups(QPainter& painter, const SChartFrame& frame, const CGroupMap& mapGroups,
                 const SHeldPoint& held, CDotRadii& radii)
 {
     int nPainted = 0;
     for (auto it = mapGroups.constBegin(); it != mapGroups.constEnd() && it.value() != nullptr; ++it) {
         SChromaGroupInfo& group = *it.value();
-        SetRadii(radii, DotRadius(mapping), held, it.key());
+        SetRadii(radii, DotRadius(frame.mapping), held, it.key());
         if (!group.bVisible)
             continue;
         ShrinkFixedPoints(radii, group);
         if (!group.bOwnColor)
             TakePaletteColor(group, nPainted);
-        DrawGroupLines(painter, mapping, group);
-        DrawColourDots(painter, mapping, group, radii);
+        DrawGroupLines(painter, frame.mapping, group);
+        DrawColourDots(painter, frame, group, radii);
         if (group.bShowWhiteDot)
-            DrawWhiteDot(painter, mapping, group, radii[enWhitePoint]);
+            DrawWhiteDot(painter, frame, group, radii[enWhitePoint]);
         ++nPainted;
     }
 }
@@ -268,7 +282,7 @@ void DrawLegend(QPainter& painter, const SChartFrame& frame, CGroupMap& mapGroup
     painter.setFont(font);
 
     const double dRatio = double(fTextRatio);
-    const int nWidest = WidestNote(mapGroups, QFontMetrics(font));
+    const int nWidest = WidestNote(mapGroups, font, frame.kept);
     const double dX = c_dLegendAxisSpan * double(frame.mapping.Scale()) + double(frame.mapping.MarginX()) -
                       nWidest - c_dLegendIndent * dRatio;
     const int nFirstRow = (nWidgetHeight - 1) / c_nLegendHeightDivisor;
@@ -277,11 +291,15 @@ void DrawLegend(QPainter& painter, const SChartFrame& frame, CGroupMap& mapGroup
         if (strText.isEmpty())
             return;
         painter.setPen(Qt::white);
-        painter.drawText(QPointF(dX + c_dLegendTextX * dRatio, dY + c_dLegendTextY * dRatio), strText);
+        const QPointF ptText(dX + c_dLegendTextX * dRatio, dY + c_dLegendTextY * dRatio);
+        frame.kept.Draw(painter, {QRectF(ptText, QSizeF(0.0, 0.0)), c_dLegendTextReach, strText},
+                        [&] { painter.drawText(ptText, strText); });
         painter.setPen(SamplePen(group));
         const int nY = SaturateTo<int>(dY);
-        painter.drawLine(SaturateTo<int>(dX - c_dLegendSample * dRatio), nY,
-                         SaturateTo<int>(dX + c_dLegendSample * dRatio), nY);
+        const QLine sample(SaturateTo<int>(dX - c_dLegendSample * dRatio), nY,
+                           SaturateTo<int>(dX + c_dLegendSample * dRatio), nY);
+        frame.kept.Draw(painter, {QRectF(sample.p1(), sample.p2()), c_dLegendSampleReach, QString()},
+                        [&] { painter.drawLine(sample); });
         dY += nFontSize + c_dLegendRowGap * dRatio;
     });
 }

@@ -30,7 +30,7 @@ float DotRadius(const CChartMapping& mapping);
 
 /// The groups' triangles and dots, in key order up to the first empty entry. A group without a colour of its
 /// own takes one from the palette, which is written into it.
-void DrawGroups(QPainter& painter, const CChartMapping& mapping, const CGroupMap& mapGroups,
+void DrawGroups(QPainter& painter, const SChartFrame& frame, const CGroupMap& mapGroups,
                 const SHeldPoint& held, CDotRadii& radii);
 
 /// How much of the output colour space the screen's covers, in whole percent; -1 unless both groups are there

@@ -2,6 +2,7 @@
 
 #include "SenderModuleDialog/Saturate.h"
 #include "SenderModuleDialog/chart/CctCurve.h"
+#include "SenderModuleDialog/chart/ChartKeptDrawings.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
 
 #include <QColor>
@@ -59,6 +60,12 @@ constexpr QChar c_charTemperatureFill(0x02);
 
 /// Cross hair.
 constexpr QColor c_colorCross(255, 240, 240, 240);
+
+/// How far the curve's line touches pixels beyond its points.
+constexpr double c_dCurveReach = 3.0;
+
+/// Texts are cut at their boxes, but for a pixel that the box has a part of.
+constexpr double c_dTextReach = 1.0;
 
 /// Box of a tick's label, in font sizes.
 constexpr double c_dCctLabelWidth = 4.0;
@@ -174,11 +181,11 @@ QString TemperatureText(QPointF ptChromaticity, QPointF ptD65, const CCCT2ColorC
                                      c_charTemperatureFill);
 }
 
-void DrawCross(QPainter& painter, const QRect& rcChart, QPoint pt)
+void DrawCross(QPainter& painter, const SChartFrame& frame, QPoint pt)
 {
     painter.setPen(QPen(c_colorCross, 1.0));
-    painter.drawLine(0, pt.y(), rcChart.width(), pt.y());
-    painter.drawLine(pt.x(), 0, pt.x(), rcChart.height());
+    frame.kept.DrawLineAcross(painter, QLine(0, pt.y(), frame.rcChart.width(), pt.y()));
+    frame.kept.DrawLineAcross(painter, QLine(pt.x(), 0, pt.x(), frame.rcChart.height()));
 }
 
 void DrawCctCurve(QPainter& painter, const SChartFrame& frame, CCctCurve& curve)
@@ -186,7 +193,8 @@ void DrawCctCurve(QPainter& painter, const SChartFrame& frame, CCctCurve& curve)
     curve.SetMapping(frame.mapping);
     const QPen penCurve(Qt::black, 1.0);
     painter.setPen(penCurve);
-    painter.drawPath(curve.Path());
+    frame.kept.Draw(painter, {curve.Path().controlPointRect(), c_dCurveReach, QString()},
+                    [&] { painter.drawPath(curve.Path()); });
     for (const CCctCurve::STick& tick : curve.Ticks()) {
         painter.setPen(penCurve);
         painter.drawLine(QLineF(tick.ptFoot, tick.ptEnd));
@@ -202,7 +210,9 @@ void DrawCctLabel(QPainter& painter, const SChartFrame& frame, QPointF pt, int n
     const int nIndent = nFontSize / 2;
     const QRectF rcLabel(pt.x() + nIndent, pt.y(), c_dCctLabelWidth * nFontSize,
                          c_dCctLabelHeight * nFontSize);
-    painter.drawText(rcLabel, QString::number(nTemperature), QTextOption());
+    const QString strText = QString::number(nTemperature);
+    frame.kept.Draw(painter, {rcLabel, c_dTextReach, strText},
+                    [&] { painter.drawText(rcLabel, strText, QTextOption()); });
 }
 
 QRectF StandardBox(const CChartMapping& mapping, QSize sizeWidget)

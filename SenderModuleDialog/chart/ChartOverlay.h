@@ -12,6 +12,7 @@
 
 class CCCT2ColorCoord;
 class CCctCurve;
+class CChartKeptDrawings;
 class QPainter;
 
 /// The layers that are painted over the chart's bitmap, one function each, from plain values. What a layer
@@ -23,8 +24,9 @@ namespace ChartOverlay {
 struct SChartFrame
 {
     CChartMapping mapping;
-    QRect rcChart;         ///< (0, 0) to (width - 1, height - 1)
-    QString strFontFamily; ///< the host's font
+    QRect rcChart;            ///< (0, 0) to (width - 1, height - 1)
+    QString strFontFamily;    ///< the host's font
+    CChartKeptDrawings& kept; ///< does what a layer draws, or copies it
 };
 
 /// The point that the tips and the cross show.
@@ -50,7 +52,7 @@ void DrawTips(QPainter& painter, const SChartFrame& frame, const STips& tips);
 QString TemperatureText(QPointF ptChromaticity, QPointF ptD65, const CCCT2ColorCoord& cct);
 
 /// The cross hair through a widget pixel.
-void DrawCross(QPainter& painter, const QRect& rcChart, QPoint pt);
+void DrawCross(QPainter& painter, const SChartFrame& frame, QPoint pt);
 
 /// The curve of colour temperatures with its ticks and their labels.
 void DrawCctCurve(QPainter& painter, const SChartFrame& frame, CCctCurve& curve);

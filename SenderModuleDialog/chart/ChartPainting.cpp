@@ -34,7 +34,7 @@ QPoint Truncated(QPointF pt)
 
 ChartOverlay::SChartFrame CChromaticityDlgWnd::Frame() const
 {
-    return {Mapping(), m_rcChart, GetFontFamily()};
+    return {Mapping(), m_rcChart, GetFontFamily(), *m_pKept};
 }
 
 void CChromaticityDlgWnd::DrawBorder(QPainter& painter)
@@ -81,7 +81,7 @@ void CChromaticityDlgWnd::DrawCrossLine(QPainter& painter)
     // The mouse decides, during a drag too, where the cross stands at the point.
     const CPointEx<float> ptMouse(float(m_ptMouse.x()), float(m_ptMouse.y()));
     if (ChartGeometry::IsInOutline(ptMouse, m_pBoundaryPxF, BoundaryCount()))
-        ChartOverlay::DrawCross(painter, m_rcChart, CrossPlace());
+        ChartOverlay::DrawCross(painter, Frame(), CrossPlace());
 }
 
 void CChromaticityDlgWnd::DrawCCTLine(QPainter& painter)
@@ -96,14 +96,14 @@ void CChromaticityDlgWnd::DrawCCTLineString(QPainter& painter, float /*fValue*/,
 
 void CChromaticityDlgWnd::DrawChromTriangle(QPainter& painter)
 {
-    const CChartMapping mapping = Mapping();
-    const float fRadius = ChartOverlay::DotRadius(mapping);
+    const ChartOverlay::SChartFrame frame = Frame();
+    const float fRadius = ChartOverlay::DotRadius(frame.mapping);
     // All charts of the process share the radii, and they are carried from paint to paint.
     static ChartOverlay::CDotRadii s_radii = {fRadius, fRadius, fRadius, fRadius};
     const ChartOverlay::SHeldPoint held = m_bPressed && m_bDragging
                                               ? ChartOverlay::SHeldPoint{m_nHoverGroup, m_nHoverPoint}
                                               : ChartOverlay::SHeldPoint{};
-    ChartOverlay::DrawGroups(painter, mapping, m_mapGroups, held, s_radii);
+    ChartOverlay::DrawGroups(painter, frame, m_mapGroups, held, s_radii);
 }
 
 void CChromaticityDlgWnd::DrawChromNote(QPainter& painter)

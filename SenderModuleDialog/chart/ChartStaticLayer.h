@@ -1,6 +1,8 @@
 #ifndef SENDERMODULEDIALOG_CHART_CHARTSTATICLAYER_H
 #define SENDERMODULEDIALOG_CHART_CHARTSTATICLAYER_H
 
+#include "SenderModuleDialog/chart/ChartSurface.h"
+
 #include <QBrush>
 #include <QByteArray>
 #include <QColor>
@@ -39,32 +41,21 @@ public:
     /// Paints the layers, and leaves the painter as it leaves it.
     using FuncPaint = std::function<void(QPainter&)>;
 
-    /// Shows the layers on the painter's device and leaves the painter as `funcPaint` would have.
-    /// @return false, with nothing done, where a copy is not sure to give the same pixels: on devices that
-    /// are no
-    ///         32-bit raster images, under a clip, an opacity, a composition mode or a transformation other
-    ///         than whole pixels, and over a background that lets something through
-    bool Show(QPainter& painter, const SContent& content, const FuncPaint& funcPaint);
+    /// Shows the layers on the painter's surface and leaves the painter as `funcPaint` would have.
+    /// @return false, with nothing done, where a copy is not sure to give the same pixels: on a surface that
+    ///         takes no copies, and over a background that lets something through
+    bool Show(QPainter& painter, const CChartSurface& surface, const SContent& content,
+              const FuncPaint& funcPaint);
+
+    /// Tells the kept picture from every other one.
+    qint64 Key() const { return m_image.cacheKey(); }
 
 private:
-    /// What of the painter and its device the picture depends on.
-    struct SSurface
-    {
-        QImage::Format format = QImage::Format_Invalid;
-        double dRatio = 1.0; ///< device pixels per pixel
-        QPainter::RenderHints hints;
-        QFont font;
-        Qt::LayoutDirection direction = Qt::LayoutDirectionAuto;
-
-        bool operator==(const SSurface& other) const;
-    };
-
-    static bool CanCopyTo(const QPainter& painter, const QImage* pTarget);
-    void Repaint(const SContent& content, const SSurface& surface, const FuncPaint& funcPaint);
+    void Repaint(const SContent& content, const CChartSurface::SState& state, const FuncPaint& funcPaint);
     void CopyTo(QPainter& painter) const;
 
     SContent m_content;
-    SSurface m_surface;
+    CChartSurface::SState m_state;
     QImage m_image; ///< null until something was painted
     QPen m_pen;     ///< what the painter is left with
     QBrush m_brush;

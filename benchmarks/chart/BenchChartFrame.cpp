@@ -8,6 +8,7 @@
 #include <QApplication>
 
 #include <algorithm>
+#include <cmath>
 #include <ctime>
 #include <memory>
 #include <vector>
@@ -21,7 +22,10 @@
 
 namespace {
 
+/// The mouse goes round in the middle of the diagram, through both triangles.
 constexpr int c_nMouseSteps = 40;
+constexpr QPointF c_ptMouseCentre(0.33, 0.35);
+constexpr double c_dMouseRadius = 0.2;
 
 void AddGroup(CChromaticityDlgWnd& chart, int nKey, enColorStandard standard)
 {
@@ -68,8 +72,9 @@ private:
     void MoveMouse()
     {
         m_nStep = (m_nStep + 1) % c_nMouseSteps;
-        const QPointF ptInside = m_chart.Mapping().ToPixel(QPointF(0.3, 0.35));
-        m_chart.m_ptMouse = ptInside.toPoint() + QPoint(m_nStep, 2 * m_nStep);
+        const double dAngle = 2.0 * M_PI * m_nStep / c_nMouseSteps;
+        const QPointF ptAround(c_dMouseRadius * std::cos(dAngle), c_dMouseRadius * std::sin(dAngle));
+        m_chart.m_ptMouse = m_chart.Mapping().ToPixel(c_ptMouseCentre + ptAround).toPoint();
     }
 
     CChromaticityDlgWnd m_chart{nullptr};

@@ -1,0 +1,77 @@
+#include "SenderModuleDialog/chart/ChartSurface.h"
+
+#include <QPaintEngine>
+#include <QRegion>
+#include <QTransform>
+
+#include <cmath>
+#include <tuple>
+
+namespace {
+
+/// The raster image that the painter paints into; null if there is none.
+const QImage* TargetImage(const QPainter& painter)
+{
+    const QPaintEngine* pEngine = painter.paintEngine();
+    if (pEngine == nullptr || pEngine->type() != QPaintEngine::Raster)
+        return nullptr;
+    const QPaintDevice* pDevice = pEngine->paintDevice();
+    return pDevice != nullptr && pDevice->devType() == QInternal::Image ? static_cast<const QImage*>(pDevice)
+                                                                        : nullptr;
+}
+
+bool IsWhole(double dValue)
+{
+    return dValue == std::floor(dValue);
+}
+
+/// The formats in which opaque pixels are the same 32 bits, and are blended by the same arithmetic.
+bool IsUsualFormat(QImage::Format format)
+{
+    return format == QImage::Format_RGB32 || format == QImage::Format_ARGB32 ||
+           format == QImage::Format_ARGB32_Premultiplied;
+}
+
+bool IsMovedByWholePixels(const QTransform& transform, double dRatio)
+{
+    return transform.type() <= QTransform::TxScale && transform.m11() == dRatio &&
+           transform.m22() == dRatio && IsWhole(transform.dx()) && IsWhole(transform.dy());
+}
+
+bool CanCopyTo(const QPainter& painter, const QImage* pImage)
+{
+    return pImage != nullptr && IsUsualFormat(pImage->format()) && IsWhole(pImage->devicePixelRatioF()) &&
+           IsMovedByWholePixels(painter.deviceTransform(), pImage->devicePixelRatioF()) &&
+           !painter.hasClipping() && painter.opacity() == 1.0 &&
+           painter.compositionMode() == QPainter::CompositionMode_SourceOver;
+}
+
+/// A widget's painter is let into the part of the image that is to be updated.
+QRect PaintableRect(const QPainter& painter, const QImage& image)
+{
+    const QRegion regionSystem = painter.paintEngine()->systemClip();
+    if (regionSystem.isEmpty())
+        return image.rect();
+    return regionSystem.rectCount() == 1 ? regionSystem.boundingRect() & image.rect() : QRect();
+}
+
+} // namespace
+
+bool CChartSurface::SState::operator==(const SState& other) const
+{
+    return std::tie(format, dRatio, hints, font, direction) ==
+           std::tie(other.format, other.dRatio, other.hints, other.font, other.direction);
+}
+
+CChartSurface::CChartSurface(const QPainter& painter)
+{
+    const QImage* pImage = TargetImage(painter);
+    if (!CanCopyTo(painter, pImage))
+        return;
+    m_pImage = pImage;
+    m_state = {pImage->format(), pImage->devicePixelRatioF(), painter.renderHints(), painter.font(),
+               painter.layoutDirection()};
+    const QTransform& transform = painter.deviceTransform();
+    m_ptOrigin = QPoint(qRound(transform.dx()), qRound(transform.dy()));
+    m_rcPaintable = PaintableRect(painter, *pImage);
+}
