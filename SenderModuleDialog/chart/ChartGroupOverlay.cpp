@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 namespace {
@@ -124,17 +125,22 @@ void DrawGroupLines(QPainter& painter, const CChartMapping& mapping, const SChro
         DrawTriangle(painter, pt1 + pt2 - pt0, pt2 + pt0 - pt1, pt1 + pt0 - pt2);
 }
 
-void DrawDisc(QPainter& painter, CChartKeptDrawings& kept, const QRect& rcDisc)
+// Where a place is beyond all pixels, the right and lower sides still have to be numbers.
+int DiscStart(double dStart, int nSize)
 {
+    return std::min(SaturateTo<int>(dStart), std::numeric_limits<int>::max() - std::max(nSize, 0));
+}
+
+void DrawDisc(QPainter& painter, CChartKeptDrawings& kept, QPointF ptCorner, int nSize)
+{
+    const QRect rcDisc(DiscStart(ptCorner.x(), nSize), DiscStart(ptCorner.y(), nSize), nSize, nSize);
     kept.Draw(painter, {rcDisc, c_dDiscReach, QString()}, [&] { painter.drawEllipse(rcDisc); });
 }
 
 void DrawColourDot(QPainter& painter, CChartKeptDrawings& kept, QPointF pt, float fRadius)
 {
-    const int nSize = SaturateTo<int>(2.0F * fRadius);
-    DrawDisc(painter, kept,
-             QRect(SaturateTo<int>(pt.x() - double(fRadius)), SaturateTo<int>(pt.y() - double(fRadius)),
-                   nSize, nSize));
+    const double dRadius = double(fRadius);
+    DrawDisc(painter, kept, pt - QPointF(dRadius, dRadius), SaturateTo<int>(2.0F * fRadius));
 }
 
 void DrawColourDots(QPainter& painter, const SChartFrame& frame, const SChromaGroupInfo& group,
@@ -158,9 +164,7 @@ void DrawColourDots(QPainter& painter, const SChartFrame& frame, const SChromaGr
 void DrawWhiteDisc(QPainter& painter, CChartKeptDrawings& kept, CPointEx<float> pt, float fOffset,
                    float fSize)
 {
-    const int nSize = SaturateTo<int>(fSize);
-    DrawDisc(painter, kept,
-             QRect(SaturateTo<int>(pt.x - fOffset), SaturateTo<int>(pt.y - fOffset), nSize, nSize));
+    DrawDisc(painter, kept, QPointF(double(pt.x - fOffset), double(pt.y - fOffset)), SaturateTo<int>(fSize));
 }
 
 // A disc in the group's colour with a white one in it. Its rim is white whether or not the point may be
