@@ -56,9 +56,12 @@ public:
     }
 };
 
+using FuncPrepare = std::function<void(CStage&)>;
+
 } // namespace
 
 Q_DECLARE_METATYPE(CStage::FuncChange)
+Q_DECLARE_METATYPE(FuncPrepare)
 
 class TestChartKeptDrawings : public QObject
 {
@@ -72,9 +75,8 @@ private Q_SLOTS:
     void ADrawingOnAnotherLayerIsDrawn();
     void ADrawingOverOtherPixelsIsDrawnAndItsForerunnerStaysKept();
     void ADrawingThatAlwaysMeetsOtherPixelsIsKeptOverThem();
-    void ADrawingThatReachesFartherThanSaidIsDrawn();
-    void ADrawingThatLeavesTheChartIsDrawn();
-    void ADrawingOnASharpScreenIsDrawn();
+    void WhatCannotBeCopiedIsDrawn_data();
+    void WhatCannotBeCopiedIsDrawn();
     void ADrawingBetweenFramesIsDrawn();
     void AFrameWithoutADrawingForgetsIt();
     void TextsAreAsWideAsTheirMetricsSay();
@@ -161,30 +163,25 @@ void TestChartKeptDrawings::ADrawingThatAlwaysMeetsOtherPixelsIsKeptOverThem()
     QCOMPARE(stage.nDrawn, nDrawn);
 }
 
-void TestChartKeptDrawings::ADrawingThatReachesFartherThanSaidIsDrawn()
+void TestChartKeptDrawings::WhatCannotBeCopiedIsDrawn_data()
 {
-    CStage stage;
-    stage.drawing.dReach = 0.0;
-    const QImage first = stage.Frame();
-    QVERIFY(stage.Frame() == first);
-    QCOMPARE(stage.nDrawn, 2);
+    QTest::addColumn<FuncPrepare>("prepare");
+    const auto AddRow = [](const char* szName, const FuncPrepare& funcPrepare) {
+        QTest::newRow(szName) << funcPrepare;
+    };
+    AddRow("reaches farther than said", [](CStage& stage) { stage.drawing.dReach = 0.0; });
+    AddRow("leaves the chart", [](CStage& stage) { stage.drawing.rcPlace = QRect(-5, 40, 20, 20); });
+    AddRow("on a sharp screen", [](CStage& stage) { stage.canvas.setDevicePixelRatio(2.0); });
+    AddRow("on pixels of another kind", [](CStage& stage) { stage.canvas = Canvas(QImage::Format_RGB888); });
 }
 
-void TestChartKeptDrawings::ADrawingThatLeavesTheChartIsDrawn()
+void TestChartKeptDrawings::WhatCannotBeCopiedIsDrawn()
 {
+    QFETCH(FuncPrepare, prepare);
     CStage stage;
-    stage.drawing.rcPlace = QRect(-5, 40, 20, 20);
+    prepare(stage);
     const QImage first = stage.Frame();
     QVERIFY(stage.Frame() == first);
-    QCOMPARE(stage.nDrawn, 2);
-}
-
-void TestChartKeptDrawings::ADrawingOnASharpScreenIsDrawn()
-{
-    CStage stage;
-    stage.canvas.setDevicePixelRatio(2.0);
-    stage.Frame();
-    stage.Frame();
     QCOMPARE(stage.nDrawn, 2);
 }
 
