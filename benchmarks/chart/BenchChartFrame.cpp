@@ -1,7 +1,4 @@
-#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
-#include "SenderModuleDialog/colour/ColourStandards.h"
-#include "tests/chart/PlainFrame.h"
-#include "tests/chart/PlainOverlays.h"
+#include "tests/chart/FrameTesting.h"
 
 #include <benchmark/benchmark.h>
 
@@ -27,18 +24,6 @@ constexpr int c_nMouseSteps = 40;
 constexpr QPointF c_ptMouseCentre(0.33, 0.35);
 constexpr double c_dMouseRadius = 0.2;
 
-void AddGroup(CChromaticityDlgWnd& chart, int nKey, enColorStandard standard)
-{
-    const SColourStandard& points = c_arrColourStandards[standard];
-    SChromaGroupInfo group;
-    group.ptRed = points.ptRed;
-    group.ptGreen = points.ptGreen;
-    group.ptBlue = points.ptBlue;
-    group.ptWhite = points.ptWhite;
-    group.nPenStyle = Qt::SolidLine;
-    chart.AddChromaGroupByIndex(nKey, group);
-}
-
 /// A chart, its oracle and an image to paint them into.
 class CStage
 {
@@ -48,8 +33,8 @@ public:
     {
         m_chart.resize(nWidth, nHeight);
         m_chart.SetSize(nWidth, nHeight);
-        AddGroup(m_chart, enOutputColorSpace, enStandardRec2020);
-        AddGroup(m_chart, enScreenColorSpace, enStandardSRGB);
+        FrameTesting::AddGroup(m_chart, enOutputColorSpace, enStandardRec2020, true);
+        FrameTesting::AddGroup(m_chart, enScreenColorSpace, enStandardSRGB, true);
         PaintFast();
         PaintPlain();
     }
