@@ -18,6 +18,7 @@ using ChromaBitmap::SRowPiece;
 
 /// The fraction of an estimate counted in `c_dParts`.
 constexpr int c_nFractionBits = 12;
+static_assert(ChromaBitmap::c_dParts == 1U << c_nFractionBits, "estimates are counted in these parts");
 /// An estimate is in doubt unless one of these bits of its fraction is set, that is less than 2^-11 above a
 /// whole number. Its roundings, the error of a quick root (2^-22) and the roundings of the full steps, each
 /// at most 2^-24 of the value or half of that behind the root, are below 2^-20 together, by which it is
