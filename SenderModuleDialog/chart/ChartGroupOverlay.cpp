@@ -53,7 +53,6 @@ constexpr int c_nRedByteMax = 255;
 /// How far beyond their places drawings touch pixels: at least half a pen's width, and a pixel.
 constexpr double c_dDiscReach = 3.0;
 constexpr double c_dLegendSampleReach = 3.0;
-constexpr double c_dLegendTextReach = 2.0;
 
 /// The legend's two walks: one measures, one draws. They call the output colour space by two names of the
 /// same length, and that is meant.
@@ -296,7 +295,7 @@ void DrawLegend(QPainter& painter, const SChartFrame& frame, CGroupMap& mapGroup
             return;
         painter.setPen(Qt::white);
         const QPointF ptText(dX + c_dLegendTextX * dRatio, dY + c_dLegendTextY * dRatio);
-        frame.kept.Draw(painter, {QRectF(ptText, QSizeF(0.0, 0.0)), c_dLegendTextReach, strText},
+        frame.kept.Draw(painter, CChartKeptDrawings::SDrawing::FreeText(ptText, strText),
                         [&] { painter.drawText(ptText, strText); });
         painter.setPen(SamplePen(group));
         const int nY = SaturateTo<int>(dY);

@@ -62,6 +62,16 @@ bool HaveSameRim(const QImage& first, const QImage& second)
 
 } // namespace
 
+CChartKeptDrawings::SDrawing CChartKeptDrawings::SDrawing::FreeText(QPointF ptStart, const QString& strText)
+{
+    return {QRectF(ptStart, QSizeF(0.0, 0.0)), 0.0, strText};
+}
+
+bool CChartKeptDrawings::SDrawing::IsFreeText() const
+{
+    return rcPlace.isNull() && !strText.isEmpty();
+}
+
 bool CChartKeptDrawings::SDrawing::operator==(const SDrawing& other) const
 {
     return std::tie(rcPlace, dReach, strText) == std::tie(other.rcPlace, other.dReach, other.strText);
@@ -89,8 +99,7 @@ void CChartKeptDrawings::End()
 
 QRect CChartKeptDrawings::Pixels(const QPainter& painter, const SDrawing& drawing) const
 {
-    const bool bFreeText = !drawing.strText.isEmpty() && drawing.rcPlace.size().isNull();
-    const QRectF rcPlace = bFreeText ? TextPlace(painter.fontMetrics(), drawing) : drawing.rcPlace;
+    const QRectF rcPlace = drawing.IsFreeText() ? TextPlace(painter.fontMetrics(), drawing) : drawing.rcPlace;
     const double dReach = drawing.dReach;
     const QRectF rcTouched = rcPlace.adjusted(-dReach, -dReach, dReach, dReach).translated(m_ptOrigin);
     return IsInside(rcTouched, m_rcPixels) ? rcTouched.toAlignedRect() : QRect();

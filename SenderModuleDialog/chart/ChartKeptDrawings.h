@@ -20,7 +20,8 @@ class QPainter;
 
 /// Remembers what the small drawings of a frame, its dots and texts, made of the pixels under them: the same
 /// drawing makes the same of the same pixels, so it can be copied where both are found again. Under a moving
-/// mouse that is nearly every drawing of every frame.
+/// mouse that is nearly every drawing of every frame. The cross hair and the widths of texts are remembered
+/// too.
 ///
 /// Between frames, and wherever a copy is not sure to give the same pixels, everything is drawn.
 class CChartKeptDrawings
@@ -29,10 +30,13 @@ public:
     /// One drawing, apart from the painter's pen, brush and font.
     struct SDrawing
     {
-        QRectF rcPlace;  ///< where, exactly, in the painter's coordinates; for a text without a box its start
+        QRectF rcPlace;  ///< where, exactly, in the painter's coordinates
         double dReach;   ///< how far beyond the place pixels may be touched
         QString strText; ///< what is written; empty for a shape
 
+        /// A text without a box, which reaches as far as it may in its font.
+        static SDrawing FreeText(QPointF ptStart, const QString& strText);
+        bool IsFreeText() const;
         bool operator==(const SDrawing& other) const;
     };
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -29,49 +30,35 @@ int FirstAbove(float fValue)
     return nFloor == std::numeric_limits<int>::max() ? nFloor : nFloor + 1;
 }
 
-int FirstAtOrAbove(float fValue)
-{
-    return SaturateTo<int>(std::ceil(fValue));
-}
-
-/// An edge and the rows that it spans: its lower end excluded, its upper end included.
+/// An edge, the rows that it spans, its lower end excluded and its upper end included, and the first pixel at
+/// or right of one of its ends.
 struct SEdge
 {
     Point ptEnd;
     Point ptStart;
     int nTop;
     int nBottom; ///< the last row, which may be above the first
+    int nLeast;
 };
 
 SEdge MakeEdge(Point ptEnd, Point ptStart, const QRect& rcBox)
 {
     return {ptEnd, ptStart, std::max(FirstAbove(std::min(ptEnd.y, ptStart.y)), rcBox.top()),
-            std::min(Floor(std::max(ptEnd.y, ptStart.y)), rcBox.bottom())};
+            std::min(Floor(std::max(ptEnd.y, ptStart.y)), rcBox.bottom()),
+            SaturateTo<int>(std::ceil(std::min(ptEnd.x, ptStart.x)))};
 }
 
-/// From which pixel on an edge counts in each row.
-class CThresholds
+/// Where an edge is at a height that it spans, in single precision.
+float EdgeX(Point ptEnd, Point ptStart, float fY)
 {
-public:
-    explicit CThresholds(const SEdge& edge)
-        : m_edge(edge)
-        , m_nLeast(FirstAtOrAbove(std::min(edge.ptEnd.x, edge.ptStart.x)))
-    {}
+    return (ptStart.x - ptEnd.x) * ((fY - ptEnd.y) / (ptStart.y - ptEnd.y)) + ptEnd.x;
+}
 
-    int At(int nY) const { return std::max(FirstAbove(EdgeX(float(nY))), m_nLeast); }
-
-private:
-    /// Where the edge is at a height that it spans, in single precision.
-    float EdgeX(float fY) const
-    {
-        const Point ptEnd = m_edge.ptEnd;
-        const Point ptStart = m_edge.ptStart;
-        return (ptStart.x - ptEnd.x) * ((fY - ptEnd.y) / (ptStart.y - ptEnd.y)) + ptEnd.x;
-    }
-
-    SEdge m_edge;
-    int m_nLeast;
-};
+/// From which pixel on an edge counts in a row.
+int Threshold(const SEdge& edge, int nY)
+{
+    return std::max(FirstAbove(EdgeX(edge.ptEnd, edge.ptStart, float(nY))), edge.nLeast);
+}
 
 /// Calls `func(edge)` for each edge of an outline.
 template <class TFunc>
@@ -119,9 +106,8 @@ void CChromaOutlineSpans::CollectThresholds(const Outline& vecOutline)
         vecNext[i] += vecNext[i - 1];
     m_vecThresholds.resize(vecNext.back());
     ForEachEdge(vecOutline, m_rcBox, [this, &vecNext, nFirstRow](const SEdge& edge) {
-        const CThresholds thresholds(edge);
         for (int nY = edge.nTop; nY <= edge.nBottom; ++nY)
-            m_vecThresholds[vecNext[size_t(nY - nFirstRow) + 1]++] = thresholds.At(nY);
+            m_vecThresholds[vecNext[size_t(nY - nFirstRow) + 1]++] = Threshold(edge, nY);
     });
     vecNext.pop_back();
     for (size_t i = 0; i + 1 < m_vecFirst.size(); ++i)

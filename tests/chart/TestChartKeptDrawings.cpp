@@ -24,22 +24,25 @@ QImage Canvas(QImage::Format format = QImage::Format_ARGB32_Premultiplied)
 class CStage
 {
 public:
-    using FuncChange = std::function<void(QPainter&)>;
-
     CChartKeptDrawings kept;
     CChartKeptDrawings::SDrawing drawing = {c_rcDisc, c_dReach, QString()};
     QImage canvas = Canvas();
+    QPen pen = QPen(Qt::white, 2.0);
+    QBrush brush = Qt::red;
+    QFont font;
+    QPoint ptOrigin;
     qint64 nLayerKey = c_nLayerKey;
     int nDrawn = 0;
 
-    QImage Frame(const FuncChange& funcChange = [](QPainter&) {})
+    QImage Frame()
     {
         QImage image = canvas;
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(Qt::white, 2.0));
-        painter.setBrush(Qt::red);
-        funcChange(painter);
+        painter.setPen(pen);
+        painter.setBrush(brush);
+        painter.setFont(font);
+        painter.translate(ptOrigin);
         const CChartSurface surface(painter);
         kept.Begin(surface, c_rcChart, nLayerKey);
         DrawDisc(painter);
@@ -56,12 +59,11 @@ public:
     }
 };
 
-using FuncPrepare = std::function<void(CStage&)>;
+using FuncChange = std::function<void(CStage&)>;
 
 } // namespace
 
-Q_DECLARE_METATYPE(CStage::FuncChange)
-Q_DECLARE_METATYPE(FuncPrepare)
+Q_DECLARE_METATYPE(FuncChange)
 
 class TestChartKeptDrawings : public QObject
 {
@@ -69,14 +71,14 @@ class TestChartKeptDrawings : public QObject
 
 private Q_SLOTS:
     void TheSameDrawingOverTheSamePixelsIsCopied();
-    void ADrawingWithAnotherStateIsDrawn_data();
-    void ADrawingWithAnotherStateIsDrawn();
-    void ADrawingElsewhereIsDrawn();
-    void ADrawingOnAnotherLayerIsDrawn();
+    void AnotherDrawingIsDrawn_data();
+    void AnotherDrawingIsDrawn();
     void ADrawingOverOtherPixelsIsDrawnAndItsForerunnerStaysKept();
     void ADrawingThatAlwaysMeetsOtherPixelsIsKeptOverThem();
     void WhatCannotBeCopiedIsDrawn_data();
     void WhatCannotBeCopiedIsDrawn();
+    void AFreeTextIsCopiedWhole_data();
+    void AFreeTextIsCopiedWhole();
     void ADrawingBetweenFramesIsDrawn();
     void AFrameWithoutADrawingForgetsIt();
     void TextsAreAsWideAsTheirMetricsSay();
@@ -94,45 +96,31 @@ void TestChartKeptDrawings::TheSameDrawingOverTheSamePixelsIsCopied()
     QCOMPARE(stage.nDrawn, 1);
 }
 
-void TestChartKeptDrawings::ADrawingWithAnotherStateIsDrawn_data()
+void TestChartKeptDrawings::AnotherDrawingIsDrawn_data()
 {
-    QTest::addColumn<CStage::FuncChange>("change");
-    const auto AddRow = [](const char* szName, const CStage::FuncChange& funcChange) {
+    QTest::addColumn<FuncChange>("change");
+    const auto AddRow = [](const char* szName, const FuncChange& funcChange) {
         QTest::newRow(szName) << funcChange;
     };
-    AddRow("pen", [](QPainter& painter) { painter.setPen(QPen(Qt::lightGray, 2.0)); });
-    AddRow("width of the pen", [](QPainter& painter) { painter.setPen(QPen(Qt::white, 2.5)); });
-    AddRow("brush", [](QPainter& painter) { painter.setBrush(Qt::green); });
-    AddRow("font", [](QPainter& painter) { painter.setFont(QFont(QStringLiteral("DejaVu Sans"), 40)); });
-    AddRow("origin", [](QPainter& painter) { painter.translate(1, 0); });
+    AddRow("pen", [](CStage& stage) { stage.pen = QPen(Qt::lightGray, 2.0); });
+    AddRow("width of the pen", [](CStage& stage) { stage.pen = QPen(Qt::white, 2.5); });
+    AddRow("brush", [](CStage& stage) { stage.brush = Qt::green; });
+    AddRow("font", [](CStage& stage) { stage.font = QFont(QStringLiteral("DejaVu Sans"), 40); });
+    AddRow("origin", [](CStage& stage) { stage.ptOrigin = QPoint(1, 0); });
+    AddRow("place", [](CStage& stage) { stage.drawing.rcPlace.translate(0.25, 0.0); });
+    AddRow("text", [](CStage& stage) { stage.drawing.strText = QStringLiteral("text"); });
+    AddRow("layer below", [](CStage& stage) { ++stage.nLayerKey; });
 }
 
-void TestChartKeptDrawings::ADrawingWithAnotherStateIsDrawn()
+void TestChartKeptDrawings::AnotherDrawingIsDrawn()
 {
-    QFETCH(CStage::FuncChange, change);
+    QFETCH(FuncChange, change);
     CStage stage;
     stage.Frame();
-    stage.Frame(change);
+    change(stage);
+    const QImage changed = stage.Frame();
     QCOMPARE(stage.nDrawn, 2);
-    stage.Frame(change);
-    QCOMPARE(stage.nDrawn, 2);
-}
-
-void TestChartKeptDrawings::ADrawingElsewhereIsDrawn()
-{
-    CStage stage;
-    stage.Frame();
-    stage.drawing.rcPlace.translate(0.25, 0.0);
-    stage.Frame();
-    QCOMPARE(stage.nDrawn, 2);
-}
-
-void TestChartKeptDrawings::ADrawingOnAnotherLayerIsDrawn()
-{
-    CStage stage;
-    stage.Frame();
-    ++stage.nLayerKey;
-    stage.Frame();
+    QVERIFY(stage.Frame() == changed);
     QCOMPARE(stage.nDrawn, 2);
 }
 
@@ -165,9 +153,9 @@ void TestChartKeptDrawings::ADrawingThatAlwaysMeetsOtherPixelsIsKeptOverThem()
 
 void TestChartKeptDrawings::WhatCannotBeCopiedIsDrawn_data()
 {
-    QTest::addColumn<FuncPrepare>("prepare");
-    const auto AddRow = [](const char* szName, const FuncPrepare& funcPrepare) {
-        QTest::newRow(szName) << funcPrepare;
+    QTest::addColumn<FuncChange>("change");
+    const auto AddRow = [](const char* szName, const FuncChange& funcChange) {
+        QTest::newRow(szName) << funcChange;
     };
     AddRow("reaches farther than said", [](CStage& stage) { stage.drawing.dReach = 0.0; });
     AddRow("leaves the chart", [](CStage& stage) { stage.drawing.rcPlace = QRect(-5, 40, 20, 20); });
@@ -177,12 +165,46 @@ void TestChartKeptDrawings::WhatCannotBeCopiedIsDrawn_data()
 
 void TestChartKeptDrawings::WhatCannotBeCopiedIsDrawn()
 {
-    QFETCH(FuncPrepare, prepare);
+    QFETCH(FuncChange, change);
     CStage stage;
-    prepare(stage);
+    change(stage);
     const QImage first = stage.Frame();
     QVERIFY(stage.Frame() == first);
     QCOMPARE(stage.nDrawn, 2);
+}
+
+void TestChartKeptDrawings::AFreeTextIsCopiedWhole_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("letters that reach beyond their advance") << QStringLiteral("jfWAg/");
+    QTest::newRow("another script") << QStringLiteral("屏幕颜色（校正后）");
+    QTest::newRow("marks above and below") << QStringLiteral("ẤỘŖ̂̂̂");
+}
+
+void TestChartKeptDrawings::AFreeTextIsCopiedWhole()
+{
+    QFETCH(QString, text);
+    CChartKeptDrawings kept;
+    int nDrawn = 0;
+    const auto Frame = [&] {
+        QImage image = Canvas();
+        QPainter painter(&image);
+        painter.setFont(QFont(QStringLiteral("DejaVu Sans"), 11, -1, true));
+        painter.setPen(Qt::white);
+        const CChartSurface surface(painter);
+        const QPointF ptStart(40.3, 80.7);
+        kept.Begin(surface, c_rcChart, c_nLayerKey);
+        kept.Draw(painter, CChartKeptDrawings::SDrawing::FreeText(ptStart, text), [&] {
+            ++nDrawn;
+            painter.drawText(ptStart, text);
+        });
+        kept.End();
+        return image;
+    };
+    const QImage first = Frame();
+    QVERIFY(first != Canvas());
+    QVERIFY(Frame() == first);
+    QCOMPARE(nDrawn, 1);
 }
 
 void TestChartKeptDrawings::ADrawingBetweenFramesIsDrawn()

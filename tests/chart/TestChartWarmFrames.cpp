@@ -62,7 +62,6 @@ void TestChartWarmFrames::AMovingMouseIsPaintedAsPlainly()
     // The cross passes over dots, labels and the curve, and stays away for long enough that they are copied.
     QFETCH(QImage::Format, format);
     const auto pChart = MakeChart();
-    CPlainOverlays overlays(*pChart);
     for (int i = 0; i < 300; ++i) {
         pChart->m_ptMouse = QPoint(60 + i % 150, 60 + (7 * i) % 230);
         const QImage canvas = Canvas(format);
