@@ -10,6 +10,11 @@ target_include_directories(SenderModuleDialog INTERFACE "$<INSTALL_INTERFACE:${S
 install(TARGETS SenderModuleDialog OrviControl TevraData HardwareSupport CommonClass
     EXPORT SenderModuleDialogTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+# The calculations beyond the library: an archive, for programs that only calculate.
+install(TARGETS sender_instruments
+    EXPORT SenderModuleDialogTargets
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+target_include_directories(sender_instruments INTERFACE "$<INSTALL_INTERFACE:${SENDER_INCLUDE_FOLDER}>")
 # Programs find the libraries beside them wherever the tree is put.
 set_target_properties(sender-workbench sender-tool PROPERTIES
     INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
@@ -18,6 +23,7 @@ install(TARGETS sender-workbench sender-tool
 
 # Headers keep their paths: #include "SenderModuleDialog/geometry/Line.h" and "host/TevraData/ProjectData.h".
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/SenderModuleDialog" "${PROJECT_SOURCE_DIR}/host"
+    "${PROJECT_SOURCE_DIR}/instruments"
     DESTINATION "${SENDER_INCLUDE_FOLDER}"
     FILES_MATCHING PATTERN "*.h")
 # The simulated host can be used and watched through these.

@@ -67,6 +67,17 @@ const std::vector<SLayer>& Layers()
                          L("SenderModuleDialog/edid/TimingTable.h"),
                          L("SenderModuleDialog/edid/VideoTiming.h")},
          true},
+        // Beyond the library: above the calculation, below the applications.
+        {L("instruments"),
+         {L("instruments/")},
+         Base() + QStringList{L("instruments/"), L("SenderModuleDialog/geometry/"),
+                              L("SenderModuleDialog/colour/"), L("SenderModuleDialog/edid/CvtTiming.h"),
+                              L("SenderModuleDialog/edid/EDIDRaw.h"),
+                              L("SenderModuleDialog/edid/EdidBlock.h"),
+                              L("SenderModuleDialog/edid/MonitorName.h"),
+                              L("SenderModuleDialog/edid/TimingTable.h"),
+                              L("SenderModuleDialog/edid/VideoTiming.h"), L("host/CommonClass/")},
+         true},
         {L("EDID dialog"),
          {L("SenderModuleDialog/edid/")},
          Base() + s_listFrame + QStringList{L("SenderModuleDialog/edid/")},
@@ -84,24 +95,26 @@ const std::vector<SLayer>& Layers()
         {L("simulator"), {L("simulator/")}, {L("host/"), L("simulator/")}, false},
         {L("tools"),
          {L("tools/")},
-         {L("SenderModuleDialog/"), L("host/"), L("simulator/"), L("tools/")},
+         {L("SenderModuleDialog/"), L("host/"), L("instruments/"), L("simulator/"), L("tools/")},
          false},
         {L("workbench"),
          {L("workbench/")},
-         {L("SenderModuleDialog/"), L("host/"), L("simulator/"), L("workbench/")},
+         {L("SenderModuleDialog/"), L("host/"), L("instruments/"), L("simulator/"), L("workbench/")},
          false},
     };
     return s_vecLayers;
 }
 
-/// Of Qt, what calculation may use: values and containers of QtCore and QtGui.
+/// Of Qt, what calculation may use: values, containers and JSON of QtCore, and value types of QtGui.
 const QStringList& QtValues()
 {
     static const QStringList s_listValues = {
-        L("QByteArray"), L("QLatin1Char"),  L("QLatin1String"), L("QLine"),  L("QLineF"),
-        L("QList"),      L("QMap"),         L("QPair"),         L("QPoint"), L("QPointF"),
-        L("QPolygonF"),  L("QRectF"),       L("QSize"),         L("QSizeF"), L("QString"),
-        L("QVector"),    L("QtAlgorithms"), L("QtGlobal"),      L("QtMath")};
+        L("QByteArray"),  L("QHash"),       L("QJsonArray"),    L("QJsonDocument"), L("QJsonObject"),
+        L("QJsonValue"),  L("QLatin1Char"), L("QLatin1String"), L("QLine"),         L("QLineF"),
+        L("QList"),       L("QMap"),        L("QPair"),         L("QPoint"),        L("QPointF"),
+        L("QPolygonF"),   L("QRectF"),      L("QSize"),         L("QSizeF"),        L("QString"),
+        L("QStringList"), L("QStringView"), L("QVariant"),      L("QVector"),       L("QtAlgorithms"),
+        L("QtGlobal"),    L("QtMath")};
     return s_listValues;
 }
 
@@ -151,7 +164,8 @@ QStringList SourceFiles()
 {
     const QDir dirRoot(L(SENDER_SOURCE_DIR));
     QStringList listFiles;
-    for (const char* szFolder : {"SenderModuleDialog", "host", "simulator", "workbench", "tools"}) {
+    for (const char* szFolder :
+         {"SenderModuleDialog", "host", "instruments", "simulator", "workbench", "tools"}) {
         QDirIterator itFile(dirRoot.filePath(L(szFolder)), {L("*.h"), L("*.cpp")}, QDir::Files,
                             QDirIterator::Subdirectories);
         while (itFile.hasNext())
@@ -212,6 +226,12 @@ void TestIncludeArrows::AWrongArrowIsNoticed_data()
                                                << "\"SenderModuleDialog/chart/CChromaticityDlgWnd.h\"";
     QTest::newRow("the frame knows no dialog") << "SenderModuleDialog/DialogFrame.cpp"
                                                << "\"SenderModuleDialog/edid/EdidSetDlg.h\"";
+    QTest::newRow("the library knows no instrument") << "SenderModuleDialog/edid/EDIDRaw.cpp"
+                                                     << "\"instruments/edid/Checksum.h\"";
+    QTest::newRow("an instrument knows no widget") << "instruments/edid/Checksum.cpp"
+                                                   << "<QWidget>";
+    QTest::newRow("an instrument knows no dialog") << "instruments/edid/Checksum.cpp"
+                                                   << "\"SenderModuleDialog/edid/EdidLimit.h\"";
     QTest::newRow("the library knows no simulator") << "SenderModuleDialog/edid/EdidSetDlg.cpp"
                                                     << "\"simulator/OrviControl/Theme.h\"";
     QTest::newRow("the simulator knows no library") << "simulator/HardwareSupport/SenderLogic.cpp"
