@@ -50,6 +50,8 @@ constexpr double c_dTipsHeight = 1.5;             // in font sizes
 constexpr int c_nTipsRowPitch = 2;                // in font sizes
 constexpr double c_dTipsTemperatureWidth = 0.125; // in scales
 constexpr int c_nTipsDecimals = 4;
+/// The rows are lower than a line of text: cut at their boxes they would lose its lowest pixels.
+constexpr int c_nTipsRowFlags = Qt::AlignCenter | Qt::TextDontClip;
 
 /// Colour temperature in the tips: close to D65 by this part of each coordinate it is 6500 K without a
 /// search. The part is the single-precision number.
@@ -158,13 +160,13 @@ void DrawTips(QPainter& painter, const SChartFrame& frame, const STips& tips)
     const int nLeft = frame.rcChart.right() / (c_nTipsQuarters + 1) * c_nTipsQuarters;
     const int nTop = frame.rcChart.bottom() / (c_nTipsSixths + 1) * c_nTipsSixths;
     QRectF rcRow(nLeft, nTop, dScale / c_dTipsWidthDivisor, c_dTipsHeight * nFontSize);
-    painter.drawText(rcRow, Qt::AlignCenter, CoordinateText(QStringLiteral("x : %1"), tips.ptShown.x()));
+    painter.drawText(rcRow, c_nTipsRowFlags, CoordinateText(QStringLiteral("x : %1"), tips.ptShown.x()));
     rcRow.translate(0.0, c_nTipsRowPitch * nFontSize);
-    painter.drawText(rcRow, Qt::AlignCenter, CoordinateText(QStringLiteral("y : %1"), tips.ptShown.y()));
+    painter.drawText(rcRow, c_nTipsRowFlags, CoordinateText(QStringLiteral("y : %1"), tips.ptShown.y()));
     if (!tips.bShowTemperature)
         return;
     rcRow.translate(0.0, c_nTipsRowPitch * nFontSize);
-    painter.drawText(rcRow, Qt::AlignCenter, QStringLiteral("CCT:"));
+    painter.drawText(rcRow, c_nTipsRowFlags, QStringLiteral("CCT:"));
     const QRectF rcValue(rcRow.right() + nFontSize, rcRow.top(), c_dTipsTemperatureWidth * dScale,
                          rcRow.height());
     painter.drawText(rcValue, tips.strTemperature, QTextOption());
@@ -229,7 +231,8 @@ void DrawStandardLabel(QPainter& painter, const SChartFrame& frame, const QRectF
 {
     painter.setFont(ChartFont(frame.strFontFamily, FontSize(frame.mapping, c_fStandardFontDivisor)));
     painter.setPen(Qt::red);
-    painter.drawText(rcBox, strLabel, QTextOption());
+    // The box is lower than a line of text: cut at it, the name would lose two thirds of its height.
+    painter.drawText(rcBox, Qt::TextDontClip, strLabel);
 }
 
 void DrawStandardLine(QPainter& painter, const QRectF& rcBox, QPointF ptFrom)

@@ -86,13 +86,14 @@ void CPlainOverlays::DrawTipsString(QPainter& painter) const
     const int y = m_chart.m_rcChart.bottom() / 6 * 5;
     const double w = double(m_chart.m_fScale) / 5.0;
     const double h = 1.5 * fs;
-    painter.drawText(QRectF(left, y, w, h), Qt::AlignCenter,
+    painter.drawText(QRectF(left, y, w, h), Qt::AlignCenter | Qt::TextDontClip,
                      QString::fromLatin1("x : %1").arg(pt.x(), 0, 'f', 4));
-    painter.drawText(QRectF(left, y + 2 * fs, w, h), Qt::AlignCenter,
+    painter.drawText(QRectF(left, y + 2 * fs, w, h), Qt::AlignCenter | Qt::TextDontClip,
                      QString::fromLatin1("y : %1").arg(pt.y(), 0, 'f', 4));
     if (!m_chart.m_bHitWhite || !m_chart.m_bShowCCT)
         return;
-    painter.drawText(QRectF(left, y + 4 * fs, w, h), Qt::AlignCenter, QString::fromLatin1("CCT:"));
+    painter.drawText(QRectF(left, y + 4 * fs, w, h), Qt::AlignCenter | Qt::TextDontClip,
+                     QString::fromLatin1("CCT:"));
     QString strValue;
     float fTemperature = 0.0F;
     const double dPart = double(0.025F);
@@ -360,8 +361,8 @@ void CPlainOverlays::DrawCIEStandardShow(QPainter& painter) const
     const double w = double(m_chart.m_fScale) / 5.0;
     painter.setFont(QFont(GetFontFamily(), fs, 128, false));
     painter.setPen(QColor(Qt::red));
-    painter.drawText(QRectF(x, y, w, fs), QString::fromLatin1(s_aszLabels[m_chart.m_nStandard]),
-                     QTextOption());
+    painter.drawText(QRectF(x, y, w, fs), Qt::TextDontClip,
+                     QString::fromLatin1(s_aszLabels[m_chart.m_nStandard]));
     const SChromaGroupInfo& group = *m_chart.m_mapGroups.first();
     const QPointF p0(X(double(group.ptRed.x)), Y(double(group.ptRed.y)));
     const QPointF p1(X(double(group.ptGreen.x)), Y(double(group.ptGreen.y)));

@@ -40,6 +40,8 @@ private Q_SLOTS:
     void TheTicksSlant();
     void TheCurveFollowsTheSize();
 
+    void NoTextIsCutAtItsBox_data();
+    void NoTextIsCutAtItsBox();
     void TheStandardIsNamedInItsBox();
     void TheStandardIsNotShown_data();
     void TheStandardIsNotShown();
@@ -239,8 +241,10 @@ void TestChartOverlay::TheTipsShowThePlaceUnderTheMouse()
     const auto vecExpected = RecordPainting([&](QPainter& painter) {
         painter.setFont(vecCalls[0].font);
         painter.setPen(QPen(QColor(Qt::yellow), 1.0));
-        painter.drawText(QRectF(447.0, 495.0, 120.0, 22.5), Qt::AlignCenter, QStringLiteral("x : 0.3000"));
-        painter.drawText(QRectF(447.0, 525.0, 120.0, 22.5), Qt::AlignCenter, QStringLiteral("y : 0.4000"));
+        painter.drawText(QRectF(447.0, 495.0, 120.0, 22.5), Qt::AlignCenter | Qt::TextDontClip,
+                         QStringLiteral("x : 0.3000"));
+        painter.drawText(QRectF(447.0, 525.0, 120.0, 22.5), Qt::AlignCenter | Qt::TextDontClip,
+                         QStringLiteral("y : 0.4000"));
     });
     QCOMPARE(PaintDifference(vecCalls, vecExpected), QString());
 }
@@ -288,9 +292,12 @@ void TestChartOverlay::TheTemperatureStandsInAThirdRow()
     const auto vecExpected = RecordPainting([&](QPainter& painter) {
         painter.setFont(vecCalls[0].font);
         painter.setPen(QPen(QColor(Qt::yellow), 1.0));
-        painter.drawText(QRectF(447.0, 495.0, 120.0, 22.5), Qt::AlignCenter, QStringLiteral("x : 0.3127"));
-        painter.drawText(QRectF(447.0, 525.0, 120.0, 22.5), Qt::AlignCenter, QStringLiteral("y : 0.3290"));
-        painter.drawText(QRectF(447.0, 555.0, 120.0, 22.5), Qt::AlignCenter, QStringLiteral("CCT:"));
+        painter.drawText(QRectF(447.0, 495.0, 120.0, 22.5), Qt::AlignCenter | Qt::TextDontClip,
+                         QStringLiteral("x : 0.3127"));
+        painter.drawText(QRectF(447.0, 525.0, 120.0, 22.5), Qt::AlignCenter | Qt::TextDontClip,
+                         QStringLiteral("y : 0.3290"));
+        painter.drawText(QRectF(447.0, 555.0, 120.0, 22.5), Qt::AlignCenter | Qt::TextDontClip,
+                         QStringLiteral("CCT:"));
         painter.drawText(QRectF(582.0, 555.0, 75.0, 22.5), QStringLiteral("6500K\n"), QTextOption());
     });
     QCOMPARE(PaintDifference(vecCalls, vecExpected), QString());
@@ -395,6 +402,60 @@ void TestChartOverlay::TheCurveFollowsTheSize()
     QCOMPARE(PaintDifference(chart.Record(&CChromaticityDlgWnd::DrawCCTLine), vecSmall), QString());
 }
 
+namespace {
+
+/// What a painter of pixels makes of an action.
+QImage Painted(QSize size, const std::function<void(QPainter&)>& funcPaint)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    funcPaint(painter);
+    return image;
+}
+
+/// Texts at their places and lines, without a box that could cut them.
+void PaintFreely(QPainter& painter, const QVector<SPaintCall>& vecCalls)
+{
+    for (const SPaintCall& call : vecCalls) {
+        painter.setPen(call.pen);
+        painter.setFont(call.font);
+        if (call.strKind == QLatin1String("text"))
+            painter.drawText(call.vecPoints[0], call.strText);
+        else
+            painter.drawLine(call.vecPoints[0], call.vecPoints[1]);
+    }
+}
+
+} // namespace
+
+void TestChartOverlay::NoTextIsCutAtItsBox_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("500x400") << QSize(500, 400);
+    QTest::newRow("600x600") << QSize(600, 600);
+    QTest::newRow("1000x1000") << QSize(1000, 1000);
+    QTest::newRow("1920x1080") << QSize(1920, 1080);
+}
+
+void TestChartOverlay::NoTextIsCutAtItsBox()
+{
+    QFETCH(QSize, size);
+    CTestChart chart(size.width(), size.height());
+    chart.AddChromaGroupByIndex(4, Group());
+    chart.ShowCIEStandard(0, enStandardRec709, true);
+    chart.MoveMouseTo(0.3, 0.4);
+    for (const auto pLayer :
+         {&CChromaticityDlgWnd::DrawTipsString, &CChromaticityDlgWnd::DrawCIEStandardShow}) {
+        const QVector<SPaintCall> vecCalls = chart.Record(pLayer);
+        QCOMPARE(vecCalls.size(), 2);
+        const QImage imageLayer = Painted(size, [&](QPainter& painter) { (chart.*pLayer)(painter); });
+        const QImage imageFree = Painted(size, [&](QPainter& painter) { PaintFreely(painter, vecCalls); });
+        QVERIFY(imageLayer == imageFree);
+    }
+}
+
 void TestChartOverlay::TheStandardIsNamedInItsBox()
 {
     CTestChart chart;
@@ -404,7 +465,7 @@ void TestChartOverlay::TheStandardIsNamedInItsBox()
     const auto vecExpected = RecordPainting([&](QPainter& painter) {
         painter.setFont(vecCalls[0].font);
         painter.setPen(QColor(Qt::red));
-        painter.drawText(QRectF(398.0, 142.0, 120.0, 20.0), QStringLiteral("Rec709"), QTextOption());
+        painter.drawText(QRectF(398.0, 142.0, 120.0, 20.0), Qt::TextDontClip, QStringLiteral("Rec709"));
         painter.setPen(QPen(QColor(Qt::blue), 1.5));
         const QPointF ptRed = chart.Mapping().ToPixel(CPointEx<float>(0.64F, 0.33F));
         const QPointF ptGreen = chart.Mapping().ToPixel(CPointEx<float>(0.30F, 0.60F));
