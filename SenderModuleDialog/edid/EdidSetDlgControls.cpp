@@ -53,6 +53,10 @@ constexpr QSize c_sizeError(240, 52);
 /// still fits into every window.
 constexpr int c_nRowGap = 4;
 
+/// Every control stands in the middle of its row, so that the rows share the height that a window has to
+/// spare.
+constexpr Qt::Alignment c_alignRow = Qt::AlignVCenter;
+
 constexpr int c_nWidthMax = 32768;
 constexpr int c_nHeightMax = 16384;
 
@@ -68,7 +72,7 @@ void CEdidSetDlg::InitControl()
 {
     QGridLayout* pGrid = CreateGrid();
     m_pResolutionComboBox = CreateComboBox();
-    pGrid->addWidget(m_pResolutionComboBox, enRowResolution, 0, 1, c_nColumns);
+    pGrid->addWidget(m_pResolutionComboBox, enRowResolution, 0, 1, c_nColumns, c_alignRow);
     InitSizeRow(pGrid);
     InitChoiceRow(pGrid, enRowRate, QT_TRANSLATE_NOOP("CCustomDialog", "帧率"), m_rowRate);
     InitChoiceRow(pGrid, enRowDepth, QT_TRANSLATE_NOOP("CCustomDialog", "色深"), m_rowDepth);
@@ -112,18 +116,18 @@ void CEdidSetDlg::InitSizeRow(QGridLayout* pGrid)
     m_pWidthSpinBox = CreateSpinBox(c_nWidthMax, m_sizeCustom.width());
     m_pTimesLabel = DialogFrame::CreateCaption(this, QStringLiteral("×"), Qt::AlignCenter);
     m_pHeightSpinBox = CreateSpinBox(c_nHeightMax, m_sizeCustom.height());
-    pGrid->addWidget(m_pSizeLabel, enRowSize, 0);
-    pGrid->addWidget(m_pWidthSpinBox, enRowSize, 1);
-    pGrid->addWidget(m_pTimesLabel, enRowSize, 2);
-    pGrid->addWidget(m_pHeightSpinBox, enRowSize, 3);
+    pGrid->addWidget(m_pSizeLabel, enRowSize, 0, c_alignRow);
+    pGrid->addWidget(m_pWidthSpinBox, enRowSize, 1, c_alignRow);
+    pGrid->addWidget(m_pTimesLabel, enRowSize, 2, c_alignRow);
+    pGrid->addWidget(m_pHeightSpinBox, enRowSize, 3, c_alignRow);
 }
 
 void CEdidSetDlg::InitChoiceRow(QGridLayout* pGrid, int nGridRow, const char* szCaption, SChoiceRow& row)
 {
     row.pLabel = DialogFrame::CreateCaption(this, CCustomDialog::tr(szCaption), Qt::AlignCenter);
     row.pComboBox = CreateComboBox();
-    pGrid->addWidget(row.pLabel, nGridRow, 0);
-    pGrid->addWidget(row.pComboBox, nGridRow, 1, 1, c_nColumns - 1);
+    pGrid->addWidget(row.pLabel, nGridRow, 0, c_alignRow);
+    pGrid->addWidget(row.pComboBox, nGridRow, 1, 1, c_nColumns - 1, c_alignRow);
 }
 
 void CEdidSetDlg::InitOptionRows(QGridLayout* pGrid)
@@ -131,13 +135,13 @@ void CEdidSetDlg::InitOptionRows(QGridLayout* pGrid)
     m_pConnectPCCheckBox = new QCheckBox(CCustomDialog::tr("连接电脑"), this);
     DialogFrame::StyleCheckBox(m_pConnectPCCheckBox);
     m_pConnectPCCheckBox->setFixedSize(c_sizeCheckBox);
-    pGrid->addWidget(m_pConnectPCCheckBox, enRowConnectPC, 0, 1, c_nColumns);
+    pGrid->addWidget(m_pConnectPCCheckBox, enRowConnectPC, 0, 1, c_nColumns, c_alignRow);
 
     m_pErrorLabel = new CCustomLabel(this, Qt::WindowFlags());
     DialogFrame::StyleWarning(m_pErrorLabel);
     m_pErrorLabel->setWordWrap(true);
     m_pErrorLabel->setFixedSize(c_sizeError);
-    pGrid->addWidget(m_pErrorLabel, enRowError, 0, 1, c_nColumns);
+    pGrid->addWidget(m_pErrorLabel, enRowError, 0, 1, c_nColumns, c_alignRow);
 }
 
 void CEdidSetDlg::InitButtonRow(QGridLayout* pGrid)
@@ -148,8 +152,8 @@ void CEdidSetDlg::InitButtonRow(QGridLayout* pGrid)
     m_pOKButton->setDefault(true);
     m_pCancelButton =
         DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "取消"), c_sizeButton, {}});
-    pGrid->addWidget(m_pOKButton, enRowButtons, 0, Qt::AlignLeft);
-    pGrid->addWidget(m_pCancelButton, enRowButtons, 2, 1, 2, Qt::AlignRight);
+    pGrid->addWidget(m_pOKButton, enRowButtons, 0, c_alignRow | Qt::AlignLeft);
+    pGrid->addWidget(m_pCancelButton, enRowButtons, 2, 1, 2, c_alignRow | Qt::AlignRight);
 }
 
 void CEdidSetDlg::InitComboBox()

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void ALimitOfNothingEndsAtTheSmallestSize();
     void NothingOverlapsInAnyWindow_data();
     void NothingOverlapsInAnyWindow();
+    void TheRowsShareTheSpareHeight_data();
+    void TheRowsShareTheSpareHeight();
 };
 
 namespace {
@@ -348,6 +350,34 @@ void TestEdidSetDlgWindow::NothingOverlapsInAnyWindow()
         for (const QWidget* pOther : qAsConst(listShown))
             QVERIFY(pWidget == pOther || !pWidget->geometry().intersects(pOther->geometry()));
     }
+}
+
+void TestEdidSetDlgWindow::TheRowsShareTheSpareHeight_data()
+{
+    QTest::addColumn<int>("rows");
+    for (const int nRows : {0, 2, 3, 8, 10, 11})
+        QTest::addRow("rows %d", nRows) << nRows;
+}
+
+void TestEdidSetDlgWindow::TheRowsShareTheSpareHeight()
+{
+    QFETCH(int, rows);
+    CEdidHost host;
+    SetRows(host, rows);
+    CEdidDialog dialog(host, 16);
+    dialog.dlg.show();
+    const CEdidSetDlgProbe& probe = dialog.probe;
+    QList<int> listTops;
+    for (const QWidget* pControl :
+         QList<const QWidget*>{&probe.Resolution(), &probe.Width(), &probe.Rate(), &probe.Depth(),
+                               &probe.Standard(), &probe.ConnectPC(), &probe.OK()}) {
+        if (pControl->isVisible())
+            listTops.append(pControl->y());
+    }
+    const int nDistance = listTops.at(1) - listTops.at(0);
+    QVERIFY(nDistance > 26 + 4); // a control and the gap below it
+    for (int i = 1; i < listTops.size(); ++i)
+        QVERIFY(qAbs(listTops.at(i) - listTops.at(i - 1) - nDistance) <= 1);
 }
 
 QTEST_MAIN(TestEdidSetDlgWindow)
