@@ -4,7 +4,7 @@
 #include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
 #include "fuzz/FuzzInput.h"
-#include "tests/colour/PlainColorimetry.h"
+#include "oracles/colour/PlainColorimetry.h"
 
 #include <cstring>
 

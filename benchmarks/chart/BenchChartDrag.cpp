@@ -1,7 +1,7 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/chart/LocusEdges.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
-#include "tests/chart/PlainChart.h"
+#include "oracles/chart/PlainChart.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,4 +1,6 @@
-#include "tests/chart/FrameTesting.h"
+#include "oracles/chart/PlainFrame.h"
+#include "oracles/chart/PlainOverlays.h"
+#include "oracles/chart/StandardGroup.h"
 
 #include <benchmark/benchmark.h>
 
@@ -33,8 +35,8 @@ public:
     {
         m_chart.resize(nWidth, nHeight);
         m_chart.SetSize(nWidth, nHeight);
-        FrameTesting::AddGroup(m_chart, enOutputColorSpace, enStandardRec2020, true);
-        FrameTesting::AddGroup(m_chart, enScreenColorSpace, enStandardSRGB, true);
+        AddStandardGroup(m_chart, enOutputColorSpace, enStandardRec2020, true);
+        AddStandardGroup(m_chart, enScreenColorSpace, enStandardSRGB, true);
         PaintFast();
         PaintPlain();
     }

@@ -1,7 +1,7 @@
 #include "SenderModuleDialog/chart/ChartMapping.h"
 #include "SenderModuleDialog/chart/ChromaBitmapPainter.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
-#include "tests/chart/PlainBitmap.h"
+#include "oracles/chart/PlainBitmap.h"
 
 #include <benchmark/benchmark.h>
 

@@ -2,7 +2,7 @@
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
 #include "SenderModuleDialog/colour/SpectralLocus.h"
 #include "benchmarks/support/RatioReporter.h"
-#include "tests/colour/PlainColorimetry.h"
+#include "oracles/colour/PlainColorimetry.h"
 
 #include <benchmark/benchmark.h>
 #include <lcms2.h>

@@ -4,7 +4,7 @@
 #include "SenderModuleDialog/geometry/CalcChromaRatio.h"
 #include "SenderModuleDialog/geometry/Line.h"
 #include "SenderModuleDialog/geometry/Polygon.h"
-#include "tests/geometry/PlainGeometry.h"
+#include "oracles/geometry/PlainGeometry.h"
 
 #include <QLineF>
 

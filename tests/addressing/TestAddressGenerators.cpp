@@ -1,7 +1,7 @@
 #include "SenderModuleDialog/addressing/AddressGenerators.h"
 #include "SenderModuleDialog/addressing/IPAddressRules.h"
+#include "oracles/addressing/AddressOracles.h"
 #include "tests/addressing/AddressDialogSupport.h"
-#include "tests/addressing/AddressOracles.h"
 
 #include <QRandomGenerator>
 #include <QSet>

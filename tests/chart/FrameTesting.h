@@ -2,9 +2,9 @@
 #define TESTS_CHART_FRAMETESTING_H
 
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
-#include "SenderModuleDialog/colour/ColourStandards.h"
-#include "tests/chart/PlainFrame.h"
-#include "tests/chart/PlainOverlays.h"
+#include "oracles/chart/PlainFrame.h"
+#include "oracles/chart/PlainOverlays.h"
+#include "oracles/chart/StandardGroup.h"
 
 #include <QImage>
 #include <QPainter>
@@ -18,27 +18,13 @@ namespace FrameTesting {
 
 inline constexpr QSize c_sizeChart(420, 360);
 
-inline void AddGroup(CChromaticityDlgWnd& chart, int nKey, enColorStandard standard, bool bRgbMode)
-{
-    const SColourStandard& points = c_arrColourStandards[standard];
-    SChromaGroupInfo group;
-    group.ptRed = points.ptRed;
-    group.ptGreen = points.ptGreen;
-    group.ptBlue = points.ptBlue;
-    group.ptWhite = points.ptWhite;
-    group.bMoveRed = true;
-    group.nPenStyle = Qt::SolidLine;
-    group.bRgbMode = bRgbMode;
-    chart.AddChromaGroupByIndex(nKey, group);
-}
-
 inline std::unique_ptr<CChromaticityDlgWnd> MakeChart(QWidget* pParent = nullptr)
 {
     auto pChart = std::make_unique<CChromaticityDlgWnd>(pParent);
     pChart->resize(c_sizeChart);
     pChart->SetSize(c_sizeChart.width(), c_sizeChart.height());
-    AddGroup(*pChart, enOutputColorSpace, enStandardRec2020, true);
-    AddGroup(*pChart, enScreenColorSpace, enStandardDCIP3, false);
+    AddStandardGroup(*pChart, enOutputColorSpace, enStandardRec2020, true);
+    AddStandardGroup(*pChart, enScreenColorSpace, enStandardDCIP3, false);
     pChart->m_ptMouse = QPoint(150, 200);
     return pChart;
 }

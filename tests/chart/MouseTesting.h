@@ -3,7 +3,7 @@
 
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
-#include "tests/chart/PlainChart.h"
+#include "oracles/chart/PlainChart.h"
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/chart/ChromaGamutThread.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
-#include "tests/chart/PlainBitmap.h"
+#include "oracles/chart/PlainBitmap.h"
 #include "tests/support/ExactCompare.h"
 
 #include <QtTest>

@@ -146,7 +146,7 @@ void TestChartDraw::FramesFollowEveryChange_data()
                group.nColorR = 165;
            }));
     AddRow("renamed group", [](auto& chart) {
-        AddGroup(chart, 3, enStandardSRGB, true);
+        AddStandardGroup(chart, 3, enStandardSRGB, true);
         IsPlain(chart, Canvas(QImage::Format_RGB32));
         chart.GetChromaGroupByIndex(3)->strName = QStringLiteral("a name that is rather long");
     });

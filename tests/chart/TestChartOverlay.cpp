@@ -1,9 +1,9 @@
 #include "SenderModuleDialog/chart/ChartOverlay.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
+#include "oracles/chart/PlainOverlays.h"
 #include "tests/chart/ChartInputs.h"
 #include "tests/chart/OverlayTesting.h"
-#include "tests/chart/PlainOverlays.h"
 #include "tests/support/DeathTest.h"
 #include "tests/support/ExactCompare.h"
 

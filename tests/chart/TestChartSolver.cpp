@@ -1,8 +1,8 @@
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 #include "SenderModuleDialog/chart/ChartMapping.h"
 #include "SenderModuleDialog/chart/ChartSolver.h"
+#include "oracles/chart/PlainChart.h"
 #include "tests/chart/ChartInputs.h"
-#include "tests/chart/PlainChart.h"
 #include "tests/support/AllocationCounter.h"
 #include "tests/support/ExactCompare.h"
 

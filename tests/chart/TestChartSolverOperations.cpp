@@ -1,7 +1,7 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/chart/ChartGeometry.h"
+#include "oracles/chart/PlainChart.h"
 #include "tests/chart/ChartInputs.h"
-#include "tests/chart/PlainChart.h"
 #include "tests/support/DeathTest.h"
 #include "tests/support/ExactCompare.h"
 

@@ -1,5 +1,5 @@
 #include "SenderModuleDialog/chart/ChromaOutlineSpans.h"
-#include "tests/chart/PlainBitmap.h"
+#include "oracles/chart/PlainBitmap.h"
 
 #include <QtTest>
 

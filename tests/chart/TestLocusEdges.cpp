@@ -1,7 +1,7 @@
 #include "SenderModuleDialog/chart/ChartGeometry.h"
 #include "SenderModuleDialog/chart/LocusEdges.h"
+#include "oracles/chart/PlainChart.h"
 #include "tests/chart/ChartInputs.h"
-#include "tests/chart/PlainChart.h"
 #include "tests/support/AllocationCounter.h"
 #include "tests/support/ExactCompare.h"
 

@@ -1,6 +1,6 @@
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
-#include "tests/colour/PlainColorimetry.h"
+#include "oracles/colour/PlainColorimetry.h"
 #include "tests/support/ExactCompare.h"
 
 #include <QtTest>

@@ -1,4 +1,4 @@
-#include "tests/chart/PlainChart.h"
+#include "oracles/chart/PlainChart.h"
 
 #include "SenderModuleDialog/geometry/Line.h"
 #include "SenderModuleDialog/geometry/Polygon.h"

@@ -1,4 +1,4 @@
-#include "tests/edid/TimingOracle.h"
+#include "oracles/edid/TimingOracle.h"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
-#ifndef TESTS_GEOMETRY_PLAINGEOMETRY_H
-#define TESTS_GEOMETRY_PLAINGEOMETRY_H
+#ifndef ORACLES_GEOMETRY_PLAINGEOMETRY_H
+#define ORACLES_GEOMETRY_PLAINGEOMETRY_H
 
 #include <QPointF>
 #include <QVector>
@@ -87,4 +87,4 @@ inline Polygon Overlap(Polygon polygon, const Polygon& polygonClip)
 
 } // namespace PlainGeometry
 
-#endif // TESTS_GEOMETRY_PLAINGEOMETRY_H
+#endif // ORACLES_GEOMETRY_PLAINGEOMETRY_H

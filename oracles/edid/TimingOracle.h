@@ -1,5 +1,5 @@
-#ifndef TESTS_EDID_TIMINGORACLE_H
-#define TESTS_EDID_TIMINGORACLE_H
+#ifndef ORACLES_EDID_TIMINGORACLE_H
+#define ORACLES_EDID_TIMINGORACLE_H
 
 #include "SenderModuleDialog/edid/VideoTiming.h"
 
@@ -18,4 +18,4 @@ double PixelFrequency(long long nHTotal, long long nVTotal, double dRate);
 
 } // namespace TimingOracle
 
-#endif // TESTS_EDID_TIMINGORACLE_H
+#endif // ORACLES_EDID_TIMINGORACLE_H

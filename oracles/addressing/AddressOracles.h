@@ -1,5 +1,5 @@
-#ifndef TESTS_ADDRESSING_ADDRESSORACLES_H
-#define TESTS_ADDRESSING_ADDRESSORACLES_H
+#ifndef ORACLES_ADDRESSING_ADDRESSORACLES_H
+#define ORACLES_ADDRESSING_ADDRESSORACLES_H
 
 #include <functional>
 #include <vector>
@@ -22,4 +22,4 @@ std::vector<unsigned int> Proposals(unsigned int nBase, int nRows, const FHasErr
 
 } // namespace AddressOracles
 
-#endif // TESTS_ADDRESSING_ADDRESSORACLES_H
+#endif // ORACLES_ADDRESSING_ADDRESSORACLES_H

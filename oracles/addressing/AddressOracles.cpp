@@ -1,4 +1,4 @@
-#include "tests/addressing/AddressOracles.h"
+#include "oracles/addressing/AddressOracles.h"
 
 namespace AddressOracles {
 

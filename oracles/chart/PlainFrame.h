@@ -1,5 +1,5 @@
-#ifndef TESTS_CHART_PLAINFRAME_H
-#define TESTS_CHART_PLAINFRAME_H
+#ifndef ORACLES_CHART_PLAINFRAME_H
+#define ORACLES_CHART_PLAINFRAME_H
 
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 
@@ -61,4 +61,4 @@ void Draw(CChromaticityDlgWnd& chart, TLayers& layers, QPainter& painter)
 
 } // namespace PlainFrame
 
-#endif // TESTS_CHART_PLAINFRAME_H
+#endif // ORACLES_CHART_PLAINFRAME_H

@@ -1,4 +1,4 @@
-#include "tests/chart/PlainOverlays.h"
+#include "oracles/chart/PlainOverlays.h"
 
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
@@ -6,7 +6,7 @@
 #include "SenderModuleDialog/geometry/CalcChromaRatio.h"
 #include "host/OrviControl/CustomDialog.h"
 #include "host/OrviControl/Style.h"
-#include "tests/chart/PlainChart.h"
+#include "oracles/chart/PlainChart.h"
 
 #include <QFontMetrics>
 #include <QPainter>

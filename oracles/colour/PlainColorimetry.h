@@ -1,5 +1,5 @@
-#ifndef TESTS_COLOUR_PLAINCOLORIMETRY_H
-#define TESTS_COLOUR_PLAINCOLORIMETRY_H
+#ifndef ORACLES_COLOUR_PLAINCOLORIMETRY_H
+#define ORACLES_COLOUR_PLAINCOLORIMETRY_H
 
 #include "SenderModuleDialog/colour/CIE1931Row.h"
 #include "host/CommonClass/PointEx.h"
@@ -149,4 +149,4 @@ inline bool Contains(const QVector<QPointF>& vecOutline, QPointF pt)
 
 } // namespace PlainColorimetry
 
-#endif // TESTS_COLOUR_PLAINCOLORIMETRY_H
+#endif // ORACLES_COLOUR_PLAINCOLORIMETRY_H

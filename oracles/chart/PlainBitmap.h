@@ -1,5 +1,5 @@
-#ifndef TESTS_CHART_PLAINBITMAP_H
-#define TESTS_CHART_PLAINBITMAP_H
+#ifndef ORACLES_CHART_PLAINBITMAP_H
+#define ORACLES_CHART_PLAINBITMAP_H
 
 #include "SenderModuleDialog/Saturate.h"
 #include "SenderModuleDialog/geometry/Line.h"
@@ -127,4 +127,4 @@ inline QImage Paint(int nWidth, int nHeight, const QVector<QPointF>& vecLocus,
 
 } // namespace PlainBitmap
 
-#endif // TESTS_CHART_PLAINBITMAP_H
+#endif // ORACLES_CHART_PLAINBITMAP_H

@@ -1,5 +1,5 @@
-#ifndef TESTS_CHART_PLAINOVERLAYS_H
-#define TESTS_CHART_PLAINOVERLAYS_H
+#ifndef ORACLES_CHART_PLAINOVERLAYS_H
+#define ORACLES_CHART_PLAINOVERLAYS_H
 
 class CChromaticityDlgWnd;
 class QPainter;
@@ -33,4 +33,4 @@ private:
     float m_afRadius[4] = {0.0F, 0.0F, 0.0F, 0.0F};
 };
 
-#endif // TESTS_CHART_PLAINOVERLAYS_H
+#endif // ORACLES_CHART_PLAINOVERLAYS_H

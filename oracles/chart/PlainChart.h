@@ -1,5 +1,5 @@
-#ifndef TESTS_CHART_PLAINCHART_H
-#define TESTS_CHART_PLAINCHART_H
+#ifndef ORACLES_CHART_PLAINCHART_H
+#define ORACLES_CHART_PLAINCHART_H
 
 #include "SenderModuleDialog/chart/ChromaGroupInfo.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
@@ -85,4 +85,4 @@ CPoint& PointOfGroup(SChromaGroupInfo& group, int nIndex);
 /// A group's move flag by index.
 bool& MoveFlagOfGroup(SChromaGroupInfo& group, int nIndex);
 
-#endif // TESTS_CHART_PLAINCHART_H
+#endif // ORACLES_CHART_PLAINCHART_H
