@@ -2,6 +2,8 @@
 
 #include "simulator/OrviControl/Theme.h"
 
+#include <QFile>
+#include <QFont>
 #include <QFontDatabase>
 #include <QFontInfo>
 
@@ -92,11 +94,30 @@ QString ChooseFamily()
     return itFound == listCandidates.cend() ? strSystem : *itFound;
 }
 
+/// Gives a family a fallback in which control characters are empty and have no width. Texts of the library
+/// hold them as fill characters, and no common font has glyphs for them: they would show as boxes.
+void HideControlCharacters(const QString& strFamily)
+{
+    QFile file(QStringLiteral(":/OrviControl/fonts/control-characters.ttf"));
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    const int nFont = QFontDatabase::addApplicationFontFromData(file.readAll());
+    for (const QString& strFallback : QFontDatabase::applicationFontFamilies(nFont))
+        QFont::insertSubstitution(strFamily, strFallback);
+}
+
+QString PrepareFamily()
+{
+    QString strFamily = ChooseFamily();
+    HideControlCharacters(strFamily);
+    return strFamily;
+}
+
 } // namespace
 
 QString GetFontFamily()
 {
-    static const QString s_strFamily = ChooseFamily();
+    static const QString s_strFamily = PrepareFamily();
     return s_strFamily;
 }
 

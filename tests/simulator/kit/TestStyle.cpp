@@ -5,7 +5,9 @@
 
 #include <QDoubleSpinBox>
 #include <QFontInfo>
+#include <QPainter>
 #include <QRawFont>
+#include <QTextOption>
 #include <QtTest>
 
 class TestStyle : public QObject
@@ -14,6 +16,9 @@ class TestStyle : public QObject
 
 private Q_SLOTS:
     void TheFontFamilyHasLatinAndChineseGlyphs();
+    void AControlCharacterIsEmptyAndHasNoWidth_data();
+    void AControlCharacterIsEmptyAndHasNoWidth();
+    void ALineIsNoHigherForItsControlCharacters();
     void TheStyleSheetBeginsWithTheStyleAndNamesTheFont();
     void NoColourNameIsLeftInAStyle_data();
     void NoColourNameIsLeftInAStyle();
@@ -31,6 +36,53 @@ void TestStyle::TheFontFamilyHasLatinAndChineseGlyphs()
     QVERIFY(raw.supportsCharacter(QLatin1Char('A')));
     QVERIFY(raw.supportsCharacter(QChar(0x753b)));
     QVERIFY(raw.supportsCharacter(QChar(0x00d7)));
+}
+
+namespace {
+
+/// A text in the host's font, drawn into a box as the chart does.
+QImage Drawn(const QFont& font, const QString& strText)
+{
+    QImage image(800, 250, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(QRectF(image.rect()), strText, QTextOption());
+    return image;
+}
+
+} // namespace
+
+void TestStyle::AControlCharacterIsEmptyAndHasNoWidth_data()
+{
+    QTest::addColumn<QChar>("ch");
+    constexpr QChar c_chVariant(0x9C); // separates the variants of a text in Qt
+    for (ushort nCode = 1; nCode < 0xA0; ++nCode) {
+        const QChar ch(nCode);
+        if (ch.category() == QChar::Other_Control && !ch.isSpace() && ch != c_chVariant)
+            QTest::addRow("U+%04X", nCode) << ch;
+    }
+}
+
+void TestStyle::AControlCharacterIsEmptyAndHasNoWidth()
+{
+    QFETCH(QChar, ch);
+    QFont font(GetFontFamily());
+    // A size of its own for each character: which fallbacks a font has loaded so far must not matter.
+    font.setPixelSize(10 + ch.unicode());
+    const QString strFill(97, ch);
+    QCOMPARE(QFontMetricsF(font).horizontalAdvance(strFill), 0.0);
+    const QImage imagePlain = Drawn(font, QStringLiteral("5001K"));
+    QVERIFY(imagePlain != Drawn(font, QString()));
+    QCOMPARE(Drawn(font, strFill + QStringLiteral("5001K")), imagePlain);
+}
+
+void TestStyle::ALineIsNoHigherForItsControlCharacters()
+{
+    const QFontMetrics metrics(QFont(GetFontFamily(), 11));
+    QCOMPARE(metrics.boundingRect(QRect(), 0, QStringLiteral("\u0002K")).height(),
+             metrics.boundingRect(QRect(), 0, QStringLiteral("K")).height());
 }
 
 void TestStyle::TheStyleSheetBeginsWithTheStyleAndNamesTheFont()
