@@ -114,7 +114,7 @@ const QStringList& QtValues()
         L("QList"),       L("QMap"),        L("QPair"),         L("QPoint"),        L("QPointF"),
         L("QPolygonF"),   L("QRectF"),      L("QSize"),         L("QSizeF"),        L("QString"),
         L("QStringList"), L("QStringView"), L("QVariant"),      L("QVector"),       L("QtAlgorithms"),
-        L("QtGlobal"),    L("QtMath")};
+        L("QtEndian"),    L("QtGlobal"),    L("QtMath"),        L("QtNumeric")};
     return s_listValues;
 }
 
