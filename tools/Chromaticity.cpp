@@ -1,17 +1,48 @@
 #include "tools/Chromaticity.h"
 
 #include "SenderModuleDialog/colour/ColourStandards.h"
+#include "SenderModuleDialog/geometry/Line.h"
 #include "tools/Report.h"
 
 #include <QStringList>
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <iterator>
 
 namespace {
 
 constexpr int c_nCorners = 3;
+
+/// The smallest area of a gamut, in the x,y plane: below it the coverage is not calculated.
+constexpr double c_dLeastArea = double(c_fGeometryEpsilon);
+
+/// Another name of a standard colour space.
+struct SOtherName
+{
+    const char* szLabel; ///< as `SColourStandard::szName`
+    const char* szName;
+};
+
+/// Names in use for the same primaries. Display P3 and the DCIP3 of this table both have the white D65.
+constexpr SOtherName c_otherNames[] = {
+    {"sRGB", "IEC 61966-2-1"}, {"AdobeRGB", "Adobe RGB (1998)"},
+    {"Rec601", "BT.601"},      {"Rec601", "ITU-R BT.601"},
+    {"Rec709", "BT.709"},      {"Rec709", "ITU-R BT.709"},
+    {"Rec2020", "BT.2020"},    {"Rec2020", "ITU-R BT.2020"},
+    {"Rec2020", "BT.2100"},    {"DCIP3", "P3"},
+    {"DCIP3", "Display P3"},   {"DCIP3", "P3-D65"},
+};
+
+/// A name reduced to what tells standards apart: its letters and digits, in lower case.
+QString Simplified(const QString& strName)
+{
+    QString strSimplified;
+    std::copy_if(strName.begin(), strName.end(), std::back_inserter(strSimplified),
+                 [](QChar ch) { return ch.isLetterOrNumber(); });
+    return strSimplified.toLower();
+}
 
 bool IsCoordinate(double dValue)
 {
@@ -26,7 +57,11 @@ std::vector<CPointEx<float>> ParseTriangle(const QString& strGamut)
         throw CToolError(QStringLiteral("gamut '%1' has %2 points; write three as x,y;x,y;x,y")
                              .arg(strGamut)
                              .arg(nPoints));
-    return ParseChromaticities(strGamut);
+    std::vector<CPointEx<float>> vecTriangle = ParseChromaticities(strGamut);
+    if (!HasArea(vecTriangle))
+        throw CToolError(
+            QStringLiteral("gamut '%1' has no area; give the corners of a triangle").arg(strGamut));
+    return vecTriangle;
 }
 
 } // namespace
@@ -63,14 +98,38 @@ std::vector<CPointEx<float>> ParseChromaticities(const QString& strPoints)
     return vecPoints;
 }
 
-const SColourStandard* FindStandard(const QString& strLabel)
+const SColourStandard* FindStandard(const QString& strName)
 {
-    const auto* const pEnd = std::end(c_arrColourStandards);
-    const auto* const pStandard =
-        std::find_if(std::begin(c_arrColourStandards), pEnd, [&strLabel](const SColourStandard& standard) {
-            return strLabel.compare(QLatin1String(standard.szName), Qt::CaseInsensitive) == 0;
+    const QString strWanted = Simplified(strName);
+    const auto HasName = [&strWanted](const SColourStandard& standard) {
+        const QStringList listNames = OtherNames(standard) + QStringList{QLatin1String(standard.szName)};
+        return std::any_of(listNames.begin(), listNames.end(), [&strWanted](const QString& strOther) {
+            return Simplified(strOther) == strWanted;
         });
+    };
+    const auto* const pEnd = std::end(c_arrColourStandards);
+    const auto* const pStandard = std::find_if(std::begin(c_arrColourStandards), pEnd, HasName);
     return pStandard == pEnd ? nullptr : pStandard;
+}
+
+QStringList OtherNames(const SColourStandard& standard)
+{
+    QStringList listNames;
+    for (const SOtherName& row : c_otherNames) {
+        if (std::strcmp(row.szLabel, standard.szName) == 0)
+            listNames += QString::fromLatin1(row.szName);
+    }
+    return listNames;
+}
+
+bool HasArea(const std::vector<CPointEx<float>>& vecTriangle)
+{
+    const CPointEx<float>& ptFirst = vecTriangle[0];
+    const CPointEx<float>& ptSecond = vecTriangle[1];
+    const CPointEx<float>& ptThird = vecTriangle[2];
+    const double dCross = (double(ptSecond.x) - double(ptFirst.x)) * (double(ptThird.y) - double(ptFirst.y)) -
+                          (double(ptSecond.y) - double(ptFirst.y)) * (double(ptThird.x) - double(ptFirst.x));
+    return std::abs(dCross) / 2.0 >= c_dLeastArea;
 }
 
 QString StandardLabels()

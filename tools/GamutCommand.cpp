@@ -48,10 +48,9 @@ SSubcommand GamutSubcommand()
         0,
         0,
         "tell how much of one gamut another covers, in per cent",
-        "GAMUT is sRGB, AdobeRGB, PAL, NTSC, Rec601, Rec709, Rec2020, DCIP3, or three chromaticities (CIE "
-        "1931)\n"
-        "as x,y;x,y;x,y, quoted for the shell. Both must be given. The part is one of area in the x,y "
-        "plane.\n",
+        "GAMUT is the name of a standard, see 'sender-tool standards', or three chromaticities (CIE 1931) "
+        "as\n"
+        "x,y;x,y;x,y, quoted for the shell. Both must be given. The part is one of area in the x,y plane.\n",
         {
             {"of", 0, "GAMUT", "the gamut that is to be covered"},
             {"by", 0, "GAMUT", "the gamut that covers it"},

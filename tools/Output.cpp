@@ -12,6 +12,8 @@ namespace Output {
 
 namespace {
 
+const QString c_strStandardOutput = QStringLiteral("-");
+
 [[noreturn]] void ThrowUnwritable(const QString& strFile, const QFileDevice& device)
 {
     throw CToolError(QStringLiteral("cannot write '%1': %2; give a file in a folder that you may write to")
@@ -63,9 +65,14 @@ void ToFile(const QString& strFile, const QByteArray& content)
         WriteAtOnce(strFile, content);
 }
 
+bool IsStandardOutput(const QString& strFile)
+{
+    return strFile == c_strStandardOutput;
+}
+
 void To(const QString& strFile, const QByteArray& content)
 {
-    if (strFile.isNull())
+    if (strFile.isNull() || IsStandardOutput(strFile))
         ToStandardOutput(content);
     else
         ToFile(strFile, content);

@@ -16,7 +16,10 @@ void ToStandardOutput(const QByteArray& content);
 /// or a pipe is written to directly. Throws `CToolError` when it cannot be written.
 void ToFile(const QString& strFile, const QByteArray& content);
 
-/// To the file, or to standard output when no file is named.
+/// Whether a file's name stands for standard output: it is `-`.
+bool IsStandardOutput(const QString& strFile);
+
+/// To the file, or to standard output when no file is named or its name is `-`.
 void To(const QString& strFile, const QByteArray& content);
 
 } // namespace Output

@@ -72,41 +72,55 @@ struct SFormat
     void (*pPaint)(QBuffer& buffer, QSize size, const FuncPaint& funcPaint);
 };
 
-constexpr SFormat c_aFormats[] = {
+constexpr SFormat c_formats[] = {
     {"png", enFormat::enPng, &PaintPng},
     {"svg", enFormat::enSvg, &PaintSvg},
     {"pdf", enFormat::enPdf, &PaintPdf},
 };
+
+/// Null for an unknown suffix.
+const SFormat* Find(const QString& strSuffix)
+{
+    const auto HasSuffix = [&strSuffix](const SFormat& row) {
+        return strSuffix.compare(QLatin1String(row.szSuffix), Qt::CaseInsensitive) == 0;
+    };
+    const auto* const pFormat = std::find_if(std::begin(c_formats), std::end(c_formats), HasSuffix);
+    return pFormat == std::end(c_formats) ? nullptr : pFormat;
+}
 
 } // namespace
 
 QString Suffixes()
 {
     QStringList listSuffixes;
-    for (const SFormat& row : c_aFormats)
+    for (const SFormat& row : c_formats)
         listSuffixes += QLatin1Char('.') + QString::fromLatin1(row.szSuffix);
     return listSuffixes.join(QStringLiteral(", "));
 }
 
 enFormat FormatOf(const QString& strFile)
 {
-    const QString strSuffix = QFileInfo(strFile).suffix();
-    const auto HasSuffix = [&strSuffix](const SFormat& row) {
-        return strSuffix.compare(QLatin1String(row.szSuffix), Qt::CaseInsensitive) == 0;
-    };
-    const auto it = std::find_if(std::begin(c_aFormats), std::end(c_aFormats), HasSuffix);
-    if (it == std::end(c_aFormats))
+    const SFormat* const pFormat = Find(QFileInfo(strFile).suffix());
+    if (pFormat == nullptr)
         throw CToolError(
-            QStringLiteral("'%1' tells no format that can be written; give a name that ends in one of: %2")
+            QStringLiteral("'%1' has no supported suffix; give a name that ends in one of: %2, or --format")
                 .arg(strFile, Suffixes()));
-    return it->format;
+    return pFormat->format;
+}
+
+enFormat FormatNamed(const QString& strName)
+{
+    const SFormat* const pFormat = Find(strName);
+    if (pFormat == nullptr)
+        throw CToolError(QStringLiteral("unknown format '%1'; give one of: png, svg, pdf").arg(strName));
+    return pFormat->format;
 }
 
 QByteArray Paint(enFormat format, QSize size, const FuncPaint& funcPaint)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    const auto it = std::find_if(std::begin(c_aFormats), std::end(c_aFormats),
+    const auto it = std::find_if(std::begin(c_formats), std::end(c_formats),
                                  [format](const SFormat& row) { return row.format == format; });
     it->pPaint(buffer, size, funcPaint);
     return buffer.data();

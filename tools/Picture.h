@@ -25,6 +25,9 @@ QString Suffixes();
 /// The format that a file's name asks for. Throws `CToolError` for any other.
 enFormat FormatOf(const QString& strFile);
 
+/// The format of a name, `png` for example, in any case. Throws `CToolError` for any other.
+enFormat FormatNamed(const QString& strName);
+
 /// The whole file of a picture.
 /// @param size in pixels, of which all formats hold 96 to the inch
 /// @param funcPaint paints it; throws `CToolError` when no painter can be had

@@ -6,6 +6,7 @@
 #include "tools/LocusCommand.h"
 #include "tools/Output.h"
 #include "tools/Report.h"
+#include "tools/StandardsCommand.h"
 #include "tools/TimingCommand.h"
 
 #include <QApplication>
@@ -21,7 +22,7 @@ namespace {
 constexpr int c_nSuccess = 0;
 constexpr int c_nBadInput = 2;
 
-constexpr int c_nSummaryColumn = 10; ///< where the summaries of the help begin
+constexpr int c_nSummaryColumn = 11; ///< where the summaries of the help begin
 
 using Subcommands = std::vector<SSubcommand>;
 
@@ -29,8 +30,8 @@ using Subcommands = std::vector<SSubcommand>;
 Subcommands AllSubcommands()
 {
     return {
-        EdidSubcommand(),  TimingSubcommand(), CctSubcommand(),
-        GamutSubcommand(), LocusSubcommand(),  ChartSubcommand(),
+        EdidSubcommand(),  TimingSubcommand(),    CctSubcommand(),   GamutSubcommand(),
+        LocusSubcommand(), StandardsSubcommand(), ChartSubcommand(),
     };
 }
 
@@ -87,7 +88,7 @@ QString ToolHelp(const Subcommands& vecSubcommands)
                             QString::fromLatin1(subcommand.szSummary));
     return strHelp +
            QStringLiteral(
-               "\n'sender-tool SUBCOMMAND --help' explains one; 'sender-tool --version' tells the version.\n"
+               "\n'sender-tool help SUBCOMMAND' explains one; 'sender-tool --version' tells the version.\n"
                "Bad input ends with status 2 and one line on standard error.\n");
 }
 
@@ -101,17 +102,36 @@ void RunSubcommand(const SSubcommand& subcommand, const QStringList& listWords)
         subcommand.pRun(arguments);
 }
 
-/// What stands in the place of a subcommand without being one.
-void RunWithoutSubcommand(const Subcommands& vecSubcommands, const QString& strWord)
+[[noreturn]] void ThrowNoSubcommand(const Subcommands& vecSubcommands, const QString& strWord)
 {
-    if (strWord == QLatin1String("--help") || strWord == QLatin1String("-h"))
-        return Output::ToStandardOutput(ToolHelp(vecSubcommands).toUtf8());
-    if (strWord == QLatin1String("--version"))
-        return Output::ToStandardOutput("sender-tool " SENDER_TOOL_VERSION "\n");
     const QString strWrong = strWord.isEmpty() ? QStringLiteral("no subcommand")
                                                : QStringLiteral("unknown subcommand '%1'").arg(strWord);
     throw CToolError(QStringLiteral("%1; give one of: %2; see 'sender-tool --help'")
                          .arg(strWrong, Names(vecSubcommands).join(QStringLiteral(", "))));
+}
+
+/// `help`, or `help SUBCOMMAND`.
+void PrintHelp(const Subcommands& vecSubcommands, const QString& strName)
+{
+    if (strName.isEmpty())
+        return Output::ToStandardOutput(ToolHelp(vecSubcommands).toUtf8());
+    const SSubcommand* const pSubcommand = Find(vecSubcommands, qPrintable(strName));
+    if (pSubcommand == nullptr)
+        ThrowNoSubcommand(vecSubcommands, strName);
+    Output::ToStandardOutput(HelpText(*pSubcommand).toUtf8());
+}
+
+/// What stands in the place of a subcommand without being one.
+void RunWithoutSubcommand(const Subcommands& vecSubcommands, const QStringList& listWords)
+{
+    const QString strWord = listWords.value(0);
+    if (strWord == QLatin1String("--help") || strWord == QLatin1String("-h"))
+        return PrintHelp(vecSubcommands, QString());
+    if (strWord == QLatin1String("help"))
+        return PrintHelp(vecSubcommands, listWords.value(1));
+    if (strWord == QLatin1String("--version"))
+        return Output::ToStandardOutput("sender-tool " SENDER_TOOL_VERSION "\n");
+    ThrowNoSubcommand(vecSubcommands, strWord);
 }
 
 void Run(int nCount, char** ppArguments)
@@ -124,7 +144,7 @@ void Run(int nCount, char** ppArguments)
     if (pSubcommand != nullptr)
         RunSubcommand(*pSubcommand, listWords.mid(2));
     else
-        RunWithoutSubcommand(vecSubcommands, listWords.value(1));
+        RunWithoutSubcommand(vecSubcommands, listWords.mid(1));
 }
 
 } // namespace

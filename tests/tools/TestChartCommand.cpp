@@ -21,6 +21,13 @@ private Q_SLOTS:
     void TheBackgroundIsThatAsked_data();
     void TheBackgroundIsThatAsked();
     void TheGridCanBeLeftOut();
+    void ADashIsStandardOutput_data();
+    void ADashIsStandardOutput();
+    void TheFormatAskedForWinsOverTheName();
+    void LinesKeepTheirPartOfTheSize_data();
+    void LinesKeepTheirPartOfTheSize();
+    void APointOutsideTheDiagramIsAWarning_data();
+    void APointOutsideTheDiagramIsAWarning();
     void BadInputIsOneLineAndStatus2_data();
     void BadInputIsOneLineAndStatus2();
     void AFailedRunLeavesTheFileAlone();
@@ -162,6 +169,73 @@ void TestChartCommand::TheGridCanBeLeftOut()
     QCOMPARE(Picture({"--no-grid"}).pixelColor(pos).name(), QStringLiteral("#323232"));
 }
 
+void TestChartCommand::ADashIsStandardOutput_data()
+{
+    QTest::addColumn<QByteArrayList>("options");
+    QTest::addColumn<QByteArray>("begin");
+    QTest::newRow("as PNG") << QByteArrayList{} << QByteArray("\x89PNG");
+    QTest::newRow("as the format asked for") << QByteArrayList{"--format", "PDF"} << QByteArray("%PDF-");
+}
+
+void TestChartCommand::ADashIsStandardOutput()
+{
+    QFETCH(QByteArrayList, options);
+    QFETCH(QByteArray, begin);
+    const SToolRun run = RunTool(QByteArrayList{"chart", "-o", "-", "--size", "200x200"} + options);
+    QCOMPARE(run.nStatus, 0);
+    QCOMPARE(run.errors, QByteArray());
+    QCOMPARE(run.output.left(begin.size()), begin);
+}
+
+void TestChartCommand::TheFormatAskedForWinsOverTheName()
+{
+    const QByteArray name = File("picture");
+    QCOMPARE(RunTool({"chart", "-o", name, "--size", "200x200", "--format", "svg"}).nStatus, 0);
+    QFile file(QFile::decodeName(name));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().startsWith("<?xml"));
+}
+
+void TestChartCommand::LinesKeepTheirPartOfTheSize_data()
+{
+    QTest::addColumn<QByteArrayList>("options");
+    QTest::addColumn<QByteArray>("width");
+    QTest::newRow("small") << QByteArrayList{"--size", "200x200"} << QByteArray("1.5");
+    QTest::newRow("by default") << QByteArrayList{} << QByteArray("1.5");
+    QTest::newRow("large: by the shorter side") << QByteArrayList{"--size", "6000x4000"} << QByteArray("6");
+    QTest::newRow("asked for") << QByteArrayList{"--line-width", "7.5"} << QByteArray("7.5");
+}
+
+void TestChartCommand::LinesKeepTheirPartOfTheSize()
+{
+    QFETCH(QByteArrayList, options);
+    QFETCH(QByteArray, width);
+    const QByteArray svg = SvgOf(QByteArrayList{"--standard", "sRGB"} + options);
+    QVERIFY(svg.contains("stroke-width=\"" + width + "\""));
+}
+
+void TestChartCommand::APointOutsideTheDiagramIsAWarning_data()
+{
+    QTest::addColumn<QByteArrayList>("options");
+    QTest::addColumn<QByteArray>("errors");
+    QTest::newRow("red and white")
+        << QByteArrayList{"--group", "wall:0.9,0.05;0.3,0.6;0.15,0.06;0.8,0.8"}
+        << QByteArray(
+               "sender-tool chart: warning: group 'wall': red 0.9,0.05 lies outside the CIE 1931 diagram\n"
+               "sender-tool chart: warning: group 'wall': white 0.8,0.8 lies outside the CIE 1931 diagram\n");
+    QTest::newRow("on the outline but for the rounding of its digits")
+        << QByteArrayList{"--standard", "DCIP3", "--standard", "Rec2020"} << QByteArray();
+}
+
+void TestChartCommand::APointOutsideTheDiagramIsAWarning()
+{
+    QFETCH(QByteArrayList, options);
+    const SToolRun run = RunTool(QByteArrayList{"chart", "-o", "-", "--size", "200x200"} + options);
+    QCOMPARE(run.nStatus, 0);
+    QVERIFY(run.output.startsWith("\x89PNG"));
+    QTEST(run.errors, "errors");
+}
+
 void TestChartCommand::BadInputIsOneLineAndStatus2_data()
 {
     QTest::addColumn<QByteArrayList>("options");
@@ -170,8 +244,9 @@ void TestChartCommand::BadInputIsOneLineAndStatus2_data()
     QTest::newRow("no file") << QByteArrayList{}
                              << QByteArray("no output file; give one that ends in .png, .svg");
     QTest::newRow("another format") << QByteArrayList{"-o", "chart.bmp"}
-                                    << QByteArray("'chart.bmp' tells no format");
-    QTest::newRow("no suffix") << QByteArrayList{"-o", "chart"} << QByteArray("'chart' tells no format");
+                                    << QByteArray("'chart.bmp' has no supported suffix");
+    QTest::newRow("no suffix") << QByteArrayList{"-o", "chart"}
+                               << QByteArray("'chart' has no supported suffix");
     QTest::newRow("a folder that is not there")
         << QByteArrayList{"-o", "/nowhere/at/all.png"} << QByteArray("cannot write '/nowhere/at/all.png'");
     QTest::newRow("size without an x")
@@ -205,6 +280,14 @@ void TestChartCommand::BadInputIsOneLineAndStatus2_data()
         << QByteArray("'nan' is no coordinate");
     QTest::newRow("coverage of one group") << QByteArrayList{"-o", file, "--standard", "sRGB", "--coverage"}
                                            << QByteArray("--coverage needs two groups");
+    QTest::newRow("another --format") << QByteArrayList{"-o", file, "--format", "gif"}
+                                      << QByteArray("unknown format 'gif'; give one of: png, svg, pdf");
+    QTest::newRow("line without a width")
+        << QByteArrayList{"-o", file, "--line-width", "0"} << QByteArray("the line width 0 is out of range");
+    QTest::newRow("line too wide") << QByteArrayList{"-o", file, "--line-width", "100.1"}
+                                   << QByteArray("the line width 100.1 is out of range");
+    QTest::newRow("line width that is none") << QByteArrayList{"-o", file, "--line-width", "bold"}
+                                             << QByteArray("'bold' is no line width in pixels");
     QTest::newRow("two backgrounds") << QByteArrayList{"-o", file, "--dark", "--background", "#000000"}
                                      << QByteArray("both given");
     QTest::newRow("colour that is none")

@@ -16,6 +16,9 @@ private Q_SLOTS:
     void gamutTellsTheCoverage();
     void gamutRejects_data();
     void gamutRejects();
+    void standardsListsEveryName();
+    void standardsPrintsJson();
+    void everyListedNameIsUnderstood();
     void locusPrintsEveryPoint_data();
     void locusPrintsEveryPoint();
     void locusPrintsJson();
@@ -79,6 +82,10 @@ void TestColourCommands::gamutTellsTheCoverage_data()
     QTest::newRow("two standards") << QByteArray("Rec2020") << QByteArray("DCIP3") << QByteArray("71.73 %\n");
     QTest::newRow("names in any case")
         << QByteArray("rec2020") << QByteArray("dcip3") << QByteArray("71.73 %\n");
+    QTest::newRow("names as people write them")
+        << QByteArray("ITU-R BT.2020") << QByteArray("Display P3") << QByteArray("71.73 %\n");
+    QTest::newRow("dashes and dots do not matter")
+        << QByteArray("Rec. 2020") << QByteArray("dci-p3") << QByteArray("71.73 %\n");
     QTest::newRow("itself") << QByteArray("NTSC") << QByteArray("NTSC") << QByteArray("100.00 %\n");
     QTest::newRow("inside the other")
         << QByteArray("0.3,0.3;0.35,0.3;0.3,0.35") << QByteArray("sRGB") << QByteArray("100.00 %\n");
@@ -112,7 +119,10 @@ void TestColourCommands::gamutRejects_data()
     QTest::newRow("bad point") << QByteArrayList{"--of", "sRGB", "--by", "0,0;1,0;2,1"}
                                << QByteArray("must be from 0 to 1");
     QTest::newRow("no area") << QByteArrayList{"--of", "0,0;0.5,0.5;1,1", "--by", "sRGB"}
-                             << QByteArray("has no area");
+                             << QByteArray("gamut '0,0;0.5,0.5;1,1' has no area");
+    QTest::newRow("no area to cover with")
+        << QByteArrayList{"--of", "sRGB", "--by", "0.1,0.1;0.2,0.2;0.3,0.3"}
+        << QByteArray("gamut '0.1,0.1;0.2,0.2;0.3,0.3' has no area");
 }
 
 void TestColourCommands::gamutRejects()
@@ -120,6 +130,40 @@ void TestColourCommands::gamutRejects()
     QFETCH(QByteArrayList, words);
     QFETCH(QByteArray, text);
     VERIFY_BAD_INPUT(RunTool(QByteArrayList{"gamut"} + words), text);
+}
+
+void TestColourCommands::standardsListsEveryName()
+{
+    const SToolRun run = RunTool({"standards"});
+    QCOMPARE(run.nStatus, 0);
+    const QByteArrayList listLines = run.output.split('\n');
+    QCOMPARE(listLines.size(), 10); // the heading, eight standards, and the end of the last line
+    QVERIFY(listLines[0].startsWith("Name      Red "));
+    QCOMPARE(listLines[7],
+             QByteArray(
+                 "Rec2020   0.708,0.292   0.17,0.797    0.131,0.046   0.3127,0.329  BT.2020, ITU-R BT.2020, "
+                 "BT.2100"));
+}
+
+void TestColourCommands::standardsPrintsJson()
+{
+    const QJsonArray standards = QJsonDocument::fromJson(RunTool({"standards", "--json"}).output).array();
+    QCOMPARE(standards.size(), 8);
+    const QJsonObject last = standards[7].toObject();
+    QCOMPARE(last[QStringLiteral("name")].toString(), QStringLiteral("DCIP3"));
+    QCOMPARE(last[QStringLiteral("green")].toArray(), (QJsonArray{0.265, 0.69}));
+    QCOMPARE(last[QStringLiteral("otherNames")].toArray()[1].toString(), QStringLiteral("Display P3"));
+}
+
+void TestColourCommands::everyListedNameIsUnderstood()
+{
+    const QJsonArray standards = QJsonDocument::fromJson(RunTool({"standards", "--json"}).output).array();
+    for (const QJsonValue& standard : standards) {
+        const QByteArray label = standard[QStringLiteral("name")].toString().toUtf8();
+        for (const QJsonValue& name : standard[QStringLiteral("otherNames")].toArray())
+            QCOMPARE(RunTool({"gamut", "--of", label, "--by", name.toString().toUtf8()}).output,
+                     QByteArray("100.00 %\n"));
+    }
 }
 
 void TestColourCommands::locusPrintsEveryPoint_data()

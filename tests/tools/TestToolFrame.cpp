@@ -28,6 +28,9 @@ void TestToolFrame::HelpGoesToStandardOutput_data()
                           << QByteArray("Usage: sender-tool edid [options] WIDTHx");
     QTest::newRow("timing") << QByteArrayList{"timing", "-h"}
                             << QByteArray("Usage: sender-tool timing [options] WIDTHx");
+    QTest::newRow("help as a word") << QByteArrayList{"help"} << QByteArray("Usage: sender-tool SUBCOMMAND ");
+    QTest::newRow("help of a subcommand")
+        << QByteArrayList{"help", "timing"} << QByteArray("Usage: sender-tool timing [options] WIDTHx");
     QTest::newRow("help wins over what is wrong")
         << QByteArrayList{"edid", "bad", "--bad", "--help"} << QByteArray("Usage: sender-tool edid");
 }
@@ -45,7 +48,8 @@ void TestToolFrame::HelpGoesToStandardOutput()
 void TestToolFrame::TheHelpListsEverySubcommand()
 {
     const SToolRun run = RunTool({"--help"});
-    for (const char* szName : {"  edid ", "  timing ", "  chart "})
+    for (const char* szName :
+         {"  edid ", "  timing ", "  cct ", "  gamut ", "  locus ", "  standards ", "  chart "})
         QVERIFY2(run.output.contains(szName), run.output.constData());
 }
 
@@ -65,6 +69,8 @@ void TestToolFrame::BadCommandLinesAreOneLineAndStatus2_data()
                                 << QByteArray("no subcommand; give one of: edid, timing");
     QTest::newRow("unknown subcommand")
         << QByteArrayList{"edit"} << QByteArray("unknown subcommand 'edit'; give one of: edid");
+    QTest::newRow("help of an unknown subcommand")
+        << QByteArrayList{"help", "edit"} << QByteArray("unknown subcommand 'edit'; give one of: edid");
     QTest::newRow("option before the subcommand")
         << QByteArrayList{"--json", "edid"} << QByteArray("unknown subcommand '--json'");
     QTest::newRow("no argument") << QByteArrayList{"edid"}
@@ -106,6 +112,8 @@ void TestToolFrame::OptionsAreUnderstoodInEveryForm_data()
         << QByteArrayList{"edid", "--format=json", "1920x1080@60", "-o", "/dev/stdout"};
     QTest::newRow("short option, joined")
         << QByteArrayList{"edid", "--format=json", "1920x1080@60", "-o/dev/stdout"};
+    QTest::newRow("a dash is standard output")
+        << QByteArrayList{"edid", "--format=json", "1920x1080@60", "-o", "-"};
     QTest::newRow("argument after --") << QByteArrayList{"edid", "--format=json", "--", "1920x1080@60"};
 }
 
