@@ -50,6 +50,7 @@ function(sender_add_benchmark NAME)
     add_executable(${TARGET} ${ARG_SOURCES})
     target_link_libraries(${TARGET} PRIVATE sender_compile_options ${ARG_LINK} benchmark::benchmark)
     add_dependencies(sender_benchmarks ${TARGET})
+    set_property(TARGET sender_benchmarks APPEND PROPERTY SENDER_NAMES ${NAME})
     set_target_properties(${TARGET} PROPERTIES
         OUTPUT_NAME ${NAME} RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bench")
 endfunction()
