@@ -158,9 +158,9 @@ void TestColourCommands::standardsPrintsJson()
 void TestColourCommands::everyListedNameIsUnderstood()
 {
     const QJsonArray standards = QJsonDocument::fromJson(RunTool({"standards", "--json"}).output).array();
-    for (const QJsonValue& standard : standards) {
+    for (const auto& standard : standards) {
         const QByteArray label = standard[QStringLiteral("name")].toString().toUtf8();
-        for (const QJsonValue& name : standard[QStringLiteral("otherNames")].toArray())
+        for (const auto& name : standard[QStringLiteral("otherNames")].toArray())
             QCOMPARE(RunTool({"gamut", "--of", label, "--by", name.toString().toUtf8()}).output,
                      QByteArray("100.00 %\n"));
     }
