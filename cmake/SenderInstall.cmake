@@ -49,3 +49,13 @@ configure_file("${PROJECT_SOURCE_DIR}/cmake/SenderModuleDialog.pc.in" "${CMAKE_B
 install(FILES "${CMAKE_BINARY_DIR}/SenderModuleDialog.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 install(FILES "${PROJECT_SOURCE_DIR}/workbench/sender-workbench.desktop"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+
+# What the tool writes of itself, under the names by which man and the shells find it.
+set(SENDER_TOOL_PAGES "${PROJECT_BINARY_DIR}/tools")
+install(FILES "${SENDER_TOOL_PAGES}/sender-tool.1"
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+install(FILES "${SENDER_TOOL_PAGES}/sender-tool.bash"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"
+    RENAME sender-tool)
+install(FILES "${SENDER_TOOL_PAGES}/_sender-tool"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions")

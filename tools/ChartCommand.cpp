@@ -257,7 +257,7 @@ SSubcommand ChartSubcommand()
         "'sender-tool standards' lists the standards.\n",
         {
             {"output", 'o', "FILE", "the picture, written whole or not at all; - for standard output"},
-            {"format", 0, "FORMAT", "png, svg or pdf, whatever the file's name ends in"},
+            {"format", 0, "FORMAT", "png, svg or pdf, whatever the file's name ends in", "png svg pdf"},
             {"size", 0, "WIDTHxHEIGHT", "in pixels, each above 100; 1000x1000 by default"},
             {"standard", 0, "NAME", "add a standard colour space; may be repeated"},
             {"group", 0, "NAME:POINTS", "add red, green, blue, white as x,y;x,y;x,y;x,y; may be repeated"},

@@ -46,7 +46,7 @@ SSubcommand EdidSubcommand()
         "cannot hold is cut and said on standard error, one line each.\n",
         {
             {"output", 'o', "FILE", "write to FILE instead of standard output, whole or not at all"},
-            {"format", 0, "FORMAT", "hex (default), bin, c or json"},
+            {"format", 0, "FORMAT", "hex (default), bin, c or json", "hex bin c json"},
         },
         enApplication::enCore,
         &Run,

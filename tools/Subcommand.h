@@ -19,6 +19,8 @@ struct SOption
     char chShort;        ///< short name, 0 for none
     const char* szValue; ///< what its value is called in the help; null for a flag
     const char* szHelp;
+    /// The values to choose from, separated by blanks; null where any may be given. Shells offer them.
+    const char* szChoices = nullptr;
 };
 
 /// One subcommand: everything that the frame needs to list it, explain it, parse for it and run it.
@@ -35,5 +37,8 @@ struct SSubcommand
     /// Does the work. Whatever is wrong with the input or the output is thrown as `CToolError`.
     void (*pRun)(const CArguments& arguments);
 };
+
+/// Every subcommand, in the order of the help.
+std::vector<SSubcommand> AllSubcommands();
 
 #endif // TOOLS_SUBCOMMAND_H

@@ -1,13 +1,7 @@
 #include "tools/Arguments.h"
-#include "tools/CctCommand.h"
-#include "tools/ChartCommand.h"
-#include "tools/EdidCommand.h"
-#include "tools/GamutCommand.h"
-#include "tools/LocusCommand.h"
 #include "tools/Output.h"
 #include "tools/Report.h"
-#include "tools/StandardsCommand.h"
-#include "tools/TimingCommand.h"
+#include "tools/Subcommand.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -22,18 +16,9 @@ namespace {
 constexpr int c_nSuccess = 0;
 constexpr int c_nBadInput = 2;
 
-constexpr int c_nSummaryColumn = 11; ///< where the summaries of the help begin
+constexpr int c_nSummaryColumn = 12; ///< where the summaries of the help begin
 
 using Subcommands = std::vector<SSubcommand>;
-
-/// Every subcommand, in the order of the help.
-Subcommands AllSubcommands()
-{
-    return {
-        EdidSubcommand(),  TimingSubcommand(),    CctSubcommand(),   GamutSubcommand(),
-        LocusSubcommand(), StandardsSubcommand(), ChartSubcommand(),
-    };
-}
 
 const SSubcommand* Find(const Subcommands& vecSubcommands, const char* szName)
 {

@@ -1,0 +1,26 @@
+#include "tools/CctCommand.h"
+#include "tools/ChartCommand.h"
+#include "tools/CompletionCommand.h"
+#include "tools/EdidCommand.h"
+#include "tools/GamutCommand.h"
+#include "tools/LocusCommand.h"
+#include "tools/ManualCommand.h"
+#include "tools/StandardsCommand.h"
+#include "tools/Subcommand.h"
+#include "tools/TimingCommand.h"
+
+std::vector<SSubcommand> AllSubcommands()
+{
+    return {
+        EdidSubcommand(),
+        TimingSubcommand(),
+        CctSubcommand(),
+        GamutSubcommand(),
+        LocusSubcommand(),
+        StandardsSubcommand(),
+        ChartSubcommand(),
+        // What describes the others comes last.
+        ManualSubcommand(),
+        CompletionSubcommand(),
+    };
+}
