@@ -7,9 +7,13 @@
 #include "host/OrviControl/Style.h"
 
 #include <QAction>
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPushButton>
+#include <QStringList>
+#include <QTextLayout>
+#include <QTextOption>
 
 #include <limits>
 
@@ -30,6 +34,36 @@ constexpr int c_nNoTimeout = std::numeric_limits<int>::max();
 QString StyleSheet(const QString& strStyle, const char* szSelector)
 {
     return GetFontStyleSheet(strStyle, QString::fromLatin1(szSelector), c_nFontSize);
+}
+
+/// The lines of a text when it is wrapped at a width, pixels; a word that is too long is wrapped too.
+QStringList WrappedLines(QString strText, const QFont& font, int nWidth)
+{
+    strText.replace(QLatin1Char('\n'), QChar::LineSeparator);
+    QTextLayout layout(strText, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    QStringList listLines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(nWidth);
+        listLines.append(strText.mid(line.textStart(), line.textLength()).trimmed());
+    }
+    layout.endLayout();
+    return listLines;
+}
+
+/// The first lines of a text, the last of them with an ellipsis; the text itself when it has no more lines.
+QString FirstLines(const QString& strText, const QFont& font, int nWidth, int nLines)
+{
+    constexpr QChar c_chEllipsis(0x2026);
+    QStringList listLines = WrappedLines(strText, font, nWidth);
+    if (listLines.size() <= nLines)
+        return strText;
+    listLines = listLines.mid(0, nLines);
+    listLines.last() = QFontMetrics(font).elidedText(listLines.last() + c_chEllipsis, Qt::ElideRight, nWidth);
+    return listLines.join(QLatin1Char('\n'));
 }
 
 } // namespace
@@ -146,6 +180,14 @@ CCustomLabel* CreateCaption(QWidget* pParent, const QString& strText, Qt::Alignm
     StyleCaption(pLabel);
     pLabel->setAlignment(alignment);
     return pLabel;
+}
+
+void ShowWrapped(CCustomLabel* pLabel, const QString& strText, int nLines)
+{
+    pLabel->ensurePolished(); // the style sheet decides the font
+    const QString strShown = FirstLines(strText, pLabel->font(), pLabel->contentsRect().width(), nLines);
+    pLabel->setText(strShown);
+    pLabel->setToolTip(strShown == strText ? QString() : strText);
 }
 
 void FixSize(QWidget* pWidget, QSize size)

@@ -31,6 +31,9 @@ constexpr int c_nIndexWithoutCustom = 4;
 constexpr int c_nLowRateIndexMax = 2;
 constexpr int c_nRateIndexMax = 4;
 
+/// Lines that the error label holds.
+constexpr int c_nErrorLines = 3;
+
 /// What the dialog starts from when the host has no setting.
 SEdidSetting DefaultSetting()
 {
@@ -349,7 +352,7 @@ void CEdidSetDlg::RefreshErrorInfo()
 
 void CEdidSetDlg::ClearError()
 {
-    m_pErrorLabel->setText(QString());
+    DialogFrame::ShowWrapped(m_pErrorLabel, QString(), c_nErrorLines);
     m_byShowError = 0;
     m_pErrorLabel->hide();
     m_pOKButton->setEnabled(true);
@@ -361,7 +364,7 @@ void CEdidSetDlg::ShowVerdict(const QString& strVerdict)
         ClearError();
         return;
     }
-    m_pErrorLabel->setText(strVerdict);
+    DialogFrame::ShowWrapped(m_pErrorLabel, strVerdict, c_nErrorLines);
     m_byShowError = 1;
     m_pErrorLabel->show();
     m_pOKButton->setEnabled(EdidLimit::IsNotice(strVerdict));

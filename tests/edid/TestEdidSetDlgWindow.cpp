@@ -33,6 +33,9 @@ private Q_SLOTS:
     void ClockLimit();
     void AnErrorDisablesOKAndGrowsTheWindow();
     void TheNoticeLeavesOKEnabled();
+    void AVerdictThatFitsHasNoTooltip();
+    void ALongVerdictEndsInAnEllipsisAndIsTheTooltip_data();
+    void ALongVerdictEndsInAnEllipsisAndIsTheTooltip();
     void ATypedSizeIsJudged();
     void ATypedSizeAboveTheLimitBecomesTheLimit();
     void ALimitOfNothingEndsAtTheSmallestSize();
@@ -281,6 +284,56 @@ void TestEdidSetDlgWindow::TheNoticeLeavesOKEnabled()
     QVERIFY(!dialog.probe.Error().isHidden());
     QVERIFY(dialog.probe.OK().isEnabled());
     QCOMPARE(dialog.dlg.height(), 32 * 6 + 39);
+}
+
+namespace {
+
+CEdidHost& WithVerdict(CEdidHost& host, const QString& strVerdict)
+{
+    host.videoSourceLogic.funcVerdict = [strVerdict](int nWidth, int, int) {
+        return nWidth == 1280 ? QString() : strVerdict;
+    };
+    return host;
+}
+
+} // namespace
+
+void TestEdidSetDlgWindow::AVerdictThatFitsHasNoTooltip()
+{
+    CEdidHost host;
+    const QString strVerdict = QStringLiteral("first line\nsecond line\nthird line");
+    const CEdidDialog dialog(WithVerdict(host, strVerdict));
+    QCOMPARE(dialog.probe.Error().text(), strVerdict);
+    QCOMPARE(dialog.probe.Error().toolTip(), QString());
+}
+
+void TestEdidSetDlgWindow::ALongVerdictEndsInAnEllipsisAndIsTheTooltip_data()
+{
+    QTest::addColumn<QString>("verdict");
+    QTest::newRow("words") << QStringLiteral("much too large for this input ").repeated(10);
+    QTest::newRow("Chinese") << QStringLiteral("分辨率超出此输入的限制，").repeated(10);
+    QTest::newRow("one word") << QStringLiteral("x").repeated(300);
+    QTest::newRow("four short lines") << QStringLiteral("one\ntwo\nthree\nfour");
+}
+
+void TestEdidSetDlgWindow::ALongVerdictEndsInAnEllipsisAndIsTheTooltip()
+{
+    QFETCH(QString, verdict);
+    CEdidHost host;
+    CEdidDialog dialog(WithVerdict(host, verdict));
+    const CCustomLabel& error = dialog.probe.Error();
+    QCOMPARE(error.toolTip(), verdict);
+    QVERIFY(error.text().endsWith(QChar(0x2026)));
+    QVERIFY(error.text().size() < verdict.size() + 1);
+    const QRect rcText =
+        error.fontMetrics().boundingRect(QRect(0, 0, error.width(), 1000), Qt::TextWordWrap, error.text());
+    QCOMPARE(error.text().count(QLatin1Char('\n')), 2);
+    QVERIFY(rcText.height() <= error.height());
+    QVERIFY(rcText.width() <= error.width());
+
+    EdidDialog::Choose(dialog.probe.Resolution(), QStringLiteral("1280 × 720"));
+    QCOMPARE(error.text(), QString());
+    QCOMPARE(error.toolTip(), QString());
 }
 
 void TestEdidSetDlgWindow::ATypedSizeIsJudged()
