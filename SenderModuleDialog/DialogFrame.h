@@ -100,8 +100,8 @@ void Finish(QDialog* pDialog, int nResult);
 CCustomLabel* CreateCaption(QWidget* pParent, const QString& strText,
                             Qt::Alignment alignment = Qt::AlignRight | Qt::AlignVCenter);
 
-/// Shows a text in a label of fixed size that wraps words. A text with more lines than the label holds ends in
-/// an ellipsis, and the tooltip is the whole text; a text that fits has no tooltip.
+/// Shows a text in a label of fixed size that wraps words. A text with more lines than the label holds ends
+/// in an ellipsis, and the tooltip is the whole text; a text that fits has no tooltip.
 /// @param nLines lines that the label holds, at least 1
 void ShowWrapped(CCustomLabel* pLabel, const QString& strText, int nLines);
 

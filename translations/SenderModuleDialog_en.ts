@@ -5,11 +5,11 @@
     <name>CCustomDialog</name>
     <message>
         <source>DVI1~4的点数和不能超过888万。</source>
-        <translation>DVI 1 to 4 together may not exceed 8.88 million pixels.</translation>
+        <translation>DVI 1 to 4: pixel sum may not exceed 8.88 million.</translation>
     </message>
     <message>
         <source>DVI5~8的点数和不能超过888万。</source>
-        <translation>DVI 5 to 8 together may not exceed 8.88 million pixels.</translation>
+        <translation>DVI 5 to 8: pixel sum may not exceed 8.88 million.</translation>
     </message>
     <message>
         <source>EDID的输出面积不能超过260W。</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>IP名称</source>
-        <translation>Name</translation>
+        <translation>IP name</translation>
     </message>
     <message>
         <source>IP地址</source>
@@ -33,15 +33,15 @@
     </message>
     <message>
         <source>IP地址不合理。</source>
-        <translation>The IP address is not usable.</translation>
+        <translation>The IP address is unreasonable.</translation>
     </message>
     <message>
         <source>IP地址不能以0开头。</source>
-        <translation>An IP address may not begin with 0.</translation>
+        <translation>The IP address must not begin with 0.</translation>
     </message>
     <message>
         <source>IP地址与默认网关相同。</source>
-        <translation>The IP address is that of the default gateway.</translation>
+        <translation>The IP address equals the default gateway.</translation>
     </message>
     <message>
         <source>IP地址已被使用。</source>
@@ -57,11 +57,11 @@
     </message>
     <message>
         <source>主控数量</source>
-        <translation>Processors</translation>
+        <translation>Processor count</translation>
     </message>
     <message>
         <source>主控类型</source>
-        <translation>Processor</translation>
+        <translation>Processor type</translation>
     </message>
     <message>
         <source>保存失败。</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>分辨率</source>
-        <translation>Size</translation>
+        <translation>Resolution</translation>
     </message>
     <message>
         <source>发送中...</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>存在重复的IP地址。</source>
-        <translation>Two IP addresses are the same.</translation>
+        <translation>There are duplicate IP addresses.</translation>
     </message>
     <message>
         <source>宽</source>
@@ -105,11 +105,11 @@
     </message>
     <message>
         <source>屏幕颜色空间（校正后）</source>
-        <translation>Screen colour space (corrected)</translation>
+        <translation>Screen colour space (after correction)</translation>
     </message>
     <message>
         <source>工程设置支持的最大帧率(%1Hz)小于实际输入的最大帧率(%2Hz)，是否继续？</source>
-        <translation>The maximum frame rate of the project (%1 Hz) is below the highest rate that comes in (%2 Hz). Continue?</translation>
+        <translation>The maximum frame rate that the project supports (%1 Hz) is below the actual maximum input frame rate (%2 Hz). Continue?</translation>
     </message>
     <message>
         <source>已使用DisplayID 1.3扩展块</source>
@@ -117,15 +117,15 @@
     </message>
     <message>
         <source>帧率</source>
-        <translation>Rate</translation>
+        <translation>Frame rate</translation>
     </message>
     <message>
         <source>帧率和色深设置</source>
-        <translation>Frame rate and colour depth</translation>
+        <translation>Frame rate and colour depth settings</translation>
     </message>
     <message>
         <source>批量添加IP</source>
-        <translation>Add IP addresses</translation>
+        <translation>Add IP addresses in a batch</translation>
     </message>
     <message>
         <source>拉伸</source>
@@ -133,7 +133,7 @@
     </message>
     <message>
         <source>支持的最大帧率</source>
-        <translation>Maximum frame rate</translation>
+        <translation>Max. supported frame rate</translation>
     </message>
     <message>
         <source>标准</source>
@@ -145,11 +145,11 @@
     </message>
     <message>
         <source>添加数量</source>
-        <translation>Number</translation>
+        <translation>Count to add</translation>
     </message>
     <message>
         <source>演示工程配置</source>
-        <translation>Demo project</translation>
+        <translation>Demo project configuration</translation>
     </message>
     <message>
         <source>电脑</source>
@@ -157,23 +157,23 @@
     </message>
     <message>
         <source>画布大小设置</source>
-        <translation>Canvas size</translation>
+        <translation>Canvas size settings</translation>
     </message>
     <message>
         <source>画布的宽不能大于%1。</source>
-        <translation>The canvas may be at most %1 wide.</translation>
+        <translation>The canvas width may not exceed %1.</translation>
     </message>
     <message>
         <source>画布的宽或高不能小于%1。</source>
-        <translation>Canvas width and height must be at least %1.</translation>
+        <translation>The canvas width or height may not be below %1.</translation>
     </message>
     <message>
         <source>画布的面积不能大于%1。</source>
-        <translation>The canvas area may be at most %1.</translation>
+        <translation>The canvas area may not exceed %1.</translation>
     </message>
     <message>
         <source>画布的高不能大于%1。</source>
-        <translation>The canvas may be at most %1 high.</translation>
+        <translation>The canvas height may not exceed %1.</translation>
     </message>
     <message>
         <source>确定</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>背景图片设置</source>
-        <translation>Background picture</translation>
+        <translation>Background picture settings</translation>
     </message>
     <message>
         <source>自定义</source>
@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>自定义添加主控</source>
-        <translation>Add processors</translation>
+        <translation>Add processors by hand</translation>
     </message>
     <message>
         <source>自定义：%1×%2</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>色深</source>
-        <translation>Depth</translation>
+        <translation>Colour depth</translation>
     </message>
     <message>
         <source>被覆盖</source>
@@ -213,23 +213,23 @@
     </message>
     <message>
         <source>设置IP地址</source>
-        <translation>Set IP addresses</translation>
+        <translation>Set IP address</translation>
     </message>
     <message>
         <source>起始IP地址</source>
-        <translation>First address</translation>
+        <translation>Start address</translation>
     </message>
     <message>
         <source>输入的IP地址和本机电脑的IP地址相同，会导致网络连接探测失败，是否继续？</source>
-        <translation>This is an IP address of this computer; processors will not be found on the network. Continue?</translation>
+        <translation>The IP address is the same as this computer's, so network detection will fail. Continue?</translation>
     </message>
     <message>
         <source>输出口带载面积不能超过655360。</source>
-        <translation>The load of an output port may not exceed 655360 pixels.</translation>
+        <translation>The load area of an output port may not exceed 655360.</translation>
     </message>
     <message>
         <source>输出口数量</source>
-        <translation>Output ports</translation>
+        <translation>Output port count</translation>
     </message>
     <message>
         <source>输出色彩空间</source>
@@ -253,11 +253,11 @@
     </message>
     <message>
         <source>连接电脑</source>
-        <translation>Computer</translation>
+        <translation>Connect PC</translation>
     </message>
     <message>
         <source>选取图片...</source>
-        <translation>Choose...</translation>
+        <translation>Select picture...</translation>
     </message>
     <message>
         <source>透明度</source>
@@ -265,15 +265,15 @@
     </message>
     <message>
         <source>重置修缝系数</source>
-        <translation>Reset seam repair</translation>
+        <translation>Reset seam repair coefficient</translation>
     </message>
     <message>
         <source>重置校正系数</source>
-        <translation>Reset correction</translation>
+        <translation>Reset correction coefficient</translation>
     </message>
     <message>
         <source>颜色格式</source>
-        <translation>Format</translation>
+        <translation>Colour format</translation>
     </message>
     <message>
         <source>高</source>

@@ -5,7 +5,7 @@
     <name>CAddressListModel</name>
     <message>
         <source>改为 %1，尚未应用</source>
-        <translation>changed to %1, not yet in force</translation>
+        <translation>changed to %1, not yet applied</translation>
     </message>
     <message>
         <source>原为 %1</source>
@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>恢复原样</source>
-        <translation>Reset</translation>
+        <translation>Restore</translation>
     </message>
     <message>
         <source>删除</source>
@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>手动添加主控...</source>
-        <translation>Add processors...</translation>
+        <translation>Add processors by hand...</translation>
     </message>
     <message>
         <source>新建演示工程...</source>
@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>要设置的主控数量</source>
-        <translation>Processors to set</translation>
+        <translation>Number of processors to set</translation>
     </message>
     <message>
         <source>检查地址</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>已恢复为 %1。</source>
-        <translation>Reset to %1.</translation>
+        <translation>Restored to %1.</translation>
     </message>
     <message>
         <source>已添加 %1 个主控，各有 %2 个输出口。</source>
@@ -188,7 +188,7 @@
     </message>
     <message>
         <source>图片已复制到剪贴板。</source>
-        <translation>The picture is on the clipboard.</translation>
+        <translation>The picture has been copied to the clipboard.</translation>
     </message>
     <message>
         <source>导出 SVG</source>
@@ -219,23 +219,23 @@
     <name>CCustomDialog</name>
     <message>
         <source>分辨率的宽或高不能小于%1。</source>
-        <translation>Width and height must be at least %1.</translation>
+        <translation>The width or height of the resolution may not be below %1.</translation>
     </message>
     <message>
         <source>分辨率的宽不能大于%1。</source>
-        <translation>The width may be at most %1.</translation>
+        <translation>The width of the resolution may not exceed %1.</translation>
     </message>
     <message>
         <source>分辨率的高不能大于%1。</source>
-        <translation>The height may be at most %1.</translation>
+        <translation>The height of the resolution may not exceed %1.</translation>
     </message>
     <message>
         <source>此帧率下分辨率的面积不能大于%1。</source>
-        <translation>At this rate the area may be at most %1.</translation>
+        <translation>At this frame rate the area of the resolution may not exceed %1.</translation>
     </message>
     <message>
         <source>像素时钟%1MHz超过接口的最大值%2MHz。</source>
-        <translation>The pixel clock of %1 MHz is above the input&apos;s maximum of %2 MHz.</translation>
+        <translation>The pixel clock of %1 MHz exceeds the maximum of the input, %2 MHz.</translation>
     </message>
     <message>
         <source>已使用DisplayID 1.3扩展块</source>
@@ -243,7 +243,7 @@
     </message>
     <message>
         <source>此接口不支持需要EDID扩展块的分辨率。</source>
-        <translation>This input has no modes that need an EDID extension block.</translation>
+        <translation>This input does not support resolutions that need an EDID extension block.</translation>
     </message>
 </context>
 <context>
@@ -258,7 +258,7 @@
     </message>
     <message>
         <source>正确</source>
-        <translation>good</translation>
+        <translation>correct</translation>
     </message>
     <message>
         <source>错误</source>
@@ -266,7 +266,7 @@
     </message>
     <message>
         <source>%1 %2 %3（不是字母）</source>
-        <translation>%1 %2 %3 (no letters)</translation>
+        <translation>%1 %2 %3 (not letters)</translation>
     </message>
     <message>
         <source>%1 年</source>
@@ -282,7 +282,7 @@
     </message>
     <message>
         <source>模拟</source>
-        <translation>Simulation</translation>
+        <translation>analogue</translation>
     </message>
     <message>
         <source>未知</source>
@@ -350,7 +350,7 @@
     </message>
     <message>
         <source>制造时间</source>
-        <translation>Manufactured</translation>
+        <translation>Date of manufacture</translation>
     </message>
     <message>
         <source>EDID 版本</source>
@@ -604,11 +604,11 @@
     </message>
     <message>
         <source>“%1”不是色度坐标。请输入 0 到 1 之间的两个数，例如 0.3127, 0.3290。</source>
-        <translation>"%1" is no chromaticity. Please type two numbers from 0 to 1, such as 0.3127, 0.3290.</translation>
+        <translation>&quot;%1&quot; is not a chromaticity. Please type two numbers from 0 to 1, such as 0.3127, 0.3290.</translation>
     </message>
     <message>
         <source>白点必须在光谱轨迹以内。</source>
-        <translation>The white point has to lie inside the spectral locus.</translation>
+        <translation>The white point must lie inside the spectral locus.</translation>
     </message>
 </context>
 <context>
@@ -627,7 +627,7 @@
     </message>
     <message>
         <source>所选的组取标准的色度坐标</source>
-        <translation>The selected group takes the points of a standard</translation>
+        <translation>The selected group takes the chromaticities of a standard</translation>
     </message>
     <message>
         <source>删除</source>
@@ -826,7 +826,7 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>画布、帧率和色深</source>
-        <translation>Canvas, rate and depth</translation>
+        <translation>Canvas, frame rate and colour depth</translation>
     </message>
     <message>
         <source>工程</source>
@@ -842,11 +842,11 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>最大帧率</source>
-        <translation>Highest frame rate</translation>
+        <translation>Maximum frame rate</translation>
     </message>
     <message>
         <source>输入的最大帧率</source>
-        <translation>Highest input rate</translation>
+        <translation>Maximum input frame rate</translation>
     </message>
     <message>
         <source>输出色深</source>
@@ -858,7 +858,7 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>帧率和色深...</source>
-        <translation>Rate and depth...</translation>
+        <translation>Frame rate and depth...</translation>
     </message>
     <message>
         <source>启用</source>
@@ -882,7 +882,7 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>设置背景图片...</source>
-        <translation>Background picture...</translation>
+        <translation>Set background picture...</translation>
     </message>
     <message>
         <source>校正</source>
@@ -890,11 +890,11 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>预设值</source>
-        <translation>Preset</translation>
+        <translation>Preset value</translation>
     </message>
     <message>
         <source>取得的值</source>
-        <translation>Taken</translation>
+        <translation>Value taken</translation>
     </message>
     <message>
         <source>校正系数</source>
@@ -950,7 +950,7 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>最大帧率已设为 %1 Hz，输出色深已设为 %2 bit。</source>
-        <translation>The highest frame rate is now %1 Hz, the output depth %2 bit.</translation>
+        <translation>The maximum frame rate is now %1 Hz, the output depth %2 bit.</translation>
     </message>
     <message>
         <source>校正系数：%1</source>
@@ -1001,7 +1001,7 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>原有文件不是可读的工程，已另存为 %1。</source>
-        <translation>The file that was there is no readable project; it is kept as %1.</translation>
+        <translation>The existing file is not a readable project; it has been kept as %1.</translation>
     </message>
     <message>
         <source>已保存 %1</source>
@@ -1131,7 +1131,7 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>未知的标志</source>
-        <translation>a flag that is not known</translation>
+        <translation>an unknown flag</translation>
     </message>
     <message>
         <source>名称</source>
@@ -1143,19 +1143,19 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>支持 10 位</source>
-        <translation>Offers 10 bit</translation>
+        <translation>Supports 10 bit</translation>
     </message>
     <message>
         <source>支持 12 位</source>
-        <translation>Offers 12 bit</translation>
+        <translation>Supports 12 bit</translation>
     </message>
     <message>
         <source>接受完整的 EDID 记录</source>
-        <translation>Takes the full EDID record</translation>
+        <translation>Accepts the full EDID record</translation>
     </message>
     <message>
         <source>支持 EDID 扩展块</source>
-        <translation>Has modes that need an extension block</translation>
+        <translation>Supports EDID extension blocks</translation>
     </message>
     <message>
         <source>输出口数量</source>
@@ -1163,15 +1163,15 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>工程帧率 (Hz)</source>
-        <translation>Frame rate of the project (Hz)</translation>
+        <translation>Project frame rate (Hz)</translation>
     </message>
     <message>
         <source>工程色深（位）</source>
-        <translation>Colour depth of the project (bit)</translation>
+        <translation>Project colour depth (bit)</translation>
     </message>
     <message>
         <source>硬件色深</source>
-        <translation>Colour depth of the hardware</translation>
+        <translation>Hardware colour depth</translation>
     </message>
     <message>
         <source>硬件以 50 Hz 运行</source>
@@ -1179,7 +1179,7 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>实际输入帧率 (Hz)，0 为未知</source>
-        <translation>Rate that comes in (Hz), 0 unknown</translation>
+        <translation>Actual input frame rate (Hz, 0: unknown)</translation>
     </message>
     <message>
         <source>输出超限</source>
@@ -1195,15 +1195,15 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>从硬件读取画布</source>
-        <translation>Canvas is read from the hardware</translation>
+        <translation>Canvas size is read from the hardware</translation>
     </message>
     <message>
         <source>硬件画布宽</source>
-        <translation>Width in the hardware</translation>
+        <translation>Hardware canvas width</translation>
     </message>
     <message>
         <source>硬件画布高</source>
-        <translation>Height in the hardware</translation>
+        <translation>Hardware canvas height</translation>
     </message>
     <message>
         <source>最大宽</source>
@@ -1223,7 +1223,7 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>EDID 写入后不生效</source>
-        <translation>A written EDID does not take</translation>
+        <translation>A written EDID does not take effect</translation>
     </message>
     <message>
         <source>写入延迟（毫秒）</source>
@@ -1235,19 +1235,19 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>按 IP 地址寻址</source>
-        <translation>Processors are addressed by IP</translation>
+        <translation>Addressed by IP address</translation>
     </message>
     <message>
         <source>探测方式，2 要求起始地址</source>
-        <translation>Detect strategy, 2 asks for a first address</translation>
+        <translation>Detect strategy (2 asks for a start address)</translation>
     </message>
     <message>
         <source>已有主控数量，-1 为发送器的数量</source>
-        <translation>Processors that exist, -1 the number of senders</translation>
+        <translation>Existing processors (-1: the number of senders)</translation>
     </message>
     <message>
         <source>主控数量上限（按地址）</source>
-        <translation>Most processors (by address)</translation>
+        <translation>Maximum number of processors (by address)</translation>
     </message>
 </context>
 <context>
@@ -1262,7 +1262,7 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>正常</source>
-        <translation>good</translation>
+        <translation>normal</translation>
     </message>
     <message>
         <source>，</source>
@@ -1307,11 +1307,11 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>本机的地址：需要确认</source>
-        <translation>an address of this computer: needs a confirmation</translation>
+        <translation>an address of this computer: needs confirmation</translation>
     </message>
     <message>
         <source>已在列表中</source>
-        <translation>is in the list already</translation>
+        <translation>already in the list</translation>
     </message>
     <message>
         <source>以 0 开头</source>
@@ -1327,11 +1327,11 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>主机不能使用的地址：组播、保留或网络地址</source>
-        <translation>no host can have it: multicast, reserved, or a network&apos;s own address</translation>
+        <translation>an address that hosts cannot use: multicast, reserved or a network address</translation>
     </message>
     <message>
         <source>不是完整的地址</source>
-        <translation>no complete address</translation>
+        <translation>not a complete address</translation>
     </message>
 </context>
 </TS>

@@ -16,7 +16,7 @@ namespace {
 
 /// Room that a combo box keeps for its arrow, and a button for its frame, pixels.
 constexpr int c_nArrowRoom = 25;
-constexpr int c_nFrameRoom = 4;
+constexpr int c_nFrameRoom = 10;
 
 bool LabelFits(const QLabel& label)
 {
