@@ -4,22 +4,35 @@
 add_custom_target(sender_benchmarks)
 add_custom_target(sender_thread_tests)
 
-# sender_object_library(NAME SOURCES ... LINK ...): one folder of the shared library.
+# sender_object_library(NAME SOURCES ... LINK ... [PUBLIC_HEADERS ...]): one folder of the shared library. The public
+# headers are those that a host includes, directly or through another one; the rest is not installed.
 function(sender_object_library NAME)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PUBLIC_HEADERS" ${ARGN})
     add_library(${NAME} OBJECT ${ARG_SOURCES})
     target_compile_definitions(${NAME} PRIVATE SENDERMODULEDIALOG_LIBRARY)
     target_link_libraries(${NAME} PUBLIC sender_compile_options ${ARG_LINK})
+    list(TRANSFORM ARG_PUBLIC_HEADERS PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
+    set_property(GLOBAL APPEND PROPERTY SENDER_PUBLIC_HEADERS ${ARG_PUBLIC_HEADERS})
 endfunction()
 
-# sender_host_library(NAME SOURCES ... LINK ...): one of the shared libraries that a host brings.
+# sender_public_headers(TARGET HEADERS...): what is installed with a target. Headers keep their paths below the root:
+# #include "SenderModuleDialog/geometry/Line.h".
+function(sender_public_headers TARGET)
+    target_sources(${TARGET} PUBLIC
+        FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}" FILES ${ARGN})
+    set_target_properties(${TARGET} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+    set_property(GLOBAL APPEND PROPERTY SENDER_VERIFIED_TARGETS ${TARGET})
+endfunction()
+
+# sender_host_library(NAME SOURCES ... LINK ... PUBLIC_HEADERS ...): one of the shared libraries that a host brings.
 function(sender_host_library NAME)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PUBLIC_HEADERS" ${ARGN})
     string(TOUPPER ${NAME} UPPER_NAME)
     add_library(${NAME} SHARED ${ARG_SOURCES})
     target_compile_definitions(${NAME} PRIVATE ${UPPER_NAME}_LIBRARY)
     target_link_libraries(${NAME} PRIVATE sender_compile_options PUBLIC ${ARG_LINK})
     set_target_properties(${NAME} PROPERTIES INSTALL_RPATH "$ORIGIN")
+    sender_public_headers(${NAME} ${ARG_PUBLIC_HEADERS})
 endfunction()
 
 # sender_add_test(NAME SOURCES ... LINK ... [LABELS ...] [ARGS ...] [TIMEOUT seconds]): one Qt Test class.
@@ -28,7 +41,7 @@ function(sender_add_test NAME)
     cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK;LABELS;ARGS;ENVIRONMENT" ${ARGN})
     add_executable(${NAME} ${ARG_SOURCES})
     target_link_libraries(${NAME} PRIVATE sender_compile_options ${ARG_LINK} Qt5::Test)
-    set_target_properties(${NAME} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    set_target_properties(${NAME} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
     add_test(NAME ${NAME} COMMAND ${NAME} ${ARG_ARGS})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 300)
@@ -52,5 +65,5 @@ function(sender_add_benchmark NAME)
     add_dependencies(sender_benchmarks ${TARGET})
     set_property(TARGET sender_benchmarks APPEND PROPERTY SENDER_NAMES ${NAME})
     set_target_properties(${TARGET} PROPERTIES
-        OUTPUT_NAME ${NAME} RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bench")
+        OUTPUT_NAME ${NAME} RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bench")
 endfunction()

@@ -1,5 +1,5 @@
-# Installs the build into a folder of its own, builds a program against it with find_package, and runs it; then asks
-# pkg-config for the same library.
+# Installs the build into a folder of its own, moves that elsewhere, builds a program against it with find_package, and
+# runs it; then asks pkg-config for the same library.
 #
 #   cmake -DBUILD_FOLDER=... -DCONSUMER=... -DWORK_FOLDER=... -DCXX=... -P TryInstall.cmake
 function(run)
@@ -7,12 +7,22 @@ function(run)
     if(NOT STATUS EQUAL 0)
         message(FATAL_ERROR "${ARGN}\n${OUTPUT}")
     endif()
+    string(STRIP "${OUTPUT}" OUTPUT)
     set(OUTPUT "${OUTPUT}" PARENT_SCOPE)
 endfunction()
 
+function(require_file FILE)
+    if(NOT EXISTS "${FILE}")
+        message(FATAL_ERROR "${FILE} is not installed")
+    endif()
+endfunction()
+
+# Nothing that is installed may depend on where it was installed first.
 file(REMOVE_RECURSE "${WORK_FOLDER}")
+run("${CMAKE_COMMAND}" --install "${BUILD_FOLDER}" --prefix "${WORK_FOLDER}/first")
 set(PREFIX "${WORK_FOLDER}/prefix")
-run("${CMAKE_COMMAND}" --install "${BUILD_FOLDER}" --prefix "${PREFIX}")
+file(RENAME "${WORK_FOLDER}/first" "${PREFIX}")
+
 run("${CMAKE_COMMAND}" -S "${CONSUMER}" -B "${WORK_FOLDER}/build" -G Ninja
     "-DCMAKE_PREFIX_PATH=${PREFIX}" "-DCMAKE_CXX_COMPILER=${CXX}")
 run("${CMAKE_COMMAND}" --build "${WORK_FOLDER}/build")
@@ -24,16 +34,32 @@ endif()
 
 # What is installed runs where it is, and names no place of the build.
 run("${PREFIX}/bin/sender-tool" cct 6500)
-foreach(FILE sender-workbench.desktop)
-    if(NOT EXISTS "${PREFIX}/share/applications/${FILE}")
-        message(FATAL_ERROR "${FILE} is not installed")
-    endif()
-endforeach()
-file(GLOB_RECURSE PC_FILES "${PREFIX}/SenderModuleDialog.pc")
+require_file("${PREFIX}/share/applications/sender-workbench.desktop")
+file(GLOB_RECURSE PC_FILE "${PREFIX}/SenderModuleDialog.pc")
 file(GLOB_RECURSE CONFIG_FILES "${PREFIX}/SenderModuleDialogTargets*.cmake")
-foreach(FILE ${PC_FILES} ${CONFIG_FILES})
+foreach(FILE ${PC_FILE} ${CONFIG_FILES})
     file(READ "${FILE}" TEXT)
-    if(TEXT MATCHES "${BUILD_FOLDER}[^/]*/lib")
-        message(FATAL_ERROR "${FILE} names the build folder")
+    if(TEXT MATCHES "${BUILD_FOLDER}[^/]*/lib" OR TEXT MATCHES "${WORK_FOLDER}")
+        message(FATAL_ERROR "${FILE} names a folder of the build")
     endif()
 endforeach()
+
+# The headers include each other and nothing that stayed behind.
+file(GLOB INCLUDE_FOLDER "${PREFIX}/include/SenderModuleDialog-*")
+file(GLOB_RECURSE HEADERS "${INCLUDE_FOLDER}/*.h")
+foreach(HEADER IN LISTS HEADERS)
+    file(STRINGS "${HEADER}" LINES REGEX "^ *# *include \"")
+    foreach(LINE IN LISTS LINES)
+        string(REGEX REPLACE ".*\"(.*)\".*" "\\1" INCLUDED "${LINE}")
+        if(NOT EXISTS "${INCLUDE_FOLDER}/${INCLUDED}")
+            message(FATAL_ERROR "${HEADER} includes ${INCLUDED}, which is not installed")
+        endif()
+    endforeach()
+endforeach()
+
+cmake_path(GET PC_FILE PARENT_PATH PC_FOLDER)
+set(ENV{PKG_CONFIG_PATH} "${PC_FOLDER}")
+run(pkg-config --variable=libdir SenderModuleDialog)
+require_file("${OUTPUT}/libSenderModuleDialog.so")
+run(pkg-config --variable=includedir SenderModuleDialog)
+require_file("${OUTPUT}/SenderModuleDialog/SenderModuleDialogInit.h")
