@@ -199,5 +199,9 @@
         <source>Check that you may write to the folder, then choose the pictures anew.</source>
         <translation>请检查是否有权写入该文件夹，然后重新选择图片。</translation>
     </message>
+    <message>
+        <source>This is no regular file, so it holds no project.</source>
+        <translation>这不是普通文件，因此不含工程。</translation>
+    </message>
 </context>
 </TS>

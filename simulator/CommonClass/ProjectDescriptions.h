@@ -96,7 +96,7 @@ void Describe(TArchive& archive, CSender& sender)
 template <class TArchive>
 void Describe(TArchive& archive, SSimulatedSender& sender)
 {
-    archive.Field("id", sender.nId, SRange{1, std::numeric_limits<int>::max()});
+    archive.Field("id", sender.nId, SRange{1, c_nLastSenderId});
     archive.Field("name", sender.strName, c_textLength);
     archive.Field("capability", sender.capability);
     archive.Field("record", sender.record);
@@ -135,7 +135,7 @@ void Describe(TArchive& archive, SSimulatedProject& project)
     archive.Field("demoMode", project.bDemoMode);
     archive.Field("demoSenderType", project.nDemoSenderType);
     archive.Field("currentSender", project.nCurSender, SRange{0, 65535});
-    archive.Field("nextSenderId", project.nNextSenderId, SRange{1, std::numeric_limits<int>::max()});
+    archive.Field("nextSenderId", project.nNextSenderId, SRange{1, c_nLastSenderId + 1});
     archive.Field("senders", project.listSenders);
     archive.Field("addressing", project.addressing);
     archive.Field("addresses", project.addresses);

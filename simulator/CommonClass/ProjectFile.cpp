@@ -2,12 +2,19 @@
 
 #include "simulator/CommonClass/SimulatorText.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QSaveFile>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+
+#include <sys/types.h>
 
 namespace {
 
@@ -38,8 +45,20 @@ QString AdviceDisk()
                               "another place.");
 }
 
+/// Reading a pipe or a device could wait for ever; a name without a file is left to the caller.
+bool RequireRegularFile(const QString& strFile, SFileProblem& problem)
+{
+    const QFileInfo info(strFile);
+    if (!info.exists() || info.isFile())
+        return true;
+    Refuse(problem, CSimulatorText::tr("This is no regular file, so it holds no project."), AdviceDisk());
+    return false;
+}
+
 bool ReadBytes(const QString& strFile, QByteArray& baContent, SFileProblem& problem)
 {
+    if (!RequireRegularFile(strFile, problem))
+        return false;
     QFile file(strFile);
     if (!file.open(QIODevice::ReadOnly)) {
         Refuse(problem, CSimulatorText::tr("The file cannot be read: %1").arg(file.errorString()),
@@ -129,13 +148,74 @@ bool KeepBroken(const QString& strFile, QString& strKept, SFileProblem& problem)
     return false;
 }
 
+/// Start of the names that a save uses beside the file until it is whole. It names the file, so that what a
+/// killed save left behind cannot be taken for a file of the operator's.
+QString UnfinishedPrefix(const QFileInfo& info)
+{
+    return QStringLiteral(".%1.saving-").arg(info.fileName());
+}
+
+bool IsRunning(qint64 nProcess)
+{
+    return kill(pid_t(nProcess), 0) == 0 || errno == EPERM;
+}
+
+/// Removes what killed saves of this file left behind; a save that another process has under way stays.
+void RemoveUnfinished(const QFileInfo& info)
+{
+    const QString strPrefix = UnfinishedPrefix(info);
+    const QStringList listNames = info.dir().entryList(QDir::Files | QDir::Hidden);
+    for (const QString& strName : listNames) {
+        if (!strName.startsWith(strPrefix))
+            continue;
+        const QString strProcess = strName.mid(strPrefix.size()).section(QLatin1Char('.'), 0, 0);
+        const qint64 nProcess = strProcess.toLongLong();
+        if (nProcess > 0 && (nProcess == QCoreApplication::applicationPid() || !IsRunning(nProcess)))
+            info.dir().remove(strName);
+    }
+}
+
+/// A link stays a link: what it points to is replaced.
+QFileInfo Target(const QString& strFile)
+{
+    const QFileInfo info(strFile);
+    return info.exists() ? QFileInfo(info.canonicalFilePath()) : info;
+}
+
+/// Puts a whole file in the place of another in one step.
+bool MoveOver(const QString& strFrom, const QFileInfo& infoTo)
+{
+    if (infoTo.exists())
+        QFile::setPermissions(strFrom, infoTo.permissions());
+    return std::rename(QFile::encodeName(strFrom).constData(),
+                       QFile::encodeName(infoTo.absoluteFilePath()).constData()) == 0;
+}
+
+/// What stood in the way of the last step, or nothing.
+QString WriteWhole(const QFileInfo& info, const QByteArray& baContent)
+{
+    if (info.exists() && !info.isWritable())
+        return qt_error_string(EACCES);
+    const QString strUnfinished =
+        info.dir().filePath(UnfinishedPrefix(info) + QString::number(QCoreApplication::applicationPid()));
+    QSaveFile file(strUnfinished);
+    if (!file.open(QIODevice::WriteOnly) || file.write(baContent) != baContent.size() || !file.commit())
+        return file.errorString();
+    if (MoveOver(strUnfinished, info))
+        return {};
+    QString strError = qt_error_string(errno);
+    QFile::remove(strUnfinished);
+    return strError;
+}
+
 bool Commit(const QString& strFile, const QByteArray& baContent, SFileProblem& problem)
 {
-    QSaveFile file(strFile);
-    if (file.open(QIODevice::WriteOnly) && file.write(baContent) == baContent.size() && file.commit())
+    const QFileInfo info = Target(strFile);
+    RemoveUnfinished(info);
+    const QString strError = WriteWhole(info, baContent);
+    if (strError.isEmpty())
         return true;
-    Refuse(problem, CSimulatorText::tr("The file cannot be written: %1").arg(file.errorString()),
-           AdviceDisk());
+    Refuse(problem, CSimulatorText::tr("The file cannot be written: %1").arg(strError), AdviceDisk());
     return false;
 }
 
@@ -180,5 +260,6 @@ bool ProjectFile::Write(const QString& strFile, const QJsonObject& project, QStr
     }
     const QJsonObject object = {
         {c_strFormatKey, c_strFormat}, {c_strVersionKey, c_nVersion}, {c_strProjectKey, project}};
-    return KeepBroken(strFile, strKept, problem) && Commit(strFile, QJsonDocument(object).toJson(), problem);
+    return RequireRegularFile(strFile, problem) && KeepBroken(strFile, strKept, problem) &&
+           Commit(strFile, QJsonDocument(object).toJson(), problem);
 }

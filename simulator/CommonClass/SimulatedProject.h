@@ -21,6 +21,9 @@
 /// Length of an EDID base block.
 constexpr int c_nEdidBlockLength = 128;
 
+/// Largest id of a sender. Ids are never given twice; a project that has used this one takes no more senders.
+constexpr int c_nLastSenderId = 1000000000;
+
 /// A video input: what it can take, and what it holds.
 struct SSimulatedInput
 {

@@ -2,6 +2,7 @@
 #include "simulator/CommonClass/ProjectFile.h"
 #include "tests/simulator/SimulatorTest.h"
 
+#include <QDir>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
@@ -86,6 +87,9 @@ void TestKilledSave::AKillLeavesTheOldListOrTheNewOne()
         nProgress += listStored.size() > nSaved ? 1 : 0;
         nSaved = listStored.size();
     }
+    QVERIFY2(simulator.SaveAs(strFile, problem), qPrintable(problem.Text()));
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden),
+             QStringList{QStringLiteral("project.json")});
     // The kills fell among saves, not before them.
     QVERIFY2(nProgress > c_nKills / 10, QByteArray::number(nProgress).constData());
 }

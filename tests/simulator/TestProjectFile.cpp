@@ -6,6 +6,10 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <limits>
+
+#include <sys/stat.h>
+
 namespace {
 
 QString Text(const char* szText)
@@ -61,6 +65,12 @@ private Q_SLOTS:
     void WhatCouldNotBeReadBackIsNotWritten();
     void AProjectWithoutAFileAsksForOne();
     void AFolderThatIsNotThereIsAProblem();
+    void APipeIsNeitherReadNorReplaced();
+    void AnIdThatLeavesNoRoomIsRefused();
+    void WhatAKilledSaveLeftIsRemovedByTheNext();
+    void FilesOfTheOperatorsOwnStay();
+    void AnotherProcessesSaveStays();
+    void ALinkStaysALink();
 
 private:
     QString Path(const char* szName) const { return m_dir->filePath(QString::fromUtf8(szName)); }
@@ -282,6 +292,75 @@ void TestProjectFile::AFolderThatIsNotThereIsAProblem()
     QVERIFY(!CSimulator::Instance().SaveAs(Path("missing/a.json"), problem));
     QVERIFY(problem.IsSet());
     QVERIFY(!QFileInfo::exists(Path("missing")));
+}
+
+void TestProjectFile::APipeIsNeitherReadNorReplaced()
+{
+    const QByteArray baPipe = QFile::encodeName(Path("pipe.json"));
+    QCOMPARE(mkfifo(baPipe.constData(), 0600), 0);
+    SFileProblem problem;
+    QVERIFY(!CSimulator::Instance().Open(Path("pipe.json"), problem));
+    QVERIFY2(problem.strWhat.contains(Text("regular file")), qPrintable(problem.strWhat));
+    QVERIFY(!CSimulator::Instance().SaveAs(Path("pipe.json"), problem));
+    QVERIFY2(problem.strWhat.contains(Text("regular file")), qPrintable(problem.strWhat));
+    struct stat status = {};
+    QCOMPARE(stat(baPipe.constData(), &status), 0);
+    QVERIFY(S_ISFIFO(status.st_mode));
+}
+
+void TestProjectFile::AnIdThatLeavesNoRoomIsRefused()
+{
+    QJsonObject project = ProjectToJson({});
+    project.insert(Text("nextSenderId"), std::numeric_limits<int>::max());
+    QVERIFY(WriteBytes(Path("a.json"), FileWith({{Text("project"), project}})));
+    SFileProblem problem;
+    QVERIFY(!ProjectFile::Read(Path("a.json"), problem));
+    QCOMPARE(problem.strPlace, Text("nextSenderId"));
+}
+
+void TestProjectFile::WhatAKilledSaveLeftIsRemovedByTheNext()
+{
+    // A process id beyond the kernel's limit is nobody's.
+    for (const char* szName : {".a.json.saving-999999999", ".a.json.saving-999999999.AbCdEf"})
+        QVERIFY(WriteBytes(Path(szName), "half a pro"));
+    SFileProblem problem;
+    QVERIFY2(CSimulator::Instance().SaveAs(Path("a.json"), problem), qPrintable(problem.Text()));
+    QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden), QStringList{Text("a.json")});
+}
+
+void TestProjectFile::FilesOfTheOperatorsOwnStay()
+{
+    const QStringList listOwn = {Text(".a.json.saving-notes"), Text(".b.json.saving-999999999"),
+                                 Text("a.json.backup")};
+    for (const QString& strName : listOwn)
+        QVERIFY(WriteBytes(m_dir->filePath(strName), "mine"));
+    SFileProblem problem;
+    QVERIFY(CSimulator::Instance().SaveAs(Path("a.json"), problem));
+    for (const QString& strName : listOwn)
+        QCOMPARE(ReadBytes(m_dir->filePath(strName)), QByteArray("mine"));
+}
+
+void TestProjectFile::AnotherProcessesSaveStays()
+{
+    // Process 1 runs as long as the system does.
+    QVERIFY(WriteBytes(Path(".a.json.saving-1"), "half a pro"));
+    SFileProblem problem;
+    QVERIFY(CSimulator::Instance().SaveAs(Path("a.json"), problem));
+    QCOMPARE(ReadBytes(Path(".a.json.saving-1")), QByteArray("half a pro"));
+}
+
+void TestProjectFile::ALinkStaysALink()
+{
+    SFileProblem problem;
+    QVERIFY(CSimulator::Instance().SaveAs(Path("a.json"), problem));
+    QVERIFY(QFile::link(Path("a.json"), Path("link.json")));
+    QVERIFY(QFile::setPermissions(Path("a.json"), QFile::ReadOwner | QFile::WriteOwner));
+    CSimulator::Instance().AddSender(16);
+    QVERIFY2(CSimulator::Instance().SaveAs(Path("link.json"), problem), qPrintable(problem.Text()));
+    QVERIFY(QFileInfo(Path("link.json")).isSymLink());
+    QCOMPARE(int(ProjectFile::Read(Path("a.json"), problem)->listSenders.size()), 2);
+    QCOMPARE(QFile::permissions(Path("a.json")) & (QFile::ReadGroup | QFile::ReadOther),
+             QFile::Permissions());
 }
 
 QTEST_GUILESS_MAIN(TestProjectFile)
