@@ -679,6 +679,21 @@
     </message>
 </context>
 <context>
+    <name>CHandAdditionText</name>
+    <message>
+        <source>地址列表已满（%1 个地址），无法再手动添加主控。
+请先删除不再使用的地址。</source>
+        <translation>The address list is full (%1 addresses), so no processor can be added by hand.
+Delete addresses that are no longer in use first.</translation>
+    </message>
+    <message>
+        <source>本机地址 %1 之后没有空闲的地址，无法手动添加主控。
+请先删除不再使用的地址，或检查本机的网络设置。</source>
+        <translation>No address after this computer&apos;s %1 is free, so no processor can be added by hand.
+Delete addresses that are no longer in use first, or check this computer&apos;s network settings.</translation>
+    </message>
+</context>
+<context>
     <name>CJournalDock</name>
     <message>
         <source>主机调用记录</source>

@@ -76,6 +76,9 @@ CMainWindow::CMainWindow(CLanguage& language, QSettings& settings)
     connect(&simulator, &CSimulator::OnProblem, this,
             [this](const SFileProblem& problem) { QMessageBox::warning(this, tr("工程"), problem.Text()); });
     ShowTitle();
+    // A project that was there before the window is shown from its current sender on, like one that is
+    // opened.
+    m_pTree->Select({simulator.Project().nCurSender, -1});
 }
 
 CMainWindow::~CMainWindow() = default;

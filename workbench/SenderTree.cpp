@@ -6,6 +6,8 @@
 #include <QHeaderView>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace {
 
 enum enColumn
@@ -19,23 +21,13 @@ enum enColumn
 /// What an item stands for.
 enum enRole
 {
-    enSenderRole = Qt::UserRole,
-    enInterfaceRole
+    enIdRole = Qt::UserRole, ///< id of a sender
+    enInterfaceRole          ///< interface id of an input
 };
 
-SSelection SelectionOf(const QTreeWidgetItem* pItem)
+int SenderId(const QTreeWidgetItem* pItem)
 {
-    if (pItem == nullptr)
-        return {};
-    return {pItem->data(enName, enSenderRole).toInt(), pItem->data(enName, enInterfaceRole).toInt()};
-}
-
-QTreeWidgetItem* NewItem(const SSelection& selection)
-{
-    auto* pItem = new QTreeWidgetItem;
-    pItem->setData(enName, enSenderRole, selection.nSender);
-    pItem->setData(enName, enInterfaceRole, selection.nInterfaceId);
-    return pItem;
+    return pItem->data(enName, enIdRole).toInt();
 }
 
 /// What a person should know of a sender at a glance.
@@ -49,18 +41,63 @@ QString SenderState(const SSimulatedSender& sender)
     return listStates.isEmpty() ? CSenderTree::tr("正常") : listStates.join(CSenderTree::tr("，"));
 }
 
-void ShowSender(QTreeWidgetItem* pItem, const SSimulatedSender& sender)
-{
-    pItem->setText(enName, sender.strName);
-    pItem->setText(enType, QString::number(sender.capability.nType));
-    pItem->setText(enState, SenderState(sender));
-}
-
 void ShowInput(QTreeWidgetItem* pItem, const SSimulatedInput& input)
 {
     pItem->setText(enName, input.strName);
     pItem->setText(enType, QString::number(input.nInterfaceId));
     pItem->setText(enState, input.setting ? ModeText::Of(*input.setting) : CSenderTree::tr("没有设置"));
+}
+
+QTreeWidgetItem* NewInput(const SSimulatedInput& input)
+{
+    auto* pItem = new QTreeWidgetItem;
+    pItem->setData(enName, enInterfaceRole, input.nInterfaceId);
+    return pItem;
+}
+
+bool HasInputsOf(const QTreeWidgetItem* pItem, const SSimulatedSender& sender)
+{
+    if (pItem->childCount() != int(sender.listInputs.size()))
+        return false;
+    for (int i = 0; i < pItem->childCount(); ++i)
+        if (pItem->child(i)->data(enName, enInterfaceRole).toInt() !=
+            sender.listInputs[std::size_t(i)].nInterfaceId)
+            return false;
+    return true;
+}
+
+void TakeInputs(QTreeWidgetItem* pItem, const SSimulatedSender& sender)
+{
+    qDeleteAll(pItem->takeChildren());
+    QList<QTreeWidgetItem*> listInputs;
+    for (const SSimulatedInput& input : sender.listInputs)
+        listInputs.append(NewInput(input));
+    pItem->addChildren(listInputs);
+}
+
+void ShowSender(QTreeWidgetItem* pItem, const SSimulatedSender& sender)
+{
+    if (!HasInputsOf(pItem, sender))
+        TakeInputs(pItem, sender);
+    pItem->setText(enName, sender.strName);
+    pItem->setText(enType, QString::number(sender.capability.nType));
+    pItem->setText(enState, SenderState(sender));
+    for (int i = 0; i < pItem->childCount(); ++i)
+        ShowInput(pItem->child(i), sender.listInputs[std::size_t(i)]);
+}
+
+/// An item that is filled before a view sees it: filled in the view, each text would be measured and painted.
+QTreeWidgetItem* NewSender(const SSimulatedSender& sender)
+{
+    auto* pItem = new QTreeWidgetItem;
+    pItem->setData(enName, enIdRole, sender.nId);
+    ShowSender(pItem, sender);
+    return pItem;
+}
+
+const std::deque<SSimulatedSender>& Senders()
+{
+    return CSimulator::Instance().Project().listSenders;
 }
 
 } // namespace
@@ -70,22 +107,26 @@ CSenderTree::CSenderTree(QWidget* pParent)
 {
     setColumnCount(enColumnCount);
     setAlternatingRowColors(true);
-    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    setUniformRowHeights(true);
     header()->setStretchLastSection(true);
-    Retranslate();
     connect(&CSimulator::Instance(), &CSimulator::OnProjectReplaced, this, [this] {
         Rebuild();
         Select({CSimulator::Instance().Project().nCurSender, -1});
     });
-    connect(&CSimulator::Instance(), &CSimulator::OnProjectChanged, this, &CSenderTree::Refresh);
-    connect(this, &QTreeWidget::currentItemChanged, this,
-            [this](QTreeWidgetItem* pItem) { Q_EMIT SelectionMoved(SelectionOf(pItem)); });
+    connect(&CSimulator::Instance(), &CSimulator::OnProjectChanged, this, &CSenderTree::Take);
+    connect(this, &QTreeWidget::currentItemChanged, this, [this] { Q_EMIT SelectionMoved(Selection()); });
     Rebuild();
+    Retranslate();
 }
 
 SSelection CSenderTree::Selection() const
 {
-    return SelectionOf(currentItem());
+    QTreeWidgetItem* pItem = currentItem();
+    if (pItem == nullptr)
+        return {};
+    if (pItem->parent() == nullptr)
+        return {indexOfTopLevelItem(pItem), -1};
+    return {indexOfTopLevelItem(pItem->parent()), pItem->data(enName, enInterfaceRole).toInt()};
 }
 
 QTreeWidgetItem* CSenderTree::Find(const SSelection& selection) const
@@ -94,7 +135,7 @@ QTreeWidgetItem* CSenderTree::Find(const SSelection& selection) const
     if (pSender == nullptr || !selection.HasInput())
         return pSender;
     for (int i = 0; i < pSender->childCount(); ++i)
-        if (SelectionOf(pSender->child(i)).nInterfaceId == selection.nInterfaceId)
+        if (pSender->child(i)->data(enName, enInterfaceRole).toInt() == selection.nInterfaceId)
             return pSender->child(i);
     return pSender;
 }
@@ -108,51 +149,91 @@ void CSenderTree::Select(const SSelection& selection)
 void CSenderTree::Retranslate()
 {
     setHeaderLabels({tr("发送器"), tr("类型"), tr("状态")});
-    Refresh();
+    for (int i = 0; i < topLevelItemCount(); ++i)
+        ShowSender(topLevelItem(i), Senders()[std::size_t(i)]);
+    FitAllColumns();
 }
 
 void CSenderTree::Rebuild()
 {
-    {
-        const QSignalBlocker blocker(this);
-        clear();
-        int nSender = 0;
-        for (const SSimulatedSender& sender : CSimulator::Instance().Project().listSenders) {
-            QTreeWidgetItem* pSender = NewItem({nSender, -1});
-            addTopLevelItem(pSender);
-            for (const SSimulatedInput& input : sender.listInputs)
-                pSender->addChild(NewItem({nSender, input.nInterfaceId}));
-            ++nSender;
-        }
-        expandAll();
-    }
-    Refresh();
+    const QSignalBlocker blocker(this);
+    clear();
+    InsertMissing();
+    FitAllColumns();
 }
 
-bool CSenderTree::HasProjectShape() const
+void CSenderTree::Take(const SProjectChange& change)
 {
-    const auto& listSenders = CSimulator::Instance().Project().listSenders;
-    if (topLevelItemCount() != int(listSenders.size()))
-        return false;
-    for (int i = 0; i < topLevelItemCount(); ++i)
-        if (topLevelItem(i)->childCount() != int(listSenders[std::size_t(i)].listInputs.size()))
-            return false;
-    return true;
-}
-
-void CSenderTree::Refresh()
-{
-    if (!HasProjectShape()) {
-        const SSelection selection = Selection();
-        Rebuild();
-        Select(selection);
-        return;
+    if (change.bSenderList) {
+        TakeList();
+        Q_EMIT SelectionMoved(Selection());
     }
-    const auto& listSenders = CSimulator::Instance().Project().listSenders;
     for (int i = 0; i < topLevelItemCount(); ++i) {
-        const SSimulatedSender& sender = listSenders[std::size_t(i)];
-        ShowSender(topLevelItem(i), sender);
-        for (int j = 0; j < topLevelItem(i)->childCount(); ++j)
-            ShowInput(topLevelItem(i)->child(j), sender.listInputs[std::size_t(j)]);
+        if (!change.setSenderIds.contains(SenderId(topLevelItem(i))))
+            continue;
+        ShowSender(topLevelItem(i), Senders()[std::size_t(i)]);
+        FitColumns(topLevelItem(i));
+    }
+}
+
+void CSenderTree::TakeList()
+{
+    const QSignalBlocker blocker(this);
+    QSet<int> setIds;
+    for (const SSimulatedSender& sender : Senders())
+        setIds.insert(sender.nId);
+    const int nSelected = Selection().nSender;
+    const bool bSelectedStays = nSelected >= 0 && setIds.contains(SenderId(topLevelItem(nSelected)));
+    for (int i = topLevelItemCount() - 1; i >= 0; --i)
+        if (!setIds.contains(SenderId(topLevelItem(i))))
+            delete takeTopLevelItem(i);
+    InsertMissing();
+    // The sender that follows a removed one has its index, so the selection moves on to that.
+    if (!bSelectedStays)
+        Select({std::min(nSelected, topLevelItemCount() - 1), -1});
+}
+
+void CSenderTree::InsertMissing()
+{
+    QList<QTreeWidgetItem*> listNew;
+    int nRow = 0;
+    const auto InsertNew = [&] {
+        insertTopLevelItems(nRow, listNew);
+        for (QTreeWidgetItem* pItem : qAsConst(listNew))
+            pItem->setExpanded(true);
+        nRow += listNew.size();
+        listNew.clear();
+    };
+    for (const SSimulatedSender& sender : Senders()) {
+        if (nRow >= topLevelItemCount() || SenderId(topLevelItem(nRow)) != sender.nId) {
+            listNew.append(NewSender(sender));
+            continue;
+        }
+        InsertNew();
+        ++nRow;
+    }
+    InsertNew();
+}
+
+void CSenderTree::FitAllColumns()
+{
+    for (int nColumn = 0; nColumn < enState; ++nColumn)
+        resizeColumnToContents(nColumn);
+}
+
+/// Columns grow with what changes and stay as wide as the operator made them otherwise.
+void CSenderTree::FitColumns(const QTreeWidgetItem* pSender)
+{
+    const auto Fit = [this](const QModelIndex& index, int nIndentation) {
+        const int nWidth = sizeHintForIndex(index).width() + nIndentation;
+        if (nWidth > columnWidth(index.column()))
+            setColumnWidth(index.column(), nWidth);
+    };
+    const QModelIndex indexSender = indexFromItem(pSender);
+    for (int nColumn = 0; nColumn < enState; ++nColumn) {
+        const int nStep = nColumn == enName ? indentation() : 0;
+        Fit(indexSender.siblingAtColumn(nColumn), nStep);
+        for (int i = 0; i < pSender->childCount(); ++i)
+            Fit(model()->index(i, nColumn, indexSender), 2 * nStep);
     }
 }

@@ -5,7 +5,10 @@
 
 #include <QTreeWidget>
 
-/// The senders of the simulated project with their inputs: name, type code or interface id, state.
+struct SProjectChange;
+
+/// The senders of the simulated project with their inputs: name, type code or interface id, state. It takes
+/// over what changed and leaves the other rows alone.
 class CSenderTree : public QTreeWidget
 {
     Q_OBJECT
@@ -24,8 +27,11 @@ Q_SIGNALS:
 
 private:
     void Rebuild();
-    void Refresh();
-    bool HasProjectShape() const;
+    void Take(const SProjectChange& change);
+    void TakeList();
+    void InsertMissing();
+    void FitAllColumns();
+    void FitColumns(const QTreeWidgetItem* pSender);
     QTreeWidgetItem* Find(const SSelection& selection) const;
 };
 

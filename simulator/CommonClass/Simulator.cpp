@@ -96,7 +96,7 @@ SFileProblem PictureProblem(const QString& strFolder)
 int AddSenderTo(SSimulatedProject& project, int nType, const QString& strName)
 {
     std::optional<SSimulatedSender> sender = CCatalogue::Instance().NewSender(nType);
-    if (!sender)
+    if (!sender || project.nNextSenderId > c_nLastSenderId)
         return -1;
     sender->nId = project.nNextSenderId++;
     sender->strName = strName.isEmpty() ? sender->capability.strModel : strName;
@@ -136,8 +136,9 @@ CSimulator::CSimulator()
     , m_funcSleep([](int nMilliseconds) { QThread::msleep(static_cast<unsigned long>(nMilliseconds)); })
 {
     m_senderNone.nOutputPortCount = c_nDefaultPorts;
-    m_saved = ProjectToJson(m_project);
-    m_noticed = m_saved;
+    qRegisterMetaType<SProjectChange>();
+    m_jsonSaved = ProjectToJson(m_project);
+    m_fingerprintSaved = m_fingerprintNoticed = FingerprintOf(m_project);
 }
 
 CSimulator::~CSimulator() = default;
@@ -156,17 +157,18 @@ void CSimulator::Change(const std::function<void(SSimulatedProject&)>& funcChang
 void CSimulator::NoticeChanges()
 {
     m_bChangesExpected = false;
-    const QJsonObject present = ProjectToJson(m_project);
+    SProjectFingerprint present = FingerprintOf(m_project);
     UpdateModified(present);
-    if (present == m_noticed)
+    const SProjectChange change = Difference(m_fingerprintNoticed, present);
+    if (change.IsEmpty())
         return;
-    m_noticed = present;
-    Q_EMIT OnProjectChanged();
+    m_fingerprintNoticed = std::move(present);
+    Q_EMIT OnProjectChanged(change);
 }
 
-void CSimulator::UpdateModified(const QJsonObject& present)
+void CSimulator::UpdateModified(const SProjectFingerprint& present)
 {
-    const bool bModified = present != m_saved;
+    const bool bModified = !Difference(m_fingerprintSaved, present).IsEmpty();
     if (bModified == m_bModified)
         return;
     m_bModified = bModified;
@@ -225,16 +227,18 @@ void CSimulator::Replace(SSimulatedProject project, const QString& strFile)
     m_project = std::move(project);
     m_pTemporaryPictures.reset();
     SetFilePath(strFile);
-    m_noticed = ProjectToJson(m_project);
-    MarkSaved(m_noticed);
+    m_fingerprintNoticed = FingerprintOf(m_project);
+    const SProjectChange change = Difference({}, m_fingerprintNoticed);
+    MarkSaved(ProjectToJson(m_project), m_fingerprintNoticed);
     Q_EMIT OnProjectReplaced();
-    Q_EMIT OnProjectChanged();
+    Q_EMIT OnProjectChanged(change);
 }
 
-void CSimulator::MarkSaved(const QJsonObject& saved)
+void CSimulator::MarkSaved(const QJsonObject& saved, const SProjectFingerprint& fingerprint)
 {
-    m_saved = saved;
-    UpdateModified(ProjectToJson(m_project));
+    m_jsonSaved = saved;
+    m_fingerprintSaved = fingerprint;
+    UpdateModified(FingerprintOf(m_project));
 }
 
 void CSimulator::SetFilePath(const QString& strFile)
@@ -250,6 +254,19 @@ int CSimulator::AddSender(int nType, const QString& strName)
     const int nSender = AddSenderTo(m_project, nType, strName);
     NoticeChanges();
     return nSender;
+}
+
+int CSimulator::AddSenders(int nType, int nCount, int nOutputPorts)
+{
+    int nAdded = 0;
+    for (; nAdded < nCount; ++nAdded) {
+        const int nSender = AddSenderTo(m_project, nType, QString());
+        if (nSender < 0)
+            break;
+        m_project.FindSender(nSender)->record.nOutputPortCount = nOutputPorts;
+    }
+    NoticeChanges();
+    return nAdded;
 }
 
 void CSimulator::RemoveSender(int nSender)
@@ -310,7 +327,7 @@ bool CSimulator::SaveAs(const QString& strFile, SFileProblem& problem)
         return false;
     const bool bPictures = TakePicturesAlong(PresentPictureFolder(), FolderBeside(strPath));
     SetFilePath(strPath);
-    MarkSaved(project);
+    MarkSaved(project, FingerprintOf(m_project));
     if (!bPictures)
         Report(PictureProblem(FolderBeside(strPath)));
     return true;
@@ -320,11 +337,13 @@ bool CSimulator::SaveAddresses(SFileProblem& problem)
 {
     if (m_strFile.isEmpty())
         return true;
-    QJsonObject project = m_saved;
+    QJsonObject project = m_jsonSaved;
     project.insert(QStringLiteral("addresses"), AddressListsToJson(m_project.addresses));
     if (!WriteTo(m_strFile, project, problem))
         return false;
-    MarkSaved(project);
+    SProjectFingerprint saved = m_fingerprintSaved;
+    saved.baAddresses = FingerprintOf(m_project).baAddresses;
+    MarkSaved(project, saved);
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include "simulator/CommonClass/FileProblem.h"
 #include "simulator/CommonClass/HostJournal.h"
 #include "simulator/CommonClass/NetworkFacts.h"
+#include "simulator/CommonClass/ProjectFingerprint.h"
 #include "simulator/CommonClass/SimulatedProject.h"
 
 #include <QObject>
@@ -69,8 +70,12 @@ public:
     bool NewDemoProject(int nType);
 
     /// Adds a factory-new sender as the last one.
-    /// @return its index; -1 for a type that the catalogue does not know
+    /// @return its index; -1 for a type that the catalogue does not know, and when the ids are used up
     int AddSender(int nType, const QString& strName = QString());
+    /// Adds factory-new senders with that number of output ports, announced as one change.
+    /// @return how many were added: none of a type that the catalogue does not know, fewer when the ids are
+    /// used up
+    int AddSenders(int nType, int nCount, int nOutputPorts);
     /// Removes a sender; the current one stays current where it can.
     void RemoveSender(int nSender);
     /// Makes a sender the one that the dialogs edit. An index without a sender is ignored.
@@ -138,8 +143,8 @@ public:
     /// @}
 
 Q_SIGNALS:
-    /// Anything in the project changed.
-    void OnProjectChanged();
+    /// Anything in the project changed; announced once for each change, whatever it holds.
+    void OnProjectChanged(const SProjectChange& change);
     /// Another project took its place; what was known of senders and inputs is void.
     void OnProjectReplaced();
     /// `IsModified` changed.
@@ -161,8 +166,8 @@ private:
     const QSet<unsigned int>& UsedAddresses();
     void Replace(SSimulatedProject project, const QString& strFile);
     bool WriteTo(const QString& strFile, const QJsonObject& project, SFileProblem& problem);
-    void MarkSaved(const QJsonObject& saved);
-    void UpdateModified(const QJsonObject& present);
+    void MarkSaved(const QJsonObject& saved, const SProjectFingerprint& fingerprint);
+    void UpdateModified(const SProjectFingerprint& present);
     void SetFilePath(const QString& strFile);
     /// The picture folder, or nothing when the project has neither file nor temporary folder.
     QString PresentPictureFolder() const;
@@ -172,8 +177,9 @@ private:
     std::unique_ptr<IKelvaroLabel> m_pLabelJournalled;
 
     SSimulatedProject m_project;
-    QJsonObject m_saved;   ///< the project as it is in its file, or as it was started
-    QJsonObject m_noticed; ///< the project as it was last announced
+    QJsonObject m_jsonSaved; ///< the project as it is in its file, or as it was started
+    SProjectFingerprint m_fingerprintSaved;
+    SProjectFingerprint m_fingerprintNoticed; ///< the project as it was last announced
     bool m_bModified = false;
     bool m_bChangesExpected = false;
     QString m_strFile;

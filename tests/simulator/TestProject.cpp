@@ -13,6 +13,8 @@ private Q_SLOTS:
     void ACatalogueProjectHoldsOneSenderOfEachType();
     void AnUnknownTypeIsNotAdded();
     void SendersGetIdsThatAreNeverUsedAgain();
+    void WithoutIdsNoSenderIsAdded();
+    void SendersAddedTogetherAreAnnouncedOnce();
     void RemovingASenderKeepsTheCurrentOne_data();
     void RemovingASenderKeepsTheCurrentOne();
     void AnIndexWithoutASenderIsNeverCurrent();
@@ -69,6 +71,25 @@ void TestProject::SendersGetIdsThatAreNeverUsedAgain()
     QCOMPARE(simulator.PictureName(0), strPicture);
     simulator.AddSender(16);
     QCOMPARE(simulator.Project().FindSender(1)->nId, 3);
+}
+
+void TestProject::WithoutIdsNoSenderIsAdded()
+{
+    CSimulator& simulator = CSimulator::Instance();
+    simulator.Change([](SSimulatedProject& project) { project.nNextSenderId = c_nLastSenderId; });
+    QCOMPARE(simulator.AddSenders(16, 3, 4), 1);
+    QCOMPARE(simulator.AddSender(16), -1);
+    QCOMPARE(simulator.Project().listSenders.back().nId, c_nLastSenderId);
+}
+
+void TestProject::SendersAddedTogetherAreAnnouncedOnce()
+{
+    CSimulator& simulator = CSimulator::Instance();
+    QSignalSpy spyChanged(&simulator, &CSimulator::OnProjectChanged);
+    QCOMPARE(simulator.AddSenders(16, 5, 8), 5);
+    QCOMPARE(spyChanged.count(), 1);
+    QCOMPARE(int(simulator.Project().listSenders.size()), 5);
+    QCOMPARE(simulator.Project().listSenders.back().record.nOutputPortCount, 8);
 }
 
 void TestProject::RemovingASenderKeepsTheCurrentOne_data()

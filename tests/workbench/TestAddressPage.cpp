@@ -50,6 +50,7 @@ private Q_SLOTS:
     void ModifyingPutsTheEntryIntoForce();
     void ResettingBringsTheFirstAddressBack();
     void AddingByHandAddsSendersAndAddresses();
+    void ProcessorsAddedByHandAreAnnouncedOnce();
     void StartingTheDemoReplacesTheProject();
     void TheDemoIsNotStartedWhenTheOperatorWantsToStay();
     void TheCheckFieldSaysWhyAnAddressIsRefused_data();
@@ -131,6 +132,18 @@ void TestAddressPage::AddingByHandAddsSendersAndAddresses()
     QCOMPARE(CSimulator::Instance().Project().listSenders.size(), nBefore + 3);
     QCOMPARE(Stored(), (QStringList{QStringLiteral("192.168.1.50()"), QStringLiteral("192.168.1.51()"),
                                     QStringLiteral("192.168.1.52()")}));
+}
+
+void TestAddressPage::ProcessorsAddedByHandAreAnnouncedOnce()
+{
+    CSimulator::Instance().Change(
+        [](SSimulatedProject& project) { project.addressing.bIPAddressMode = false; });
+    CAddressPage page(Leave);
+    QSignalSpy spyChanged(&CSimulator::Instance(), &CSimulator::OnProjectChanged);
+    const CDialogOperator dialogOperator([](QDialog* pDialog) { Press(pDialog, "确定"); });
+    page.AddByHand();
+    QCOMPARE(spyChanged.count(), 1);
+    QCOMPARE(spyChanged.first().first().value<SProjectChange>().setSenderIds.size(), 3);
 }
 
 void TestAddressPage::StartingTheDemoReplacesTheProject()

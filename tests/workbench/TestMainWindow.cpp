@@ -87,6 +87,7 @@ private Q_SLOTS:
     void initTestCase();
     void TheTreeShowsEachSenderWithItsInputs();
     void SelectingASenderMakesItTheCurrentOne();
+    void AProjectThatWasThereBeforeTheWindowIsShownFromItsCurrentSender();
     void TheTreeFollowsSendersThatComeAndGo();
     void TheLanguageSwitchesAtRunTime();
     void AProjectIsSavedAndOpenedAgain();
@@ -121,6 +122,17 @@ void TestMainWindow::SelectingASenderMakesItTheCurrentOne()
     CWorkbenchFixture workbench;
     workbench.window.Tree().Select({3, -1});
     QCOMPARE(CSimulator::Instance().Project().nCurSender, 3);
+}
+
+void TestMainWindow::AProjectThatWasThereBeforeTheWindowIsShownFromItsCurrentSender()
+{
+    CSimulator::Instance().NewProject();
+    CSimulator::Instance().SetCurrentSender(2);
+    QTemporaryDir folder;
+    QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    CLanguage language;
+    CMainWindow window(language, settings);
+    QCOMPARE(window.Tree().Selection().nSender, 2);
 }
 
 void TestMainWindow::TheTreeFollowsSendersThatComeAndGo()

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void AnEditorChangesTheSelectedSender();
     void EditorsFollowTheProject();
     void WithoutASenderNothingCanBeEdited();
+    void BeforeAnythingIsSelectedNothingIsChanged();
 };
 
 void TestSimulationPage::init()
@@ -95,6 +96,16 @@ void TestSimulationPage::WithoutASenderNothingCanBeEdited()
     CSimulationPage page;
     page.ShowSelection({-1, -1});
     QVERIFY(!page.findChild<QCheckBox*>()->isEnabled());
+}
+
+void TestSimulationPage::BeforeAnythingIsSelectedNothingIsChanged()
+{
+    CSimulationPage page;
+    auto* pCheckBox = page.findChild<QCheckBox*>();
+    QVERIFY(!pCheckBox->isEnabled());
+    const QJsonObject before = ProjectToJson(CSimulator::Instance().Project());
+    pCheckBox->toggle();
+    QCOMPARE(ProjectToJson(CSimulator::Instance().Project()), before);
 }
 
 QTEST_MAIN(TestSimulationPage)

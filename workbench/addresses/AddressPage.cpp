@@ -6,11 +6,13 @@
 #include "host/OrviControl/CustomIPEdit.h"
 #include "simulator/CommonClass/Simulator.h"
 #include "workbench/addresses/AddressListModel.h"
+#include "workbench/addresses/HandAddition.h"
 #include "workbench/addresses/VerdictText.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableView>
@@ -45,8 +47,12 @@ CAddressPage::CAddressPage(std::function<bool()> funcMayLeave, QWidget* pParent)
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addLayout(pMiddle, 1);
     pLayout->addWidget(CreateCheckRow());
-    connect(&CSimulator::Instance(), &CSimulator::OnProjectChanged, this, &CAddressPage::Refresh);
     connect(&CSimulator::Instance(), &CSimulator::OnProjectReplaced, this, &CAddressPage::Refresh);
+    connect(&CSimulator::Instance(), &CSimulator::OnProjectChanged, this,
+            [this](const SProjectChange& change) {
+                if (change.bAddresses)
+                    Refresh();
+            });
     connect(m_pTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &CAddressPage::EnableButtons);
     CAddressPage::Retranslate();
@@ -205,6 +211,11 @@ void CAddressPage::RemoveSelected()
 
 void CAddressPage::AddByHand()
 {
+    const QString strObstacle = HandAddition::Obstacle();
+    if (!strObstacle.isEmpty()) {
+        QMessageBox::warning(this, Title(), strObstacle);
+        return;
+    }
     CCustomAddProcessorDlg dialog(this);
     if (dialog.exec() == QDialog::Accepted)
         TakeProcessors(dialog);
@@ -216,13 +227,8 @@ void CAddressPage::TakeProcessors(const CCustomAddProcessorDlg& dialog)
     const SSimulatedSender* pSender = simulator.Project().FindSender(simulator.Project().nCurSender);
     const int nType = pSender == nullptr ? c_nDefaultType : pSender->capability.nType;
     const int nPorts = dialog.GetPortCount();
-    for (int i = 0; i < dialog.GetCount(); ++i) {
-        const int nSender = simulator.AddSender(nType);
-        simulator.Change([nSender, nPorts](SSimulatedProject& project) {
-            project.FindSender(nSender)->record.nOutputPortCount = nPorts;
-        });
-    }
-    Q_EMIT Reported(tr("已添加 %1 个主控，各有 %2 个输出口。").arg(dialog.GetCount()).arg(nPorts));
+    const int nAdded = simulator.AddSenders(nType, dialog.GetCount(), nPorts);
+    Q_EMIT Reported(tr("已添加 %1 个主控，各有 %2 个输出口。").arg(nAdded).arg(nPorts));
 }
 
 void CAddressPage::StartDemo()

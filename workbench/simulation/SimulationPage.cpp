@@ -74,6 +74,7 @@ CSimulationPage::CSimulationPage(QWidget* pParent)
     pLayout->addWidget(pScroll);
     connect(&CSimulator::Instance(), &CSimulator::OnProjectChanged, this, &CSimulationPage::Refresh);
     CSimulationPage::Retranslate();
+    Refresh();
 }
 
 CSimulationPage::~CSimulationPage() = default;
@@ -165,11 +166,11 @@ void CSimulationPage::Refresh()
 
 void CSimulationPage::Write(const SSenderProperty& property, const QVariant& value)
 {
-    if (m_bRefreshing)
-        return;
     const int nSender = m_selection.nSender;
-    CSimulator::Instance().Change(
-        [&](SSimulatedProject& project) { property.funcWrite(project, nSender, value); });
+    CSimulator& simulator = CSimulator::Instance();
+    if (m_bRefreshing || simulator.Project().FindSender(nSender) == nullptr)
+        return;
+    simulator.Change([&](SSimulatedProject& project) { property.funcWrite(project, nSender, value); });
 }
 
 void CSimulationPage::Tour(CTour& tour, QWidget* pWorkbench)

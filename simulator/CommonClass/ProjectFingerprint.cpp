@@ -1,0 +1,170 @@
+#include "simulator/CommonClass/ProjectFingerprint.h"
+
+#include "simulator/CommonClass/ProjectDescriptions.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <type_traits>
+
+namespace {
+
+/// Appends the values of a record, each preceded by its length where that varies.
+class CValueBytes
+{
+public:
+    template <class TValue, class... TLimits>
+    void Field(const char*, TValue& value, const TLimits&...)
+    {
+        Append(value);
+    }
+
+    QByteArray Take() { return std::move(m_baBytes); }
+
+private:
+    template <class TValue>
+    void AppendPlain(TValue value)
+    {
+        m_baBytes.append(reinterpret_cast<const char*>(&value), int(sizeof(value)));
+    }
+
+    template <class TContainer>
+    void AppendAll(const TContainer& container)
+    {
+        AppendPlain(int(container.size()));
+        for (const auto& element : container)
+            Append(element);
+    }
+
+    template <class TValue, std::enable_if_t<std::is_arithmetic_v<TValue>, int> = 0>
+    void Append(TValue value)
+    {
+        AppendPlain(value);
+    }
+
+    void Append(const QString& strValue)
+    {
+        AppendPlain(strValue.size());
+        m_baBytes.append(reinterpret_cast<const char*>(strValue.constData()),
+                         strValue.size() * int(sizeof(QChar)));
+    }
+
+    void Append(const QByteArray& baValue)
+    {
+        AppendPlain(baValue.size());
+        m_baBytes.append(baValue);
+    }
+
+    void Append(const QSize& size)
+    {
+        AppendPlain(size.width());
+        AppendPlain(size.height());
+    }
+
+    void Append(const QStringList& list) { AppendAll(list); }
+
+    template <class TElement>
+    void Append(const QList<TElement>& list)
+    {
+        AppendAll(list);
+    }
+
+    template <class TElement>
+    void Append(const std::deque<TElement>& elements)
+    {
+        AppendAll(elements);
+    }
+
+    template <class TValue>
+    void Append(const std::optional<TValue>& optional)
+    {
+        AppendPlain(optional.has_value());
+        if (optional)
+            Append(*optional);
+    }
+
+    template <class TRecord, std::enable_if_t<std::is_class_v<TRecord>, int> = 0>
+    void Append(const TRecord& record)
+    {
+        // One description serves reading too, so it takes the record by reference; this archive only reads.
+        Describe(*this, const_cast<TRecord&>(record)); // NOLINT(cppcoreguidelines-pro-type-const-cast)
+    }
+
+    QByteArray m_baBytes;
+};
+
+template <class TRecord>
+QByteArray BytesOf(TRecord& record)
+{
+    CValueBytes bytes;
+    Describe(bytes, record);
+    return bytes.Take();
+}
+
+/// Keeps senders and address lists apart from the rest.
+class CProjectParts
+{
+public:
+    template <class TValue, class... TLimits>
+    void Field(const char* szKey, TValue& value, const TLimits&... limits)
+    {
+        m_settings.Field(szKey, value, limits...);
+    }
+
+    void Field(const char*, std::deque<SSimulatedSender>& listSenders)
+    {
+        m_fingerprint.vecSenders.reserve(listSenders.size());
+        for (SSimulatedSender& sender : listSenders)
+            m_fingerprint.vecSenders.push_back({sender.nId, BytesOf(sender)});
+    }
+
+    void Field(const char*, SAddressLists& lists) { m_fingerprint.baAddresses = BytesOf(lists); }
+
+    SProjectFingerprint Take()
+    {
+        m_fingerprint.baSettings = m_settings.Take();
+        return std::move(m_fingerprint);
+    }
+
+private:
+    SProjectFingerprint m_fingerprint;
+    CValueBytes m_settings;
+};
+
+bool HaveSameIds(const SProjectFingerprint& before, const SProjectFingerprint& after)
+{
+    return std::equal(before.vecSenders.begin(), before.vecSenders.end(), after.vecSenders.begin(),
+                      after.vecSenders.end(),
+                      [](const auto& left, const auto& right) { return left.nId == right.nId; });
+}
+
+} // namespace
+
+bool SProjectChange::IsEmpty() const
+{
+    return setSenderIds.isEmpty() && !bSenderList && !bAddresses && !bSettings;
+}
+
+SProjectFingerprint FingerprintOf(const SSimulatedProject& project)
+{
+    CProjectParts parts;
+    Describe(parts, const_cast<SSimulatedProject&>(project)); // NOLINT(cppcoreguidelines-pro-type-const-cast)
+    return parts.Take();
+}
+
+SProjectChange Difference(const SProjectFingerprint& before, const SProjectFingerprint& after)
+{
+    SProjectChange change;
+    change.bSettings = before.baSettings != after.baSettings;
+    change.bAddresses = before.baAddresses != after.baAddresses;
+    change.bSenderList = !HaveSameIds(before, after);
+    QHash<int, QByteArray> mapBefore;
+    for (const SProjectFingerprint::SSender& sender : before.vecSenders)
+        mapBefore.insert(sender.nId, sender.baValues);
+    for (const SProjectFingerprint::SSender& sender : after.vecSenders) {
+        const auto itBefore = mapBefore.constFind(sender.nId);
+        if (itBefore == mapBefore.constEnd() || *itBefore != sender.baValues)
+            change.setSenderIds.insert(sender.nId);
+    }
+    return change;
+}

@@ -1,0 +1,46 @@
+#ifndef SIMULATOR_COMMONCLASS_PROJECTFINGERPRINT_H
+#define SIMULATOR_COMMONCLASS_PROJECTFINGERPRINT_H
+
+#include "simulator/CommonClass/SimulatedProject.h"
+
+#include <QByteArray>
+#include <QMetaType>
+#include <QSet>
+
+#include <vector>
+
+/// What differs between two states of a project, so that a view redraws that and nothing else.
+struct COMMONCLASS_EXPORT SProjectChange
+{
+    QSet<int> setSenderIds;   ///< ids of the senders that were added or whose values changed
+    bool bSenderList = false; ///< senders were added, removed or moved
+    bool bAddresses = false;  ///< the address lists changed
+    bool bSettings = false;   ///< anything else changed
+
+    bool IsEmpty() const;
+};
+
+Q_DECLARE_METATYPE(SProjectChange)
+
+/// The values of a project as bytes, part by part: equal bytes are equal values. The bytes come from the same
+/// descriptions as the project file at a fraction of its time, so a project can be compared on every change.
+struct SProjectFingerprint
+{
+    struct SSender
+    {
+        int nId;
+        QByteArray baValues;
+    };
+
+    QByteArray baSettings;
+    QByteArray baAddresses;
+    std::vector<SSender> vecSenders;
+};
+
+COMMONCLASS_EXPORT SProjectFingerprint FingerprintOf(const SSimulatedProject& project);
+
+/// What changed from one state to the next.
+COMMONCLASS_EXPORT SProjectChange Difference(const SProjectFingerprint& before,
+                                             const SProjectFingerprint& after);
+
+#endif // SIMULATOR_COMMONCLASS_PROJECTFINGERPRINT_H
