@@ -33,7 +33,7 @@ QString Text(const QString& strPath)
 }
 
 /// The documents that describe the tree as it is.
-const char* const c_arrDocuments[] = {"README.md", "ARCHITECTURE.md"};
+const char* const c_arrDocuments[] = {"README.md", "ARCHITECTURE.md", "CONTRIBUTING.md"};
 
 /// Folders of the root that are made by builds and runs, not part of the tree.
 const char* const c_arrProduced[] = {"build", "out", ".git"};
