@@ -108,13 +108,39 @@ const std::vector<SLayer>& Layers()
 /// Of Qt, what calculation may use: values, containers and JSON of QtCore, and value types of QtGui.
 const QStringList& QtValues()
 {
-    static const QStringList s_listValues = {
-        L("QByteArray"),  L("QHash"),       L("QJsonArray"),    L("QJsonDocument"), L("QJsonObject"),
-        L("QJsonValue"),  L("QLatin1Char"), L("QLatin1String"), L("QLine"),         L("QLineF"),
-        L("QList"),       L("QMap"),        L("QPair"),         L("QPoint"),        L("QPointF"),
-        L("QPolygonF"),   L("QRectF"),      L("QSize"),         L("QSizeF"),        L("QString"),
-        L("QStringList"), L("QStringView"), L("QVariant"),      L("QVector"),       L("QtAlgorithms"),
-        L("QtEndian"),    L("QtGlobal"),    L("QtMath"),        L("QtNumeric")};
+    static const QStringList s_listValues = {L("QByteArray"),
+                                             L("QHash"),
+                                             L("QJsonArray"),
+                                             L("QJsonDocument"),
+                                             L("QJsonObject"),
+                                             L("QJsonValue"),
+                                             L("QLatin1Char"),
+                                             L("QLatin1String"),
+                                             L("QLine"),
+                                             L("QLineF"),
+                                             L("QList"),
+                                             L("QLocale"),
+                                             L("QMap"),
+                                             L("QPair"),
+                                             L("QPoint"),
+                                             L("QPointF"),
+                                             L("QPolygonF"),
+                                             L("QRectF"),
+                                             L("QRegularExpression"),
+                                             L("QSet"),
+                                             L("QSize"),
+                                             L("QSizeF"),
+                                             L("QString"),
+                                             L("QStringList"),
+                                             L("QStringView"),
+                                             L("QTextCodec"),
+                                             L("QVariant"),
+                                             L("QVector"),
+                                             L("QtAlgorithms"),
+                                             L("QtEndian"),
+                                             L("QtGlobal"),
+                                             L("QtMath"),
+                                             L("QtNumeric")};
     return s_listValues;
 }
 
