@@ -9,7 +9,7 @@
 #include <optional>
 #include <type_traits>
 
-static_assert(sizeof(CEDIDRaw) == EdidBlock::c_nBlockSize && std::is_standard_layout_v<CEDIDRaw>,
+static_assert(sizeof(CEDIDRaw) == c_nEdidBlockSize && std::is_standard_layout_v<CEDIDRaw>,
               "hosts read the block through the object's address");
 
 namespace {

@@ -3,6 +3,7 @@
 
 #include "SenderModuleDialog/SenderModuleDialogGlobal.h"
 #include "SenderModuleDialog/edid/VideoTiming.h"
+#include "host/CommonClass/EdidBlockSize.h"
 
 #include <array>
 
@@ -80,10 +81,7 @@ public:
     /// @}
 
 private:
-    /// Bytes of a base block (VESA E-EDID, section 3.1).
-    static constexpr int c_nBlockSize = 128;
-
-    std::array<unsigned char, c_nBlockSize> m_byBlock;
+    std::array<unsigned char, c_nEdidBlockSize> m_byBlock;
 };
 
 #endif // SENDERMODULEDIALOG_EDID_EDIDRAW_H

@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/edid/EdidBlock.h"
 
 #include "SenderModuleDialog/Saturate.h"
+#include "SenderModuleDialog/edid/EdidLayout.h"
 #include "SenderModuleDialog/edid/MonitorName.h"
 
 #include <algorithm>
@@ -15,24 +16,6 @@ using Byte = unsigned char;
 template <std::size_t c_nSize>
 using Bytes = std::array<Byte, c_nSize>;
 
-// Where the row groups of the block start (VESA E-EDID, section 3.1).
-constexpr int c_nHeader = 0x00;
-constexpr int c_nProduct = 0x08;
-constexpr int c_nVersion = 0x12;
-constexpr int c_nBasicParameters = 0x14;
-constexpr int c_nChromaticity = 0x19;
-constexpr int c_nEstablishedTimings = 0x23;
-constexpr int c_nStandardTimings = 0x26;
-constexpr int c_nFirstDetailedTiming = 0x36;
-constexpr int c_nSerialDescriptor = 0x48;
-constexpr int c_nNameDescriptor = 0x5A;
-constexpr int c_nRangeDescriptor = 0x6C;
-constexpr int c_nExtensionCount = 0x7E;
-constexpr int c_nChecksum = 0x7F;
-
-/// Bytes before the content of a monitor descriptor (VESA E-EDID, section 3.10.3).
-constexpr int c_nDescriptorHeaderSize = 5;
-
 // Tags of the monitor descriptors (VESA E-EDID, section 3.10.3).
 constexpr Byte c_bySerialTag = 0xFF;
 constexpr Byte c_byNameTag = 0xFC;
@@ -41,31 +24,50 @@ constexpr Byte c_byRangeTag = 0xFD;
 /// Pattern that every base block begins with (VESA E-EDID, section 3.3).
 constexpr Bytes<8> c_header = {0x00, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x00};
 
-/// Vendor and product (VESA E-EDID, section 3.4).
-constexpr Bytes<10> c_product = {
-    0x7B, 0xDE,             // manufacturer: three times letter 30 of 26, an invalid id that is meant
-    0x00, 0x00,             // product code 0
-    0x01, 0x01, 0x01, 0x01, // serial number field
-    0x00,                   // no week of manufacture
-    0x1B,                   // year of manufacture, 27 after 1990: 2017
+/// A field of the template and its value.
+struct SValue
+{
+    EdidLayout::SNumber number;
+    unsigned nValue;
 };
 
-/// EDID version 1, revision 3 (VESA E-EDID, section 3.5).
-constexpr Bytes<2> c_version = {0x01, 0x03};
-
-/// Basic display parameters (VESA E-EDID, section 3.6).
-constexpr Bytes<5> c_basicParameters = {
-    0x81,       // digital input, compatible with DFP 1.x
-    0x00, 0x00, // no size: an LED wall has whatever size it is built in
-    0x78,       // gamma 2.20, as (gamma - 1) x 100
-    0x0A,       // RGB colour display, the first detailed timing is the preferred one
+constexpr SValue c_arrValues[] = {
+    // An invalid manufacturer, intentionally: three times letter 30 of 26. Product code 0.
+    {EdidLayout::c_firstLetter, 30},
+    {EdidLayout::c_secondLetter, 30},
+    {EdidLayout::c_thirdLetter, 30},
+    {EdidLayout::c_productCode, 0},
+    {EdidLayout::c_week, 0}, // none
+    {EdidLayout::c_year, 2017 - 1990},
+    {EdidLayout::c_versionNumber, 1},
+    {EdidLayout::c_revisionNumber, 3},
+    {EdidLayout::c_input, 0x81}, // digital, compatible with DFP 1.x
+    // No size: an LED wall has whatever size it is built in.
+    {EdidLayout::c_widthCm, 0},
+    {EdidLayout::c_heightCm, 0},
+    {EdidLayout::c_gamma, 120},     // 2.20
+    {EdidLayout::c_features, 0x0A}, // RGB colour display, the first detailed timing is the preferred one
+    {EdidLayout::c_redX, 703},
+    {EdidLayout::c_redY, 320},
+    {EdidLayout::c_greenX, 192},
+    {EdidLayout::c_greenY, 728},
+    {EdidLayout::c_blueX, 140},
+    {EdidLayout::c_blueY, 52},
+    {EdidLayout::c_whiteX, 320},
+    {EdidLayout::c_whiteY, 337},
+    {EdidLayout::c_svga60, 1}, // the only established timing
+    {EdidLayout::c_minVertical, 23},
+    {EdidLayout::c_maxVertical, 120},
+    {EdidLayout::c_minHorizontal, 30},
+    {EdidLayout::c_maxHorizontal, 153},
+    {EdidLayout::c_maxClock, 17},
+    {EdidLayout::c_timingFormula, 0}, // the default
 };
 
-/// Established timings (VESA E-EDID, section 3.8): 800x600 at 60 Hz alone.
-constexpr Bytes<3> c_establishedTimings = {0x01, 0x00, 0x00};
+/// Every byte of the serial number field.
+constexpr Byte c_bySerialNumber = 0x01;
 
-/// Standard timings (VESA E-EDID, section 3.9): a pair of ones is an unused entry.
-constexpr int c_nStandardTimingBytes = 16;
+/// A pair of ones is an unused standard timing (VESA E-EDID, section 3.9).
 constexpr Byte c_byUnusedStandardTiming = 0x01;
 
 /// What the template holds until a timing is stored: 1280x1024 at 108.52 MHz.
@@ -74,14 +76,8 @@ constexpr SDetailedTiming c_defaultTiming = {10852, 1280, 1024, {408, 48, 112, 4
 /// Serial number text (VESA E-EDID, section 3.10.3): "000", its terminator, and blanks.
 constexpr Bytes<13> c_serial = {'0', '0', '0', '\n', ' ', ' ', ' ', ' ', ' ', ' ', ' ', ' ', ' '};
 
-/// Monitor range limits (VESA E-EDID, section 3.10.3).
-constexpr Bytes<13> c_range = {
-    23,   120,                          // vertical rate, Hz
-    30,   153,                          // horizontal rate, kHz
-    17,                                 // highest pixel clock, units of 10 MHz
-    0x00,                               // default timing formula
-    '\n', ' ', ' ', ' ', ' ', ' ', ' ', // terminator and blanks
-};
+/// Behind the range limits: a terminator and blanks.
+constexpr Bytes<7> c_rangePadding = {'\n', ' ', ' ', ' ', ' ', ' ', ' '};
 
 /// What stands in the place of the checksum until it is calculated.
 constexpr Byte c_byChecksumPlaceholder = 0x80;
@@ -92,175 +88,85 @@ constexpr unsigned c_nDigitalSeparateSync = 0x18;
 /// Pixel clock unit of a detailed timing (VESA E-EDID, section 3.10.2), Hz.
 constexpr qint64 c_nPixelClockUnit = 10000;
 
-/// A chromaticity coordinate pair in units of 1/1024.
-struct SChromaticity
-{
-    unsigned nX;
-    unsigned nY;
-};
-
-constexpr SChromaticity c_red = {703, 320};
-constexpr SChromaticity c_green = {192, 728};
-constexpr SChromaticity c_blue = {140, 52};
-constexpr SChromaticity c_white = {320, 337};
-
-/// Bits nHigh to nLow of a value, counted from 0, at the low end of the result.
-constexpr unsigned Bits(unsigned nValue, unsigned nHigh, unsigned nLow)
-{
-    return (nValue >> nLow) & ((1U << (nHigh - nLow + 1U)) - 1U);
-}
-
-constexpr Byte LowByte(unsigned nValue)
-{
-    return static_cast<Byte>(nValue & 0xFFU);
-}
-
-/// Two values of four bits in one byte.
-constexpr Byte Nibbles(unsigned nHigh, unsigned nLow)
-{
-    return LowByte(nHigh << 4U | nLow);
-}
-
-/// Four values of two bits in one byte, the first in the highest place.
-constexpr Byte Pairs(unsigned n76, unsigned n54, unsigned n32, unsigned n10)
-{
-    return LowByte(n76 << 6U | n54 << 4U | n32 << 2U | n10);
-}
-
 template <std::size_t c_nSize>
-void Put(BlockBytes& block, int nOffset, const Bytes<c_nSize>& bytes)
+constexpr void Put(BlockBytes& block, const EdidLayout::SBytes& place, const Bytes<c_nSize>& bytes)
 {
-    std::copy(bytes.begin(), bytes.end(), block.begin() + nOffset);
+    for (std::size_t i = 0; i < c_nSize; ++i)
+        block[std::size_t(place.nOffset) + i] = bytes[i];
 }
 
-/// The low bits of all coordinates, then their high bits (VESA E-EDID, section 3.7).
-constexpr Bytes<10> PackChromaticity()
+constexpr void Fill(BlockBytes& block, const EdidLayout::SBytes& place, Byte byValue)
 {
-    constexpr auto Low = [](unsigned nValue) { return Bits(nValue, 1, 0); };
-    constexpr auto High = [](unsigned nValue) { return LowByte(Bits(nValue, 9, 2)); };
-    return {
-        Pairs(Low(c_red.nX), Low(c_red.nY), Low(c_green.nX), Low(c_green.nY)),
-        Pairs(Low(c_blue.nX), Low(c_blue.nY), Low(c_white.nX), Low(c_white.nY)),
-        High(c_red.nX),
-        High(c_red.nY),
-        High(c_green.nX),
-        High(c_green.nY),
-        High(c_blue.nX),
-        High(c_blue.nY),
-        High(c_white.nX),
-        High(c_white.nY),
-    };
+    for (int i = place.nOffset; i < place.nOffset + place.nLength; ++i)
+        block[std::size_t(i)] = byValue;
 }
 
-void WriteHeader(BlockBytes& block)
+constexpr void PutDescriptorHeader(BlockBytes& block, const EdidLayout::SBytes& descriptor, Byte byTag)
 {
-    Put(block, c_nHeader, c_header);
+    static_assert(EdidLayout::c_nDescriptorHeaderSize == 5 && EdidLayout::c_nDescriptorTagPlace == 3);
+    Put(block, descriptor, Bytes<5>{0x00, 0x00, 0x00, byTag, 0x00});
 }
 
-void WriteProductAndVersion(BlockBytes& block)
+constexpr void PutDetailedTiming(BlockBytes& block, const SDetailedTiming& timing)
 {
-    Put(block, c_nProduct, c_product);
-    Put(block, c_nVersion, c_version);
+    const tagSBlankTiming& blank = timing.blank;
+    Fill(block, EdidLayout::c_firstDetailedTiming, 0); // image size unknown, no borders
+    EdidLayout::Write(block, EdidLayout::c_pixelClock, static_cast<unsigned>(timing.nPixelClock));
+    EdidLayout::Write(block, EdidLayout::c_width, static_cast<unsigned>(timing.nWidth));
+    EdidLayout::Write(block, EdidLayout::c_hBlank, blank.wHBlank);
+    EdidLayout::Write(block, EdidLayout::c_height, static_cast<unsigned>(timing.nHeight));
+    EdidLayout::Write(block, EdidLayout::c_vBlank, blank.wVBlank);
+    EdidLayout::Write(block, EdidLayout::c_hFrontPorch, blank.wHFrontPorch);
+    EdidLayout::Write(block, EdidLayout::c_hSync, blank.wHSync);
+    EdidLayout::Write(block, EdidLayout::c_vFrontPorch, blank.byVFrontPorch);
+    EdidLayout::Write(block, EdidLayout::c_vSync, blank.byVSync);
+    EdidLayout::Write(block, EdidLayout::c_timingFlags,
+                      static_cast<unsigned>(blank.bySyncFlag) << 1U | c_nDigitalSeparateSync);
 }
 
-void WriteBasicParameters(BlockBytes& block)
+/// The template without a name.
+constexpr BlockBytes MakeTemplate()
 {
-    Put(block, c_nBasicParameters, c_basicParameters);
+    BlockBytes block = {};
+    Put(block, EdidLayout::c_header, c_header);
+    Fill(block, EdidLayout::c_serialNumber, c_bySerialNumber);
+    Fill(block, EdidLayout::c_standardTimings, c_byUnusedStandardTiming);
+    PutDetailedTiming(block, c_defaultTiming);
+    PutDescriptorHeader(block, EdidLayout::c_serialDescriptor, c_bySerialTag);
+    Put(block, EdidLayout::c_serialText, c_serial);
+    PutDescriptorHeader(block, EdidLayout::c_nameDescriptor, c_byNameTag);
+    PutDescriptorHeader(block, EdidLayout::c_rangeDescriptor, c_byRangeTag);
+    Put(block, EdidLayout::c_rangePadding, c_rangePadding);
+    Fill(block, EdidLayout::c_checksum, c_byChecksumPlaceholder);
+    for (const SValue& value : c_arrValues)
+        EdidLayout::Write(block, value.number, value.nValue);
+    return block;
 }
 
-void WriteChromaticity(BlockBytes& block)
-{
-    constexpr Bytes<10> c_chromaticity = PackChromaticity();
-    Put(block, c_nChromaticity, c_chromaticity);
-}
-
-void WriteEstablishedAndStandardTimings(BlockBytes& block)
-{
-    Put(block, c_nEstablishedTimings, c_establishedTimings);
-    std::fill_n(block.begin() + c_nStandardTimings, c_nStandardTimingBytes, c_byUnusedStandardTiming);
-}
-
-void WriteDescriptorHeader(BlockBytes& block, int nOffset, Byte byTag)
-{
-    Put(block, nOffset, Bytes<c_nDescriptorHeaderSize>{0x00, 0x00, 0x00, byTag, 0x00});
-}
-
-void WriteSerialDescriptor(BlockBytes& block)
-{
-    WriteDescriptorHeader(block, c_nSerialDescriptor, c_bySerialTag);
-    Put(block, c_nSerialDescriptor + c_nDescriptorHeaderSize, c_serial);
-}
-
-/// The name has no terminator and no padding: a shorter one leaves the rest of its field as it was.
-void WriteNameDescriptor(BlockBytes& block, int nWidth, int nHeight)
-{
-    WriteDescriptorHeader(block, c_nNameDescriptor, c_byNameTag);
-    const CMonitorName name(nWidth, nHeight);
-    std::copy(name.begin(), name.end(), block.begin() + c_nNameDescriptor + c_nDescriptorHeaderSize);
-}
-
-void WriteRangeDescriptor(BlockBytes& block)
-{
-    WriteDescriptorHeader(block, c_nRangeDescriptor, c_byRangeTag);
-    Put(block, c_nRangeDescriptor + c_nDescriptorHeaderSize, c_range);
-}
-
-void WriteTrailer(BlockBytes& block)
-{
-    block[c_nExtensionCount] = 0;
-    block[c_nChecksum] = c_byChecksumPlaceholder;
-}
+constexpr BlockBytes c_template = MakeTemplate();
 
 } // namespace
 
+/// The name has no terminator and no padding: a shorter one leaves the rest of its field as it was.
 void WriteTemplate(BlockBytes& block, int nWidth, int nHeight)
 {
-    WriteHeader(block);
-    WriteProductAndVersion(block);
-    WriteBasicParameters(block);
-    WriteChromaticity(block);
-    WriteEstablishedAndStandardTimings(block);
-    WriteFirstDetailedTiming(block, c_defaultTiming);
-    WriteSerialDescriptor(block);
-    WriteNameDescriptor(block, nWidth, nHeight);
-    WriteRangeDescriptor(block);
-    WriteTrailer(block);
+    constexpr int c_nNameEnd = EdidLayout::c_nameText.nOffset + EdidLayout::c_nameText.nLength;
+    std::copy_n(c_template.begin(), EdidLayout::c_nameText.nOffset, block.begin());
+    std::copy(c_template.begin() + c_nNameEnd, c_template.end(), block.begin() + c_nNameEnd);
+    const CMonitorName name(nWidth, nHeight);
+    std::copy(name.begin(), name.end(), block.begin() + EdidLayout::c_nameText.nOffset);
 }
 
 void WriteFirstDetailedTiming(BlockBytes& block, const SDetailedTiming& timing)
 {
-    const unsigned nClock = static_cast<unsigned>(timing.nPixelClock);
-    const unsigned nWidth = static_cast<unsigned>(timing.nWidth);
-    const unsigned nHeight = static_cast<unsigned>(timing.nHeight);
-    const tagSBlankTiming& blank = timing.blank;
-    Put(block, c_nFirstDetailedTiming,
-        Bytes<18>{
-            LowByte(nClock),
-            LowByte(nClock >> 8U),
-            LowByte(nWidth),
-            LowByte(blank.wHBlank),
-            Nibbles(Bits(nWidth, 11, 8), Bits(blank.wHBlank, 11, 8)),
-            LowByte(nHeight),
-            LowByte(blank.wVBlank),
-            Nibbles(Bits(nHeight, 11, 8), Bits(blank.wVBlank, 11, 8)),
-            LowByte(blank.wHFrontPorch),
-            LowByte(blank.wHSync),
-            Nibbles(Bits(blank.byVFrontPorch, 3, 0), Bits(blank.byVSync, 3, 0)),
-            Pairs(Bits(blank.wHFrontPorch, 9, 8), Bits(blank.wHSync, 9, 8), Bits(blank.byVFrontPorch, 5, 4),
-                  Bits(blank.byVSync, 5, 4)),
-            0,
-            0,
-            0, // image size: unknown
-            0,
-            0, // borders: none
-            LowByte(static_cast<unsigned>(blank.bySyncFlag) << 1U | c_nDigitalSeparateSync),
-        });
+    PutDetailedTiming(block, timing);
 }
 
 void WriteChecksum(BlockBytes& block)
 {
+    constexpr int c_nChecksum = EdidLayout::c_checksum.nOffset;
     const unsigned nSum = std::accumulate(block.begin(), block.begin() + c_nChecksum, 0U);
-    block[c_nChecksum] = LowByte(0U - nSum);
+    block[c_nChecksum] = static_cast<Byte>((0U - nSum) & 0xFFU);
 }
 
 qint64 PixelClock(int nWidth, int nHeight, float fRate, const tagSBlankTiming& blank)

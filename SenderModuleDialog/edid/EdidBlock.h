@@ -2,6 +2,7 @@
 #define SENDERMODULEDIALOG_EDID_EDIDBLOCK_H
 
 #include "SenderModuleDialog/edid/VideoTiming.h"
+#include "host/CommonClass/EdidBlockSize.h"
 
 #include <array>
 
@@ -10,10 +11,7 @@
 
 namespace EdidBlock {
 
-/// Bytes of a base block (VESA E-EDID, section 3.1).
-constexpr int c_nBlockSize = 128;
-
-using BlockBytes = std::array<unsigned char, c_nBlockSize>;
+using BlockBytes = std::array<unsigned char, c_nEdidBlockSize>;
 
 /// What a detailed timing descriptor says.
 struct SDetailedTiming

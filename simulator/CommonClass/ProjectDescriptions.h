@@ -48,7 +48,7 @@ void Describe(TArchive& archive, SSimulatedInput& input)
     archive.Field("limit", input.limit);
     archive.Field("maxPixelClock", input.nMaxPixelClock, SRange{0, 10000});
     archive.Field("setting", input.setting);
-    archive.Field("edid", input.baEdid, SLength{c_nEdidBlockLength});
+    archive.Field("edid", input.baEdid, SLength{c_nEdidBlockSize});
 }
 
 template <class TArchive>

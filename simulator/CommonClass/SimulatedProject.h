@@ -1,6 +1,7 @@
 #ifndef SIMULATOR_COMMONCLASS_SIMULATEDPROJECT_H
 #define SIMULATOR_COMMONCLASS_SIMULATEDPROJECT_H
 
+#include "host/CommonClass/EdidBlockSize.h"
 #include "host/HardwareSupport/CanvasLimit.h"
 #include "host/HardwareSupport/EdidSetting.h"
 #include "host/HardwareSupport/SenderEdidLimitData.h"
@@ -17,9 +18,6 @@
 
 /// @file
 /// Everything that the simulated host keeps, as plain values.
-
-/// Length of an EDID base block.
-constexpr int c_nEdidBlockLength = 128;
 
 /// Largest id of a sender. Ids are never given twice; a project that has used this one takes no more senders.
 constexpr int c_nLastSenderId = 1000000000;

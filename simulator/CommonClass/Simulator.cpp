@@ -292,7 +292,7 @@ bool CSimulator::SetEdidMemory(int nSender, int nInterfaceId, const QByteArray& 
 {
     SSimulatedSender* pSender = m_project.FindSender(nSender);
     SSimulatedInput* pInput = pSender == nullptr ? nullptr : pSender->FindInput(nInterfaceId);
-    if (pInput == nullptr || (!baEdid.isEmpty() && baEdid.size() != c_nEdidBlockLength))
+    if (pInput == nullptr || (!baEdid.isEmpty() && baEdid.size() != c_nEdidBlockSize))
         return false;
     pInput->baEdid = baEdid;
     NoticeChanges();

@@ -87,7 +87,7 @@ void TestProjectFile::init()
 void TestProjectFile::ASavedProjectOpensAsItWas()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.SetEdidMemory(0, 16, QByteArray(c_nEdidBlockLength, '\x12'));
+    simulator.SetEdidMemory(0, 16, QByteArray(c_nEdidBlockSize, '\x12'));
     const QJsonObject before = ProjectToJson(simulator.Project());
     SFileProblem problem;
     QVERIFY2(simulator.SaveAs(Path("a.json"), problem), qPrintable(problem.Text()));

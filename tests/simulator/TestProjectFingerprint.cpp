@@ -17,7 +17,7 @@ SSimulatedProject FullProject()
     sender.outputLimitFlags = 0x800;
     sender.listInputs.resize(1);
     sender.listInputs.front().setting = SEdidSetting();
-    sender.listInputs.front().baEdid = QByteArray(c_nEdidBlockLength, '\x5a');
+    sender.listInputs.front().baEdid = QByteArray(c_nEdidBlockSize, '\x5a');
     project.addressing.nAddedSenderCount = 3;
     project.addressing.listDetected = QStringList{QStringLiteral("192.168.1.20")};
     project.addresses.listStored = project.addresses.listOriginal = project.addresses.listCurSet =

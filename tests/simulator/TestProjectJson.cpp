@@ -11,7 +11,7 @@ SSimulatedProject FullProject()
     CSimulator& simulator = FreshSimulator();
     simulator.AddSender(16, QStringLiteral("左屏 (main)"));
     simulator.AddSender(17);
-    simulator.SetEdidMemory(1, 16, QByteArray(c_nEdidBlockLength, '\xff'));
+    simulator.SetEdidMemory(1, 16, QByteArray(c_nEdidBlockSize, '\xff'));
     simulator.Change([](SSimulatedProject& project) {
         SSimulatedSender& sender = project.listSenders[1];
         sender.outputLimitFlags = 0xFFFFFFFFU;
@@ -101,7 +101,7 @@ void TestProjectJson::AFullProjectComesBackAsItWas()
     const SSimulatedProject project = ProjectFromJson(object, problem);
     QVERIFY2(!problem.IsSet(), qPrintable(problem.Text()));
     QCOMPARE(ProjectToJson(project), object);
-    QCOMPARE(project.FindSender(1)->FindInput(16)->baEdid, QByteArray(c_nEdidBlockLength, '\xff'));
+    QCOMPARE(project.FindSender(1)->FindInput(16)->baEdid, QByteArray(c_nEdidBlockSize, '\xff'));
     QCOMPARE(project.FindSender(1)->fMaxInputFrameRate, 59.94F);
     QVERIFY(!project.FindSender(1)->FindInput(17)->setting);
     QCOMPARE(project.FindSender(0)->strName, Text("左屏 (main)"));

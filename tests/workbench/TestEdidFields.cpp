@@ -11,7 +11,7 @@ QByteArray BlockOf(int nWidth, int nHeight, float fRate)
 {
     CEDIDRaw raw;
     raw.ChangeWH(nWidth, nHeight, fRate);
-    return {reinterpret_cast<const char*>(&raw), EdidFields::c_nBlockSize};
+    return {reinterpret_cast<const char*>(&raw), c_nEdidBlockSize};
 }
 
 QString ValueOf(const QByteArray& block, const QString& strName)
@@ -133,7 +133,7 @@ void TestEdidFields::EveryByteButTheUnusedOnesBelongsToAField()
         return (nOffset >= 0x42 && nOffset <= 0x46) || (nOffset >= 0x6C && nOffset <= 0x70) ||
                (nOffset >= 0x76 && nOffset <= 0x7D);
     };
-    for (int i = 0; i < EdidFields::c_nBlockSize; ++i)
+    for (int i = 0; i < c_nEdidBlockSize; ++i)
         QVERIFY2(setBytes.contains(i) != funcUnused(i), qPrintable(QString::number(i, 16)));
 }
 
@@ -151,7 +151,7 @@ void TestEdidFields::ChangedBytesAreFound()
     blockChanged[3] = 0;
     blockChanged[127] = 0;
     QCOMPARE(EdidFields::ChangedBytes(block, blockChanged), (QVector<int>{3, 127}));
-    QCOMPARE(EdidFields::ChangedBytes(QByteArray(), block).size(), EdidFields::c_nBlockSize);
+    QCOMPARE(EdidFields::ChangedBytes(QByteArray(), block).size(), c_nEdidBlockSize);
 }
 
 void TestEdidFields::TheBlockOfASettingIsThatOfItsMode()

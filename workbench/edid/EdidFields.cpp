@@ -1,9 +1,13 @@
 #include "workbench/edid/EdidFields.h"
 
+#include "SenderModuleDialog/edid/EdidLayout.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
 #include <iterator>
+#include <numeric>
 
 namespace EdidFields {
 
@@ -17,14 +21,15 @@ public:
         : m_block(block)
     {}
 
-    int Byte(int nOffset) const { return int(quint8(m_block.at(nOffset))); }
-    int Word(int nOffset) const { return Byte(nOffset) | Byte(nOffset + 1) << 8; }
-    /// Bits nHigh to nLow of a byte.
-    int Bits(int nOffset, int nHigh, int nLow) const
+    int Value(const EdidLayout::SNumber& number) const
     {
-        return (Byte(nOffset) >> nLow) & ((1 << (nHigh - nLow + 1)) - 1);
+        return EdidLayout::Read(m_block.constData(), number);
     }
-    QByteArray Bytes(int nOffset, int nCount) const { return m_block.mid(nOffset, nCount); }
+    bool Is(const EdidLayout::SNumber& flag) const { return Value(flag) == 1; }
+    QByteArray Bytes(const EdidLayout::SBytes& place) const
+    {
+        return m_block.mid(place.nOffset, place.nLength);
+    }
 
 private:
     const QByteArray& m_block;
@@ -54,15 +59,16 @@ QString Lines(int nValue)
 QString Header(const CBlock& block)
 {
     static const QByteArray s_header = QByteArray::fromHex("00ffffffffffff00");
-    return block.Bytes(0x00, 8) == s_header ? CEdidFieldText::tr("正确") : CEdidFieldText::tr("错误");
+    return block.Bytes(EdidLayout::c_header) == s_header ? CEdidFieldText::tr("正确")
+                                                         : CEdidFieldText::tr("错误");
 }
 
 /// Three letters of five bits each, 1 for A; a value beyond 26 is no letter.
 QString Manufacturer(const CBlock& block)
 {
     constexpr int c_nLetters = 26;
-    const int nId = block.Byte(0x08) << 8 | block.Byte(0x09);
-    const int arrFields[] = {nId >> 10 & 31, nId >> 5 & 31, nId & 31};
+    const int arrFields[] = {block.Value(EdidLayout::c_firstLetter), block.Value(EdidLayout::c_secondLetter),
+                             block.Value(EdidLayout::c_thirdLetter)};
     const bool bLetters = std::all_of(std::begin(arrFields), std::end(arrFields),
                                       [](int nField) { return nField >= 1 && nField <= c_nLetters; });
     if (!bLetters)
@@ -78,156 +84,159 @@ QString Manufacturer(const CBlock& block)
 
 QString ProductCode(const CBlock& block)
 {
-    return QString::number(block.Word(0x0A));
+    return QString::number(block.Value(EdidLayout::c_productCode));
 }
 
 QString SerialNumber(const CBlock& block)
 {
-    return Hex(block.Bytes(0x0C, 4));
+    return Hex(block.Bytes(EdidLayout::c_serialNumber));
 }
 
 QString Manufactured(const CBlock& block)
 {
     constexpr int c_nFirstYear = 1990;
-    const int nYear = c_nFirstYear + block.Byte(0x11);
-    const int nWeek = block.Byte(0x10);
+    const int nYear = c_nFirstYear + block.Value(EdidLayout::c_year);
+    const int nWeek = block.Value(EdidLayout::c_week);
     return nWeek == 0 ? CEdidFieldText::tr("%1 年").arg(nYear)
                       : CEdidFieldText::tr("%1 年第 %2 周").arg(nYear).arg(nWeek);
 }
 
 QString Version(const CBlock& block)
 {
-    return QStringLiteral("%1.%2").arg(block.Byte(0x12)).arg(block.Byte(0x13));
+    return QStringLiteral("%1.%2")
+        .arg(block.Value(EdidLayout::c_versionNumber))
+        .arg(block.Value(EdidLayout::c_revisionNumber));
 }
 
 QString Input(const CBlock& block)
 {
-    return block.Bits(0x14, 7, 7) == 1 ? CEdidFieldText::tr("数字") : CEdidFieldText::tr("模拟");
+    return block.Is(EdidLayout::c_isDigital) ? CEdidFieldText::tr("数字") : CEdidFieldText::tr("模拟");
 }
 
 QString PhysicalSize(const CBlock& block)
 {
     // In revision 1.3 the size is undefined when either of the two is zero.
-    if (block.Byte(0x15) == 0 || block.Byte(0x16) == 0)
+    const int nWidth = block.Value(EdidLayout::c_widthCm);
+    const int nHeight = block.Value(EdidLayout::c_heightCm);
+    if (nWidth == 0 || nHeight == 0)
         return CEdidFieldText::tr("未知");
-    return QStringLiteral("%1 × %2 cm").arg(block.Byte(0x15)).arg(block.Byte(0x16));
+    return QStringLiteral("%1 × %2 cm").arg(nWidth).arg(nHeight);
 }
 
 QString Gamma(const CBlock& block)
 {
-    return QString::number((block.Byte(0x17) + 100) / 100.0, 'f', 2);
+    return QString::number((block.Value(EdidLayout::c_gamma) + 100) / 100.0, 'f', 2);
 }
 
 QString Features(const CBlock& block)
 {
-    return block.Bits(0x18, 1, 1) == 1 ? CEdidFieldText::tr("第一个详细时序为首选")
-                                       : CEdidFieldText::tr("没有首选时序");
+    return block.Is(EdidLayout::c_prefersFirstTiming) ? CEdidFieldText::tr("第一个详细时序为首选")
+                                                      : CEdidFieldText::tr("没有首选时序");
 }
 
-/// One chromaticity: eight high bits of each coordinate and two low bits, in units of 1/1024.
-QString Chromaticity(const CBlock& block, int nHighOffset, int nLowOffset, int nLowBit)
+/// One chromaticity, in units of 1/1024.
+QString Chromaticity(const CBlock& block, const EdidLayout::SNumber& x, const EdidLayout::SNumber& y)
 {
-    const int nX = block.Byte(nHighOffset) << 2 | block.Bits(nLowOffset, nLowBit + 3, nLowBit + 2);
-    const int nY = block.Byte(nHighOffset + 1) << 2 | block.Bits(nLowOffset, nLowBit + 1, nLowBit);
-    return QStringLiteral("x %1, y %2").arg(nX / 1024.0, 0, 'f', 4).arg(nY / 1024.0, 0, 'f', 4);
+    return QStringLiteral("x %1, y %2")
+        .arg(block.Value(x) / 1024.0, 0, 'f', 4)
+        .arg(block.Value(y) / 1024.0, 0, 'f', 4);
 }
 
 QString Red(const CBlock& block)
 {
-    return Chromaticity(block, 0x1B, 0x19, 4);
+    return Chromaticity(block, EdidLayout::c_redX, EdidLayout::c_redY);
 }
 
 QString Green(const CBlock& block)
 {
-    return Chromaticity(block, 0x1D, 0x19, 0);
+    return Chromaticity(block, EdidLayout::c_greenX, EdidLayout::c_greenY);
 }
 
 QString Blue(const CBlock& block)
 {
-    return Chromaticity(block, 0x1F, 0x1A, 4);
+    return Chromaticity(block, EdidLayout::c_blueX, EdidLayout::c_blueY);
 }
 
 QString White(const CBlock& block)
 {
-    return Chromaticity(block, 0x21, 0x1A, 0);
+    return Chromaticity(block, EdidLayout::c_whiteX, EdidLayout::c_whiteY);
 }
 
 QString EstablishedTimings(const CBlock& block)
 {
-    return block.Bits(0x23, 0, 0) == 1 ? QStringLiteral("800 × 600, 60 Hz") : CEdidFieldText::tr("无");
+    return block.Is(EdidLayout::c_svga60) ? QStringLiteral("800 × 600, 60 Hz") : CEdidFieldText::tr("无");
 }
 
 QString StandardTimings(const CBlock& block)
 {
-    constexpr int c_nTimings = 8;
-    const QByteArray unused(2, 1);
+    const QByteArray timings = block.Bytes(EdidLayout::c_standardTimings);
+    const QByteArray unused(EdidLayout::c_nStandardTimingSize, 1);
     int nUsed = 0;
-    for (int i = 0; i < c_nTimings; ++i)
-        nUsed += block.Bytes(0x26 + 2 * i, 2) == unused ? 0 : 1;
+    for (int i = 0; i < timings.size(); i += EdidLayout::c_nStandardTimingSize)
+        nUsed += timings.mid(i, EdidLayout::c_nStandardTimingSize) == unused ? 0 : 1;
     return nUsed == 0 ? CEdidFieldText::tr("无") : QString::number(nUsed);
 }
 
 QString PixelClock(const CBlock& block)
 {
-    return QStringLiteral("%1 MHz").arg(block.Word(0x36) / 100.0, 0, 'f', 2);
+    return QStringLiteral("%1 MHz").arg(block.Value(EdidLayout::c_pixelClock) / 100.0, 0, 'f', 2);
 }
 
 QString Width(const CBlock& block)
 {
-    return Pixels(block.Byte(0x38) | block.Bits(0x3A, 7, 4) << 8);
+    return Pixels(block.Value(EdidLayout::c_width));
 }
 
 QString HBlank(const CBlock& block)
 {
-    return Pixels(block.Byte(0x39) | block.Bits(0x3A, 3, 0) << 8);
+    return Pixels(block.Value(EdidLayout::c_hBlank));
 }
 
 QString Height(const CBlock& block)
 {
-    return Lines(block.Byte(0x3B) | block.Bits(0x3D, 7, 4) << 8);
+    return Lines(block.Value(EdidLayout::c_height));
 }
 
 QString VBlank(const CBlock& block)
 {
-    return Lines(block.Byte(0x3C) | block.Bits(0x3D, 3, 0) << 8);
+    return Lines(block.Value(EdidLayout::c_vBlank));
 }
 
 QString HFrontPorch(const CBlock& block)
 {
-    return Pixels(block.Byte(0x3E) | block.Bits(0x41, 7, 6) << 8);
+    return Pixels(block.Value(EdidLayout::c_hFrontPorch));
 }
 
 QString HSync(const CBlock& block)
 {
-    return Pixels(block.Byte(0x3F) | block.Bits(0x41, 5, 4) << 8);
+    return Pixels(block.Value(EdidLayout::c_hSync));
 }
 
 QString VFrontPorch(const CBlock& block)
 {
-    return Lines(block.Bits(0x40, 7, 4) | block.Bits(0x41, 3, 2) << 4);
+    return Lines(block.Value(EdidLayout::c_vFrontPorch));
 }
 
 QString VSync(const CBlock& block)
 {
-    return Lines(block.Bits(0x40, 3, 0) | block.Bits(0x41, 1, 0) << 4);
+    return Lines(block.Value(EdidLayout::c_vSync));
 }
 
-QString Sign(int nBit)
+QString Sign(bool bPositive)
 {
-    return nBit == 1 ? QStringLiteral("+") : QStringLiteral("−");
+    return bPositive ? QStringLiteral("+") : QStringLiteral("−");
 }
 
 QString SyncPolarity(const CBlock& block)
 {
     return CEdidFieldText::tr("水平 %1，垂直 %2")
-        .arg(Sign(block.Bits(0x47, 1, 1)), Sign(block.Bits(0x47, 2, 2)));
+        .arg(Sign(block.Is(EdidLayout::c_hSyncPositive)), Sign(block.Is(EdidLayout::c_vSyncPositive)));
 }
 
 /// Text of a descriptor: up to the line feed, without the fill.
-QString DescriptorText(const CBlock& block, int nOffset)
+QString DescriptorText(const CBlock& block, const EdidLayout::SBytes& place)
 {
-    constexpr int c_nTextSize = 13;
-    QByteArray text = block.Bytes(nOffset, c_nTextSize);
+    QByteArray text = block.Bytes(place);
     for (const char chEnd : {'\n', '\0'}) {
         const int nEnd = text.indexOf(chEnd);
         if (nEnd >= 0)
@@ -238,54 +247,91 @@ QString DescriptorText(const CBlock& block, int nOffset)
 
 QString SerialText(const CBlock& block)
 {
-    return DescriptorText(block, 0x4D);
+    return DescriptorText(block, EdidLayout::c_serialText);
 }
 
 QString MonitorName(const CBlock& block)
 {
-    return DescriptorText(block, 0x5F);
+    return DescriptorText(block, EdidLayout::c_nameText);
 }
 
 QString VerticalRange(const CBlock& block)
 {
-    return QStringLiteral("%1 – %2 Hz").arg(block.Byte(0x71)).arg(block.Byte(0x72));
+    return QStringLiteral("%1 – %2 Hz")
+        .arg(block.Value(EdidLayout::c_minVertical))
+        .arg(block.Value(EdidLayout::c_maxVertical));
 }
 
 QString HorizontalRange(const CBlock& block)
 {
-    return QStringLiteral("%1 – %2 kHz").arg(block.Byte(0x73)).arg(block.Byte(0x74));
+    return QStringLiteral("%1 – %2 kHz")
+        .arg(block.Value(EdidLayout::c_minHorizontal))
+        .arg(block.Value(EdidLayout::c_maxHorizontal));
 }
 
 QString MaximumClock(const CBlock& block)
 {
-    return QStringLiteral("%1 MHz").arg(block.Byte(0x75) * 10);
+    return QStringLiteral("%1 MHz").arg(block.Value(EdidLayout::c_maxClock) * 10);
 }
 
 QString Extensions(const CBlock& block)
 {
-    return QString::number(block.Byte(0x7E));
+    return QString::number(quint8(block.Bytes(EdidLayout::c_extensionCount).at(0)));
 }
 
 QString Checksum(const CBlock& block)
 {
-    int nSum = 0;
-    for (int i = 0; i < c_nBlockSize; ++i)
-        nSum += block.Byte(i);
-    return nSum % 256 == 0 ? CEdidFieldText::tr("正确") : CEdidFieldText::tr("错误");
+    const QByteArray bytes = block.Bytes({"", 0, c_nEdidBlockSize});
+    const unsigned nSum = std::accumulate(bytes.cbegin(), bytes.cend(), 0U,
+                                          [](unsigned nBefore, char ch) { return nBefore + quint8(ch); });
+    return (nSum & 0xFFU) == 0 ? CEdidFieldText::tr("正确") : CEdidFieldText::tr("错误");
 }
 
-struct SByteRange
+/// The bytes that a field stands in, in their order, each once.
+struct SPlaces
 {
-    int nFirst;
-    int nCount;
+    std::array<int, 18> arrOffsets = {};
+    int nCount = 0;
+
+    constexpr void Add(int nOffset)
+    {
+        int i = nCount;
+        for (; i > 0 && arrOffsets[std::size_t(i - 1)] >= nOffset; --i)
+            if (arrOffsets[std::size_t(i - 1)] == nOffset)
+                return;
+        for (int j = nCount++; j > i; --j)
+            arrOffsets[std::size_t(j)] = arrOffsets[std::size_t(j - 1)];
+        arrOffsets[std::size_t(i)] = nOffset;
+    }
 };
+
+constexpr void Add(SPlaces& places, const EdidLayout::SBytes& bytes)
+{
+    for (int i = 0; i < bytes.nLength; ++i)
+        places.Add(bytes.nOffset + i);
+}
+
+constexpr void Add(SPlaces& places, const EdidLayout::SNumber& number)
+{
+    places.Add(number.low.nOffset);
+    if (number.high.nCount > 0)
+        places.Add(number.high.nOffset);
+}
+
+template <class... TFields>
+constexpr SPlaces In(const TFields&... fields)
+{
+    SPlaces places;
+    (Add(places, fields), ...);
+    return places;
+}
 
 /// A row: group, name, where the bytes are, how they read.
 struct SFieldRow
 {
     const char* szGroup;
     const char* szName;
-    SByteRange arrRanges[2];
+    SPlaces places;
     QString (*pDecode)(const CBlock& block);
 };
 
@@ -298,47 +344,63 @@ constexpr const char* c_szDescriptors = QT_TRANSLATE_NOOP("CEdidFieldText", "描
 constexpr const char* c_szEnd = QT_TRANSLATE_NOOP("CEdidFieldText", "结尾");
 
 const SFieldRow c_arrFields[] = {
-    {c_szProduct, QT_TRANSLATE_NOOP("CEdidFieldText", "标头"), {{0x00, 8}, {}}, Header},
-    {c_szProduct, QT_TRANSLATE_NOOP("CEdidFieldText", "制造商"), {{0x08, 2}, {}}, Manufacturer},
-    {c_szProduct, QT_TRANSLATE_NOOP("CEdidFieldText", "产品代码"), {{0x0A, 2}, {}}, ProductCode},
-    {c_szProduct, QT_TRANSLATE_NOOP("CEdidFieldText", "序列号"), {{0x0C, 4}, {}}, SerialNumber},
-    {c_szProduct, QT_TRANSLATE_NOOP("CEdidFieldText", "制造时间"), {{0x10, 2}, {}}, Manufactured},
-    {c_szProduct, QT_TRANSLATE_NOOP("CEdidFieldText", "EDID 版本"), {{0x12, 2}, {}}, Version},
-    {c_szDisplay, QT_TRANSLATE_NOOP("CEdidFieldText", "输入"), {{0x14, 1}, {}}, Input},
-    {c_szDisplay, QT_TRANSLATE_NOOP("CEdidFieldText", "物理尺寸"), {{0x15, 2}, {}}, PhysicalSize},
-    {c_szDisplay, QT_TRANSLATE_NOOP("CEdidFieldText", "伽马"), {{0x17, 1}, {}}, Gamma},
-    {c_szDisplay, QT_TRANSLATE_NOOP("CEdidFieldText", "特性"), {{0x18, 1}, {}}, Features},
-    {c_szColour, QT_TRANSLATE_NOOP("CEdidFieldText", "红"), {{0x19, 1}, {0x1B, 2}}, Red},
-    {c_szColour, QT_TRANSLATE_NOOP("CEdidFieldText", "绿"), {{0x19, 1}, {0x1D, 2}}, Green},
-    {c_szColour, QT_TRANSLATE_NOOP("CEdidFieldText", "蓝"), {{0x1A, 1}, {0x1F, 2}}, Blue},
-    {c_szColour, QT_TRANSLATE_NOOP("CEdidFieldText", "白"), {{0x1A, 1}, {0x21, 2}}, White},
-    {c_szTimings, QT_TRANSLATE_NOOP("CEdidFieldText", "既定时序"), {{0x23, 3}, {}}, EstablishedTimings},
-    {c_szTimings, QT_TRANSLATE_NOOP("CEdidFieldText", "标准时序"), {{0x26, 16}, {}}, StandardTimings},
-    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "像素时钟"), {{0x36, 2}, {}}, PixelClock},
-    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "宽"), {{0x38, 1}, {0x3A, 1}}, Width},
-    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "水平消隐"), {{0x39, 2}, {}}, HBlank},
-    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "高"), {{0x3B, 1}, {0x3D, 1}}, Height},
-    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "垂直消隐"), {{0x3C, 2}, {}}, VBlank},
-    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "水平前肩"), {{0x3E, 1}, {0x41, 1}}, HFrontPorch},
-    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "水平同步"), {{0x3F, 1}, {0x41, 1}}, HSync},
-    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "垂直前肩"), {{0x40, 2}, {}}, VFrontPorch},
-    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "垂直同步"), {{0x40, 2}, {}}, VSync},
-    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "同步极性"), {{0x47, 1}, {}}, SyncPolarity},
-    {c_szDescriptors, QT_TRANSLATE_NOOP("CEdidFieldText", "序列文本"), {{0x48, 18}, {}}, SerialText},
-    {c_szDescriptors, QT_TRANSLATE_NOOP("CEdidFieldText", "显示器名称"), {{0x5A, 18}, {}}, MonitorName},
-    {c_szDescriptors, QT_TRANSLATE_NOOP("CEdidFieldText", "垂直频率"), {{0x71, 2}, {}}, VerticalRange},
-    {c_szDescriptors, QT_TRANSLATE_NOOP("CEdidFieldText", "水平频率"), {{0x73, 2}, {}}, HorizontalRange},
-    {c_szDescriptors, QT_TRANSLATE_NOOP("CEdidFieldText", "最大像素时钟"), {{0x75, 1}, {}}, MaximumClock},
-    {c_szEnd, QT_TRANSLATE_NOOP("CEdidFieldText", "扩展块"), {{0x7E, 1}, {}}, Extensions},
-    {c_szEnd, QT_TRANSLATE_NOOP("CEdidFieldText", "校验和"), {{0x7F, 1}, {}}, Checksum},
+    {c_szProduct, QT_TRANSLATE_NOOP("CEdidFieldText", "标头"), In(EdidLayout::c_header), Header},
+    {c_szProduct, QT_TRANSLATE_NOOP("CEdidFieldText", "制造商"),
+     In(EdidLayout::c_firstLetter, EdidLayout::c_secondLetter), Manufacturer},
+    {c_szProduct, QT_TRANSLATE_NOOP("CEdidFieldText", "产品代码"), In(EdidLayout::c_productCode),
+     ProductCode},
+    {c_szProduct, QT_TRANSLATE_NOOP("CEdidFieldText", "序列号"), In(EdidLayout::c_serialNumber),
+     SerialNumber},
+    {c_szProduct, QT_TRANSLATE_NOOP("CEdidFieldText", "制造时间"), In(EdidLayout::c_week, EdidLayout::c_year),
+     Manufactured},
+    {c_szProduct, QT_TRANSLATE_NOOP("CEdidFieldText", "EDID 版本"), In(EdidLayout::c_version), Version},
+    {c_szDisplay, QT_TRANSLATE_NOOP("CEdidFieldText", "输入"), In(EdidLayout::c_input), Input},
+    {c_szDisplay, QT_TRANSLATE_NOOP("CEdidFieldText", "物理尺寸"),
+     In(EdidLayout::c_widthCm, EdidLayout::c_heightCm), PhysicalSize},
+    {c_szDisplay, QT_TRANSLATE_NOOP("CEdidFieldText", "伽马"), In(EdidLayout::c_gamma), Gamma},
+    {c_szDisplay, QT_TRANSLATE_NOOP("CEdidFieldText", "特性"), In(EdidLayout::c_features), Features},
+    {c_szColour, QT_TRANSLATE_NOOP("CEdidFieldText", "红"), In(EdidLayout::c_redX, EdidLayout::c_redY), Red},
+    {c_szColour, QT_TRANSLATE_NOOP("CEdidFieldText", "绿"), In(EdidLayout::c_greenX, EdidLayout::c_greenY),
+     Green},
+    {c_szColour, QT_TRANSLATE_NOOP("CEdidFieldText", "蓝"), In(EdidLayout::c_blueX, EdidLayout::c_blueY),
+     Blue},
+    {c_szColour, QT_TRANSLATE_NOOP("CEdidFieldText", "白"), In(EdidLayout::c_whiteX, EdidLayout::c_whiteY),
+     White},
+    {c_szTimings, QT_TRANSLATE_NOOP("CEdidFieldText", "既定时序"), In(EdidLayout::c_establishedTimings),
+     EstablishedTimings},
+    {c_szTimings, QT_TRANSLATE_NOOP("CEdidFieldText", "标准时序"), In(EdidLayout::c_standardTimings),
+     StandardTimings},
+    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "像素时钟"), In(EdidLayout::c_pixelClock), PixelClock},
+    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "宽"), In(EdidLayout::c_width), Width},
+    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "水平消隐"), In(EdidLayout::c_hBlank), HBlank},
+    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "高"), In(EdidLayout::c_height), Height},
+    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "垂直消隐"), In(EdidLayout::c_vBlank), VBlank},
+    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "水平前肩"), In(EdidLayout::c_hFrontPorch),
+     HFrontPorch},
+    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "水平同步"), In(EdidLayout::c_hSync), HSync},
+    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "垂直前肩"), In(EdidLayout::c_vFrontPorch),
+     VFrontPorch},
+    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "垂直同步"), In(EdidLayout::c_vSync), VSync},
+    {c_szDetailed, QT_TRANSLATE_NOOP("CEdidFieldText", "同步极性"), In(EdidLayout::c_timingFlags),
+     SyncPolarity},
+    {c_szDescriptors, QT_TRANSLATE_NOOP("CEdidFieldText", "序列文本"), In(EdidLayout::c_serialDescriptor),
+     SerialText},
+    {c_szDescriptors, QT_TRANSLATE_NOOP("CEdidFieldText", "显示器名称"), In(EdidLayout::c_nameDescriptor),
+     MonitorName},
+    {c_szDescriptors, QT_TRANSLATE_NOOP("CEdidFieldText", "垂直频率"),
+     In(EdidLayout::c_minVertical, EdidLayout::c_maxVertical), VerticalRange},
+    {c_szDescriptors, QT_TRANSLATE_NOOP("CEdidFieldText", "水平频率"),
+     In(EdidLayout::c_minHorizontal, EdidLayout::c_maxHorizontal), HorizontalRange},
+    {c_szDescriptors, QT_TRANSLATE_NOOP("CEdidFieldText", "最大像素时钟"), In(EdidLayout::c_maxClock),
+     MaximumClock},
+    {c_szEnd, QT_TRANSLATE_NOOP("CEdidFieldText", "扩展块"), In(EdidLayout::c_extensionCount), Extensions},
+    {c_szEnd, QT_TRANSLATE_NOOP("CEdidFieldText", "校验和"), In(EdidLayout::c_checksum), Checksum},
 };
 
-QVector<int> Offsets(const SFieldRow& row)
+QVector<int> Offsets(const SPlaces& places)
 {
     QVector<int> vecOffsets;
-    for (const SByteRange& range : row.arrRanges)
-        for (int i = 0; i < range.nCount; ++i)
-            vecOffsets.append(range.nFirst + i);
+    std::copy_n(places.arrOffsets.cbegin(), places.nCount, std::back_inserter(vecOffsets));
     return vecOffsets;
 }
 
@@ -347,12 +409,12 @@ QVector<int> Offsets(const SFieldRow& row)
 QVector<SEdidField> Decode(const QByteArray& block)
 {
     QVector<SEdidField> vecFields;
-    if (block.size() != c_nBlockSize)
+    if (block.size() != c_nEdidBlockSize)
         return vecFields;
     const CBlock reader(block);
     for (const SFieldRow& row : c_arrFields)
         vecFields.append({CEdidFieldText::tr(row.szGroup), CEdidFieldText::tr(row.szName),
-                          row.pDecode(reader), Offsets(row)});
+                          row.pDecode(reader), Offsets(row.places)});
     return vecFields;
 }
 

@@ -18,9 +18,6 @@ struct SEdidField
 /// Source: VESA Enhanced Extended Display Identification Data Standard, release A, section 3.
 namespace EdidFields {
 
-/// Size of a base block, bytes.
-constexpr int c_nBlockSize = 128;
-
 /// The fields of the block, in the current language; empty unless the block has 128 bytes.
 QVector<SEdidField> Decode(const QByteArray& block);
 

@@ -15,7 +15,7 @@ QByteArray CEdidMemoryUpdater::BlockOf(const SEdidSetting& setting)
     CEDIDRaw raw;
     raw.ChangeWH(setting.wWidth, setting.wHeight, ModeText::Rate(setting));
     // A host reads the block through the object's address.
-    return {reinterpret_cast<const char*>(&raw), c_nEdidBlockLength};
+    return {reinterpret_cast<const char*>(&raw), c_nEdidBlockSize};
 }
 
 void CEdidMemoryUpdater::Update(int nSender, int nInterfaceId)

@@ -101,7 +101,7 @@ void CEdidPage::Tour(CTour& tour, QWidget* pWorkbench)
         return;
     tour.Picture(pWorkbench, QStringLiteral("edid-before"));
     TourOfDialog(tour);
-    tour.Check(Input()->baEdid.size() == EdidFields::c_nBlockSize,
+    tour.Check(Input()->baEdid.size() == c_nEdidBlockSize,
                QStringLiteral("the EDID memory holds no block after the dialog"));
     tour.Check(m_pBytes->Bytes() == Input()->baEdid, QStringLiteral("the page shows another block"));
     tour.Picture(pWorkbench, QStringLiteral("edid-after"));
