@@ -1,5 +1,6 @@
 #include "tools/EdidFormat.h"
 
+#include "instruments/edid/Writing.h"
 #include "tools/Report.h"
 
 #include <QJsonArray>
@@ -13,22 +14,6 @@ namespace EdidFormat {
 
 namespace {
 
-constexpr int c_nHexColumns = 16;
-constexpr int c_nSourceColumns = 8;
-
-/// The bytes as two upper-case digits each, in rows.
-QStringList Rows(const QByteArray& block, int nColumns, const QString& strPrefix, const QString& strSeparator)
-{
-    QStringList listRows;
-    for (int nStart = 0; nStart < block.size(); nStart += nColumns) {
-        QStringList listBytes;
-        for (const char ch : block.mid(nStart, nColumns))
-            listBytes += strPrefix + QString::asprintf("%02X", static_cast<unsigned char>(ch));
-        listRows += listBytes.join(strSeparator);
-    }
-    return listRows;
-}
-
 QByteArray Binary(const QByteArray& block, const SVideoMode&)
 {
     return block;
@@ -36,19 +21,12 @@ QByteArray Binary(const QByteArray& block, const SVideoMode&)
 
 QByteArray Hex(const QByteArray& block, const SVideoMode&)
 {
-    const QStringList listRows = Rows(block, c_nHexColumns, QString(), QStringLiteral(" "));
-    return (listRows.join(QLatin1Char('\n')) + QLatin1Char('\n')).toLatin1();
+    return Edid::HexForm(block);
 }
 
 QByteArray CSource(const QByteArray& block, const SVideoMode& mode)
 {
-    const QStringList listRows = Rows(block, c_nSourceColumns, QStringLiteral("0x"), QStringLiteral(", "));
-    return QStringLiteral(
-               "/* EDID 1.3 base block of %1 */\nstatic const unsigned char edid[%2] = {\n    %3\n};\n")
-        .arg(DescribeVideoMode(mode))
-        .arg(block.size())
-        .arg(listRows.join(QStringLiteral(",\n    ")))
-        .toLatin1();
+    return Edid::CForm(block, QStringLiteral("EDID 1.3 base block of %1").arg(DescribeVideoMode(mode)));
 }
 
 QByteArray Json(const QByteArray& block, const SVideoMode& mode)

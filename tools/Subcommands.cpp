@@ -2,6 +2,7 @@
 #include "tools/ChartCommand.h"
 #include "tools/CompletionCommand.h"
 #include "tools/EdidCommand.h"
+#include "tools/ExplainCommand.h"
 #include "tools/GamutCommand.h"
 #include "tools/LocusCommand.h"
 #include "tools/ManualCommand.h"
@@ -14,6 +15,7 @@ std::vector<SSubcommand> AllSubcommands()
     return {
         EdidSubcommand(),
         TimingSubcommand(),
+        ExplainSubcommand(),
         CctSubcommand(),
         GamutSubcommand(),
         LocusSubcommand(),

@@ -1,0 +1,64 @@
+#include "instruments/edid/Writing.h"
+
+#include "instruments/edid/ExplanationText.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace Edid {
+
+namespace {
+
+constexpr int c_nHexColumns = 16;
+constexpr int c_nSourceColumns = 8;
+
+QByteArray Lines(const QStringList& listRows)
+{
+    return (listRows.join(QLatin1Char('\n')) + QLatin1Char('\n')).toLatin1();
+}
+
+} // namespace
+
+QStringList ByteRows(const QByteArray& edid, int nColumns, const QString& strPrefix,
+                     const QString& strSeparator)
+{
+    QStringList listRows;
+    for (int nStart = 0; nStart < edid.size(); nStart += nColumns) {
+        QStringList listBytes;
+        for (const char ch : edid.mid(nStart, nColumns))
+            listBytes += strPrefix + QString::asprintf("%02X", static_cast<unsigned char>(ch));
+        listRows += listBytes.join(strSeparator);
+    }
+    return listRows;
+}
+
+QJsonArray BytesJson(const QByteArray& edid)
+{
+    return QJsonArray::fromStringList(ByteRows(edid, c_nHexColumns, QString(), QStringLiteral(" ")));
+}
+
+QByteArray HexForm(const QByteArray& edid)
+{
+    return Lines(ByteRows(edid, c_nHexColumns, QString(), QStringLiteral(" ")));
+}
+
+QByteArray CForm(const QByteArray& edid, const QString& strComment)
+{
+    const QStringList listRows = ByteRows(edid, c_nSourceColumns, QStringLiteral("0x"), QStringLiteral(", "));
+    return QStringLiteral("/* %1 */\nstatic const unsigned char edid[%2] = {\n    %3\n};\n")
+        .arg(strComment)
+        .arg(edid.size())
+        .arg(listRows.join(QStringLiteral(",\n    ")))
+        .toUtf8();
+}
+
+QByteArray JsonForm(const QByteArray& edid)
+{
+    const QJsonObject object = {
+        {QStringLiteral("bytes"), BytesJson(edid)},
+        {QStringLiteral("blocks"), ExplanationJson(edid, {})},
+    };
+    return QJsonDocument(object).toJson();
+}
+
+} // namespace Edid
