@@ -18,7 +18,7 @@ installed() {
 # Installs what is missing of the named groups, and says what. Needs no network when nothing is missing.
 install_packages() {
     if ! command -v dpkg-query >/dev/null; then
-        say "No dpkg here: taking for granted that the packages of .ci/packages are there."
+        say "No dpkg here: assuming that the packages of .ci/packages are installed." >&2
         return 0
     fi
     local missing=() package as_root=()
@@ -30,9 +30,9 @@ install_packages() {
         command -v sudo >/dev/null || fail "packages are missing; install them as root: apt-get install ${missing[*]}"
         as_root=(sudo)
     fi
-    say "Installing: ${missing[*]}"
+    say "Installing: ${missing[*]}" >&2
     "${as_root[@]}" apt-get update -q >/dev/null ||
-        say "The package lists could not be refreshed; going on with the old ones."
+        say "The package lists could not be refreshed; going on with the old ones." >&2
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y -q --no-install-recommends "${missing[@]}" >/dev/null ||
         fail "the packages could not be installed: ${missing[*]}"
