@@ -6,7 +6,7 @@
 #include "SenderModuleDialog/chart/ChartSharpBitmap.h"
 #include "SenderModuleDialog/chart/ChartSolver.h"
 #include "SenderModuleDialog/chart/ChartStaticLayer.h"
-#include "SenderModuleDialog/chart/ChromaBitmapDesk.h"
+#include "SenderModuleDialog/chart/ChromaBitmapStore.h"
 #include "SenderModuleDialog/chart/ChromaGamutThread.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
@@ -65,7 +65,7 @@ SWndBitmap::~SWndBitmap()
 
 CChromaticityDlgWnd::CChromaticityDlgWnd(QWidget* parent)
     : QWidget(parent)
-    , m_pDesk(std::make_unique<CChromaBitmapDesk>())
+    , m_pStore(MakeStore())
     , m_pSharp(std::make_unique<SChartSharpBitmap>())
     , m_pStaticLayer(std::make_unique<CChartStaticLayer>())
     , m_pKept(std::make_unique<CChartKeptDrawings>())
@@ -81,12 +81,12 @@ CChromaticityDlgWnd::CChromaticityDlgWnd(QWidget* parent)
     m_pCct->CCTtoColorCoord(c_fSnapTemperature, &m_ptD65, false);
     m_pThread = new CChromaGamutThread(this);
     m_pThread->SetChromaticityDlgWnd(this);
-    connect(m_pThread, &CChromaGamutThread::RunOver, this, [this] { FinishWndBitmapThread(); });
+    ConnectWndBitmapThread();
 }
 
 CChromaticityDlgWnd::~CChromaticityDlgWnd()
 {
-    StopWndBitmapThread();
+    ReleaseWndBitmapThread();
     delete m_pCct;
     delete m_pGamut;
     delete[] m_pBoundaryPx;
@@ -138,7 +138,7 @@ void CChromaticityDlgWnd::SetSize(int nWidth, int nHeight)
     Require(nWidth > c_nSmallestSide && nHeight > c_nSmallestSide, "nWidth > 100 && nHeight > 100");
     const CChartMapping mapping = CChartMapping::ForSize(nWidth, nHeight);
     const QVector<QPointF>& vecLocus = m_pGamut->GetQPointFData();
-    const auto lock = m_pDesk->Lock();
+    const auto lock = m_pStore->Lock();
     m_nWndWidth = nWidth;
     m_nWndHeight = nHeight;
     m_rcChart = QRect(0, 0, nWidth, nHeight);

@@ -15,6 +15,7 @@
 #include <QWidget>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 
 class CCCT2ColorCoord;
@@ -22,7 +23,7 @@ class CCctCurve;
 class CChartKeptDrawings;
 class CChartSolver;
 class CChartStaticLayer;
-class CChromaBitmapDesk;
+class CChromaBitmapStore;
 class CChromaGamutInterpolation;
 class CChromaGamutThread;
 class QImage;
@@ -118,11 +119,16 @@ public:
     /// nothing.
     void GetChromaticityBmp(int nType);
     /// Starts painting the types 0 to 4 at their stored sizes in the worker thread, beginning anew if it is
-    /// at work, and repaints when it is done. A type painted before shows its old bitmap meanwhile.
+    /// at work, and repaints when it is done. A type painted before shows its old bitmap meanwhile. Called in
+    /// another thread than the chart's, for one in a slot of the worker's signal, it starts as soon as the
+    /// chart's thread is back in its event loop.
     void StartWndBitmapThread();
-    /// Stops the worker if it is at work and waits until it has ended. A bitmap that it had not finished
-    /// stays as it was.
+    /// Stops every worker that paints for this chart and waits until the chart's own has ended and a host's
+    /// has let go of the chart. A bitmap that was not finished stays as it was.
     void StopWndBitmapThread();
+    /// What a worker does for this chart: paints the types 0 to 4 at their stored sizes. It may be called in
+    /// any thread; it ends early when the chart stops its workers, and does nothing once the chart is gone.
+    std::function<void()> WorkOfWndBitmapThread() const;
     /// Hands the chart a list of chromaticities, which it keeps in widget pixels with a colour. Nothing
     /// paints them: they are kept for the host.
     /// @return false, with nothing changed, if the pointer is null or the count is negative
@@ -274,8 +280,6 @@ public:
     /// @}
 
 private:
-    friend class CChromaGamutThread;
-
     /// The bitmap of a type 0 to 4, null for any other.
     SWndBitmap* WndBitmap(int nType);
     /// The finished picture of the type that is shown; a null image if there is none. Waits for it while
@@ -284,16 +288,16 @@ private:
     /// The same for a device with that many device pixels per pixel: above 1, painted in device pixels.
     QImage TakeBitmap(double dRatio);
     QImage PaintSharp(double dRatio);
-    /// Paints a bitmap and shows it; the worker's is dropped when the worker is to stop.
-    void PaintBitmap(int nType, bool bWorker);
-    /// What the bitmap is to be painted from now, and the number of that painting.
-    quint64 TakeMeasures(int nType, ChromaBitmap::SSource& source);
-    /// Shows a picture, unless a painting that began later was handed over before.
-    void HandOver(int nType, QImage image, ChromaBitmap::SSource source, quint64 nTicket);
-    /// The worker's work, in its thread.
-    void PaintWndBitmaps();
-    /// The last that the worker does with the chart, in its thread.
-    void RestWndBitmapThread();
+    std::shared_ptr<CChromaBitmapStore> MakeStore();
+    /// What the bitmap of a type is to be painted from now. Called under the store's lock.
+    ChromaBitmap::SSource Measure(int nType);
+    /// Shows a picture as the bitmap of a type. Called under the store's lock.
+    void ShowBitmap(int nType, QImage image);
+    void ConnectWndBitmapThread();
+    /// Waits until the chart's own worker has ended, unless it is the caller.
+    void JoinWndBitmapThread();
+    /// The last that the chart has to do with workers.
+    void ReleaseWndBitmapThread();
     /// The worker has ended; on the GUI thread.
     void FinishWndBitmapThread();
 
@@ -321,7 +325,7 @@ private:
     int m_nBoundarySize = 0;                           ///< points that the boundary arrays have room for
     std::unique_ptr<CChartSolver> m_pSolver;           ///< keeps groups legal
     std::unique_ptr<CCctCurve> m_pCctCurve;            ///< the curve of colour temperatures
-    std::unique_ptr<CChromaBitmapDesk> m_pDesk;        ///< what the threads that paint bitmaps agree by
+    std::shared_ptr<CChromaBitmapStore> m_pStore;      ///< paints the bitmaps; workers share it
     std::unique_ptr<SChartSharpBitmap> m_pSharp;       ///< for screens with more device pixels than pixels
     std::unique_ptr<CChartStaticLayer> m_pStaticLayer; ///< the layers that stay the same from paint to paint
     std::unique_ptr<CChartKeptDrawings> m_pKept;       ///< small drawings that stay the same, on top of them

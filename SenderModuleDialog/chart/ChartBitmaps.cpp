@@ -1,7 +1,7 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/chart/ChartSharpBitmap.h"
-#include "SenderModuleDialog/chart/ChromaBitmapDesk.h"
 #include "SenderModuleDialog/chart/ChromaBitmapPainter.h"
+#include "SenderModuleDialog/chart/ChromaBitmapStore.h"
 #include "SenderModuleDialog/chart/ChromaGamutThread.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
 
@@ -12,15 +12,6 @@
 
 /// @file
 /// The chart's background bitmaps: who paints them, where, and how they are handed over.
-
-namespace {
-
-/// The window type whose bitmap has the chart's own size.
-constexpr int c_nDefaultWndType = -1;
-/// Number of window types with a bitmap of their own, counted from 0.
-constexpr int c_nWndBitmapCount = 5;
-
-} // namespace
 
 SWndBitmap* CChromaticityDlgWnd::WndBitmap(int nType)
 {
@@ -45,7 +36,7 @@ void CChromaticityDlgWnd::StoreWndData(int nType, int nWidth, int nHeight)
     SWndBitmap* pBitmap = WndBitmap(nType);
     if (pBitmap == nullptr)
         return;
-    const auto lock = m_pDesk->Lock();
+    const auto lock = m_pStore->Lock();
     pBitmap->nType = nType;
     pBitmap->nWidth = nWidth;
     pBitmap->nHeight = nHeight;
@@ -65,37 +56,30 @@ void CChromaticityDlgWnd::InitialWndBitMap() {}
 void CChromaticityDlgWnd::GetChromaticityBmp(int nType)
 {
     if (nType == c_nDefaultWndType || WndBitmap(nType) != nullptr)
-        PaintBitmap(nType, false);
+        m_pStore->Paint(nType);
 }
 
-void CChromaticityDlgWnd::PaintBitmap(int nType, bool bWorker)
+std::shared_ptr<CChromaBitmapStore> CChromaticityDlgWnd::MakeStore()
 {
-    const CPaintingShift shift(*m_pDesk);
-    ChromaBitmap::SSource source;
-    const quint64 nTicket = TakeMeasures(nType, source);
-    QImage image = ChromaBitmap::Paint(
-        source, [this, bWorker] { return m_bAbortPaint || (bWorker && m_pDesk->IsWorkerToStop()); });
-    // A worker that is stopped leaves the old bitmap; a host's abort shows what there is.
-    if (!bWorker || !m_pDesk->IsWorkerToStop())
-        HandOver(nType, std::move(image), std::move(source), nTicket);
+    return std::make_shared<CChromaBitmapStore>(
+        CChromaBitmapStore::SOwner{[this](int nType) { return Measure(nType); },
+                                   [this](int nType, QImage image) { ShowBitmap(nType, std::move(image)); },
+                                   [this] { return m_bAbortPaint.load(); }});
 }
 
-quint64 CChromaticityDlgWnd::TakeMeasures(int nType, ChromaBitmap::SSource& source)
+ChromaBitmap::SSource CChromaticityDlgWnd::Measure(int nType)
 {
-    const auto lock = m_pDesk->Lock();
     const SWndBitmap* pBitmap = WndBitmap(nType);
+    ChromaBitmap::SSource source;
     source.nWidth = pBitmap != nullptr ? pBitmap->nWidth : m_nWndWidth;
     source.nHeight = pBitmap != nullptr ? pBitmap->nHeight : m_nWndHeight;
     source.vecLocus = m_pGamut->GetQPointFData();
     source.vecOutline.assign(m_pBoundaryPxF, m_pBoundaryPxF + BoundaryCount());
-    return m_pDesk->TakeTicket();
+    return source;
 }
 
-void CChromaticityDlgWnd::HandOver(int nType, QImage image, ChromaBitmap::SSource source, quint64 nTicket)
+void CChromaticityDlgWnd::ShowBitmap(int nType, QImage image)
 {
-    const auto lock = m_pDesk->Lock();
-    if (!m_pDesk->Note(nType, std::move(source), nTicket))
-        return;
     SWndBitmap* pBitmap = WndBitmap(nType);
     QImage*& pImage = pBitmap != nullptr ? pBitmap->pImage : m_pDefaultImage;
     delete std::exchange(pImage, new QImage(std::move(image)));
@@ -109,10 +93,10 @@ QImage CChromaticityDlgWnd::TakeBitmap()
         GetChromaticityBmp(c_nDefaultWndType);
     const SWndBitmap* pBitmap = WndBitmap(m_nWndType);
     if (pBitmap != nullptr)
-        m_pDesk->WaitWhilePainting(pBitmap->bReady);
+        m_pStore->WaitForBitmap(m_nWndType, pBitmap->bReady);
     else if (m_nWndType != c_nDefaultWndType)
         return {};
-    const auto lock = m_pDesk->Lock();
+    const auto lock = m_pStore->Lock();
     const QImage* pImage = pBitmap != nullptr ? pBitmap->pImage : m_pDefaultImage;
     return pImage != nullptr ? *pImage : QImage();
 }
@@ -131,51 +115,80 @@ QImage CChromaticityDlgWnd::PaintSharp(double dRatio)
 {
     ChromaBitmap::SSource source;
     {
-        const auto lock = m_pDesk->Lock();
-        source = m_pDesk->Source(m_nWndType).Scaled(dRatio);
+        const auto lock = m_pStore->Lock();
+        source = m_pStore->Source(m_nWndType).Scaled(dRatio);
     }
     QImage image = ChromaBitmap::Paint(source, [this] { return m_bAbortPaint.load(); });
     image.setDevicePixelRatio(dRatio);
     return image;
 }
 
+std::function<void()> CChromaticityDlgWnd::WorkOfWndBitmapThread() const
+{
+    // The work may outlive the chart: whoever is given it later finds nothing to do.
+    return [pStore = std::weak_ptr<CChromaBitmapStore>(m_pStore)] {
+        if (const std::shared_ptr<CChromaBitmapStore> pHeld = pStore.lock())
+            pHeld->PaintForWorker();
+    };
+}
+
+void CChromaticityDlgWnd::ConnectWndBitmapThread()
+{
+    connect(m_pThread, &CChromaGamutThread::RunOver, this, [this] { FinishWndBitmapThread(); });
+    // In the worker's thread, before it has ended: a run that worked for another chart, or for none, leaves
+    // nobody waiting for it.
+    connect(
+        m_pThread, &QThread::finished, this, [this] { m_pStore->WithdrawWorker(); }, Qt::DirectConnection);
+}
+
 void CChromaticityDlgWnd::StartWndBitmapThread()
 {
+    // A slot of the worker's own signal would wait for itself to end.
+    if (QThread::currentThread() != thread()) {
+        QMetaObject::invokeMethod(this, &CChromaticityDlgWnd::StartWndBitmapThread, Qt::QueuedConnection);
+        return;
+    }
     StopWndBitmapThread();
-    // A thread that a host gave another chart, or none, would never take the announcement up.
+    // A host may have given the thread another chart, or none.
     m_pThread->SetChromaticityDlgWnd(this);
-    m_pDesk->AnnounceWorker();
+    m_pStore->AnnounceWorker();
     m_pThread->start();
-    // Without a thread nobody would ever withdraw the announcement.
+    // A thread that could not be made never says that it has finished.
     if (!m_pThread->isRunning() && !m_pThread->isFinished())
-        m_pDesk->RestWorker();
+        m_pStore->WithdrawWorker();
 }
 
 void CChromaticityDlgWnd::StopWndBitmapThread()
 {
-    m_pDesk->SetStopWorker(true);
-    m_pDesk->WaitForWorker();
-    m_pThread->wait();
-    m_pDesk->SetStopWorker(false);
+    m_pStore->SetStopWorkers(true);
+    JoinWndBitmapThread();
+    m_pStore->WaitForWorkers();
+    m_pStore->SetStopWorkers(false);
 }
 
-void CChromaticityDlgWnd::PaintWndBitmaps()
+void CChromaticityDlgWnd::JoinWndBitmapThread()
 {
-    m_pDesk->BeginWorker();
-    for (int nType = 0; nType < c_nWndBitmapCount && !m_pDesk->IsWorkerToStop(); ++nType)
-        PaintBitmap(nType, true);
-    m_pDesk->EndWorker();
+    if (QThread::currentThread() != m_pThread)
+        m_pThread->wait();
 }
 
-void CChromaticityDlgWnd::RestWndBitmapThread()
+void CChromaticityDlgWnd::ReleaseWndBitmapThread()
 {
-    m_pDesk->RestWorker();
+    m_pStore->Close();
+    JoinWndBitmapThread();
+    // Its last touch of the store was under the lock, and so was before this.
+    m_pStore->WaitForWorkers();
+    if (QThread::currentThread() != m_pThread)
+        return;
+    // A slot of the worker's own signal deletes the chart: the thread goes when it has ended.
+    m_pThread->setParent(nullptr);
+    connect(m_pThread, &QThread::finished, m_pThread, &QObject::deleteLater);
 }
 
 void CChromaticityDlgWnd::FinishWndBitmapThread()
 {
     // The news of a run that was stopped for another one comes late: the other one brings its own.
-    if (m_pDesk->IsWorkerBusy())
+    if (m_pStore->IsWorkerBusy())
         return;
     m_pThread->quit();
     m_pThread->wait();

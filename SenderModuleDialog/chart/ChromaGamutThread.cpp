@@ -6,18 +6,27 @@ CChromaGamutThread::CChromaGamutThread(QObject* parent)
     : QThread(parent)
 {}
 
-CChromaGamutThread::~CChromaGamutThread() = default;
+CChromaGamutThread::~CChromaGamutThread()
+{
+    SetChromaticityDlgWnd(nullptr);
+}
 
 void CChromaGamutThread::SetChromaticityDlgWnd(CChromaticityDlgWnd* pWnd)
 {
-    m_pWnd = pWnd;
+    std::function<void()> funcWork = pWnd != nullptr ? pWnd->WorkOfWndBitmapThread() : nullptr;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_funcWork.swap(funcWork);
 }
 
 void CChromaGamutThread::run()
 {
-    if (m_pWnd != nullptr)
-        m_pWnd->PaintWndBitmaps();
+    std::function<void()> funcWork;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        funcWork = m_funcWork;
+    }
+    if (funcWork)
+        funcWork();
+    // The last thing: a slot may point the thread elsewhere, delete the chart, and the thread with it.
     Q_EMIT RunOver();
-    if (m_pWnd != nullptr)
-        m_pWnd->RestWndBitmapThread();
 }

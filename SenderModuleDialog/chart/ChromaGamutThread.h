@@ -5,6 +5,9 @@
 
 #include <QThread>
 
+#include <functional>
+#include <mutex>
+
 class CChromaticityDlgWnd;
 
 /// Paints a chart's bitmaps of the types 0 to 4 away from the GUI thread. The chart makes one as its child;
@@ -17,10 +20,12 @@ public:
     explicit CChromaGamutThread(QObject* parent);
     ~CChromaGamutThread() override;
 
-    /// The chart to paint for, null for none. It is not owned. Call it while the thread is at rest.
+    /// The chart to paint for, null for none. It is not owned, and may go before the thread. A run that has
+    /// begun goes on with the chart that it began with.
     void SetChromaticityDlgWnd(CChromaticityDlgWnd* pWnd);
 
-    /// Paints the types 0 to 4 in this order if a chart is set, and emits `RunOver` in any case.
+    /// Paints the types 0 to 4 in this order if a chart is set, and emits `RunOver` in any case, when it has
+    /// let go of the chart.
     void run() override;
 
 Q_SIGNALS:
@@ -28,7 +33,8 @@ Q_SIGNALS:
     void RunOver();
 
 private:
-    CChromaticityDlgWnd* m_pWnd = nullptr;
+    std::mutex m_mutex;               ///< a run may begin while a chart is set
+    std::function<void()> m_funcWork; ///< of the chart that is set; empty for none
 };
 
 #endif // SENDERMODULEDIALOG_CHART_CHROMAGAMUTTHREAD_H

@@ -86,6 +86,11 @@ struct SChromaGroupInfo
     QString strName;       ///< legend text; the two keys of `enChromaGroupKey` have texts of their own
 };
 
+/// The window type whose bitmap has the chart's own size.
+inline constexpr int c_nDefaultWndType = -1;
+/// Number of window types with a bitmap of their own, counted from 0.
+inline constexpr int c_nWndBitmapCount = 5;
+
 /// One painted background bitmap of the chart.
 ///
 /// It goes from empty (no image, not ready) to painted, and never back: painting it again replaces the image.

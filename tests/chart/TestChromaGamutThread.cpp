@@ -4,6 +4,8 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QPointer>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -68,6 +70,17 @@ private Q_SLOTS:
     void DrawOfAnUnknownTypeShowsTheBackgroundAlone();
     void APaintingThatBeganEarlierDoesNotReplaceALaterOne();
     void TheChartMayGoWhileTheWorkerPaints();
+    void StoppingStopsAWorkerOfTheHostsToo();
+    void AQueuedSlotMayForgetTheChart();
+    void ADirectSlotMayForgetTheChart();
+    void ADirectSlotMayDeleteTheChart_data();
+    void ADirectSlotMayDeleteTheChart();
+    void ASlotThatTheGuiRunsMayDeleteTheChart();
+    void ADirectSlotMayStartTheWorkerAgain();
+    void ADirectSlotMayStopTheWorker();
+    void AWorkerMayBePointedFromChartToChart();
+    void AStartedThreadThatIsPointedElsewhereKeepsNobodyWaiting();
+    void AWorkerMayRunWhenItsChartIsGone();
     void AStormOfCallsLeavesEverythingWhole();
 };
 
@@ -281,6 +294,195 @@ void TestChromaGamutThread::TheChartMayGoWhileTheWorkerPaints()
         if (i % 2 == 0)
             QCoreApplication::processEvents();
     }
+}
+
+void TestChromaGamutThread::StoppingStopsAWorkerOfTheHostsToo()
+{
+    const auto pChart = MakeChart();
+    pChart->StoreWndData(0, 60, 50);
+    for (int nType = 1; nType < 5; ++nType)
+        pChart->StoreWndData(nType, c_sizeLarge.width(), c_sizeLarge.height());
+    CChromaGamutThread worker(nullptr);
+    worker.SetChromaticityDlgWnd(pChart.get());
+    worker.start();
+    while (!Bitmap(*pChart, 0).bReady)
+        std::this_thread::yield();
+    pChart->StopWndBitmapThread();
+    // From here on nobody writes to the chart, so it may be read.
+    std::array<bool, 5> arrReady = {};
+    for (int nType = 0; nType < 5; ++nType)
+        arrReady[size_t(nType)] = Bitmap(*pChart, nType).bReady;
+    QVERIFY(worker.wait());
+    for (int nType = 0; nType < 5; ++nType)
+        QCOMPARE(Bitmap(*pChart, nType).bReady.load(), arrReady[size_t(nType)]);
+}
+
+void TestChromaGamutThread::AQueuedSlotMayForgetTheChart()
+{
+    auto pChart = MakeChart();
+    CChromaGamutThread worker(nullptr);
+    worker.SetChromaticityDlgWnd(pChart.get());
+    QSemaphore forgotten;
+    connect(
+        &worker, &CChromaGamutThread::RunOver, this,
+        [&] {
+            worker.SetChromaticityDlgWnd(nullptr);
+            forgotten.release();
+        },
+        Qt::QueuedConnection);
+    // Connected later, so called later: the emission ends when the queued slot has run.
+    connect(
+        &worker, &CChromaGamutThread::RunOver, this, [&] { forgotten.acquire(); }, Qt::DirectConnection);
+    worker.start();
+    QTRY_VERIFY(worker.isFinished());
+    pChart->StopWndBitmapThread();
+    pChart.reset();
+    QVERIFY(worker.wait());
+}
+
+void TestChromaGamutThread::ADirectSlotMayForgetTheChart()
+{
+    auto pChart = MakeChart();
+    CChromaGamutThread* const pWorker = pChart->m_pThread;
+    connect(
+        pWorker, &CChromaGamutThread::RunOver, this, [&] { pWorker->SetChromaticityDlgWnd(nullptr); },
+        Qt::DirectConnection);
+    pChart->StoreWndData(4, 100, 90);
+    pChart->StartWndBitmapThread();
+    QTRY_VERIFY(pWorker->isFinished());
+    pChart->StartWndBitmapThread();
+    pChart->StopWndBitmapThread();
+    QVERIFY(Bitmap(*pChart, 4).bReady);
+}
+
+void TestChromaGamutThread::ADirectSlotMayDeleteTheChart_data()
+{
+    QTest::addColumn<bool>("bOwnWorker");
+    QTest::addColumn<bool>("bInItsThread");
+    QTest::newRow("the chart's worker, run by the caller") << true << false;
+    QTest::newRow("the chart's worker, in its thread") << true << true;
+    QTest::newRow("the host's worker, run by the caller") << false << false;
+    QTest::newRow("the host's worker, in its thread") << false << true;
+}
+
+void TestChromaGamutThread::ADirectSlotMayDeleteTheChart()
+{
+    QFETCH(bool, bOwnWorker);
+    QFETCH(bool, bInItsThread);
+    CChromaticityDlgWnd* pChart = MakeChart().release();
+    CChromaGamutThread hostWorker(nullptr);
+    hostWorker.SetChromaticityDlgWnd(pChart);
+    const QPointer<CChromaGamutThread> pOwnWorker = pChart->m_pThread;
+    CChromaGamutThread* const pWorker = bOwnWorker ? pOwnWorker.data() : &hostWorker;
+    std::atomic<bool> bDeleted{false};
+    connect(
+        pWorker, &CChromaGamutThread::RunOver, this,
+        [&] {
+            delete pChart;
+            bDeleted = true;
+        },
+        Qt::DirectConnection);
+    if (bInItsThread)
+        pWorker->start();
+    else
+        pWorker->run();
+    while (!bDeleted)
+        std::this_thread::yield();
+    // A thread that its slot left without a chart goes by itself when it has ended.
+    QTRY_VERIFY(pOwnWorker.isNull());
+    QVERIFY(hostWorker.wait());
+}
+
+void TestChromaGamutThread::ASlotThatTheGuiRunsMayDeleteTheChart()
+{
+    auto pChart = MakeChart();
+    CChromaGamutThread worker(nullptr);
+    worker.SetChromaticityDlgWnd(pChart.get());
+    // The worker waits in its signal while the chart goes.
+    connect(
+        &worker, &CChromaGamutThread::RunOver, this, [&pChart] { pChart.reset(); },
+        Qt::BlockingQueuedConnection);
+    worker.start();
+    QTRY_VERIFY(pChart == nullptr);
+    QVERIFY(worker.wait());
+}
+
+void TestChromaGamutThread::ADirectSlotMayStartTheWorkerAgain()
+{
+    const auto pChart = MakeChart();
+    std::atomic<int> nEnds{0};
+    connect(
+        pChart->m_pThread, &CChromaGamutThread::RunOver, this,
+        [&] {
+            if (++nEnds > 1)
+                return;
+            pChart->StoreWndData(2, 70, 60);
+            pChart->StartWndBitmapThread();
+        },
+        Qt::DirectConnection);
+    pChart->StartWndBitmapThread();
+    QTRY_COMPARE(nEnds.load(), 2);
+    pChart->StopWndBitmapThread();
+    QCOMPARE(Bitmap(*pChart, 2).pImage->size(), QSize(70, 60));
+}
+
+void TestChromaGamutThread::ADirectSlotMayStopTheWorker()
+{
+    const auto pChart = MakeChart();
+    std::atomic<int> nEnds{0};
+    connect(
+        pChart->m_pThread, &CChromaGamutThread::RunOver, this,
+        [&] {
+            pChart->StopWndBitmapThread();
+            ++nEnds;
+        },
+        Qt::DirectConnection);
+    pChart->StartWndBitmapThread();
+    QTRY_COMPARE(nEnds.load(), 1);
+}
+
+void TestChromaGamutThread::AWorkerMayBePointedFromChartToChart()
+{
+    CChromaGamutThread worker(nullptr);
+    for (int i = 0; i < 30; ++i) {
+        const auto pFirst = MakeChart();
+        auto pSecond = MakeChart();
+        for (int nType = 0; nType < 5; ++nType)
+            pFirst->StoreWndData(nType, 300, 200);
+        worker.SetChromaticityDlgWnd(pFirst.get());
+        worker.start();
+        if (i % 2 == 0) {
+            while (!Bitmap(*pFirst, 0).bReady)
+                std::this_thread::yield();
+        }
+        worker.SetChromaticityDlgWnd(pSecond.get());
+        pFirst->StopWndBitmapThread();
+        pSecond.reset();
+        QVERIFY(worker.wait());
+    }
+}
+
+void TestChromaGamutThread::AStartedThreadThatIsPointedElsewhereKeepsNobodyWaiting()
+{
+    for (int i = 0; i < 30; ++i) {
+        const auto pOther = MakeChart();
+        const auto pChart = MakeChart();
+        pChart->StoreWndData(0, 100, 90);
+        pChart->SetWndType(0);
+        pChart->StartWndBitmapThread();
+        pChart->m_pThread->SetChromaticityDlgWnd(i % 2 == 0 ? pOther.get() : nullptr);
+        QCOMPARE(Painted(*pChart).size(), pChart->size());
+        pChart->StopWndBitmapThread();
+    }
+}
+
+void TestChromaGamutThread::AWorkerMayRunWhenItsChartIsGone()
+{
+    CChromaGamutThread worker(nullptr);
+    worker.SetChromaticityDlgWnd(MakeChart().get());
+    QSignalSpy spy(&worker, &CChromaGamutThread::RunOver);
+    worker.run();
+    QCOMPARE(spy.count(), 1);
 }
 
 void TestChromaGamutThread::AStormOfCallsLeavesEverythingWhole()
