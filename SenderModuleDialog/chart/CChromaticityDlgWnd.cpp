@@ -12,8 +12,6 @@
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
 #include "SenderModuleDialog/colour/ColourStandards.h"
 
-#include <QImage>
-
 #include <algorithm>
 #include <cmath>
 #include <iterator>
@@ -57,11 +55,6 @@ int RecogniseStandard(const SChromaGroupInfo& group)
 }
 
 } // namespace
-
-SWndBitmap::~SWndBitmap()
-{
-    delete pImage;
-}
 
 CChromaticityDlgWnd::CChromaticityDlgWnd(QWidget* parent)
     : QWidget(parent)

@@ -131,7 +131,8 @@ public:
     std::function<void()> WorkOfWndBitmapThread() const;
     /// Hands the chart a list of chromaticities, which it keeps in widget pixels with a colour. Nothing
     /// paints them: they are kept for the host.
-    /// @return false, with nothing changed, if the pointer is null or the count is negative
+    /// @return false, with nothing changed, if the pointer is null, or the count is negative or more than the
+    /// memory has room for
     bool DrawStaticPiexl(QPointF* pPoints, int nCount, unsigned char r, unsigned char g, unsigned char b,
                          unsigned char a);
     /// @}
@@ -191,6 +192,8 @@ public:
     /// `Draw` paints the whole chart; the others are its layers, in their order, and `DrawCIEStandardShow`,
     /// which a host calls with a painter of its own.
     /// @{
+
+    /// @param painter an active one; otherwise the process ends
     void Draw(QPainter& painter);
     void DrawBorder(QPainter& painter);
     /// The grid with its labels; the name is part of the interface.
@@ -287,7 +290,8 @@ private:
     QImage TakeBitmap();
     /// The same for a device with that many device pixels per pixel: above 1, painted in device pixels.
     QImage TakeBitmap(double dRatio);
-    QImage PaintSharp(double dRatio);
+    /// @param bAborted true from the moment that the host aborts
+    QImage PaintSharp(double dRatio, bool& bAborted);
     std::shared_ptr<CChromaBitmapStore> MakeStore();
     /// What the bitmap of a type is to be painted from now. Called under the store's lock.
     ChromaBitmap::SSource Measure(int nType);

@@ -8,6 +8,7 @@
 #include <QImage>
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 /// @file
@@ -106,19 +107,24 @@ QImage CChromaticityDlgWnd::TakeBitmap(double dRatio)
     QImage imgBitmap = TakeBitmap();
     if (imgBitmap.isNull() || dRatio <= 1.0)
         return imgBitmap;
-    if (m_pSharp->nBitmapKey != imgBitmap.cacheKey() || m_pSharp->dRatio != dRatio)
-        *m_pSharp = {imgBitmap.cacheKey(), dRatio, PaintSharp(dRatio)};
-    return m_pSharp->image;
+    if (m_pSharp->nBitmapKey == imgBitmap.cacheKey() && m_pSharp->dRatio == dRatio)
+        return m_pSharp->image;
+    bool bAborted = false;
+    QImage imgSharp = PaintSharp(dRatio, bAborted);
+    // A picture that was cut short is shown, but the next paint begins anew.
+    if (!bAborted)
+        *m_pSharp = {imgBitmap.cacheKey(), dRatio, imgSharp};
+    return imgSharp;
 }
 
-QImage CChromaticityDlgWnd::PaintSharp(double dRatio)
+QImage CChromaticityDlgWnd::PaintSharp(double dRatio, bool& bAborted)
 {
     ChromaBitmap::SSource source;
     {
         const auto lock = m_pStore->Lock();
         source = m_pStore->Source(m_nWndType).Scaled(dRatio);
     }
-    QImage image = ChromaBitmap::Paint(source, [this] { return m_bAbortPaint.load(); });
+    QImage image = ChromaBitmap::Paint(source, [&] { return bAborted = bAborted || m_bAbortPaint; });
     image.setDevicePixelRatio(dRatio);
     return image;
 }
@@ -200,11 +206,14 @@ bool CChromaticityDlgWnd::DrawStaticPiexl(QPointF* pPoints, int nCount, unsigned
 {
     if (pPoints == nullptr || nCount < 0)
         return false;
+    auto* const pPixels = new (std::nothrow) QPointF[size_t(nCount)]();
+    if (pPixels == nullptr)
+        return false;
     const CChartMapping mapping = Mapping();
-    // The earlier array is dropped and not freed: a host may still read from it.
-    m_pStaticPixels = new QPointF[size_t(nCount)]();
-    std::transform(pPoints, pPoints + nCount, m_pStaticPixels,
+    std::transform(pPoints, pPoints + nCount, pPixels,
                    [&mapping](QPointF pt) { return mapping.ToPixel(pt); });
+    // The earlier array is dropped and not freed: a host may still read from it.
+    m_pStaticPixels = pPixels;
     m_nStaticPixelCount = nCount;
     m_nStaticColor[0] = r;
     m_nStaticColor[1] = g;

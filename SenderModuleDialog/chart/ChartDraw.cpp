@@ -1,3 +1,4 @@
+#include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/chart/ChartKeptDrawings.h"
 #include "SenderModuleDialog/chart/ChartStaticLayer.h"
@@ -5,7 +6,6 @@
 #include "host/OrviControl/Style.h"
 
 #include <QImage>
-#include <QPaintDevice>
 #include <QPainter>
 #include <QPen>
 #include <QtMath>
@@ -26,7 +26,8 @@ constexpr double c_dFrameWidth = 1.0;
 
 void CChromaticityDlgWnd::Draw(QPainter& painter)
 {
-    const QImage imgBitmap = TakeBitmap(painter.device()->devicePixelRatioF());
+    Require(painter.isActive(), "painter.isActive()");
+    const QImage imgBitmap = TakeBitmap(CChartSurface::DevicePixelRatio(painter));
     const QByteArray boundary(reinterpret_cast<const char*>(m_pBoundaryPx),
                               BoundaryCount() * int(sizeof(QPointF)));
     const CChartStaticLayer::SContent content = {m_rcChart,    m_clrBackground, imgBitmap.cacheKey(),

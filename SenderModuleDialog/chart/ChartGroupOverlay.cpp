@@ -1,6 +1,5 @@
 #include "SenderModuleDialog/chart/ChartGroupOverlay.h"
 
-#include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/Saturate.h"
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 #include "SenderModuleDialog/chart/ChartKeptDrawings.h"
@@ -124,10 +123,14 @@ void DrawGroupLines(QPainter& painter, const CChartMapping& mapping, const SChro
         DrawTriangle(painter, pt1 + pt2 - pt0, pt2 + pt0 - pt1, pt1 + pt0 - pt2);
 }
 
-// Where a place is beyond all pixels, the right and lower sides still have to be numbers.
+// Where a place is beyond all pixels, the other side, start + size - 1, still has to be a number. The size of
+// a dot that has shrunk is 0 or below.
 int DiscStart(double dStart, int nSize)
 {
-    return std::min(SaturateTo<int>(dStart), std::numeric_limits<int>::max() - std::max(nSize, 0));
+    using Limits = std::numeric_limits<int>;
+    const int nFirst = nSize > 0 ? Limits::min() : Limits::min() + 1 - nSize;
+    const int nLast = nSize > 0 ? Limits::max() - nSize : Limits::max();
+    return std::clamp(SaturateTo<int>(dStart), nFirst, nLast);
 }
 
 void DrawDisc(QPainter& painter, CChartKeptDrawings& kept, QPointF ptCorner, int nSize)
@@ -204,19 +207,19 @@ QString NoteText(CGroupMap& mapGroups, int nKey, const SChromaGroupInfo& group, 
 // Calls an action with the text of each group that has a note. Asking for the coverage may put an empty entry
 // into the map behind the group; the walk then meets it.
 template <class TAction>
-void ForEachNote(CGroupMap& mapGroups, enLegendWalk walk, TAction action)
+void ForEachNote(CGroupMap& mapGroups, enLegendWalk walk, SSourcePlace place, TAction action)
 {
     for (auto it = mapGroups.begin(); it != mapGroups.end(); ++it) {
-        const SChromaGroupInfo& group = Deref(it.value(), "it.value() != nullptr");
+        const SChromaGroupInfo& group = Deref(it.value(), "it.value() != nullptr", place);
         if (group.bShowNote)
             action(group, NoteText(mapGroups, it.key(), group, walk));
     }
 }
 
-int WidestNote(CGroupMap& mapGroups, const QFont& font, CChartKeptDrawings& kept)
+int WidestNote(CGroupMap& mapGroups, const QFont& font, CChartKeptDrawings& kept, SSourcePlace place)
 {
     int nWidest = 0;
-    ForEachNote(mapGroups, enMeasureWalk, [&](const SChromaGroupInfo&, const QString& strText) {
+    ForEachNote(mapGroups, enMeasureWalk, place, [&](const SChromaGroupInfo&, const QString& strText) {
         nWidest = std::max(nWidest, kept.TextWidth(font, strText));
     });
     return nWidest;
@@ -278,19 +281,19 @@ int CalcRatio(CGroupMap& mapGroups)
 }
 
 void DrawLegend(QPainter& painter, const SChartFrame& frame, CGroupMap& mapGroups, float fTextRatio,
-                int nWidgetHeight)
+                int nWidgetHeight, SSourcePlace place)
 {
     const int nFontSize = SaturateTo<int>(frame.mapping.Scale() / c_fLegendFontDivisor);
     const QFont font(frame.strFontFamily, nFontSize, c_nLegendFontWeight, false);
     painter.setFont(font);
 
     const double dRatio = double(fTextRatio);
-    const int nWidest = WidestNote(mapGroups, font, frame.kept);
+    const int nWidest = WidestNote(mapGroups, font, frame.kept, place);
     const double dX = c_dLegendAxisSpan * double(frame.mapping.Scale()) + double(frame.mapping.MarginX()) -
                       nWidest - c_dLegendIndent * dRatio;
     const int nFirstRow = (nWidgetHeight - 1) / c_nLegendHeightDivisor;
     double dY = nFirstRow;
-    ForEachNote(mapGroups, enDrawWalk, [&](const SChromaGroupInfo& group, const QString& strText) {
+    ForEachNote(mapGroups, enDrawWalk, place, [&](const SChromaGroupInfo& group, const QString& strText) {
         if (strText.isEmpty())
             return;
         painter.setPen(Qt::white);

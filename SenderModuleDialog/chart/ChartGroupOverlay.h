@@ -1,6 +1,7 @@
 #ifndef SENDERMODULEDIALOG_CHART_CHARTGROUPOVERLAY_H
 #define SENDERMODULEDIALOG_CHART_CHARTGROUPOVERLAY_H
 
+#include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/chart/ChartOverlay.h"
 #include "SenderModuleDialog/chart/ChromaGroupInfo.h"
 
@@ -40,8 +41,9 @@ int CalcRatio(CGroupMap& mapGroups);
 /// The legend: a row for each group with a note, visible or not. Every entry must hold a group.
 /// @param fTextRatio factor of the spacing
 /// @param nWidgetHeight the widget's true height in pixels
+/// @param place what an empty entry is a fault of
 void DrawLegend(QPainter& painter, const SChartFrame& frame, CGroupMap& mapGroups, float fTextRatio,
-                int nWidgetHeight);
+                int nWidgetHeight, SSourcePlace place = SSourcePlace::Here());
 
 } // namespace ChartOverlay
 

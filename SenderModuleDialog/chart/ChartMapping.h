@@ -5,10 +5,12 @@
 
 #include <QPointF>
 
+#include <algorithm>
+
 /// The chart's mapping between chromaticities and widget pixels, both directions. The chart's y axis points
 /// up and the widget's down; x runs from 0 to 0.8 and y from 0 to 0.9. Everything that is painted over the
 /// bitmap, hit or dragged goes through it, in double precision from the chart's single-precision scale and
-/// margins.
+/// margins. Everything is inline, so a host may use what `CChromaticityDlgWnd::Mapping` returns.
 class CChartMapping
 {
 public:
@@ -24,14 +26,14 @@ public:
 
     /// The mapping of a chart of this size: a thirtieth and 10 pixels of margin, and the largest scale that
     /// shows both axes whole.
-    static CChartMapping ForSize(int nWidth, int nHeight);
+    inline static CChartMapping ForSize(int nWidth, int nHeight);
 
     /// The widget pixel of a chromaticity.
-    QPointF ToPixel(QPointF ptChromaticity) const;
-    QPointF ToPixel(CPointEx<float> ptChromaticity) const;
+    inline QPointF ToPixel(QPointF ptChromaticity) const;
+    inline QPointF ToPixel(CPointEx<float> ptChromaticity) const;
 
     /// The chromaticity of a widget pixel.
-    QPointF ToChromaticity(QPointF ptPixel) const;
+    inline QPointF ToChromaticity(QPointF ptPixel) const;
 
     /// Height in pixels at which the chromaticity y is 0.
     double Baseline() const { return double(m_nHeight) - double(m_fMarginY); }
@@ -49,10 +51,49 @@ public:
     }
 
 private:
+    /// Margins: a part of the side, and pixels on top of it so that a small chart has room for its labels.
+    static constexpr float c_fMarginDivisor = 30.0F;
+    static constexpr float c_fMarginPixels = 10.0F;
+    /// How far the axes reach, in units of chromaticity.
+    static constexpr float c_fAxisSpanX = 0.8F;
+    static constexpr float c_fAxisSpanY = 0.9F;
+
+    static float Margin(int nSide) { return float(nSide) / c_fMarginDivisor + c_fMarginPixels; }
+    static float ScaleOfSide(int nSide, float fMargin, float fSpan)
+    {
+        return (float(nSide) - 2.0F * fMargin) / fSpan;
+    }
+
     int m_nHeight;
     float m_fMarginX;
     float m_fMarginY;
     float m_fScale;
 };
+
+CChartMapping CChartMapping::ForSize(int nWidth, int nHeight)
+{
+    const float fMarginX = Margin(nWidth);
+    const float fMarginY = Margin(nHeight);
+    const float fScale =
+        std::min(ScaleOfSide(nWidth, fMarginX, c_fAxisSpanX), ScaleOfSide(nHeight, fMarginY, c_fAxisSpanY));
+    return {nHeight, fMarginX, fMarginY, fScale};
+}
+
+QPointF CChartMapping::ToPixel(QPointF ptChromaticity) const
+{
+    return {double(m_fScale) * ptChromaticity.x() + double(m_fMarginX),
+            Baseline() - double(m_fScale) * ptChromaticity.y()};
+}
+
+QPointF CChartMapping::ToPixel(CPointEx<float> ptChromaticity) const
+{
+    return ToPixel(QPointF(double(ptChromaticity.x), double(ptChromaticity.y)));
+}
+
+QPointF CChartMapping::ToChromaticity(QPointF ptPixel) const
+{
+    return {(ptPixel.x() - double(m_fMarginX)) / double(m_fScale),
+            (Baseline() - ptPixel.y()) / double(m_fScale)};
+}
 
 #endif // SENDERMODULEDIALOG_CHART_CHARTMAPPING_H

@@ -9,15 +9,20 @@
 
 namespace {
 
+/// The device that is really painted on; null without one.
+const QPaintDevice* TargetDevice(const QPainter& painter)
+{
+    const QPaintEngine* pEngine = painter.paintEngine();
+    return pEngine != nullptr ? pEngine->paintDevice() : nullptr;
+}
+
 /// The raster image that the painter paints into; null if there is none.
 const QImage* TargetImage(const QPainter& painter)
 {
-    const QPaintEngine* pEngine = painter.paintEngine();
-    if (pEngine == nullptr || pEngine->type() != QPaintEngine::Raster)
+    const QPaintDevice* pDevice = TargetDevice(painter);
+    if (pDevice == nullptr || painter.paintEngine()->type() != QPaintEngine::Raster)
         return nullptr;
-    const QPaintDevice* pDevice = pEngine->paintDevice();
-    return pDevice != nullptr && pDevice->devType() == QInternal::Image ? static_cast<const QImage*>(pDevice)
-                                                                        : nullptr;
+    return pDevice->devType() == QInternal::Image ? static_cast<const QImage*>(pDevice) : nullptr;
 }
 
 bool IsWhole(double dValue)
@@ -61,6 +66,12 @@ bool CChartSurface::SState::operator==(const SState& other) const
 {
     return std::tie(format, dRatio, hints, font, direction) ==
            std::tie(other.format, other.dRatio, other.hints, other.font, other.direction);
+}
+
+double CChartSurface::DevicePixelRatio(const QPainter& painter)
+{
+    const QPaintDevice* pDevice = TargetDevice(painter);
+    return pDevice != nullptr ? pDevice->devicePixelRatioF() : 1.0;
 }
 
 CChartSurface::CChartSurface(const QPainter& painter)

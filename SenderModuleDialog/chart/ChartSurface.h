@@ -26,6 +26,10 @@ public:
 
     explicit CChartSurface(const QPainter& painter);
 
+    /// Device pixels per pixel of the device that is really painted on: a widget's painter may have been
+    /// redirected to a picture with another ratio than the widget's.
+    static double DevicePixelRatio(const QPainter& painter);
+
     /// Whether copies are sure to give the pixels that painting gives. They are not on devices that are no
     /// 32-bit raster images, nor under a clip, an opacity, a composition mode or a transformation other than
     /// whole pixels. What is said below holds where they are.

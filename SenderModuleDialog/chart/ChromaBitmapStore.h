@@ -64,7 +64,11 @@ public:
 private:
     /// Types begin at -1.
     static constexpr std::size_t c_nTypes = 6;
-    static constexpr std::size_t Place(int nType) { return std::size_t(nType + 1); }
+    static constexpr std::size_t Place(int nType)
+    {
+        const int nPlace = nType + 1;
+        return std::size_t(nPlace);
+    }
 
     struct SType
     {

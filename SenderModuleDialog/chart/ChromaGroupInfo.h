@@ -3,11 +3,10 @@
 
 #include "host/CommonClass/PointEx.h"
 
+#include <QImage>
 #include <QString>
 
 #include <atomic>
-
-class QImage;
 
 /// @file
 /// The chart's records: a colour group, the standard colour spaces, a background bitmap.
@@ -97,7 +96,7 @@ inline constexpr int c_nWndBitmapCount = 5;
 struct SWndBitmap
 {
     SWndBitmap() = default;
-    ~SWndBitmap();
+    ~SWndBitmap() { delete pImage; }
     SWndBitmap(const SWndBitmap&) = delete;
     SWndBitmap& operator=(const SWndBitmap&) = delete;
 

@@ -13,6 +13,8 @@
 ///
 /// The polygon closes from its last vertex to vertex 0 by itself. Inside means `containsPoint` with
 /// `Qt::WindingFill`. Vertices are held in double; tests of edges work on copies rounded to float.
+///
+/// The constructors convert, as those of `QPolygonF` do: `CPolygon polygon = vecPoints;`.
 class SENDERMODULEDIALOG_EXPORT CPolygon : public QPolygonF
 {
 public:
@@ -20,16 +22,16 @@ public:
     CPolygon() = default;
 
     /// The polygon with these vertices. It is not prepared for `GrahamScan`.
-    explicit CPolygon(const QPolygonF& polygon);
+    CPolygon(const QPolygonF& polygon);
 
     /// The polygon with these vertices: the only constructor that prepares it for `GrahamScan`.
-    explicit CPolygon(const QVector<QPointF>& vecPoints);
+    CPolygon(const QVector<QPointF>& vecPoints);
 
     /// A rectangle's polygon. It is not prepared for `GrahamScan`.
-    explicit CPolygon(const QRectF& rect);
+    CPolygon(const QRectF& rect);
 
     /// So many vertices at (0, 0); a count below 1 gives none. It is not prepared for `GrahamScan`.
-    explicit CPolygon(int nCount);
+    CPolygon(int nCount);
 
     /// Whether every corner turns the same way as the corner at vertex 1. The corner at vertex 0 is not
     /// looked at, and a corner at vertex 1 that does not turn at all accepts every other corner. True below 2

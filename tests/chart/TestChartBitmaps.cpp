@@ -6,8 +6,11 @@
 
 #include <QtTest>
 
+#include <limits>
 #include <memory>
 #include <vector>
+
+#include <sys/resource.h>
 
 namespace {
 
@@ -38,6 +41,7 @@ private Q_SLOTS:
     void StaticPixelsMayBeNone();
     void StaticPixelsRefuseNull();
     void StaticPixelsRefuseANegativeCount();
+    void StaticPixelsRefuseWhatTheMemoryHasNoRoomFor();
     void StaticPixelsOfAnEarlierCallStayReadable();
 };
 
@@ -195,6 +199,28 @@ void TestChartBitmaps::StaticPixelsRefuseANegativeCount()
     QPointF pt;
     QVERIFY(!chart.DrawStaticPiexl(&pt, -1, 1, 2, 3, 4));
     QVERIFY(!chart.m_bHasStaticPixels);
+}
+
+void TestChartBitmaps::StaticPixelsRefuseWhatTheMemoryHasNoRoomFor()
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("A sanitizer takes more memory than the limit, and ends the process beyond its own.");
+#endif
+    CChromaticityDlgWnd chart(nullptr);
+    chart.SetSize(200, 200);
+    QPointF pt(0.3, 0.3);
+    QVERIFY(chart.DrawStaticPiexl(&pt, 1, 1, 2, 3, 4));
+    const QPointF* const pBefore = chart.m_pStaticPixels;
+    rlimit before = {};
+    QCOMPARE(getrlimit(RLIMIT_AS, &before), 0);
+    const rlimit small = {rlim_t(8) << 30U, before.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_AS, &small), 0);
+    const bool bTaken = chart.DrawStaticPiexl(&pt, std::numeric_limits<int>::max(), 9, 9, 9, 9);
+    QCOMPARE(setrlimit(RLIMIT_AS, &before), 0);
+    QVERIFY(!bTaken);
+    QCOMPARE(chart.m_pStaticPixels, pBefore);
+    QCOMPARE(chart.m_nStaticPixelCount, 1);
+    QCOMPARE(chart.m_nStaticColor[0], uchar(1));
 }
 
 void TestChartBitmaps::StaticPixelsOfAnEarlierCallStayReadable()

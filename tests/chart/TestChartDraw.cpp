@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/chart/ChromaBitmapPainter.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
 #include "tests/chart/FrameTesting.h"
+#include "tests/support/DeathTest.h"
 
 #include <QPainterPath>
 #include <QPicture>
@@ -36,6 +37,25 @@ struct SPainterState
     }
 };
 
+/// A chart that is on a screen with twice as many device pixels as pixels.
+class CSharpChart : public CChromaticityDlgWnd
+{
+public:
+    CSharpChart()
+        : CChromaticityDlgWnd(nullptr)
+    {}
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        if (metric == PdmDevicePixelRatio)
+            return 2;
+        if (metric == PdmDevicePixelRatioScaled)
+            return int(2 * devicePixelRatioFScale());
+        return CChromaticityDlgWnd::metric(metric);
+    }
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(FuncPrepare)
@@ -56,6 +76,9 @@ private Q_SLOTS:
     void HighResolutionFramesAreDrawnInOrder();
     void AHighResolutionBitmapIsSharp_data();
     void AHighResolutionBitmapIsSharp();
+    void AnAbortedSharpBitmapIsNotKept();
+    void ARedirectedWidgetTakesTheRatioOfThePicture();
+    void DrawingWithAnInactivePainterFaults();
     void AGrabbedWidgetIsThePlainOne();
     void AGrabbedParentIsThePlainOne();
     void APictureIsDrawnInThePlainOrder();
@@ -266,6 +289,46 @@ void TestChartDraw::AHighResolutionBitmapIsSharp()
         for (int x = 0; x < 12; ++x)
             QCOMPARE(image.pixel(ptFirst + QPoint(x, y)), sharp.pixel(ptFirst + QPoint(x, y)));
     }
+}
+
+void TestChartDraw::AnAbortedSharpBitmapIsNotKept()
+{
+    const auto Frame = [](bool bAbortFirst) {
+        const auto pChart = MakeChart();
+        pChart->SetWndData(1, c_sizeChart.width(), c_sizeChart.height());
+        pChart->SetWndType(1);
+        const QImage canvas = Canvas(QImage::Format_RGB32, 2.0);
+        pChart->m_bAbortPaint = bAbortFirst;
+        Painted(*pChart, DrawFast, canvas, [](QPainter&) {});
+        pChart->m_bAbortPaint = false;
+        return Painted(*pChart, DrawFast, canvas, [](QPainter&) {});
+    };
+    QVERIFY(Frame(true) == Frame(false));
+}
+
+void TestChartDraw::ARedirectedWidgetTakesTheRatioOfThePicture()
+{
+    CSharpChart chart;
+    chart.resize(c_sizeChart);
+    chart.SetSize(c_sizeChart.width(), c_sizeChart.height());
+    QCOMPARE(chart.devicePixelRatioF(), 2.0);
+    const QImage canvas = Canvas(QImage::Format_ARGB32_Premultiplied);
+    QImage rendered = canvas;
+    chart.render(&rendered, QPoint(), QRegion(), QWidget::RenderFlags());
+    // The widget cuts the outer half of the line around the chart.
+    const QRect rcWidget(QPoint(), c_sizeChart);
+    QVERIFY(rendered.copy(rcWidget) == Painted(chart, DrawFast, canvas, [](QPainter&) {}).copy(rcWidget));
+}
+
+void TestChartDraw::DrawingWithAnInactivePainterFaults()
+{
+    const auto pChart = MakeChart();
+    const SDeath death = RunToDeath([&pChart] {
+        QPainter painter;
+        pChart->Draw(painter);
+    });
+    QVERIFY(death.bAborted);
+    QVERIFY(death.strOutput.contains("painter.isActive()"));
 }
 
 void TestChartDraw::AGrabbedWidgetIsThePlainOne()

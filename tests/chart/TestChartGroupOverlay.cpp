@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <limits>
 
 using namespace OverlayTesting;
 
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void ATriangleHasThreeLinesAndFourDots();
     void ACmyGroupShowsTheTriangleOfItsMidpoints();
     void AFixedPointIsSmallerWithAGreyRim();
+    void ADotWithoutASizeStaysWithinNumbers();
     void HiddenDotsAreLeftOut();
     void VisibleGroupsTakeThePaletteInOrder();
     void TheTenthVisibleGroupReadsInsideThePalette();
@@ -118,6 +120,22 @@ void TestChartGroupOverlay::ACmyGroupShowsTheTriangleOfItsMidpoints()
     QCOMPARE(vecCalls[3].brush.color(), QColor(Qt::cyan));
     QCOMPARE(vecCalls[4].brush.color(), QColor(Qt::magenta));
     QCOMPARE(vecCalls[5].brush.color(), QColor(Qt::yellow));
+}
+
+void TestChartGroupOverlay::ADotWithoutASizeStaysWithinNumbers()
+{
+    CTestChart chart(101, 101);
+    SChromaGroupInfo group = Group();
+    group.ptWhite = {-1e30F, 1e30F};
+    chart.AddChromaGroupByIndex(0, group);
+    const auto vecDots = Only(chart.Record(&CChromaticityDlgWnd::DrawChromTriangle), "ellipse");
+    // The white disc in the white point's dot: its radius is below a pixel.
+    const QVector<QPointF> vecDisc = vecDots.last().vecPoints;
+    QCOMPARE(vecDisc[1], QPointF(0.0, 0.0));
+    // Its sides are start + size - 1.
+    constexpr double c_dSmallest = std::numeric_limits<int>::min();
+    QVERIFY(vecDisc[0].x() - 1.0 >= c_dSmallest);
+    QVERIFY(vecDisc[0].y() - 1.0 >= c_dSmallest);
 }
 
 void TestChartGroupOverlay::AFixedPointIsSmallerWithAGreyRim()
@@ -330,7 +348,7 @@ void TestChartGroupOverlay::EmptyEntriesEndTheTrianglesAndFaultElsewhere()
     QCOMPARE(Only(chart.Record(&CChromaticityDlgWnd::DrawChromTriangle), "line").size(), 6);
     const SDeath deathNote = RunToDeath([&] { chart.Record(&CChromaticityDlgWnd::DrawChromNote); });
     QVERIFY(deathNote.bAborted);
-    QVERIFY(deathNote.strOutput.contains("does not hold"));
+    QVERIFY(deathNote.strOutput.contains("\"DrawChromNote\""));
     const SDeath deathHit = RunToDeath([&] {
         int nGroup = 0;
         int nPoint = 0;

@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <type_traits>
 
 namespace {
 
@@ -19,6 +20,11 @@ public:
 
 using Points = QVector<QPointF>;
 using Pull = bool (CPolygon::*)(QPointF*) const;
+
+// A host writes `CPolygon polygon = points;`.
+static_assert(std::is_convertible_v<Points, CPolygon>);
+static_assert(std::is_convertible_v<QPolygonF, CPolygon>);
+static_assert(std::is_convertible_v<QRectF, CPolygon>);
 
 // The nudge, and its share on each axis at 45 degrees.
 constexpr float c_fNudge = 1e-5F;

@@ -36,6 +36,11 @@ int main(int argc, char* argv[])
     converter.CCTtoColorCoord(6500.0F, &ptWhite, false);
     CChromaticityDlgWnd chart(nullptr);
     chart.SetSize(400, 400);
+    const SWndBitmap bitmap;
+    const QPointF ptPixel = chart.Mapping().ToPixel(ptWhite);
+    const CPolygon polygon = QVector<QPointF>{ptWhite, ptPixel, chart.Mapping().ToChromaticity(ptPixel)};
+    if (bitmap.bReady || polygon.size() != 3)
+        return 1;
     CResetCoefDlg dialog(true, nullptr);
     dialog.SetValue(0.5F);
     const CSetCanvasDlg dialogCanvas(nullptr);

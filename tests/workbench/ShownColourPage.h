@@ -3,7 +3,6 @@
 
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "workbench/colour/ChartControls.h"
-#include "workbench/colour/ChartTransform.h"
 #include "workbench/colour/ChartView.h"
 #include "workbench/colour/ColourPage.h"
 #include "workbench/colour/RegionOverlay.h"
@@ -61,7 +60,7 @@ struct SShownColourPage
         page.Controls().DrawRegion();
         for (const QPointF& pt : polygon)
             QTest::mouseClick(&View().Overlay(), Qt::LeftButton, Qt::NoModifier,
-                              ChartTransform(Chart()).map(pt).toPoint());
+                              Chart().Mapping().ToPixel(pt).toPoint());
     }
 };
 

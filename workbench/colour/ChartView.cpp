@@ -1,8 +1,8 @@
 #include "workbench/colour/ChartView.h"
 
+#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 #include "SenderModuleDialog/chart/ChromaGamutThread.h"
-#include "workbench/colour/ChartTransform.h"
 #include "workbench/colour/RegionOverlay.h"
 
 #include <QMouseEvent>
@@ -70,7 +70,7 @@ void CChartView::WaitForBitmap()
 
 QPoint CChartView::PixelOf(CPointEx<float> point) const
 {
-    return ChartTransform(*m_pChart).map(QPointF(double(point.x), double(point.y))).toPoint();
+    return m_pChart->Mapping().ToPixel(point).toPoint();
 }
 
 bool CChartView::eventFilter(QObject* pWatched, QEvent* pEvent)

@@ -1,8 +1,8 @@
+#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 #include "workbench/Tour.h"
 #include "workbench/colour/ChartControls.h"
 #include "workbench/colour/ChartExport.h"
-#include "workbench/colour/ChartTransform.h"
 #include "workbench/colour/ChartView.h"
 #include "workbench/colour/ColourPage.h"
 #include "workbench/colour/GroupModel.h"
@@ -70,10 +70,10 @@ void Drag(CChartView& view, CPointEx<float> ptFrom, CPointEx<float> ptTo)
 
 void DrawRegion(CChartView& view, const QPolygonF& polygon)
 {
-    const QPolygonF corners = ChartTransform(view.Chart()).map(polygon);
-    for (const QPointF& pt : corners) {
-        SendMouse(view.Overlay(), QEvent::MouseMove, pt.toPoint(), Qt::NoButton, Qt::NoButton);
-        SendMouse(view.Overlay(), QEvent::MouseButtonPress, pt.toPoint(), Qt::LeftButton, Qt::LeftButton);
+    for (const QPointF& ptChromaticity : polygon) {
+        const QPoint pt = view.Chart().Mapping().ToPixel(ptChromaticity).toPoint();
+        SendMouse(view.Overlay(), QEvent::MouseMove, pt, Qt::NoButton, Qt::NoButton);
+        SendMouse(view.Overlay(), QEvent::MouseButtonPress, pt, Qt::LeftButton, Qt::LeftButton);
     }
 }
 

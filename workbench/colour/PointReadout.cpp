@@ -4,7 +4,6 @@
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
-#include "workbench/colour/ChartTransform.h"
 #include "workbench/colour/ColourGroups.h"
 #include "workbench/colour/GroupModel.h"
 
@@ -56,6 +55,6 @@ QString PointReadout::Of(const CChromaticityDlgWnd& chart)
     const SChromaGroupInfo* pGroup = chart.m_mapGroups.value(chart.m_nHoverGroup, nullptr);
     if (pGroup != nullptr && IsChromaPoint(chart.m_nHoverPoint))
         return OfPoint(chart, *pGroup, chart.m_nHoverPoint);
-    const QPointF pt = ChartTransform(chart).inverted().map(QPointF(chart.m_ptMouse));
+    const QPointF pt = chart.Mapping().ToChromaticity(chart.m_ptMouse);
     return chart.m_pGamut->IsPointInCIEPolygon(pt) ? PlaceText(pt) : QString();
 }

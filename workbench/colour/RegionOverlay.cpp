@@ -1,6 +1,6 @@
 #include "workbench/colour/RegionOverlay.h"
 
-#include "workbench/colour/ChartTransform.h"
+#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 
 #include <QImage>
 #include <QKeyEvent>
@@ -27,6 +27,15 @@ QColor Fill()
     return clrFill;
 }
 
+QPolygonF InPixels(const CChromaticityDlgWnd& chart, const QPolygonF& polygon)
+{
+    const CChartMapping mapping = chart.Mapping();
+    QPolygonF pixels;
+    for (const QPointF& pt : polygon)
+        pixels.append(mapping.ToPixel(pt));
+    return pixels;
+}
+
 /// A line with a dark halo, over a light filling.
 void PaintOutline(QPainter& painter, const QPolygonF& polygon, Qt::PenStyle style, const QBrush& brush)
 {
@@ -41,8 +50,7 @@ void PaintOutline(QPainter& painter, const QPolygonF& polygon, Qt::PenStyle styl
 void PaintRegion(QPainter& painter, const CChromaticityDlgWnd& chart, const CFeasibleRegion& region)
 {
     if (region.IsRegion())
-        PaintOutline(painter, ChartTransform(chart).map(region.Polygon()),
-                     region.IsOn() ? Qt::SolidLine : Qt::DotLine,
+        PaintOutline(painter, InPixels(chart, region.Polygon()), region.IsOn() ? Qt::SolidLine : Qt::DotLine,
                      region.IsOn() ? QBrush(Fill()) : QBrush(Qt::NoBrush));
 }
 
@@ -98,7 +106,7 @@ void CRegionOverlay::paintEvent(QPaintEvent* /*pEvent*/)
 
 void CRegionOverlay::PaintDraft(QPainter& painter) const
 {
-    const QPolygonF corners = ChartTransform(m_chart).map(m_draft);
+    const QPolygonF corners = InPixels(m_chart, m_draft);
     QPolygonF outline = corners;
     outline.append(m_ptMouse);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -154,7 +162,7 @@ void CRegionOverlay::mousePressEvent(QMouseEvent* pEvent)
     if (pEvent->button() == Qt::RightButton)
         return RemoveLastCorner();
     m_ptMouse = pEvent->localPos();
-    m_draft.append(ChartTransform(m_chart).inverted().map(m_ptMouse));
+    m_draft.append(m_chart.Mapping().ToChromaticity(m_ptMouse));
     update();
 }
 
