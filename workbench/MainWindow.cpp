@@ -71,9 +71,9 @@ CMainWindow::CMainWindow(CLanguage& language, QSettings& settings)
         connect(pPage, &CWorkbenchPage::SelectionWanted, m_pTree, &CSenderTree::Select);
     }
     CSimulator& simulator = CSimulator::Instance();
-    connect(&simulator, &CSimulator::OnModifiedChanged, this, &CMainWindow::ShowTitle);
-    connect(&simulator, &CSimulator::OnFilePathChanged, this, &CMainWindow::ShowTitle);
-    connect(&simulator, &CSimulator::OnProblem, this,
+    connect(&simulator.Document(), &CProjectDocument::OnModifiedChanged, this, &CMainWindow::ShowTitle);
+    connect(&simulator.Document(), &CProjectDocument::OnFilePathChanged, this, &CMainWindow::ShowTitle);
+    connect(&simulator.Document(), &CProjectDocument::OnProblem, this,
             [this](const SFileProblem& problem) { QMessageBox::warning(this, tr("工程"), problem.Text()); });
     ShowTitle();
     // A project that was there before the window is shown from its current sender on, like one that is
@@ -153,7 +153,7 @@ void CMainWindow::BuildSenderMenu()
 
 void CMainWindow::AddSender(int nType)
 {
-    const int nSender = CSimulator::Instance().AddSender(nType);
+    const int nSender = CSimulator::Instance().Document().AddSender(nType);
     m_pTree->Select({nSender, -1});
 }
 
@@ -161,7 +161,7 @@ void CMainWindow::RemoveSelectedSender()
 {
     const SSelection selection = m_pTree->Selection();
     if (selection.HasSender())
-        CSimulator::Instance().RemoveSender(selection.nSender);
+        CSimulator::Instance().Document().RemoveSender(selection.nSender);
 }
 
 void CMainWindow::BuildViewMenu()
@@ -182,7 +182,7 @@ void CMainWindow::BuildViewMenu()
 void CMainWindow::SelectionMoved(const SSelection& selection)
 {
     if (selection.HasSender())
-        CSimulator::Instance().SetCurrentSender(selection.nSender);
+        CSimulator::Instance().Document().SetCurrentSender(selection.nSender);
     for (CWorkbenchPage* pPage : m_vecPages)
         pPage->ShowSelection(selection);
 }
@@ -209,10 +209,11 @@ void CMainWindow::Retranslate()
 void CMainWindow::ShowTitle()
 {
     CSimulator& simulator = CSimulator::Instance();
-    const QString strFile =
-        simulator.FilePath().isEmpty() ? tr("未命名") : QFileInfo(simulator.FilePath()).fileName();
+    const QString strFile = simulator.Document().FilePath().isEmpty()
+                                ? tr("未命名")
+                                : QFileInfo(simulator.Document().FilePath()).fileName();
     setWindowTitle(QStringLiteral("%1[*] — %2").arg(strFile, tr("发送器工作台")));
-    setWindowModified(simulator.IsModified());
+    setWindowModified(simulator.Document().IsModified());
 }
 
 void CMainWindow::closeEvent(QCloseEvent* pEvent)

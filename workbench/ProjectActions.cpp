@@ -34,17 +34,17 @@ bool CProjectActions::StartNew(const std::function<void()>& funcStart)
 
 bool CProjectActions::NewDemo()
 {
-    return StartNew([] { CSimulator::Instance().NewProject(); });
+    return StartNew([] { CSimulator::Instance().Document().NewProject(); });
 }
 
 bool CProjectActions::NewCatalogue()
 {
-    return StartNew([] { CSimulator::Instance().NewCatalogueProject(); });
+    return StartNew([] { CSimulator::Instance().Document().NewCatalogueProject(); });
 }
 
 bool CProjectActions::NewEmpty()
 {
-    return StartNew([] { CSimulator::Instance().NewEmptyProject(); });
+    return StartNew([] { CSimulator::Instance().Document().NewEmptyProject(); });
 }
 
 bool CProjectActions::ChooseAndOpen()
@@ -63,7 +63,7 @@ bool CProjectActions::Open(const QString& strFile)
 bool CProjectActions::OpenWithoutAsking(const QString& strFile)
 {
     SFileProblem problem;
-    if (!CSimulator::Instance().Open(strFile, problem)) {
+    if (!CSimulator::Instance().Document().Open(strFile, problem)) {
         if (!QFileInfo::exists(strFile))
             m_recentFiles.Forget(strFile);
         Tell(tr("无法打开工程。\n%1").arg(problem.Text()));
@@ -76,7 +76,7 @@ bool CProjectActions::OpenWithoutAsking(const QString& strFile)
 
 bool CProjectActions::Save()
 {
-    const QString strFile = CSimulator::Instance().FilePath();
+    const QString strFile = CSimulator::Instance().Document().FilePath();
     return strFile.isEmpty() ? ChooseAndSave() : SaveAs(strFile);
 }
 
@@ -91,21 +91,22 @@ bool CProjectActions::SaveAs(const QString& strFile)
 {
     CSimulator& simulator = CSimulator::Instance();
     SFileProblem problem;
-    const bool bSame = strFile == simulator.FilePath();
-    if (!(bSame ? simulator.Save(problem) : simulator.SaveAs(strFile, problem))) {
+    const bool bSame = strFile == simulator.Document().FilePath();
+    if (!(bSame ? simulator.Document().Save(problem) : simulator.Document().SaveAs(strFile, problem))) {
         Tell(tr("无法保存工程。\n%1").arg(problem.Text()));
         return false;
     }
     m_recentFiles.Note(strFile);
-    if (!simulator.KeptFile().isEmpty())
-        Tell(tr("原有文件不是可读的工程，已另存为 %1。").arg(QDir::toNativeSeparators(simulator.KeptFile())));
+    if (!simulator.Document().KeptFile().isEmpty())
+        Tell(tr("原有文件不是可读的工程，已另存为 %1。")
+                 .arg(QDir::toNativeSeparators(simulator.Document().KeptFile())));
     Q_EMIT Reported(tr("已保存 %1").arg(QDir::toNativeSeparators(strFile)));
     return true;
 }
 
 bool CProjectActions::MayLeave()
 {
-    if (!CSimulator::Instance().IsModified())
+    if (!CSimulator::Instance().Document().IsModified())
         return true;
     QMessageBox box(QMessageBox::Question, tr("未保存的更改"), tr("工程有未保存的更改。要保存吗？"),
                     QMessageBox::NoButton, m_pWindow);
@@ -124,7 +125,7 @@ void CProjectActions::OpenLast()
     const bool bOpened =
         !listFiles.isEmpty() && QFileInfo::exists(listFiles.first()) && OpenWithoutAsking(listFiles.first());
     if (!bOpened)
-        CSimulator::Instance().NewProject();
+        CSimulator::Instance().Document().NewProject();
 }
 
 void CProjectActions::Tell(const QString& strText)

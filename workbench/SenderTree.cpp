@@ -109,11 +109,12 @@ CSenderTree::CSenderTree(QWidget* pParent)
     setAlternatingRowColors(true);
     setUniformRowHeights(true);
     header()->setStretchLastSection(true);
-    connect(&CSimulator::Instance(), &CSimulator::OnProjectReplaced, this, [this] {
+    connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectReplaced, this, [this] {
         Rebuild();
         Select({CSimulator::Instance().Project().nCurSender, -1});
     });
-    connect(&CSimulator::Instance(), &CSimulator::OnProjectChanged, this, &CSenderTree::Take);
+    connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectChanged, this,
+            &CSenderTree::Take);
     connect(this, &QTreeWidget::currentItemChanged, this, [this] { Q_EMIT SelectionMoved(Selection()); });
     Rebuild();
     Retranslate();

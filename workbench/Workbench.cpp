@@ -31,7 +31,7 @@ void LeaveFiles(CTour& tour, CMainWindow& window)
     tour.Check(window.Project().SaveAs(strFile),
                QStringLiteral("the project cannot be saved as %1").arg(strFile));
     SFileProblem problem;
-    tour.Check(CSimulator::Instance().Open(strFile, problem), problem.Text());
+    tour.Check(CSimulator::Instance().Document().Open(strFile, problem), problem.Text());
 }
 
 int Report(const CTour& tour)
@@ -55,7 +55,7 @@ int RunWorkbench(const SWorkbenchOptions& options)
     if (options.strFile.isEmpty())
         window.Project().OpenLast();
     else if (!window.Project().Open(options.strFile))
-        CSimulator::Instance().NewProject();
+        CSimulator::Instance().Document().NewProject();
     window.show();
     return QApplication::exec();
 }
@@ -75,7 +75,7 @@ int RunTour(const SWorkbenchOptions& options)
     for (const enLanguage current : {enLanguage::Chinese, enLanguage::English}) {
         language.Set(current);
         tour.SetPrefix(CLanguage::Code(current));
-        CSimulator::Instance().NewProject();
+        CSimulator::Instance().Document().NewProject();
         CMainWindow window(language, settings);
         window.show();
         window.Tour(tour);

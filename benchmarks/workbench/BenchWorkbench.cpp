@@ -43,7 +43,7 @@ struct SShownWorkbench
 
 void StartEmpty()
 {
-    CSimulator::Instance().NewEmptyProject();
+    CSimulator::Instance().Document().NewEmptyProject();
     SShownWorkbench::Redraw();
 }
 
@@ -64,14 +64,15 @@ void AddProcessors(benchmark::State& state, FAdd funcAdd)
 
 void AddAtOnce(benchmark::State& state)
 {
-    AddProcessors(state, [](int nCount) { CSimulator::Instance().AddSenders(c_nType, nCount, c_nPorts); });
+    AddProcessors(
+        state, [](int nCount) { CSimulator::Instance().Document().AddSenders(c_nType, nCount, c_nPorts); });
 }
 
 void AddOneByOne(benchmark::State& state)
 {
     AddProcessors(state, [](int nCount) {
         for (int i = 0; i < nCount; ++i)
-            CSimulator::Instance().AddSenders(c_nType, 1, c_nPorts);
+            CSimulator::Instance().Document().AddSenders(c_nType, 1, c_nPorts);
     });
 }
 
@@ -79,13 +80,13 @@ void ChangeOneOf(benchmark::State& state)
 {
     const SShownWorkbench workbench;
     StartEmpty();
-    CSimulator::Instance().AddSenders(c_nType, int(state.range(0)), c_nPorts);
+    CSimulator::Instance().Document().AddSenders(c_nType, int(state.range(0)), c_nPorts);
     SShownWorkbench::Redraw();
     int nRate = 0;
     for (auto pass : state) {
         Q_UNUSED(pass)
         nRate = nRate % 60 + 1;
-        CSimulator::Instance().Change(
+        CSimulator::Instance().Document().Change(
             [nRate](SSimulatedProject& project) { project.listSenders.front().record.nFrameRate = nRate; });
         SShownWorkbench::Redraw();
     }

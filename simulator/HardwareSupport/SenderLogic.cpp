@@ -59,7 +59,9 @@ public:
     int GetDetectedIPList(unsigned int* pList) override;
     int ApplyDemoProject() override
     {
-        return m_simulator.NewDemoProject(m_simulator.Project().nDemoSenderType) ? 0 : c_nDemoTypeUnknown;
+        return m_simulator.Document().NewDemoProject(m_simulator.Project().nDemoSenderType)
+                   ? 0
+                   : c_nDemoTypeUnknown;
     }
 
 private:
@@ -79,8 +81,9 @@ private:
     {
         if (m_simulator.Project().FindSender(nSender) == nullptr)
             return;
-        m_simulator.SpendWriteDelay(nSender);
-        m_simulator.Change([&](SSimulatedProject& project) { change(*project.FindSender(nSender)); });
+        m_simulator.Hardware().SpendWriteDelay(nSender);
+        m_simulator.Document().Change(
+            [&](SSimulatedProject& project) { change(*project.FindSender(nSender)); });
     }
 
     CSimulator& m_simulator = CSimulator::Instance();

@@ -110,7 +110,7 @@ void CSimulatedVideoSourceLogic::CheckEdidLimit(int nWidth, int nHeight, int nLi
 qint64 CSimulatedVideoSourceLogic::SetEdidSetting(int nSender, int nInterfaceId, const SEdidSetting* pSetting)
 {
     m_pending.reset();
-    m_simulator.SpendWriteDelay(nSender);
+    m_simulator.Hardware().SpendWriteDelay(nSender);
     if (Input(nSender, nInterfaceId) == nullptr)
         return c_nNoSuchInput;
     const qint64 nResult = m_simulator.Project().FindSender(nSender)->faults.nEdidWriteResult;
@@ -134,14 +134,14 @@ void CSimulatedVideoSourceLogic::TakeIntoForce(int nSender)
         return;
     const SPendingWrite pending = *m_pending;
     m_pending.reset();
-    m_simulator.SpendWriteDelay(nSender);
-    m_simulator.Change([&pending](SSimulatedProject& project) {
+    m_simulator.Hardware().SpendWriteDelay(nSender);
+    m_simulator.Document().Change([&pending](SSimulatedProject& project) {
         SSimulatedSender& sender = *project.FindSender(pending.nSender);
         SSimulatedInput& input = *sender.FindInput(pending.nInterfaceId);
         input.setting = sender.capability.bExtendedEdid ? FullSetting(pending.setting)
                                                         : BasicSetting(pending.setting, input.setting);
     });
-    Q_EMIT m_simulator.OnEdidWritten(pending.nSender, pending.nInterfaceId);
+    Q_EMIT m_simulator.Hardware().OnEdidWritten(pending.nSender, pending.nInterfaceId);
 }
 
 bool CSimulatedVideoSourceLogic::GetOutputLimitFlags(int nSender, unsigned int* pFlags)

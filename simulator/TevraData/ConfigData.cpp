@@ -11,14 +11,14 @@ class CSimulatedConfigData : public CConfigData
 public:
     bool IsIPHasError(unsigned int nIP, unsigned int* pError, bool /*bReserved*/) override
     {
-        const enAddressVerdict verdict = m_simulator.JudgeAddress(nIP);
+        const enAddressVerdict verdict = m_simulator.Addresses().Judge(nIP);
         // A caller may read the code without looking at the result, so a good address clears it.
         if (pError != nullptr)
             *pError = verdict;
         return verdict != enAddressGood;
     }
 
-    void UpdateErrorIPList() override { m_simulator.RefreshNetworkFacts(); }
+    void UpdateErrorIPList() override { m_simulator.Addresses().RefreshNetworkFacts(); }
 
     int GetDetectStrategy() override { return m_simulator.Project().addressing.nDetectStrategy; }
 
@@ -36,7 +36,7 @@ public:
     void AddSpecifiedIP(QString strIP, QString strName) override
     {
         const QString strEntry = AddressEntry(strIP, strName);
-        SAddressLists& lists = m_simulator.Edit().addresses;
+        SAddressLists& lists = m_simulator.Document().Edit().addresses;
         for (QStringList* pList : {&lists.listStored, &lists.listOriginal, &lists.listCurSet})
             pList->append(strEntry);
     }
@@ -44,8 +44,8 @@ public:
     void SpecifiedIPsSave() override
     {
         SFileProblem problem;
-        if (!m_simulator.SaveAddresses(problem))
-            m_simulator.Report(problem);
+        if (!m_simulator.Document().SaveAddresses(problem))
+            m_simulator.Document().Report(problem);
     }
 
     QString GetCurSetSpecifiedIPWithIndex(int nIndex) override { return Lists().listCurSet.value(nIndex); }
@@ -72,7 +72,7 @@ private:
 
     void Replace(QStringList SAddressLists::*pList, int nIndex, const QString& strEntry)
     {
-        QStringList& list = m_simulator.Edit().addresses.*pList;
+        QStringList& list = m_simulator.Document().Edit().addresses.*pList;
         if (nIndex >= 0 && nIndex < list.size())
             list[nIndex] = strEntry;
     }

@@ -10,13 +10,13 @@ namespace {
 class CSimulatedConstantData : public CConstantData
 {
 public:
-    QString GetBKImagePath() override { return CSimulator::Instance().PictureFolder(); }
+    QString GetBKImagePath() override { return CSimulator::Instance().Document().PictureFolder(); }
 
     QString GetSenderBKImgName(int nSender, bool bFullPath) override
     {
         CSimulator& simulator = CSimulator::Instance();
-        const QString strName = simulator.PictureName(nSender);
-        return bFullPath ? QDir(simulator.PictureFolder()).filePath(strName) : strName;
+        const QString strName = simulator.Document().PictureName(nSender);
+        return bFullPath ? QDir(simulator.Document().PictureFolder()).filePath(strName) : strName;
     }
 };
 

@@ -16,8 +16,8 @@ public:
     {
         // Processors are added to an empty project through a dialog that asks for sender 0.
         if (m_simulator.Project().listSenders.empty() && nIndex == 0)
-            return m_simulator.NoSender();
-        SSimulatedSender* pSender = m_simulator.Edit().FindSender(nIndex);
+            return m_simulator.Document().NoSender();
+        SSimulatedSender* pSender = m_simulator.Document().Edit().FindSender(nIndex);
         return pSender == nullptr ? nullptr : &pSender->record;
     }
 
@@ -25,12 +25,12 @@ public:
 
     void SetDemoModeEnable(bool bEnable) override
     {
-        m_simulator.Change([=](SSimulatedProject& project) { project.bDemoMode = bEnable; });
+        m_simulator.Document().Change([=](SSimulatedProject& project) { project.bDemoMode = bEnable; });
     }
 
     void SetDemoSenderType(int nType) override
     {
-        m_simulator.Change([=](SSimulatedProject& project) { project.nDemoSenderType = nType; });
+        m_simulator.Document().Change([=](SSimulatedProject& project) { project.nDemoSenderType = nType; });
     }
 
 private:

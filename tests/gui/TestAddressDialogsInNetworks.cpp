@@ -60,8 +60,8 @@ private Q_SLOTS:
 void TestAddressDialogsInNetworks::init()
 {
     SenderModuleDialogInit(CSimulator::Instance().Label());
-    CSimulator::Instance().NewProject();
-    CSimulator::Instance().SetNetworkFacts(MachineNetworkFacts);
+    CSimulator::Instance().Document().NewProject();
+    CSimulator::Instance().Addresses().SetNetworkFacts(MachineNetworkFacts);
 }
 
 void TestAddressDialogsInNetworks::TheDialogsProposeByTheNetwork_data()
@@ -91,7 +91,7 @@ void TestAddressDialogsInNetworks::TheDialogsProposeByTheNetwork()
     QFETCH(QStringList, detected);
     const CNetworkNamespace network(wanted.listInterfaces, wanted.listGateways);
     QVERIFY2(network.IsReady(), qPrintable(network.Problem()));
-    CSimulator::Instance().Change(
+    CSimulator::Instance().Document().Change(
         [&](SSimulatedProject& project) { project.addressing.listDetected = detected; });
     const CSetIPOfflineDlg dialogBatch(0, c_nBatch, true, false, nullptr);
     QTEST(Proposal(dialogBatch), "batch");

@@ -27,7 +27,7 @@
 int main(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
-    CSimulator::Instance().NewProject();
+    CSimulator::Instance().Document().NewProject();
     SenderModuleDialogInit(CSimulator::Instance().Label());
     CEDIDRaw raw;
     raw.ChangeWH(1920, 1080, 60.0F);

@@ -24,9 +24,9 @@ inline CSimulator& FreshSimulator()
 {
     QStandardPaths::setTestModeEnabled(true);
     CSimulator& simulator = CSimulator::Instance();
-    simulator.SetNetworkFacts(TestNetwork);
-    simulator.SetSleep([](int) {});
-    simulator.NewEmptyProject();
+    simulator.Addresses().SetNetworkFacts(TestNetwork);
+    simulator.Hardware().SetSleep([](int) {});
+    simulator.Document().NewEmptyProject();
     simulator.Journal().SetCapacity(CHostJournal::c_nDefaultCapacity);
     simulator.Journal().Clear();
     return simulator;

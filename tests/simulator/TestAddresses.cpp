@@ -147,7 +147,7 @@ void TestAddresses::NetworksOfOneOrTwoAddressesHaveNoEnds()
     QFETCH(QByteArray, mask);
     QFETCH(QByteArray, address);
     QFETCH(unsigned int, expected);
-    CSimulator::Instance().SetNetworkFacts([&mask] {
+    CSimulator::Instance().Addresses().SetNetworkFacts([&mask] {
         SNetworkFacts facts;
         facts.listLocal = {{Value("10.0.0.5"), Value(mask.constData()), Value("10.0.0.5")}};
         return facts;
@@ -158,7 +158,7 @@ void TestAddresses::NetworksOfOneOrTwoAddressesHaveNoEnds()
 void TestAddresses::TheFactsAreAskedForOnRefreshAlone()
 {
     int nAsked = 0;
-    CSimulator::Instance().SetNetworkFacts([&nAsked] {
+    CSimulator::Instance().Addresses().SetNetworkFacts([&nAsked] {
         ++nAsked;
         return TestNetwork();
     });
@@ -167,7 +167,7 @@ void TestAddresses::TheFactsAreAskedForOnRefreshAlone()
     QCOMPARE(nAsked, 1);
     GetConfigData()->UpdateErrorIPList();
     QCOMPARE(nAsked, 2);
-    CSimulator::Instance().SetNetworkFacts(TestNetwork);
+    CSimulator::Instance().Addresses().SetNetworkFacts(TestNetwork);
 }
 
 void TestAddresses::AnAddedAddressIsInUseAtOnce()
@@ -197,7 +197,7 @@ void TestAddresses::ReplacingAnEntryTouchesItsListAlone()
     QCOMPARE(pConfig->GetCurSetSpecifiedIPWithIndex(0), Text("10.1.2.4(set)"));
     QCOMPARE(StoredList(), QStringList{Text("10.1.2.5(stored)")});
     QCOMPARE(pConfig->GetSpecifiedIPOriginal(0), Text("10.1.2.3(left)"));
-    QVERIFY(CSimulator::Instance().IsModified());
+    QVERIFY(CSimulator::Instance().Document().IsModified());
 }
 
 void TestAddresses::AnAddressOfTheListBeingSetIsInUse()
@@ -212,7 +212,7 @@ void TestAddresses::AReplacedAddressIsFreeAgain()
 {
     GetConfigData()->AddSpecifiedIP(Text("10.1.2.3"), QString());
     GetConfigData()->SetSpecifiedIPWithIndex(0, Text("10.1.2.4"), QString());
-    CSimulator::Instance().RevertCurrentSet();
+    CSimulator::Instance().Addresses().RevertCurrentSet();
     QCOMPARE(Code("10.1.2.3"), 0U);
 }
 
@@ -226,7 +226,7 @@ void TestAddresses::AnIndexOutsideTheListGivesNothingAndChangesNothing()
         QVERIFY(pConfig->GetCurSetSpecifiedIPWithIndex(nIndex).isEmpty());
         QVERIFY(pConfig->GetSpecifiedIPWithName(nIndex).isEmpty());
     }
-    QVERIFY(!CSimulator::Instance().IsModified());
+    QVERIFY(!CSimulator::Instance().Document().IsModified());
 }
 
 void TestAddresses::TheListAsNumbersHasTheFirstOctetOnTop()
@@ -261,8 +261,8 @@ void TestAddresses::RemovingAnEntryRemovesItFromAllLists()
 {
     GetConfigData()->AddSpecifiedIP(Text("10.0.0.1"), QString());
     GetConfigData()->AddSpecifiedIP(Text("10.0.0.2"), QString());
-    CSimulator::Instance().RemoveAddress(0);
-    CSimulator::Instance().RemoveAddress(7);
+    CSimulator::Instance().Addresses().Remove(0);
+    CSimulator::Instance().Addresses().Remove(7);
     const SAddressLists& lists = CSimulator::Instance().Project().addresses;
     const QStringList listExpected = {Text("10.0.0.2()")};
     QCOMPARE(lists.listStored, listExpected);
@@ -275,10 +275,10 @@ void TestAddresses::TheListBeingSetIsAppliedOrReverted()
     CConfigData* pConfig = GetConfigData();
     pConfig->AddSpecifiedIP(Text("10.0.0.1"), QString());
     pConfig->SetCurSetSpecifiedIPWithIndex(0, Text("10.0.0.2"), QString());
-    CSimulator::Instance().ApplyCurrentSet();
+    CSimulator::Instance().Addresses().ApplyCurrentSet();
     QCOMPARE(StoredList(), QStringList{Text("10.0.0.2()")});
     pConfig->SetCurSetSpecifiedIPWithIndex(0, Text("10.0.0.3"), QString());
-    CSimulator::Instance().RevertCurrentSet();
+    CSimulator::Instance().Addresses().RevertCurrentSet();
     QCOMPARE(pConfig->GetCurSetSpecifiedIPWithIndex(0), Text("10.0.0.2()"));
 }
 
@@ -286,29 +286,29 @@ void TestAddresses::SavingTheListSavesNothingElse()
 {
     const QTemporaryDir dir;
     CSimulator& simulator = CSimulator::Instance();
-    simulator.AddSender(16);
+    simulator.Document().AddSender(16);
     SFileProblem problem;
-    QVERIFY2(simulator.SaveAs(dir.filePath(Text("a.json")), problem), qPrintable(problem.Text()));
-    simulator.Change([](SSimulatedProject& project) { project.bDemoMode = false; });
+    QVERIFY2(simulator.Document().SaveAs(dir.filePath(Text("a.json")), problem), qPrintable(problem.Text()));
+    simulator.Document().Change([](SSimulatedProject& project) { project.bDemoMode = false; });
     GetConfigData()->AddSpecifiedIP(Text("10.0.0.1"), Text("left"));
     GetConfigData()->SpecifiedIPsSave();
     const std::optional<SSimulatedProject> saved = ProjectFile::Read(dir.filePath(Text("a.json")), problem);
     QVERIFY2(saved.has_value(), qPrintable(problem.Text()));
     QCOMPARE(saved->addresses.listStored, QStringList{Text("10.0.0.1(left)")});
     QVERIFY(saved->bDemoMode);
-    QVERIFY(simulator.IsModified());
-    simulator.Change([](SSimulatedProject& project) { project.bDemoMode = true; });
-    QVERIFY(!simulator.IsModified());
+    QVERIFY(simulator.Document().IsModified());
+    simulator.Document().Change([](SSimulatedProject& project) { project.bDemoMode = true; });
+    QVERIFY(!simulator.Document().IsModified());
 }
 
 void TestAddresses::SavingTheListOfAnUnsavedProjectWaits()
 {
     CSimulator& simulator = CSimulator::Instance();
-    QSignalSpy spyProblem(&simulator, &CSimulator::OnProblem);
+    QSignalSpy spyProblem(&simulator.Document(), &CProjectDocument::OnProblem);
     GetConfigData()->AddSpecifiedIP(Text("10.0.0.1"), QString());
     GetConfigData()->SpecifiedIPsSave();
     QCOMPARE(spyProblem.count(), 0);
-    QVERIFY(simulator.IsModified());
+    QVERIFY(simulator.Document().IsModified());
     QCOMPARE(StoredList().size(), 1);
 }
 
@@ -317,20 +317,20 @@ void TestAddresses::AListThatCannotBeSavedIsReported()
     CSimulator& simulator = CSimulator::Instance();
     QTemporaryDir dir;
     SFileProblem problem;
-    QVERIFY(simulator.SaveAs(dir.filePath(Text("a.json")), problem));
+    QVERIFY(simulator.Document().SaveAs(dir.filePath(Text("a.json")), problem));
     QVERIFY(dir.remove());
-    QSignalSpy spyProblem(&simulator, &CSimulator::OnProblem);
+    QSignalSpy spyProblem(&simulator.Document(), &CProjectDocument::OnProblem);
     GetConfigData()->AddSpecifiedIP(Text("10.0.0.1"), QString());
     GetConfigData()->SpecifiedIPsSave();
     QCOMPARE(spyProblem.count(), 1);
     QCOMPARE(spyProblem.at(0).at(0).value<SFileProblem>().strFile, dir.filePath(Text("a.json")));
-    QVERIFY(simulator.IsModified());
+    QVERIFY(simulator.Document().IsModified());
 }
 
 void TestAddresses::HowProcessorsAreAddressedCanBeSet()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.Change([](SSimulatedProject& project) {
+    simulator.Document().Change([](SSimulatedProject& project) {
         project.addressing.nDetectStrategy = 1;
         project.addressing.nCountLimitByIP = 100;
         project.addressing.nCountLimitOtherwise = 7;

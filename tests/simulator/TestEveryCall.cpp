@@ -174,8 +174,8 @@ void TestEveryCall::IsNotedAsItWasMade()
     QFETCH(QString, result);
     QFETCH(FuncCall, function);
     CSimulator& simulator = FreshSimulator();
-    simulator.AddSender(17);
-    simulator.Change([](SSimulatedProject& project) {
+    simulator.Document().AddSender(17);
+    simulator.Document().Change([](SSimulatedProject& project) {
         SSimulatedSender& sender = project.listSenders[0];
         sender.fMaxInputFrameRate = 59.94F;
         sender.outputLimitFlags = 0x800;

@@ -73,13 +73,13 @@ void TestKilledSave::AKillLeavesTheOldListOrTheNewOne()
     const QString strFile = dir.filePath(QStringLiteral("project.json"));
     CSimulator& simulator = FreshSimulator();
     SFileProblem problem;
-    QVERIFY2(simulator.SaveAs(strFile, problem), qPrintable(problem.Text()));
+    QVERIFY2(simulator.Document().SaveAs(strFile, problem), qPrintable(problem.Text()));
     QRandomGenerator random(20260102);
     int nSaved = 0;
     int nProgress = 0;
     for (int nKill = 0; nKill < c_nKills; ++nKill) {
         KillWhileSaving(nSaved, random.bounded(c_nLongestLife));
-        QVERIFY2(simulator.Open(strFile, problem), qPrintable(problem.Text()));
+        QVERIFY2(simulator.Document().Open(strFile, problem), qPrintable(problem.Text()));
         const QStringList listStored = simulator.Project().addresses.listStored;
         QVERIFY(listStored.size() >= nSaved);
         QCOMPARE(listStored, ExpectedList(listStored.size()));
@@ -87,7 +87,7 @@ void TestKilledSave::AKillLeavesTheOldListOrTheNewOne()
         nProgress += listStored.size() > nSaved ? 1 : 0;
         nSaved = listStored.size();
     }
-    QVERIFY2(simulator.SaveAs(strFile, problem), qPrintable(problem.Text()));
+    QVERIFY2(simulator.Document().SaveAs(strFile, problem), qPrintable(problem.Text()));
     QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden),
              QStringList{QStringLiteral("project.json")});
     // The kills fell among saves, not before them.

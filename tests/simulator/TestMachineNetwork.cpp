@@ -52,7 +52,7 @@ Q_DECLARE_METATYPE(STestNetwork)
 
 void TestMachineNetwork::init()
 {
-    FreshSimulator().SetNetworkFacts(MachineNetworkFacts);
+    FreshSimulator().Addresses().SetNetworkFacts(MachineNetworkFacts);
 }
 
 void TestMachineNetwork::TheVerdictsFollowTheNetwork_data()
@@ -117,8 +117,8 @@ void TestMachineNetwork::WithoutANetworkLoopbackIsLeft()
     GetConfigData()->UpdateErrorIPList();
     QCOMPARE(Code("127.0.0.1"), 0xE0832000U);
     QCOMPARE(Code("127.0.0.2"), 0U);
-    QCOMPARE(CSimulator::Instance().NetworkFacts().listLocal.size(), 1);
-    QVERIFY(CSimulator::Instance().NetworkFacts().listGateways.isEmpty());
+    QCOMPARE(CSimulator::Instance().Addresses().NetworkFacts().listLocal.size(), 1);
+    QVERIFY(CSimulator::Instance().Addresses().NetworkFacts().listGateways.isEmpty());
 }
 
 int main(int nArguments, char** arrArguments)

@@ -52,8 +52,8 @@ void TestPictures::init()
 {
     m_dir = std::make_unique<QTemporaryDir>();
     CSimulator& simulator = FreshSimulator();
-    simulator.AddSender(16);
-    simulator.AddSender(17);
+    simulator.Document().AddSender(16);
+    simulator.Document().AddSender(17);
 }
 
 void TestPictures::ThePictureStandsInThePictureFolder()
@@ -73,7 +73,7 @@ void TestPictures::EachSenderHasAPictureOfItsOwn()
 void TestPictures::TheFolderStandsBesideTheProjectFile()
 {
     SFileProblem problem;
-    QVERIFY(CSimulator::Instance().SaveAs(Path("工程 1.json"), problem));
+    QVERIFY(CSimulator::Instance().Document().SaveAs(Path("工程 1.json"), problem));
     QCOMPARE(GetConstantData()->GetBKImagePath(), Path("工程 1.pictures"));
     QVERIFY2(!QFileInfo::exists(Path("工程 1.pictures")), "the dialog creates it when there is a picture");
 }
@@ -82,9 +82,9 @@ void TestPictures::SavingTakesThePicturesAlong()
 {
     QVERIFY(WritePicture(PictureOf(1), "picture"));
     SFileProblem problem;
-    QVERIFY(CSimulator::Instance().SaveAs(Path("a.json"), problem));
+    QVERIFY(CSimulator::Instance().Document().SaveAs(Path("a.json"), problem));
     QCOMPARE(ReadPicture(PictureOf(1)), QByteArray("picture"));
-    QVERIFY(CSimulator::Instance().SaveAs(Path("b.json"), problem));
+    QVERIFY(CSimulator::Instance().Document().SaveAs(Path("b.json"), problem));
     QCOMPARE(ReadPicture(PictureOf(1)), QByteArray("picture"));
     QVERIFY(QFileInfo::exists(Path("a.pictures/sender-2")));
 }
@@ -93,7 +93,7 @@ void TestPictures::AnotherProjectsPicturesDoNotComeUpInThisOne()
 {
     QVERIFY(WritePicture(Path("a.pictures/sender-1"), "of the project that is overwritten"));
     SFileProblem problem;
-    QVERIFY(CSimulator::Instance().SaveAs(Path("a.json"), problem));
+    QVERIFY(CSimulator::Instance().Document().SaveAs(Path("a.json"), problem));
     QVERIFY(!QFileInfo::exists(PictureOf(0)));
 }
 
@@ -102,7 +102,7 @@ void TestPictures::NothingElseInTheFolderIsTouched()
     QVERIFY(WritePicture(Path("a.pictures/holiday.jpg"), "holiday"));
     QVERIFY(WritePicture(PictureOf(0), "picture"));
     SFileProblem problem;
-    QVERIFY(CSimulator::Instance().SaveAs(Path("a.json"), problem));
+    QVERIFY(CSimulator::Instance().Document().SaveAs(Path("a.json"), problem));
     QCOMPARE(ReadPicture(Path("a.pictures/holiday.jpg")), QByteArray("holiday"));
 }
 
@@ -110,7 +110,7 @@ void TestPictures::AnUnsavedProjectsPicturesGoWithIt()
 {
     const QString strFolder = GetConstantData()->GetBKImagePath();
     QVERIFY(QFileInfo(strFolder).isDir());
-    CSimulator::Instance().NewEmptyProject();
+    CSimulator::Instance().Document().NewEmptyProject();
     QVERIFY(!QFileInfo::exists(strFolder));
 }
 
@@ -118,9 +118,9 @@ void TestPictures::PicturesThatCannotBeCopiedAreReported()
 {
     QVERIFY(WritePicture(PictureOf(0), "picture"));
     QVERIFY(WritePicture(Path("a.pictures"), "a file where the folder should be"));
-    QSignalSpy spyProblem(&CSimulator::Instance(), &CSimulator::OnProblem);
+    QSignalSpy spyProblem(&CSimulator::Instance().Document(), &CProjectDocument::OnProblem);
     SFileProblem problem;
-    QVERIFY(CSimulator::Instance().SaveAs(Path("a.json"), problem));
+    QVERIFY(CSimulator::Instance().Document().SaveAs(Path("a.json"), problem));
     QCOMPARE(spyProblem.count(), 1);
     QCOMPARE(ReadPicture(Path("a.pictures")), QByteArray("a file where the folder should be"));
 }

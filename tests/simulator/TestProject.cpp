@@ -34,19 +34,19 @@ void TestProject::init()
 void TestProject::ANewProjectHoldsTheSixDemoSenders()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.NewProject();
+    simulator.Document().NewProject();
     QStringList listNames;
     for (const SSimulatedSender& sender : simulator.Project().listSenders)
         listNames.append(sender.strName);
     QCOMPARE(listNames.join(QLatin1Char('|')), QStringLiteral("M6K|R16 PRO|T4|T6|T6 PRO|T8"));
-    QVERIFY(!simulator.IsModified());
-    QVERIFY(simulator.FilePath().isEmpty());
+    QVERIFY(!simulator.Document().IsModified());
+    QVERIFY(simulator.Document().FilePath().isEmpty());
 }
 
 void TestProject::ACatalogueProjectHoldsOneSenderOfEachType()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.NewCatalogueProject();
+    simulator.Document().NewCatalogueProject();
     QList<int> listTypes;
     for (const SSimulatedSender& sender : simulator.Project().listSenders)
         listTypes.append(sender.capability.nType);
@@ -56,37 +56,37 @@ void TestProject::ACatalogueProjectHoldsOneSenderOfEachType()
 void TestProject::AnUnknownTypeIsNotAdded()
 {
     CSimulator& simulator = CSimulator::Instance();
-    QCOMPARE(simulator.AddSender(9999), -1);
+    QCOMPARE(simulator.Document().AddSender(9999), -1);
     QVERIFY(simulator.Project().listSenders.empty());
-    QVERIFY(!simulator.NewDemoProject(0));
+    QVERIFY(!simulator.Document().NewDemoProject(0));
 }
 
 void TestProject::SendersGetIdsThatAreNeverUsedAgain()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.AddSender(16);
-    simulator.AddSender(17);
-    const QString strPicture = simulator.PictureName(1);
-    simulator.RemoveSender(0);
-    QCOMPARE(simulator.PictureName(0), strPicture);
-    simulator.AddSender(16);
+    simulator.Document().AddSender(16);
+    simulator.Document().AddSender(17);
+    const QString strPicture = simulator.Document().PictureName(1);
+    simulator.Document().RemoveSender(0);
+    QCOMPARE(simulator.Document().PictureName(0), strPicture);
+    simulator.Document().AddSender(16);
     QCOMPARE(simulator.Project().FindSender(1)->nId, 3);
 }
 
 void TestProject::WithoutIdsNoSenderIsAdded()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.Change([](SSimulatedProject& project) { project.nNextSenderId = c_nLastSenderId; });
-    QCOMPARE(simulator.AddSenders(16, 3, 4), 1);
-    QCOMPARE(simulator.AddSender(16), -1);
+    simulator.Document().Change([](SSimulatedProject& project) { project.nNextSenderId = c_nLastSenderId; });
+    QCOMPARE(simulator.Document().AddSenders(16, 3, 4), 1);
+    QCOMPARE(simulator.Document().AddSender(16), -1);
     QCOMPARE(simulator.Project().listSenders.back().nId, c_nLastSenderId);
 }
 
 void TestProject::SendersAddedTogetherAreAnnouncedOnce()
 {
     CSimulator& simulator = CSimulator::Instance();
-    QSignalSpy spyChanged(&simulator, &CSimulator::OnProjectChanged);
-    QCOMPARE(simulator.AddSenders(16, 5, 8), 5);
+    QSignalSpy spyChanged(&simulator.Document(), &CProjectDocument::OnProjectChanged);
+    QCOMPARE(simulator.Document().AddSenders(16, 5, 8), 5);
     QCOMPARE(spyChanged.count(), 1);
     QCOMPARE(int(simulator.Project().listSenders.size()), 5);
     QCOMPARE(simulator.Project().listSenders.back().record.nOutputPortCount, 8);
@@ -111,55 +111,55 @@ void TestProject::RemovingASenderKeepsTheCurrentOne()
     QFETCH(int, expected);
     CSimulator& simulator = CSimulator::Instance();
     for (const int nType : {16, 17, 21})
-        simulator.AddSender(nType);
-    simulator.SetCurrentSender(current);
-    simulator.RemoveSender(removed);
+        simulator.Document().AddSender(nType);
+    simulator.Document().SetCurrentSender(current);
+    simulator.Document().RemoveSender(removed);
     QCOMPARE(simulator.Project().nCurSender, expected);
 }
 
 void TestProject::AnIndexWithoutASenderIsNeverCurrent()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.AddSender(16);
-    simulator.SetCurrentSender(1);
-    simulator.SetCurrentSender(-1);
+    simulator.Document().AddSender(16);
+    simulator.Document().SetCurrentSender(1);
+    simulator.Document().SetCurrentSender(-1);
     QCOMPARE(simulator.Project().nCurSender, 0);
 }
 
 void TestProject::AChangeIsAnnouncedOnceAndMarksTheProject()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.NewProject();
-    QSignalSpy spyChanged(&simulator, &CSimulator::OnProjectChanged);
-    QSignalSpy spyModified(&simulator, &CSimulator::OnModifiedChanged);
-    simulator.Change([](SSimulatedProject& project) {
+    simulator.Document().NewProject();
+    QSignalSpy spyChanged(&simulator.Document(), &CProjectDocument::OnProjectChanged);
+    QSignalSpy spyModified(&simulator.Document(), &CProjectDocument::OnModifiedChanged);
+    simulator.Document().Change([](SSimulatedProject& project) {
         project.listSenders[0].record.nFrameRate = 30;
         project.listSenders[1].nOutputDepthMode = 2;
     });
-    simulator.Change([](SSimulatedProject&) {});
+    simulator.Document().Change([](SSimulatedProject&) {});
     QCOMPARE(spyChanged.count(), 1);
     QCOMPARE(spyModified.count(), 1);
-    QVERIFY(simulator.IsModified());
+    QVERIFY(simulator.Document().IsModified());
 }
 
 void TestProject::AChangeTakenBackLeavesTheProjectUnmodified()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.NewProject();
-    simulator.Change([](SSimulatedProject& project) { project.bDemoMode = false; });
-    simulator.Change([](SSimulatedProject& project) { project.bDemoMode = true; });
-    QVERIFY(!simulator.IsModified());
+    simulator.Document().NewProject();
+    simulator.Document().Change([](SSimulatedProject& project) { project.bDemoMode = false; });
+    simulator.Document().Change([](SSimulatedProject& project) { project.bDemoMode = true; });
+    QVERIFY(!simulator.Document().IsModified());
 }
 
 void TestProject::AFieldWrittenInPlaceIsNoticed()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.NewProject();
-    QSignalSpy spyChanged(&simulator, &CSimulator::OnProjectChanged);
+    simulator.Document().NewProject();
+    QSignalSpy spyChanged(&simulator.Document(), &CProjectDocument::OnProjectChanged);
     GetProjectData()->GetCurrentSender();
     GetProjectData()->GetCurrentSender()->nColorDepth = 12;
     QTRY_COMPARE(spyChanged.count(), 1);
-    QVERIFY(simulator.IsModified());
+    QVERIFY(simulator.Document().IsModified());
 }
 
 void TestProject::TheRecordOfAnEmptyProjectStandsForSenderZero()
@@ -187,9 +187,9 @@ void TestProject::OnlyAWholeBlockEntersTheEdidMemory()
     QFETCH(int, length);
     QFETCH(bool, expected);
     CSimulator& simulator = CSimulator::Instance();
-    simulator.AddSender(17);
+    simulator.Document().AddSender(17);
     const QByteArray baBlock(length, '\x5a');
-    QCOMPARE(simulator.SetEdidMemory(0, interfaceId, baBlock), expected);
+    QCOMPARE(simulator.Hardware().SetEdidMemory(0, interfaceId, baBlock), expected);
     if (expected)
         QCOMPARE(simulator.Project().FindSender(0)->FindInput(interfaceId)->baEdid, baBlock);
 }

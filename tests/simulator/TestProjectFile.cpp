@@ -81,37 +81,37 @@ private:
 void TestProjectFile::init()
 {
     m_dir = std::make_unique<QTemporaryDir>();
-    FreshSimulator().AddSender(17);
+    FreshSimulator().Document().AddSender(17);
 }
 
 void TestProjectFile::ASavedProjectOpensAsItWas()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.SetEdidMemory(0, 16, QByteArray(c_nEdidBlockSize, '\x12'));
+    simulator.Hardware().SetEdidMemory(0, 16, QByteArray(c_nEdidBlockSize, '\x12'));
     const QJsonObject before = ProjectToJson(simulator.Project());
     SFileProblem problem;
-    QVERIFY2(simulator.SaveAs(Path("a.json"), problem), qPrintable(problem.Text()));
-    simulator.NewEmptyProject();
-    QVERIFY2(simulator.Open(Path("a.json"), problem), qPrintable(problem.Text()));
+    QVERIFY2(simulator.Document().SaveAs(Path("a.json"), problem), qPrintable(problem.Text()));
+    simulator.Document().NewEmptyProject();
+    QVERIFY2(simulator.Document().Open(Path("a.json"), problem), qPrintable(problem.Text()));
     QCOMPARE(ProjectToJson(simulator.Project()), before);
 }
 
 void TestProjectFile::OpeningAndSavingTellWhatTheyDid()
 {
     CSimulator& simulator = CSimulator::Instance();
-    QSignalSpy spyPath(&simulator, &CSimulator::OnFilePathChanged);
-    QSignalSpy spyReplaced(&simulator, &CSimulator::OnProjectReplaced);
-    QVERIFY(simulator.IsModified());
+    QSignalSpy spyPath(&simulator.Document(), &CProjectDocument::OnFilePathChanged);
+    QSignalSpy spyReplaced(&simulator.Document(), &CProjectDocument::OnProjectReplaced);
+    QVERIFY(simulator.Document().IsModified());
     SFileProblem problem;
-    QVERIFY(simulator.SaveAs(Path("a.json"), problem));
-    QVERIFY(!simulator.IsModified());
-    QCOMPARE(simulator.FilePath(), Path("a.json"));
+    QVERIFY(simulator.Document().SaveAs(Path("a.json"), problem));
+    QVERIFY(!simulator.Document().IsModified());
+    QCOMPARE(simulator.Document().FilePath(), Path("a.json"));
     QCOMPARE(spyPath.count(), 1);
-    simulator.Change([](SSimulatedProject& project) { project.bDemoMode = false; });
-    QVERIFY(simulator.IsModified());
-    QVERIFY(simulator.Save(problem));
-    QVERIFY(!simulator.IsModified());
-    QVERIFY(simulator.Open(Path("a.json"), problem));
+    simulator.Document().Change([](SSimulatedProject& project) { project.bDemoMode = false; });
+    QVERIFY(simulator.Document().IsModified());
+    QVERIFY(simulator.Document().Save(problem));
+    QVERIFY(!simulator.Document().IsModified());
+    QVERIFY(simulator.Document().Open(Path("a.json"), problem));
     QCOMPARE(spyReplaced.count(), 1);
     QVERIFY(!simulator.Project().bDemoMode);
 }
@@ -120,8 +120,8 @@ void TestProjectFile::ANameInChineseWithSpacesWorks()
 {
     CSimulator& simulator = CSimulator::Instance();
     SFileProblem problem;
-    QVERIFY2(simulator.SaveAs(Path("演示 工程.json"), problem), qPrintable(problem.Text()));
-    QVERIFY2(simulator.Open(Path("演示 工程.json"), problem), qPrintable(problem.Text()));
+    QVERIFY2(simulator.Document().SaveAs(Path("演示 工程.json"), problem), qPrintable(problem.Text()));
+    QVERIFY2(simulator.Document().Open(Path("演示 工程.json"), problem), qPrintable(problem.Text()));
 }
 
 void TestProjectFile::WhatIsWrongWithAFileIsSaid_data()
@@ -173,18 +173,18 @@ void TestProjectFile::AFileThatCannotBeOpenedLeavesTheProject()
     CSimulator& simulator = CSimulator::Instance();
     const QJsonObject before = ProjectToJson(simulator.Project());
     QVERIFY(WriteBytes(Path("a.json"), "{"));
-    QSignalSpy spyReplaced(&simulator, &CSimulator::OnProjectReplaced);
+    QSignalSpy spyReplaced(&simulator.Document(), &CProjectDocument::OnProjectReplaced);
     SFileProblem problem;
-    QVERIFY(!simulator.Open(Path("a.json"), problem));
+    QVERIFY(!simulator.Document().Open(Path("a.json"), problem));
     QCOMPARE(ProjectToJson(simulator.Project()), before);
     QCOMPARE(spyReplaced.count(), 0);
-    QVERIFY(simulator.FilePath().isEmpty());
+    QVERIFY(simulator.Document().FilePath().isEmpty());
 }
 
 void TestProjectFile::AMissingFileIsAProblem()
 {
     SFileProblem problem;
-    QVERIFY(!CSimulator::Instance().Open(Path("missing.json"), problem));
+    QVERIFY(!CSimulator::Instance().Document().Open(Path("missing.json"), problem));
     QVERIFY(problem.IsSet());
     QVERIFY(!QFileInfo::exists(Path("missing.json")));
 }
@@ -192,9 +192,9 @@ void TestProjectFile::AMissingFileIsAProblem()
 void TestProjectFile::AFolderIsNoFile()
 {
     SFileProblem problem;
-    QVERIFY(!CSimulator::Instance().Open(m_dir->path(), problem));
+    QVERIFY(!CSimulator::Instance().Document().Open(m_dir->path(), problem));
     QVERIFY(problem.IsSet());
-    QVERIFY(!CSimulator::Instance().SaveAs(m_dir->path(), problem));
+    QVERIFY(!CSimulator::Instance().Document().SaveAs(m_dir->path(), problem));
     QVERIFY(problem.IsSet());
 }
 
@@ -221,11 +221,11 @@ void TestProjectFile::ABrokenFileIsKeptBesideTheNewOne()
     QVERIFY(WriteBytes(Path("a.json"), content));
     CSimulator& simulator = CSimulator::Instance();
     SFileProblem problem;
-    QVERIFY2(simulator.SaveAs(Path("a.json"), problem), qPrintable(problem.Text()));
-    QVERIFY(simulator.KeptFile().startsWith(Path("a.broken-")));
-    QVERIFY(simulator.KeptFile().endsWith(Text(".json")));
-    QCOMPARE(ReadBytes(simulator.KeptFile()), content);
-    QVERIFY(simulator.Open(Path("a.json"), problem));
+    QVERIFY2(simulator.Document().SaveAs(Path("a.json"), problem), qPrintable(problem.Text()));
+    QVERIFY(simulator.Document().KeptFile().startsWith(Path("a.broken-")));
+    QVERIFY(simulator.Document().KeptFile().endsWith(Text(".json")));
+    QCOMPARE(ReadBytes(simulator.Document().KeptFile()), content);
+    QVERIFY(simulator.Document().Open(Path("a.json"), problem));
 }
 
 void TestProjectFile::EveryKeptFileHasANameOfItsOwn()
@@ -235,9 +235,9 @@ void TestProjectFile::EveryKeptFileHasANameOfItsOwn()
     QSet<QString> setKept;
     for (const char* szContent : {"one", "two", "three"}) {
         QVERIFY(WriteBytes(Path("a.json"), szContent));
-        QVERIFY(simulator.SaveAs(Path("a.json"), problem));
-        QCOMPARE(ReadBytes(simulator.KeptFile()), QByteArray(szContent));
-        setKept.insert(simulator.KeptFile());
+        QVERIFY(simulator.Document().SaveAs(Path("a.json"), problem));
+        QCOMPARE(ReadBytes(simulator.Document().KeptFile()), QByteArray(szContent));
+        setKept.insert(simulator.Document().KeptFile());
     }
     QCOMPARE(setKept.size(), 3);
     QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files).size(), 4);
@@ -247,10 +247,10 @@ void TestProjectFile::AGoodFileIsReplaced()
 {
     CSimulator& simulator = CSimulator::Instance();
     SFileProblem problem;
-    QVERIFY(simulator.SaveAs(Path("a.json"), problem));
-    simulator.AddSender(16);
-    QVERIFY(simulator.Save(problem));
-    QVERIFY(simulator.KeptFile().isEmpty());
+    QVERIFY(simulator.Document().SaveAs(Path("a.json"), problem));
+    simulator.Document().AddSender(16);
+    QVERIFY(simulator.Document().Save(problem));
+    QVERIFY(simulator.Document().KeptFile().isEmpty());
     QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList{Text("a.json")});
 }
 
@@ -260,36 +260,37 @@ void TestProjectFile::ABrokenFileThatCannotBeKeptIsNotOverwritten()
     const QString strFile = m_dir->filePath(QString(250, QLatin1Char('a')) + Text(".json"));
     QVERIFY(WriteBytes(strFile, "buy milk"));
     SFileProblem problem;
-    QVERIFY(!CSimulator::Instance().SaveAs(strFile, problem));
+    QVERIFY(!CSimulator::Instance().Document().SaveAs(strFile, problem));
     QVERIFY2(problem.strWhat.contains(Text("not overwritten")), qPrintable(problem.strWhat));
     QCOMPARE(ReadBytes(strFile), QByteArray("buy milk"));
-    QVERIFY(CSimulator::Instance().IsModified());
+    QVERIFY(CSimulator::Instance().Document().IsModified());
 }
 
 void TestProjectFile::WhatCouldNotBeReadBackIsNotWritten()
 {
     CSimulator& simulator = CSimulator::Instance();
     SFileProblem problem;
-    QVERIFY(simulator.SaveAs(Path("a.json"), problem));
+    QVERIFY(simulator.Document().SaveAs(Path("a.json"), problem));
     const QByteArray baBefore = ReadBytes(Path("a.json"));
-    simulator.Change([](SSimulatedProject& project) { project.listSenders[0].record.nFrameRate = 5000; });
-    QVERIFY(!simulator.Save(problem));
+    simulator.Document().Change(
+        [](SSimulatedProject& project) { project.listSenders[0].record.nFrameRate = 5000; });
+    QVERIFY(!simulator.Document().Save(problem));
     QCOMPARE(problem.strPlace, Text("senders[0].record.frameRate"));
     QCOMPARE(ReadBytes(Path("a.json")), baBefore);
-    QVERIFY(simulator.IsModified());
+    QVERIFY(simulator.Document().IsModified());
 }
 
 void TestProjectFile::AProjectWithoutAFileAsksForOne()
 {
     SFileProblem problem;
-    QVERIFY(!CSimulator::Instance().Save(problem));
+    QVERIFY(!CSimulator::Instance().Document().Save(problem));
     QVERIFY(problem.IsSet());
 }
 
 void TestProjectFile::AFolderThatIsNotThereIsAProblem()
 {
     SFileProblem problem;
-    QVERIFY(!CSimulator::Instance().SaveAs(Path("missing/a.json"), problem));
+    QVERIFY(!CSimulator::Instance().Document().SaveAs(Path("missing/a.json"), problem));
     QVERIFY(problem.IsSet());
     QVERIFY(!QFileInfo::exists(Path("missing")));
 }
@@ -299,9 +300,9 @@ void TestProjectFile::APipeIsNeitherReadNorReplaced()
     const QByteArray baPipe = QFile::encodeName(Path("pipe.json"));
     QCOMPARE(mkfifo(baPipe.constData(), 0600), 0);
     SFileProblem problem;
-    QVERIFY(!CSimulator::Instance().Open(Path("pipe.json"), problem));
+    QVERIFY(!CSimulator::Instance().Document().Open(Path("pipe.json"), problem));
     QVERIFY2(problem.strWhat.contains(Text("regular file")), qPrintable(problem.strWhat));
-    QVERIFY(!CSimulator::Instance().SaveAs(Path("pipe.json"), problem));
+    QVERIFY(!CSimulator::Instance().Document().SaveAs(Path("pipe.json"), problem));
     QVERIFY2(problem.strWhat.contains(Text("regular file")), qPrintable(problem.strWhat));
     struct stat status = {};
     QCOMPARE(stat(baPipe.constData(), &status), 0);
@@ -324,7 +325,7 @@ void TestProjectFile::WhatAKilledSaveLeftIsRemovedByTheNext()
     for (const char* szName : {".a.json.saving-999999999", ".a.json.saving-999999999.AbCdEf"})
         QVERIFY(WriteBytes(Path(szName), "half a pro"));
     SFileProblem problem;
-    QVERIFY2(CSimulator::Instance().SaveAs(Path("a.json"), problem), qPrintable(problem.Text()));
+    QVERIFY2(CSimulator::Instance().Document().SaveAs(Path("a.json"), problem), qPrintable(problem.Text()));
     QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden), QStringList{Text("a.json")});
 }
 
@@ -335,7 +336,7 @@ void TestProjectFile::FilesOfTheOperatorsOwnStay()
     for (const QString& strName : listOwn)
         QVERIFY(WriteBytes(m_dir->filePath(strName), "mine"));
     SFileProblem problem;
-    QVERIFY(CSimulator::Instance().SaveAs(Path("a.json"), problem));
+    QVERIFY(CSimulator::Instance().Document().SaveAs(Path("a.json"), problem));
     for (const QString& strName : listOwn)
         QCOMPARE(ReadBytes(m_dir->filePath(strName)), QByteArray("mine"));
 }
@@ -345,18 +346,19 @@ void TestProjectFile::AnotherProcessesSaveStays()
     // Process 1 runs as long as the system does.
     QVERIFY(WriteBytes(Path(".a.json.saving-1"), "half a pro"));
     SFileProblem problem;
-    QVERIFY(CSimulator::Instance().SaveAs(Path("a.json"), problem));
+    QVERIFY(CSimulator::Instance().Document().SaveAs(Path("a.json"), problem));
     QCOMPARE(ReadBytes(Path(".a.json.saving-1")), QByteArray("half a pro"));
 }
 
 void TestProjectFile::ALinkStaysALink()
 {
     SFileProblem problem;
-    QVERIFY(CSimulator::Instance().SaveAs(Path("a.json"), problem));
+    QVERIFY(CSimulator::Instance().Document().SaveAs(Path("a.json"), problem));
     QVERIFY(QFile::link(Path("a.json"), Path("link.json")));
     QVERIFY(QFile::setPermissions(Path("a.json"), QFile::ReadOwner | QFile::WriteOwner));
-    CSimulator::Instance().AddSender(16);
-    QVERIFY2(CSimulator::Instance().SaveAs(Path("link.json"), problem), qPrintable(problem.Text()));
+    CSimulator::Instance().Document().AddSender(16);
+    QVERIFY2(CSimulator::Instance().Document().SaveAs(Path("link.json"), problem),
+             qPrintable(problem.Text()));
     QVERIFY(QFileInfo(Path("link.json")).isSymLink());
     QCOMPARE(int(ProjectFile::Read(Path("a.json"), problem)->listSenders.size()), 2);
     QCOMPARE(QFile::permissions(Path("a.json")) & (QFile::ReadGroup | QFile::ReadOther),

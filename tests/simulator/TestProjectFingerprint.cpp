@@ -11,7 +11,7 @@ namespace {
 SSimulatedProject FullProject()
 {
     CSimulator& simulator = FreshSimulator();
-    simulator.AddSender(17);
+    simulator.Document().AddSender(17);
     SSimulatedProject project = simulator.Project();
     SSimulatedSender& sender = project.listSenders.front();
     sender.outputLimitFlags = 0x800;
@@ -127,9 +127,9 @@ void TestProjectFingerprint::AChangeNamesItsSender()
 void TestProjectFingerprint::AddedAndRemovedSendersChangeTheList()
 {
     CSimulator& simulator = FreshSimulator();
-    simulator.AddSender(16);
+    simulator.Document().AddSender(16);
     const SProjectFingerprint one = FingerprintOf(simulator.Project());
-    simulator.AddSender(16);
+    simulator.Document().AddSender(16);
     const SProjectFingerprint two = FingerprintOf(simulator.Project());
     QVERIFY(Difference(one, two).bSenderList);
     QCOMPARE(Difference(one, two).setSenderIds, QSet<int>{2});

@@ -9,10 +9,10 @@ namespace {
 SSimulatedProject FullProject()
 {
     CSimulator& simulator = FreshSimulator();
-    simulator.AddSender(16, QStringLiteral("左屏 (main)"));
-    simulator.AddSender(17);
-    simulator.SetEdidMemory(1, 16, QByteArray(c_nEdidBlockSize, '\xff'));
-    simulator.Change([](SSimulatedProject& project) {
+    simulator.Document().AddSender(16, QStringLiteral("左屏 (main)"));
+    simulator.Document().AddSender(17);
+    simulator.Hardware().SetEdidMemory(1, 16, QByteArray(c_nEdidBlockSize, '\xff'));
+    simulator.Document().Change([](SSimulatedProject& project) {
         SSimulatedSender& sender = project.listSenders[1];
         sender.outputLimitFlags = 0xFFFFFFFFU;
         sender.fMaxInputFrameRate = 59.94F;
@@ -114,8 +114,8 @@ void TestProjectJson::RandomProjectsComeBackAsTheyWere()
     for (int nRun = 0; nRun < 40; ++nRun) {
         CSimulator& simulator = FreshSimulator();
         for (int nSender = random.bounded(4); nSender >= 0; --nSender)
-            simulator.AddSender(listTypes.at(random.bounded(listTypes.size())));
-        simulator.Change([&random](SSimulatedProject& project) {
+            simulator.Document().AddSender(listTypes.at(random.bounded(listTypes.size())));
+        simulator.Document().Change([&random](SSimulatedProject& project) {
             for (SSimulatedSender& sender : project.listSenders) {
                 sender.record.nFrameRate = random.bounded(1001);
                 sender.record.BkImageAlpha = quint8(random.bounded(256));

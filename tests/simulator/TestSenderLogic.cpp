@@ -81,8 +81,8 @@ void TestSenderLogic::ASendersAnswersAreItsCapabilities()
 {
     QFETCH(int, type);
     CSimulator& simulator = CSimulator::Instance();
-    simulator.AddSender(10);
-    const int nSender = simulator.AddSender(type);
+    simulator.Document().AddSender(10);
+    const int nSender = simulator.Document().AddSender(type);
     const SSenderCapability capability = simulator.Project().FindSender(nSender)->capability;
     CSenderLogic* pLogic = GetHwSenderLogic();
     QCOMPARE(pLogic->GetSenderType(nSender), type);
@@ -108,18 +108,18 @@ void TestSenderLogic::ASenderThatIsNotThereCanDoNothing()
 void TestSenderLogic::TheFullEdidRecordIsTheCurrentSendersMatter()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.AddSender(16);
-    simulator.AddSender(17);
+    simulator.Document().AddSender(16);
+    simulator.Document().AddSender(17);
     QVERIFY(!GetHwSenderLogic()->IsExtendedEdidSupported());
-    simulator.SetCurrentSender(1);
+    simulator.Document().SetCurrentSender(1);
     QVERIFY(GetHwSenderLogic()->IsExtendedEdidSupported());
 }
 
 void TestSenderLogic::TheCanvasLimitOverwritesThePresets()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.AddSender(17);
-    simulator.Change([](SSimulatedProject& project) {
+    simulator.Document().AddSender(17);
+    simulator.Document().Change([](SSimulatedProject& project) {
         project.listSenders[0].capability.canvasLimit = {3840, 2000, 999};
     });
     SCanvasLimit limit;
@@ -132,8 +132,8 @@ void TestSenderLogic::TheCanvasLimitOverwritesThePresets()
 void TestSenderLogic::TheHardwareKeepsDepthAndRate()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.AddSender(17);
-    QSignalSpy spyChanged(&simulator, &CSimulator::OnProjectChanged);
+    simulator.Document().AddSender(17);
+    QSignalSpy spyChanged(&simulator.Document(), &CProjectDocument::OnProjectChanged);
     GetHwSenderLogic()->SetOutputDepthMode(0, 2, 1);
     GetHwSenderLogic()->SetOutput50Hz(0, true, 0);
     QCOMPARE(GetHwSenderLogic()->GetOutputDepthMode(0), 2);
@@ -145,16 +145,17 @@ void TestSenderLogic::AWriteToASenderThatIsNotThereChangesNothing()
 {
     GetHwSenderLogic()->SetOutputDepthMode(0, 2, 1);
     GetHwSenderLogic()->SetOutput50Hz(-1, true, 0);
-    QVERIFY(!CSimulator::Instance().IsModified());
+    QVERIFY(!CSimulator::Instance().Document().IsModified());
 }
 
 void TestSenderLogic::ASlowSenderTakesItsTimeForWrites()
 {
     CSimulator& simulator = CSimulator::Instance();
     QList<int> listSleeps;
-    simulator.SetSleep([&listSleeps](int nMilliseconds) { listSleeps.append(nMilliseconds); });
-    simulator.AddSender(17);
-    simulator.Change([](SSimulatedProject& project) { project.listSenders[0].faults.nWriteDelay = 250; });
+    simulator.Hardware().SetSleep([&listSleeps](int nMilliseconds) { listSleeps.append(nMilliseconds); });
+    simulator.Document().AddSender(17);
+    simulator.Document().Change(
+        [](SSimulatedProject& project) { project.listSenders[0].faults.nWriteDelay = 250; });
     GetHwSenderLogic()->SetOutputDepthMode(0, 1, 1);
     GetHwSenderLogic()->SetOutput50Hz(0, true, 0);
     QCOMPARE(listSleeps, QList<int>({250, 250}));
@@ -164,9 +165,10 @@ void TestSenderLogic::ReadsOfASlowSenderAreNotSlow()
 {
     CSimulator& simulator = CSimulator::Instance();
     int nSleeps = 0;
-    simulator.SetSleep([&nSleeps](int) { ++nSleeps; });
-    simulator.AddSender(17);
-    simulator.Change([](SSimulatedProject& project) { project.listSenders[0].faults.nWriteDelay = 250; });
+    simulator.Hardware().SetSleep([&nSleeps](int) { ++nSleeps; });
+    simulator.Document().AddSender(17);
+    simulator.Document().Change(
+        [](SSimulatedProject& project) { project.listSenders[0].faults.nWriteDelay = 250; });
     GetHwSenderLogic()->GetOutputDepthMode(0);
     GetHwSenderLogic()->GetHardwareCanvasSize(0);
     QCOMPARE(nSleeps, 0);
@@ -176,16 +178,16 @@ void TestSenderLogic::ProcessorsAreCountedUnlessACountIsSet()
 {
     CSimulator& simulator = CSimulator::Instance();
     QCOMPARE(GetHwSenderLogic()->GetAddedSenderCount(), 0);
-    simulator.AddSender(17);
+    simulator.Document().AddSender(17);
     QCOMPARE(GetHwSenderLogic()->GetAddedSenderCount(), 1);
-    simulator.Change([](SSimulatedProject& project) { project.addressing.nAddedSenderCount = 0; });
+    simulator.Document().Change([](SSimulatedProject& project) { project.addressing.nAddedSenderCount = 0; });
     QCOMPARE(GetHwSenderLogic()->GetAddedSenderCount(), 0);
     QVERIFY(GetHwSenderLogic()->IsIPAddressMode());
 }
 
 void TestSenderLogic::DetectedAddressesHaveTheFirstOctetInTheLowByte()
 {
-    CSimulator::Instance().Change([](SSimulatedProject& project) {
+    CSimulator::Instance().Document().Change([](SSimulatedProject& project) {
         project.addressing.listDetected = QStringList{Text("192.168.1.17"), Text("10.0.0.1")};
     });
     std::array<unsigned int, 255> arrTable = {};
@@ -197,7 +199,7 @@ void TestSenderLogic::DetectedAddressesHaveTheFirstOctetInTheLowByte()
 
 void TestSenderLogic::TheTableOfDetectedAddressesIsNeverOverrun()
 {
-    CSimulator::Instance().Change([](SSimulatedProject& project) {
+    CSimulator::Instance().Document().Change([](SSimulatedProject& project) {
         for (int nIndex = 0; nIndex < 300; ++nIndex)
             project.addressing.listDetected.append(Text("10.0.0.1"));
     });
@@ -217,8 +219,8 @@ void TestSenderLogic::ADemoProjectHasOneSenderOfTheSetType()
 {
     QFETCH(int, type);
     CSimulator& simulator = CSimulator::Instance();
-    simulator.AddSender(10);
-    QSignalSpy spyReplaced(&simulator, &CSimulator::OnProjectReplaced);
+    simulator.Document().AddSender(10);
+    QSignalSpy spyReplaced(&simulator.Document(), &CProjectDocument::OnProjectReplaced);
     GetProjectData()->SetDemoModeEnable(true);
     GetProjectData()->SetDemoSenderType(type);
     QCOMPARE(GetHwSenderLogic()->ApplyDemoProject(), 0);
@@ -226,13 +228,14 @@ void TestSenderLogic::ADemoProjectHasOneSenderOfTheSetType()
     QCOMPARE(GetHwSenderLogic()->GetSenderType(0), type);
     QVERIFY(GetProjectData()->GetDemoModeEnable());
     QCOMPARE(spyReplaced.count(), 1);
-    QVERIFY2(simulator.FilePath().isEmpty(), "saving the demo must not overwrite the project that was open");
+    QVERIFY2(simulator.Document().FilePath().isEmpty(),
+             "saving the demo must not overwrite the project that was open");
 }
 
 void TestSenderLogic::AnUnknownDemoTypeLeavesTheProject()
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.AddSender(10);
+    simulator.Document().AddSender(10);
     GetProjectData()->SetDemoSenderType(9999);
     QVERIFY(GetHwSenderLogic()->ApplyDemoProject() != 0);
     QCOMPARE(GetHwSenderLogic()->GetSenderType(0), 10);

@@ -54,9 +54,9 @@ QString Verdict(int nWidth, int nHeight, int nLimit)
 /// A project with one sender; the project can be changed at once.
 void OneSender(int nType, const std::function<void(SSimulatedSender&)>& funcChange = {})
 {
-    CSimulator::Instance().AddSender(nType);
+    CSimulator::Instance().Document().AddSender(nType);
     if (funcChange)
-        CSimulator::Instance().Change(
+        CSimulator::Instance().Document().Change(
             [&](SSimulatedProject& project) { funcChange(project.listSenders[0]); });
 }
 
@@ -215,7 +215,7 @@ void TestVideoSource::AWriteThatFailsLeavesTheSetting()
 void TestVideoSource::ABasicWriteThatDoesNotTakeLeavesTheSetting()
 {
     OneSender(c_nBasicType, [](SSimulatedSender& sender) { sender.faults.bBasicEdidFails = true; });
-    QSignalSpy spyWritten(&CSimulator::Instance(), &CSimulator::OnEdidWritten);
+    QSignalSpy spyWritten(&CSimulator::Instance().Hardware(), &CSimulatedHardware::OnEdidWritten);
     const SEdidSetting setting = Setting(1280, 720, 50);
     bool bSuccess = true;
     QCOMPARE(GetHwVideoSourceLogic()->SetEdidSetting(0, 16, &setting), qint64(0));
@@ -246,7 +246,7 @@ void TestVideoSource::AWriteToAnInputThatIsNotThereFails()
 void TestVideoSource::AWriteThatTookIsAnnounced()
 {
     OneSender(c_nExtendedType);
-    QSignalSpy spyWritten(&CSimulator::Instance(), &CSimulator::OnEdidWritten);
+    QSignalSpy spyWritten(&CSimulator::Instance().Hardware(), &CSimulatedHardware::OnEdidWritten);
     const SEdidSetting setting = Setting(1280, 720, 50);
     GetHwVideoSourceLogic()->SetEdidSetting(0, 18, &setting);
     QCOMPARE(spyWritten.count(), 0);
@@ -258,7 +258,8 @@ void TestVideoSource::AWriteThatTookIsAnnounced()
 void TestVideoSource::ASlowSenderTakesItsTime()
 {
     QList<int> listSleeps;
-    CSimulator::Instance().SetSleep([&listSleeps](int nMilliseconds) { listSleeps.append(nMilliseconds); });
+    CSimulator::Instance().Hardware().SetSleep(
+        [&listSleeps](int nMilliseconds) { listSleeps.append(nMilliseconds); });
     OneSender(c_nExtendedType, [](SSimulatedSender& sender) { sender.faults.nWriteDelay = 40; });
     const SEdidSetting setting = Setting(1280, 720, 50);
     GetHwVideoSourceLogic()->SetEdidSetting(0, 16, &setting);

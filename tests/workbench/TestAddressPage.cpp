@@ -61,7 +61,7 @@ private Q_SLOTS:
 void TestAddressPage::initTestCase()
 {
     SenderModuleDialogInit(CSimulator::Instance().Label());
-    CSimulator::Instance().SetNetworkFacts([] {
+    CSimulator::Instance().Addresses().SetNetworkFacts([] {
         SNetworkFacts facts;
         facts.listLocal = {{0xC0A8010A, 0xFFFFFF00, 0xC0A801FF}};
         facts.listGateways = {0xC0A80101};
@@ -71,7 +71,7 @@ void TestAddressPage::initTestCase()
 
 void TestAddressPage::init()
 {
-    CSimulator::Instance().NewProject();
+    CSimulator::Instance().Document().NewProject();
 }
 
 void TestAddressPage::ABatchFillsTheListUpTo16()
@@ -117,7 +117,7 @@ void TestAddressPage::ResettingBringsTheFirstAddressBack()
 
 void TestAddressPage::AddingByHandAddsSendersAndAddresses()
 {
-    CSimulator::Instance().Change([](SSimulatedProject& project) {
+    CSimulator::Instance().Document().Change([](SSimulatedProject& project) {
         project.addressing.nDetectStrategy = 2;
         project.addressing.bIPAddressMode = true;
         project.addressing.nAddedSenderCount = 0;
@@ -136,10 +136,10 @@ void TestAddressPage::AddingByHandAddsSendersAndAddresses()
 
 void TestAddressPage::ProcessorsAddedByHandAreAnnouncedOnce()
 {
-    CSimulator::Instance().Change(
+    CSimulator::Instance().Document().Change(
         [](SSimulatedProject& project) { project.addressing.bIPAddressMode = false; });
     CAddressPage page(Leave);
-    QSignalSpy spyChanged(&CSimulator::Instance(), &CSimulator::OnProjectChanged);
+    QSignalSpy spyChanged(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectChanged);
     const CDialogOperator dialogOperator([](QDialog* pDialog) { Press(pDialog, "确定"); });
     page.AddByHand();
     QCOMPARE(spyChanged.count(), 1);

@@ -41,7 +41,7 @@ SNetworkFacts EveryAddressIsAGateway()
 
 void FillTheList(int nCount)
 {
-    CSimulator::Instance().Change([nCount](SSimulatedProject& project) {
+    CSimulator::Instance().Document().Change([nCount](SSimulatedProject& project) {
         SAddressLists& lists = project.addresses;
         for (int i = 0; i < nCount; ++i)
             lists.listStored.append(QStringLiteral("10.99.%1.%2()").arg(i / 200).arg(i % 200 + 1));
@@ -75,8 +75,8 @@ void TestHandAddition::initTestCase()
 
 void TestHandAddition::init()
 {
-    CSimulator::Instance().NewProject();
-    CSimulator::Instance().SetNetworkFacts([] { return SNetworkFacts(); });
+    CSimulator::Instance().Document().NewProject();
+    CSimulator::Instance().Addresses().SetNetworkFacts([] { return SNetworkFacts(); });
 }
 
 void TestHandAddition::TheCandidatesAreThoseOfTheDialogsSearch_data()
@@ -113,7 +113,7 @@ void TestHandAddition::AFullListIsAnObstacle()
 
 void TestHandAddition::WithoutAFreeAddressThereIsAnObstacle()
 {
-    CSimulator::Instance().SetNetworkFacts(EveryAddressIsAGateway);
+    CSimulator::Instance().Addresses().SetNetworkFacts(EveryAddressIsAGateway);
     QVERIFY(HandAddition::Obstacle().contains(QStringLiteral("没有空闲的地址")));
 }
 
@@ -130,7 +130,7 @@ void TestHandAddition::WithoutAddressesTheListDoesNotMatter()
     QFETCH(bool, addressMode);
     QFETCH(int, strategy);
     FillTheList(255);
-    CSimulator::Instance().Change([&](SSimulatedProject& project) {
+    CSimulator::Instance().Document().Change([&](SSimulatedProject& project) {
         project.addressing.bIPAddressMode = addressMode;
         project.addressing.nDetectStrategy = strategy;
     });
@@ -139,7 +139,7 @@ void TestHandAddition::WithoutAddressesTheListDoesNotMatter()
 
 void TestHandAddition::ThePageSaysWhyInsteadOfOpeningTheDialog()
 {
-    CSimulator::Instance().SetNetworkFacts(EveryAddressIsAGateway);
+    CSimulator::Instance().Addresses().SetNetworkFacts(EveryAddressIsAGateway);
     CAddressPage page([] { return true; });
     QString strShown;
     const CDialogOperator dialogOperator([&strShown](QDialog* pDialog) {

@@ -26,7 +26,7 @@ public:
         : settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat)
         , window(language, settings)
     {
-        CSimulator::Instance().NewProject();
+        CSimulator::Instance().Document().NewProject();
     }
 
     QString File(const char* szName) const { return folder.filePath(QString::fromLatin1(szName)); }
@@ -73,7 +73,7 @@ private:
 
 void MakeAChange()
 {
-    CSimulator::Instance().Change(
+    CSimulator::Instance().Document().Change(
         [](SSimulatedProject& project) { project.listSenders[0].strName += QLatin1Char('!'); });
 }
 
@@ -126,8 +126,8 @@ void TestMainWindow::SelectingASenderMakesItTheCurrentOne()
 
 void TestMainWindow::AProjectThatWasThereBeforeTheWindowIsShownFromItsCurrentSender()
 {
-    CSimulator::Instance().NewProject();
-    CSimulator::Instance().SetCurrentSender(2);
+    CSimulator::Instance().Document().NewProject();
+    CSimulator::Instance().Document().SetCurrentSender(2);
     QTemporaryDir folder;
     QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
     CLanguage language;
@@ -139,9 +139,9 @@ void TestMainWindow::TheTreeFollowsSendersThatComeAndGo()
 {
     CWorkbenchFixture workbench;
     const int nBefore = workbench.window.Tree().topLevelItemCount();
-    const int nSender = CSimulator::Instance().AddSender(CCatalogue::Instance().Types().first());
+    const int nSender = CSimulator::Instance().Document().AddSender(CCatalogue::Instance().Types().first());
     QCOMPARE(workbench.window.Tree().topLevelItemCount(), nBefore + 1);
-    CSimulator::Instance().RemoveSender(nSender);
+    CSimulator::Instance().Document().RemoveSender(nSender);
     QCOMPARE(workbench.window.Tree().topLevelItemCount(), nBefore);
 }
 
@@ -174,9 +174,9 @@ void TestMainWindow::TheLastProjectOpensAtStart()
 {
     CWorkbenchFixture workbench;
     QVERIFY(workbench.window.Project().SaveAs(workbench.File("a.json")));
-    CSimulator::Instance().NewEmptyProject();
+    CSimulator::Instance().Document().NewEmptyProject();
     workbench.window.Project().OpenLast();
-    QCOMPARE(CSimulator::Instance().FilePath(), workbench.File("a.json"));
+    QCOMPARE(CSimulator::Instance().Document().FilePath(), workbench.File("a.json"));
 }
 
 void TestMainWindow::UnsavedChangesAreAskedAbout_data()
@@ -198,7 +198,7 @@ void TestMainWindow::UnsavedChangesAreAskedAbout()
     const CMessageAnswer answer(button.constData());
     QTEST(workbench.window.Project().MayLeave(), "leaves");
     QCOMPARE(answer.strText, QStringLiteral("工程有未保存的更改。要保存吗？"));
-    QTEST(!CSimulator::Instance().IsModified(), "saved");
+    QTEST(!CSimulator::Instance().Document().IsModified(), "saved");
 }
 
 void TestMainWindow::ABrokenFileIsToldAndTheProjectStays()
@@ -223,14 +223,14 @@ void TestMainWindow::AWrittenSettingFillsTheMemoryAndShowsTheChange()
     auto* pBytes = workbench.window.findChild<CHexView*>();
     QVERIFY(pBytes->Bytes().isEmpty());
     const auto funcWrite = [&](quint16 wWidth, quint16 wHeight) {
-        CSimulator::Instance().Change([&](SSimulatedProject& project) {
+        CSimulator::Instance().Document().Change([&](SSimulatedProject& project) {
             SEdidSetting setting;
             setting.wWidth = wWidth;
             setting.wHeight = wHeight;
             setting.byRate = 60;
             project.FindSender(0)->FindInput(nInterfaceId)->setting = setting;
         });
-        Q_EMIT CSimulator::Instance().OnEdidWritten(0, nInterfaceId);
+        Q_EMIT CSimulator::Instance().Hardware().OnEdidWritten(0, nInterfaceId);
     };
     funcWrite(1920, 1080);
     QCOMPARE(pBytes->Bytes().size(), 128);
@@ -244,7 +244,7 @@ void TestMainWindow::ABlockIsSavedWhole()
 {
     CWorkbenchFixture workbench;
     const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
-    QVERIFY(CSimulator::Instance().SetEdidMemory(0, nInterfaceId, QByteArray(128, 'x')));
+    QVERIFY(CSimulator::Instance().Hardware().SetEdidMemory(0, nInterfaceId, QByteArray(128, 'x')));
     workbench.window.Tree().Select({0, nInterfaceId});
     QVERIFY(workbench.window.findChild<CEdidPage*>()->SaveBlock(workbench.File("edid.bin")));
     QFile file(workbench.File("edid.bin"));
@@ -265,7 +265,7 @@ void TestMainWindow::ChoosingAByteMarksItsField()
 {
     CWorkbenchFixture workbench;
     const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
-    QVERIFY(CSimulator::Instance().SetEdidMemory(0, nInterfaceId, QByteArray(128, 1)));
+    QVERIFY(CSimulator::Instance().Hardware().SetEdidMemory(0, nInterfaceId, QByteArray(128, 1)));
     workbench.window.Tree().Select({0, nInterfaceId});
     auto* pBytes = workbench.window.findChild<CHexView*>();
     pBytes->resize(pBytes->sizeHint());

@@ -28,12 +28,13 @@ const SSimulatedSender& Sender(int nSender = 0)
 
 void ChangeSender(const std::function<void(SSimulatedSender& sender)>& funcChange)
 {
-    Simulator().Change([&](SSimulatedProject& project) { funcChange(*project.FindSender(0)); });
+    Simulator().Document().Change([&](SSimulatedProject& project) { funcChange(*project.FindSender(0)); });
 }
 
 QString StoredPicture()
 {
-    return QStringLiteral("%1/%2").arg(Simulator().PictureFolder(), Simulator().PictureName(0));
+    return QStringLiteral("%1/%2").arg(Simulator().Document().PictureFolder(),
+                                       Simulator().Document().PictureName(0));
 }
 
 /// Puts a picture of one colour where the sender has its own.
@@ -126,7 +127,7 @@ void TestOutputPage::initTestCase()
 
 void TestOutputPage::init()
 {
-    Simulator().NewProject();
+    Simulator().Document().NewProject();
     Simulator().Journal().Clear();
 }
 
@@ -292,10 +293,10 @@ void TestOutputPage::APictureFollowsTheProjectFile()
     const CShownPage page;
     const QTemporaryDir folder;
     SFileProblem problem;
-    QVERIFY(Simulator().SaveAs(folder.filePath(QStringLiteral("wall.json")), problem));
+    QVERIFY(Simulator().Document().SaveAs(folder.filePath(QStringLiteral("wall.json")), problem));
     QCOMPARE(page.Content().sizePicture, QSize(30, 20));
     QVERIFY(QFile::remove(StoredPicture()));
-    Simulator().NewProject();
+    Simulator().Document().NewProject();
     QVERIFY(page.Content().imgPicture.isNull());
 }
 
@@ -367,7 +368,7 @@ void TestOutputPage::ASenderThatIsNoVideoProcessorHasNoHardwareValues()
 void TestOutputPage::WithoutSenderNothingCanBeOpened()
 {
     CShownPage page;
-    Simulator().NewEmptyProject();
+    Simulator().Document().NewEmptyProject();
     for (const QPushButton* pButton : page.findChildren<QPushButton*>())
         QVERIFY(!pButton->isEnabled());
     QCOMPARE(page.Content().strNote, QStringLiteral("请选择一个发送器"));

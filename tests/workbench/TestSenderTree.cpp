@@ -35,7 +35,7 @@ struct SShownTree
 
     explicit SShownTree(int nSenders)
     {
-        CSimulator::Instance().AddSenders(c_nType, nSenders, c_nPorts);
+        CSimulator::Instance().Document().AddSenders(c_nType, nSenders, c_nPorts);
         tree.setItemDelegate(&counter);
         tree.show();
         Forget();
@@ -77,7 +77,7 @@ void TestSenderTree::initTestCase()
 
 void TestSenderTree::init()
 {
-    CSimulator::Instance().NewEmptyProject();
+    CSimulator::Instance().Document().NewEmptyProject();
 }
 
 void TestSenderTree::AddingSendersMeasuresEachRowAFewTimes_data()
@@ -94,7 +94,7 @@ void TestSenderTree::AddingSendersMeasuresEachRowAFewTimes()
     constexpr int c_nPerRedraw = 200;
     QFETCH(int, count);
     SShownTree shown(1);
-    CSimulator::Instance().AddSenders(c_nType, count, c_nPorts);
+    CSimulator::Instance().Document().AddSenders(c_nType, count, c_nPorts);
     QCoreApplication::processEvents();
     QCOMPARE(shown.tree.topLevelItemCount(), count + 1);
     const int nLimit = count * shown.RowsPerSender() * c_nPerRow + c_nPerRedraw;
@@ -104,7 +104,7 @@ void TestSenderTree::AddingSendersMeasuresEachRowAFewTimes()
 void TestSenderTree::AChangeOfOneSenderRedrawsThatSenderAlone()
 {
     SShownTree shown(100);
-    CSimulator::Instance().Change(
+    CSimulator::Instance().Document().Change(
         [](SSimulatedProject& project) { project.listSenders[3].strName = QStringLiteral("left"); });
     QCOMPARE(shown.tree.topLevelItem(3)->text(0), QStringLiteral("left"));
     QCOMPARE(shown.spyChanged.count(), 1);
@@ -117,8 +117,8 @@ void TestSenderTree::RowsOfOtherSendersStayWhenOneComesOrGoes()
     SShownTree shown(3);
     const QTreeWidgetItem* pFirst = shown.tree.topLevelItem(0);
     const QTreeWidgetItem* pLast = shown.tree.topLevelItem(2);
-    CSimulator::Instance().RemoveSender(1);
-    CSimulator::Instance().AddSender(16);
+    CSimulator::Instance().Document().RemoveSender(1);
+    CSimulator::Instance().Document().AddSender(16);
     QCOMPARE(shown.tree.topLevelItemCount(), 3);
     QCOMPARE(shown.tree.topLevelItem(0), pFirst);
     QCOMPARE(shown.tree.topLevelItem(1), pLast);
@@ -129,9 +129,9 @@ void TestSenderTree::RemovingTheSelectedSenderSelectsItsFollower()
 {
     SShownTree shown(3);
     shown.tree.Select({1, -1});
-    CSimulator::Instance().Change(
+    CSimulator::Instance().Document().Change(
         [](SSimulatedProject& project) { project.listSenders[2].strName = QStringLiteral("follower"); });
-    CSimulator::Instance().RemoveSender(1);
+    CSimulator::Instance().Document().RemoveSender(1);
     QCOMPARE(shown.tree.currentItem()->text(0), QStringLiteral("follower"));
     QCOMPARE(shown.tree.Selection().nSender, 1);
 }
@@ -140,7 +140,7 @@ void TestSenderTree::RemovingTheLastSenderSelectsItsPredecessor()
 {
     SShownTree shown(3);
     shown.tree.Select({2, -1});
-    CSimulator::Instance().RemoveSender(2);
+    CSimulator::Instance().Document().RemoveSender(2);
     QCOMPARE(shown.tree.Selection().nSender, 1);
 }
 
@@ -150,7 +150,7 @@ void TestSenderTree::RemovingAnotherSenderKeepsTheSelectedOne()
     shown.tree.Select({2, -1});
     const QTreeWidgetItem* pSelected = shown.tree.currentItem();
     QSignalSpy spyMoved(&shown.tree, &CSenderTree::SelectionMoved);
-    CSimulator::Instance().RemoveSender(0);
+    CSimulator::Instance().Document().RemoveSender(0);
     QCOMPARE(shown.tree.currentItem(), pSelected);
     // Its index is another one now.
     QCOMPARE(spyMoved.count(), 1);
@@ -162,7 +162,7 @@ void TestSenderTree::AWiderNameWidensItsColumn()
     SShownTree shown(2);
     const int nBefore = shown.tree.columnWidth(0);
     const QString strLong(64, QLatin1Char('W'));
-    CSimulator::Instance().Change(
+    CSimulator::Instance().Document().Change(
         [&strLong](SSimulatedProject& project) { project.listSenders[1].strName = strLong; });
     QVERIFY(shown.tree.columnWidth(0) > nBefore);
     QVERIFY(shown.tree.columnWidth(0) >= shown.tree.fontMetrics().horizontalAdvance(strLong));

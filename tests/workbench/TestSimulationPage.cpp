@@ -45,7 +45,7 @@ private Q_SLOTS:
 void TestSimulationPage::init()
 {
     SenderModuleDialogInit(CSimulator::Instance().Label());
-    CSimulator::Instance().NewProject();
+    CSimulator::Instance().Document().NewProject();
 }
 
 void TestSimulationPage::EachPropertyIsReadBackAsItWasWritten_data()
@@ -63,7 +63,7 @@ void TestSimulationPage::EachPropertyIsReadBackAsItWasWritten()
     CSimulator& simulator = CSimulator::Instance();
     const QVariant value = AnotherValue(property, property.funcRead(simulator.Project(), 1));
     const QVariant otherBefore = property.funcRead(simulator.Project(), 2);
-    simulator.Change([&](SSimulatedProject& project) { property.funcWrite(project, 1, value); });
+    simulator.Document().Change([&](SSimulatedProject& project) { property.funcWrite(project, 1, value); });
     QCOMPARE(property.funcRead(simulator.Project(), 1).toString(), value.toString());
     const bool bOfTheSender = property.szGroup != SenderProperties::All().back().szGroup;
     if (bOfTheSender)
@@ -83,7 +83,7 @@ void TestSimulationPage::EditorsFollowTheProject()
 {
     CSimulationPage page;
     page.ShowSelection({3, -1});
-    CSimulator::Instance().Change([](SSimulatedProject& project) {
+    CSimulator::Instance().Document().Change([](SSimulatedProject& project) {
         project.listSenders[3].capability.bVideoProcessor =
             !project.listSenders[3].capability.bVideoProcessor;
     });

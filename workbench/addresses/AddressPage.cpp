@@ -47,8 +47,9 @@ CAddressPage::CAddressPage(std::function<bool()> funcMayLeave, QWidget* pParent)
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addLayout(pMiddle, 1);
     pLayout->addWidget(CreateCheckRow());
-    connect(&CSimulator::Instance(), &CSimulator::OnProjectReplaced, this, &CAddressPage::Refresh);
-    connect(&CSimulator::Instance(), &CSimulator::OnProjectChanged, this,
+    connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectReplaced, this,
+            &CAddressPage::Refresh);
+    connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectChanged, this,
             [this](const SProjectChange& change) {
                 if (change.bAddresses)
                     Refresh();
@@ -169,7 +170,7 @@ void CAddressPage::AddBatch()
 {
     CSetIPOfflineDlg dialog(0, c_nBatch, true, false, this);
     dialog.exec();
-    CSimulator::Instance().NoticeChanges();
+    CSimulator::Instance().Document().NoticeChanges();
 }
 
 void CAddressPage::SetAddresses()
@@ -177,7 +178,7 @@ void CAddressPage::SetAddresses()
     const int nFirst = CSimulator::Instance().Project().addresses.listStored.size() + 1;
     CSetIPOfflineDlg dialog(nFirst, m_pCount->value(), true, false, this);
     dialog.exec();
-    CSimulator::Instance().NoticeChanges();
+    CSimulator::Instance().Document().NoticeChanges();
 }
 
 void CAddressPage::ModifySelected()
@@ -187,16 +188,16 @@ void CAddressPage::ModifySelected()
     CSetIPOfflineDlg dialog(SelectedRow(), 1, false, false, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    simulator.ApplyCurrentSet();
+    simulator.Addresses().ApplyCurrentSet();
     SFileProblem problem;
-    Q_EMIT Reported(simulator.SaveAddresses(problem) ? tr("地址已修改。") : problem.Text());
+    Q_EMIT Reported(simulator.Document().SaveAddresses(problem) ? tr("地址已修改。") : problem.Text());
 }
 
 void CAddressPage::ResetSelected()
 {
     const int nRow = SelectedRow();
     CSimulator& simulator = CSimulator::Instance();
-    simulator.Change([nRow](SSimulatedProject& project) {
+    simulator.Document().Change([nRow](SSimulatedProject& project) {
         SAddressLists& lists = project.addresses;
         lists.listStored[nRow] = lists.listCurSet[nRow] = lists.listOriginal[nRow];
     });
@@ -206,7 +207,7 @@ void CAddressPage::ResetSelected()
 
 void CAddressPage::RemoveSelected()
 {
-    CSimulator::Instance().RemoveAddress(SelectedRow());
+    CSimulator::Instance().Addresses().Remove(SelectedRow());
 }
 
 void CAddressPage::AddByHand()
@@ -227,7 +228,7 @@ void CAddressPage::TakeProcessors(const CCustomAddProcessorDlg& dialog)
     const SSimulatedSender* pSender = simulator.Project().FindSender(simulator.Project().nCurSender);
     const int nType = pSender == nullptr ? c_nDefaultType : pSender->capability.nType;
     const int nPorts = dialog.GetPortCount();
-    const int nAdded = simulator.AddSenders(nType, dialog.GetCount(), nPorts);
+    const int nAdded = simulator.Document().AddSenders(nType, dialog.GetCount(), nPorts);
     Q_EMIT Reported(tr("已添加 %1 个主控，各有 %2 个输出口。").arg(nAdded).arg(nPorts));
 }
 

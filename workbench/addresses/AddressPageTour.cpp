@@ -32,7 +32,7 @@ SNetworkFacts TourNetwork()
 
 void PictureOfHandDialog(CTour& tour, QWidget* pParent, bool bExisting, bool bAddresses)
 {
-    CSimulator::Instance().Change([&](SSimulatedProject& project) {
+    CSimulator::Instance().Document().Change([&](SSimulatedProject& project) {
         project.addressing.nAddedSenderCount = bExisting ? 1 : 0;
         project.addressing.bIPAddressMode = bAddresses;
     });
@@ -49,14 +49,14 @@ void PictureOfHandDialog(CTour& tour, QWidget* pParent, bool bExisting, bool bAd
 void CAddressPage::Tour(CTour& tour, QWidget* pWorkbench)
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.SetNetworkFacts(TourNetwork);
+    simulator.Addresses().SetNetworkFacts(TourNetwork);
     {
         CSetIPOfflineDlg dialog(0, -1, true, false, this);
         tour.WithDialog(dialog, [&] {
             dialog.findChild<CCustomIPEdit*>()->setText(QStringLiteral("192.168.1.20"));
             QMetaObject::invokeMethod(&dialog, "ActionSlots", Q_ARG(int, 0));
         });
-        simulator.NoticeChanges();
+        simulator.Document().NoticeChanges();
         tour.Check(simulator.Project().addresses.listStored.size() == 16,
                    QStringLiteral("the first batch did not fill the list up to 16"));
     }
@@ -82,5 +82,5 @@ void CAddressPage::Tour(CTour& tour, QWidget* pWorkbench)
     m_pCheck->setText(QStringLiteral("192.168.1.255"));
     tour.Picture(pWorkbench, QStringLiteral("addresses"));
     m_pCheck->setText(QString());
-    simulator.SetNetworkFacts(MachineNetworkFacts);
+    simulator.Addresses().SetNetworkFacts(MachineNetworkFacts);
 }

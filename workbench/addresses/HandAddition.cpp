@@ -67,7 +67,7 @@ QString Obstacle()
     const unsigned int nBase = Base();
     const QList<unsigned int> listCandidates = Candidates(nBase);
     const bool bFree = std::any_of(listCandidates.cbegin(), listCandidates.cend(), [&](unsigned int nIP) {
-        return simulator.JudgeAddress(nIP) == enAddressGood;
+        return simulator.Addresses().Judge(nIP) == enAddressGood;
     });
     return bFree ? QString()
                  : CHandAdditionText::tr("本机地址 %1 之后没有空闲的地址，无法手动添加主控。\n"

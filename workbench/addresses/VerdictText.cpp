@@ -43,7 +43,8 @@ QString Of(enAddressVerdict verdict)
 QString OfText(const QString& strAddress)
 {
     const std::optional<unsigned int> address = AddressValue(strAddress);
-    return address ? Of(CSimulator::Instance().JudgeAddress(*address)) : CVerdictText::tr("不是完整的地址");
+    return address ? Of(CSimulator::Instance().Addresses().Judge(*address))
+                   : CVerdictText::tr("不是完整的地址");
 }
 
 } // namespace VerdictText

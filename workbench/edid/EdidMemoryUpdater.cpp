@@ -7,7 +7,8 @@
 CEdidMemoryUpdater::CEdidMemoryUpdater(QObject* pParent)
     : QObject(pParent)
 {
-    connect(&CSimulator::Instance(), &CSimulator::OnEdidWritten, this, &CEdidMemoryUpdater::Update);
+    connect(&CSimulator::Instance().Hardware(), &CSimulatedHardware::OnEdidWritten, this,
+            &CEdidMemoryUpdater::Update);
 }
 
 QByteArray CEdidMemoryUpdater::BlockOf(const SEdidSetting& setting)
@@ -27,6 +28,6 @@ void CEdidMemoryUpdater::Update(int nSender, int nInterfaceId)
         return;
     const QByteArray blockBefore = pInput->baEdid;
     const QByteArray blockAfter = BlockOf(*pInput->setting);
-    if (simulator.SetEdidMemory(nSender, nInterfaceId, blockAfter))
+    if (simulator.Hardware().SetEdidMemory(nSender, nInterfaceId, blockAfter))
         Q_EMIT BlockStored(nSender, nInterfaceId, blockBefore, blockAfter);
 }

@@ -58,7 +58,8 @@ CEdidPage::CEdidPage(QWidget* pParent)
     pLayout->addWidget(CreateHead());
     pLayout->addWidget(CreateMemoryView(), 1);
     pLayout->addWidget(m_pChange);
-    connect(&CSimulator::Instance(), &CSimulator::OnProjectChanged, this, &CEdidPage::Refresh);
+    connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectChanged, this,
+            &CEdidPage::Refresh);
     connect(
         m_pUpdater, &CEdidMemoryUpdater::BlockStored, this,
         [this](int nSender, int nInterfaceId, const QByteArray& blockBefore, const QByteArray& blockAfter) {

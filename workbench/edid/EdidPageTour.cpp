@@ -63,32 +63,32 @@ void CEdidPage::AcceptMode(CTour& tour, int nResolution)
 void CEdidPage::TourOfSenders(CTour& tour)
 {
     CSimulator& simulator = CSimulator::Instance();
-    simulator.NewCatalogueProject();
+    simulator.Document().NewCatalogueProject();
     const int nSenders = int(simulator.Project().listSenders.size());
     for (int nSender = 0; nSender < nSenders; ++nSender) {
         const SSimulatedSender* pSender = simulator.Project().FindSender(nSender);
         if (pSender->listInputs.empty())
             continue;
-        simulator.SetCurrentSender(nSender);
+        simulator.Document().SetCurrentSender(nSender);
         CEdidSetDlg dialog(this, pSender->listInputs.front().nInterfaceId, false);
         tour.WithDialog(dialog, [&] {
             tour.Picture(&dialog, QStringLiteral("edid-type%1").arg(pSender->capability.nType));
         });
     }
-    simulator.NewProject();
+    simulator.Document().NewProject();
 }
 
 void CEdidPage::TourOfFailure(CTour& tour)
 {
     CSimulator& simulator = CSimulator::Instance();
     const int nSender = m_selection.nSender;
-    simulator.Change(
+    simulator.Document().Change(
         [nSender](SSimulatedProject& project) { project.FindSender(nSender)->faults.nEdidWriteResult = 1; });
     CEdidSetDlg dialog(this, m_selection.nInterfaceId, false);
     tour.WithMessage(QStringLiteral("edid-write-failed"), 1,
                      [&] { tour.WithDialog(dialog, [&] { Invoke(dialog, "OnOKPushButtonClicked"); }); });
     tour.Check(!dialog.IsSetSuccessed(), QStringLiteral("a write that failed was reported as good"));
-    simulator.Change(
+    simulator.Document().Change(
         [nSender](SSimulatedProject& project) { project.FindSender(nSender)->faults.nEdidWriteResult = 0; });
 }
 

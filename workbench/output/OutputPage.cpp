@@ -115,9 +115,10 @@ COutputPage::COutputPage(QWidget* pParent)
     pLayout->addWidget(m_pPreview, 1);
     pLayout->addWidget(CreateFacts());
     CSimulator& simulator = CSimulator::Instance();
-    connect(&simulator, &CSimulator::OnProjectChanged, this, &COutputPage::Refresh);
-    connect(&simulator, &CSimulator::OnFilePathChanged, this, &COutputPage::Refresh);
-    connect(&simulator, &CSimulator::OnProjectReplaced, this, &COutputPage::ForgetCorrections);
+    connect(&simulator.Document(), &CProjectDocument::OnProjectChanged, this, &COutputPage::Refresh);
+    connect(&simulator.Document(), &CProjectDocument::OnFilePathChanged, this, &COutputPage::Refresh);
+    connect(&simulator.Document(), &CProjectDocument::OnProjectReplaced, this,
+            &COutputPage::ForgetCorrections);
     connect(&simulator, &CSimulator::OnLabelEvent, this, &COutputPage::LabelEvent);
     COutputPage::Retranslate();
 }
@@ -324,8 +325,8 @@ void COutputPage::ShowOutput(const SSimulatedSender& sender)
 void COutputPage::ShowPicture(const SSimulatedSender& sender)
 {
     CSimulator& simulator = CSimulator::Instance();
-    const QString strFile =
-        QDir(simulator.PictureFolder()).filePath(simulator.PictureName(m_selection.nSender));
+    const QString strFile = QDir(simulator.Document().PictureFolder())
+                                .filePath(simulator.Document().PictureName(m_selection.nSender));
     const SCanvasPicture& picture = m_pictureReader.Read(strFile);
     Set(enPictureSwitch, OnOffText(sender.record.BkImageEnable));
     Set(enPictureOpacity, OpacityText(sender.record.BkImageAlpha));
@@ -401,8 +402,8 @@ void COutputPage::TakeCanvas(QSize size)
     CSimulator& simulator = CSimulator::Instance();
     const int nSender = m_selection.nSender;
     if (SenderOutput::KeepsCanvas(*pSender))
-        simulator.SpendWriteDelay(nSender);
-    simulator.Change([nSender, size](SSimulatedProject& project) {
+        simulator.Hardware().SpendWriteDelay(nSender);
+    simulator.Document().Change([nSender, size](SSimulatedProject& project) {
         SenderOutput::StoreCanvas(*project.FindSender(nSender), size);
     });
     Q_EMIT Reported(tr("画布大小已设为 %1。").arg(SizeText(size)));
@@ -413,7 +414,7 @@ void COutputPage::SetRateAndDepth()
     CSetDepthRateDlg dialog(this);
     const int nResult = dialog.exec();
     // Opening alone can have set the depth.
-    CSimulator::Instance().NoticeChanges();
+    CSimulator::Instance().Document().NoticeChanges();
     if (nResult == QDialog::Accepted)
         ReportRateAndDepth();
 }

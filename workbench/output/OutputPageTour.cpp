@@ -88,7 +88,7 @@ constexpr QPoint c_arrHills[] = {{0, 700}, {320, 420}, {560, 620}, {800, 480}, {
 
 void ChangeSender(const std::function<void(SSimulatedSender& sender)>& funcChange)
 {
-    CSimulator::Instance().Change(
+    CSimulator::Instance().Document().Change(
         [&](SSimulatedProject& project) { funcChange(*project.FindSender(project.nCurSender)); });
 }
 
@@ -217,7 +217,7 @@ void COutputPage::TourOfRateAndDepth(CTour& tour)
         tour.WithMessage(QStringLiteral("rate-question"), CCustomMessageBox::Yes,
                          [&] { Invoke(dialog, "ButtonClicked", c_nRateOk); });
     });
-    CSimulator::Instance().NoticeChanges();
+    CSimulator::Instance().Document().NoticeChanges();
     tour.Check(Sender()->record.nColorDepth == 10 && SenderOutput::HardwareDepth(*Sender()) == 10,
                QStringLiteral("the depth that was chosen did not reach the hardware"));
 }
@@ -249,8 +249,8 @@ void COutputPage::TourOfBackground(CTour& tour, QWidget* pWorkbench)
 void COutputPage::TourOfVanishedPicture(CTour& tour, QWidget* pWorkbench)
 {
     CSimulator& simulator = CSimulator::Instance();
-    const QString strStored =
-        QDir(simulator.PictureFolder()).filePath(simulator.PictureName(m_selection.nSender));
+    const QString strStored = QDir(simulator.Document().PictureFolder())
+                                  .filePath(simulator.Document().PictureName(m_selection.nSender));
     tour.Check(QFile::remove(strStored), QStringLiteral("the stored picture cannot be removed"));
     Refresh();
     tour.Check(m_pPreview->Content().bWarning, QStringLiteral("a vanished picture is not told"));

@@ -72,7 +72,8 @@ CSimulationPage::CSimulationPage(QWidget* pParent)
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(pScroll);
-    connect(&CSimulator::Instance(), &CSimulator::OnProjectChanged, this, &CSimulationPage::Refresh);
+    connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectChanged, this,
+            &CSimulationPage::Refresh);
     CSimulationPage::Retranslate();
     Refresh();
 }
@@ -170,7 +171,8 @@ void CSimulationPage::Write(const SSenderProperty& property, const QVariant& val
     CSimulator& simulator = CSimulator::Instance();
     if (m_bRefreshing || simulator.Project().FindSender(nSender) == nullptr)
         return;
-    simulator.Change([&](SSimulatedProject& project) { property.funcWrite(project, nSender, value); });
+    simulator.Document().Change(
+        [&](SSimulatedProject& project) { property.funcWrite(project, nSender, value); });
 }
 
 void CSimulationPage::Tour(CTour& tour, QWidget* pWorkbench)

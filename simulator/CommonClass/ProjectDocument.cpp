@@ -1,0 +1,235 @@
+#include "simulator/CommonClass/ProjectDocument.h"
+
+#include "simulator/CommonClass/Catalogue.h"
+#include "simulator/CommonClass/ProjectFile.h"
+#include "simulator/CommonClass/ProjectTemplates.h"
+#include "simulator/CommonClass/SimulatorText.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+/// Output ports of the record that stands for the senders of an empty project.
+constexpr int c_nDefaultPorts = 4;
+
+} // namespace
+
+CProjectDocument::CProjectDocument(QObject* pParent)
+    : QObject(pParent)
+{
+    qRegisterMetaType<SProjectChange>();
+    m_senderNone.nOutputPortCount = c_nDefaultPorts;
+    m_jsonSaved = ProjectToJson(m_project);
+    m_fingerprintSaved = m_fingerprintNoticed = FingerprintOf(m_project);
+}
+
+CProjectDocument::~CProjectDocument() = default;
+
+void CProjectDocument::Change(const std::function<void(SSimulatedProject&)>& funcChange)
+{
+    funcChange(m_project);
+    NoticeChanges();
+}
+
+SSimulatedProject& CProjectDocument::Edit()
+{
+    if (!m_bChangesExpected) {
+        m_bChangesExpected = true;
+        QMetaObject::invokeMethod(this, &CProjectDocument::NoticeChanges, Qt::QueuedConnection);
+    }
+    return m_project;
+}
+
+void CProjectDocument::NoticeChanges()
+{
+    m_bChangesExpected = false;
+    SProjectFingerprint present = FingerprintOf(m_project);
+    UpdateModified(present);
+    const SProjectChange change = Difference(m_fingerprintNoticed, present);
+    if (change.IsEmpty())
+        return;
+    m_fingerprintNoticed = std::move(present);
+    Q_EMIT OnProjectChanged(change);
+}
+
+void CProjectDocument::UpdateModified(const SProjectFingerprint& present)
+{
+    const bool bModified = !Difference(m_fingerprintSaved, present).IsEmpty();
+    if (bModified == m_bModified)
+        return;
+    m_bModified = bModified;
+    Q_EMIT OnModifiedChanged(bModified);
+}
+
+bool CProjectDocument::IsModified()
+{
+    if (m_bChangesExpected)
+        NoticeChanges();
+    return m_bModified;
+}
+
+void CProjectDocument::NewProject()
+{
+    Replace(ProjectTemplates::Demo(), QString());
+}
+
+void CProjectDocument::NewCatalogueProject()
+{
+    Replace(ProjectTemplates::Catalogue(), QString());
+}
+
+void CProjectDocument::NewEmptyProject()
+{
+    Replace({}, QString());
+}
+
+bool CProjectDocument::NewDemoProject(int nType)
+{
+    if (!CCatalogue::Instance().Contains(nType))
+        return false;
+    SSimulatedProject project = ProjectTemplates::OneSender(nType);
+    project.nDemoSenderType = nType;
+    project.addressing = m_project.addressing;
+    Replace(std::move(project), QString());
+    return true;
+}
+
+void CProjectDocument::Replace(SSimulatedProject project, const QString& strFile)
+{
+    m_project = std::move(project);
+    m_pictures.Replace(strFile);
+    SetFilePath(strFile);
+    m_fingerprintNoticed = FingerprintOf(m_project);
+    const SProjectChange change = Difference({}, m_fingerprintNoticed);
+    MarkSaved(ProjectToJson(m_project), m_fingerprintNoticed);
+    Q_EMIT OnProjectReplaced();
+    Q_EMIT OnProjectChanged(change);
+}
+
+void CProjectDocument::MarkSaved(const QJsonObject& saved, const SProjectFingerprint& fingerprint)
+{
+    m_jsonSaved = saved;
+    m_fingerprintSaved = fingerprint;
+    UpdateModified(FingerprintOf(m_project));
+}
+
+void CProjectDocument::SetFilePath(const QString& strFile)
+{
+    if (strFile == m_strFile)
+        return;
+    m_strFile = strFile;
+    Q_EMIT OnFilePathChanged(strFile);
+}
+
+int CProjectDocument::AddSender(int nType, const QString& strName)
+{
+    const int nSender = ProjectTemplates::AddSender(m_project, nType, strName);
+    NoticeChanges();
+    return nSender;
+}
+
+int CProjectDocument::AddSenders(int nType, int nCount, int nOutputPorts)
+{
+    int nAdded = 0;
+    for (; nAdded < nCount; ++nAdded) {
+        const int nSender = ProjectTemplates::AddSender(m_project, nType, QString());
+        if (nSender < 0)
+            break;
+        m_project.FindSender(nSender)->record.nOutputPortCount = nOutputPorts;
+    }
+    NoticeChanges();
+    return nAdded;
+}
+
+void CProjectDocument::RemoveSender(int nSender)
+{
+    if (m_project.FindSender(nSender) == nullptr)
+        return;
+    m_project.listSenders.erase(m_project.listSenders.begin() + nSender);
+    const int nLast = int(m_project.listSenders.size()) - 1;
+    if (nSender < m_project.nCurSender || m_project.nCurSender > nLast)
+        m_project.nCurSender = std::max(0, m_project.nCurSender - 1);
+    NoticeChanges();
+}
+
+void CProjectDocument::SetCurrentSender(int nSender)
+{
+    if (m_project.FindSender(nSender) == nullptr)
+        return;
+    m_project.nCurSender = nSender;
+    NoticeChanges();
+}
+
+bool CProjectDocument::Open(const QString& strFile, SFileProblem& problem)
+{
+    std::optional<SSimulatedProject> project = ProjectFile::Read(strFile, problem);
+    if (!project)
+        return false;
+    Replace(std::move(*project), QFileInfo(strFile).absoluteFilePath());
+    return true;
+}
+
+bool CProjectDocument::Save(SFileProblem& problem)
+{
+    if (m_strFile.isEmpty()) {
+        problem = {};
+        problem.strWhat = CSimulatorText::tr("The project has no file yet.");
+        problem.strAdvice = CSimulatorText::tr("Choose a file to save it to.");
+        return false;
+    }
+    return SaveAs(m_strFile, problem);
+}
+
+bool CProjectDocument::SaveAs(const QString& strFile, SFileProblem& problem)
+{
+    const QString strPath = QFileInfo(strFile).absoluteFilePath();
+    const QJsonObject project = ProjectToJson(m_project);
+    if (!WriteTo(strPath, project, problem))
+        return false;
+    SFileProblem problemPictures;
+    const bool bPictures = m_pictures.MoveTo(strPath, problemPictures);
+    SetFilePath(strPath);
+    MarkSaved(project, FingerprintOf(m_project));
+    if (!bPictures)
+        Report(problemPictures);
+    return true;
+}
+
+bool CProjectDocument::SaveAddresses(SFileProblem& problem)
+{
+    if (m_strFile.isEmpty())
+        return true;
+    QJsonObject project = m_jsonSaved;
+    project.insert(QStringLiteral("addresses"), AddressListsToJson(m_project.addresses));
+    if (!WriteTo(m_strFile, project, problem))
+        return false;
+    SProjectFingerprint saved = m_fingerprintSaved;
+    saved.baAddresses = FingerprintOf(m_project).baAddresses;
+    MarkSaved(project, saved);
+    return true;
+}
+
+bool CProjectDocument::WriteTo(const QString& strFile, const QJsonObject& project, SFileProblem& problem)
+{
+    return ProjectFile::Write(strFile, project, m_strKept, problem);
+}
+
+QString CProjectDocument::PictureFolder()
+{
+    return m_pictures.Path();
+}
+
+QString CProjectDocument::PictureName(int nSender) const
+{
+    // No extension: the picture keeps the format of the file that it was copied from.
+    const SSimulatedSender* pSender = m_project.FindSender(nSender);
+    return QStringLiteral("sender-%1").arg(pSender == nullptr ? 0 : pSender->nId);
+}
+
+void CProjectDocument::Report(const SFileProblem& problem)
+{
+    Q_EMIT OnProblem(problem);
+}

@@ -1,0 +1,129 @@
+#ifndef SIMULATOR_COMMONCLASS_PROJECTDOCUMENT_H
+#define SIMULATOR_COMMONCLASS_PROJECTDOCUMENT_H
+
+#include "host/HostExport.h"
+#include "simulator/CommonClass/FileProblem.h"
+#include "simulator/CommonClass/PictureFolder.h"
+#include "simulator/CommonClass/ProjectFingerprint.h"
+#include "simulator/CommonClass/SimulatedProject.h"
+
+#include <QJsonObject>
+#include <QObject>
+
+#include <functional>
+
+/// The project of the simulated host: its values, what changed in them, and the file that they are kept in.
+class COMMONCLASS_EXPORT CProjectDocument : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CProjectDocument(QObject* pParent = nullptr);
+    ~CProjectDocument() override;
+
+    /// @name Values
+    /// @{
+    const SSimulatedProject& Project() const { return m_project; }
+    /// Changes the project by a function and announces it. This is how settings, limits, misbehaviour and
+    /// whatever else the project holds are set:
+    ///
+    ///     document.Change([](SSimulatedProject& project) {
+    ///         project.listSenders[0].faults.nEdidWriteResult = 5;
+    ///     });
+    void Change(const std::function<void(SSimulatedProject& project)>& funcChange);
+    /// The project, to be changed now or in place later: changes are looked for when control is back in the
+    /// event loop, so that a run of many small writes is compared once.
+    SSimulatedProject& Edit();
+    /// The dialogs write sender records in place. Finds such changes and announces them; runs by itself when
+    /// control is back in the event loop after a record was handed out.
+    void NoticeChanges();
+    /// True when the project differs from its file, or was changed since it was started.
+    bool IsModified();
+    /// @}
+
+    /// @name Starting a project
+    /// @{
+    /// Starts a project with the six senders that a demo project can be made of.
+    void NewProject();
+    /// Starts a project with one sender of each type of the catalogue.
+    void NewCatalogueProject();
+    /// Starts a project without senders.
+    void NewEmptyProject();
+    /// Starts a project with one sender of a type, in demo mode. How processors are addressed stays.
+    /// @return false for a type that the catalogue does not know; nothing is changed then
+    bool NewDemoProject(int nType);
+    /// @}
+
+    /// @name Senders
+    /// @{
+    /// Adds a factory-new sender as the last one.
+    /// @return its index; -1 for a type that the catalogue does not know, and when the ids are used up
+    int AddSender(int nType, const QString& strName = QString());
+    /// Adds factory-new senders with that number of output ports, announced as one change.
+    /// @return how many were added: none of a type that the catalogue does not know, fewer when the ids are
+    /// used up
+    int AddSenders(int nType, int nCount, int nOutputPorts);
+    /// Removes a sender; the current one stays current where it can.
+    void RemoveSender(int nSender);
+    /// Makes a sender the one that the dialogs edit. An index without a sender is ignored.
+    void SetCurrentSender(int nSender);
+    /// The record that stands for the senders of a project without any.
+    CSender* NoSender() { return &m_senderNone; }
+    /// @}
+
+    /// @name The file
+    /// @{
+    /// Path of the project file; empty while the project was never saved.
+    QString FilePath() const { return m_strFile; }
+    /// Opens a project. On a problem the present project stays.
+    bool Open(const QString& strFile, SFileProblem& problem);
+    /// Saves to the project's file; a project without one needs `SaveAs`.
+    bool Save(SFileProblem& problem);
+    /// Saves to a file, which becomes the project's, and takes the background pictures along. Pictures that
+    /// could not be copied are reported by `OnProblem`.
+    bool SaveAs(const QString& strFile, SFileProblem& problem);
+    /// Makes the address lists permanent, and nothing else of what was changed. A project without a file
+    /// keeps them until it is saved.
+    bool SaveAddresses(SFileProblem& problem);
+    /// The broken file that the last save has kept beside the new one; empty when there was none.
+    QString KeptFile() const { return m_strKept; }
+    /// Folder of the background pictures.
+    QString PictureFolder();
+    /// File name of a sender's background picture, without the folder.
+    QString PictureName(int nSender) const;
+    /// Reports a problem that no return value carries.
+    void Report(const SFileProblem& problem);
+    /// @}
+
+Q_SIGNALS:
+    /// Anything in the project changed; announced once for each change, whatever it holds.
+    void OnProjectChanged(const SProjectChange& change);
+    /// Another project took its place; what was known of senders and inputs is void.
+    void OnProjectReplaced();
+    /// `IsModified` changed.
+    void OnModifiedChanged(bool bModified);
+    /// `FilePath` changed.
+    void OnFilePathChanged(const QString& strFile);
+    /// A problem that no return value carries, such as a failed `SpecifiedIPsSave`.
+    void OnProblem(const SFileProblem& problem);
+
+private:
+    void Replace(SSimulatedProject project, const QString& strFile);
+    bool WriteTo(const QString& strFile, const QJsonObject& project, SFileProblem& problem);
+    void MarkSaved(const QJsonObject& saved, const SProjectFingerprint& fingerprint);
+    void UpdateModified(const SProjectFingerprint& present);
+    void SetFilePath(const QString& strFile);
+
+    SSimulatedProject m_project;
+    CSender m_senderNone;
+    QJsonObject m_jsonSaved; ///< the project as it is in its file, or as it was started
+    SProjectFingerprint m_fingerprintSaved;
+    SProjectFingerprint m_fingerprintNoticed; ///< the project as it was last announced
+    bool m_bModified = false;
+    bool m_bChangesExpected = false;
+    QString m_strFile;
+    QString m_strKept;
+    CPictureFolder m_pictures;
+};
+
+#endif // SIMULATOR_COMMONCLASS_PROJECTDOCUMENT_H

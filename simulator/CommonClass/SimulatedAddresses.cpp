@@ -1,0 +1,68 @@
+#include "simulator/CommonClass/SimulatedAddresses.h"
+
+#include "simulator/CommonClass/AddressText.h"
+#include "simulator/CommonClass/ProjectDocument.h"
+
+#include <utility>
+
+CSimulatedAddresses::CSimulatedAddresses(CProjectDocument& document)
+    : m_document(document)
+    , m_funcFacts(MachineNetworkFacts)
+    , m_facts(MachineNetworkFacts())
+{}
+
+void CSimulatedAddresses::SetNetworkFacts(FuncNetworkFacts funcFacts)
+{
+    m_funcFacts = std::move(funcFacts);
+    RefreshNetworkFacts();
+}
+
+void CSimulatedAddresses::RefreshNetworkFacts()
+{
+    m_facts = m_funcFacts();
+}
+
+enAddressVerdict CSimulatedAddresses::Judge(unsigned int nAddress)
+{
+    return AddressVerdict(nAddress, Used(), m_facts);
+}
+
+const QSet<unsigned int>& CSimulatedAddresses::Used()
+{
+    const SAddressLists& lists = m_document.Project().addresses;
+    // Lists that share their data are equal at once, so this costs nothing while they stay as they are.
+    if (lists.listStored == m_listUsedStored && lists.listCurSet == m_listUsedCurSet)
+        return m_setUsed;
+    m_listUsedStored = lists.listStored;
+    m_listUsedCurSet = lists.listCurSet;
+    m_setUsed.clear();
+    // An address is taken by the list that is in force and by the one that is to follow it.
+    for (const QStringList* pList : {&m_listUsedStored, &m_listUsedCurSet}) {
+        for (const QString& strEntry : *pList)
+            m_setUsed.insert(AddressValue(EntryAddress(strEntry)).value_or(0));
+    }
+    return m_setUsed;
+}
+
+void CSimulatedAddresses::Remove(int nIndex)
+{
+    if (nIndex < 0 || nIndex >= m_document.Project().addresses.listStored.size())
+        return;
+    m_document.Change([nIndex](SSimulatedProject& project) {
+        SAddressLists& lists = project.addresses;
+        for (QStringList* pList : {&lists.listStored, &lists.listOriginal, &lists.listCurSet})
+            pList->removeAt(nIndex);
+    });
+}
+
+void CSimulatedAddresses::ApplyCurrentSet()
+{
+    m_document.Change(
+        [](SSimulatedProject& project) { project.addresses.listStored = project.addresses.listCurSet; });
+}
+
+void CSimulatedAddresses::RevertCurrentSet()
+{
+    m_document.Change(
+        [](SSimulatedProject& project) { project.addresses.listCurSet = project.addresses.listStored; });
+}
