@@ -215,24 +215,30 @@ void TestChartMouse::AWhiteNearAVertexLandsOnIt()
 void TestChartMouse::AWhiteNearD65SnapsToIt_data()
 {
     QTest::addColumn<bool>("bSnap");
-    QTest::addColumn<float>("fAway");
+    QTest::addColumn<QPointF>("ptAway");
     QTest::addColumn<bool>("bSnapped");
-    QTest::newRow("0.02 away") << true << 0.02F << true;
-    QTest::newRow("0.03 away") << true << 0.03F << false;
-    QTest::newRow("switched off") << false << 0.02F << false;
+    QTest::newRow("0.02 away") << true << QPointF(0.02, 0.0) << true;
+    QTest::newRow("just nearer than 0.025, to the right") << true << QPointF(0.02499, 0.0) << true;
+    QTest::newRow("just nearer than 0.025, below") << true << QPointF(0.0, -0.02499) << true;
+    QTest::newRow("just nearer than 0.025, aslant") << true << QPointF(0.014994, 0.019992) << true;
+    QTest::newRow("just farther than 0.025, to the right") << true << QPointF(0.02501, 0.0) << false;
+    QTest::newRow("just farther than 0.025, below") << true << QPointF(0.0, -0.02501) << false;
+    QTest::newRow("just farther than 0.025, aslant") << true << QPointF(0.015006, 0.020008) << false;
+    QTest::newRow("0.03 away") << true << QPointF(0.03, 0.0) << false;
+    QTest::newRow("switched off") << false << QPointF(0.02, 0.0) << false;
 }
 
 void TestChartMouse::AWhiteNearD65SnapsToIt()
 {
     QFETCH(bool, bSnap);
-    QFETCH(float, fAway);
+    QFETCH(QPointF, ptAway);
     QFETCH(bool, bSnapped);
     CTestChart chart;
     chart.Accept();
     chart.AddChromaGroupByIndex(0, Group());
     chart.m_bSnapWhite = bSnap;
     chart.m_nHoverPoint = enWhitePoint;
-    const CPoint ptTarget(0.3127F + fAway, 0.329F);
+    const CPoint ptTarget = chart.QPointFToCPointF(chart.m_ptD65 + ptAway);
     chart.CalcCurrentPoint(chart.Mapping().ToPixel(ptTarget), &chart.First());
     const CPoint ptWhite = chart.First().ptWhite;
     const bool bOnD65 = ExactCompare::SameBits(ptWhite.x, float(chart.m_ptD65.x())) &&

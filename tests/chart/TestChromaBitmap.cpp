@@ -79,6 +79,8 @@ private Q_SLOTS:
     void RandomSizesArePaintedAsPlainly_data();
     void RandomSizesArePaintedAsPlainly();
     void RandomOutlinesArePaintedAsPlainly();
+    void OfEqualCornersTheFirstCounts_data();
+    void OfEqualCornersTheFirstCounts();
     void ANearlyLevelLineIsPaintedAsPlainly();
     void AVertexOnAPixelIsInside();
     void AVertexJustOutOfReachIsNot();
@@ -212,6 +214,25 @@ void TestChromaBitmap::RandomOutlinesArePaintedAsPlainly()
         }
         QCOMPARE(Difference(Paint(source, Never), Plain(source)), QString());
     }
+}
+
+void TestChromaBitmap::OfEqualCornersTheFirstCounts_data()
+{
+    QTest::addColumn<QVector<QPointF>>("vecLocus");
+    const QPointF ptRight(0.7, 0.3);
+    const QPointF ptTop(0.1, 0.8);
+    const QPointF ptLeft(0.125, 0.125);
+    QTest::newRow("two rightmost") << QVector<QPointF>{ptRight, {0.7, 0.1}, ptTop, ptLeft};
+    QTest::newRow("two topmost") << QVector<QPointF>{ptRight, ptTop, {0.3, 0.8}, ptLeft};
+    QTest::newRow("two leftmost") << QVector<QPointF>{ptRight, ptTop, ptLeft, {0.25, 0.0}};
+}
+
+void TestChromaBitmap::OfEqualCornersTheFirstCounts()
+{
+    QFETCH(QVector<QPointF>, vecLocus);
+    const QSize size(1000, 1000);
+    const SSource source = {size.width(), size.height(), vecLocus, OutlineOfWidget(size, vecLocus)};
+    QCOMPARE(Difference(Paint(source, Never), Plain(source)), QString());
 }
 
 void TestChromaBitmap::ANearlyLevelLineIsPaintedAsPlainly()

@@ -74,6 +74,7 @@ private Q_SLOTS:
     void APointIsInsideATriangle();
     void TheWrapOfTheEdgeTestIsThatOfATriangle_data();
     void TheWrapOfTheEdgeTestIsThatOfATriangle();
+    void FewerThanThreePointsFault_data();
     void FewerThanThreePointsFault();
     void NoPolygonFaults();
     void TestsOfPointsAllocateNothing();
@@ -369,11 +370,22 @@ void TestCalcChromaRatio::TheWrapOfTheEdgeTestIsThatOfATriangle()
     QVERIFY(!CCalcChromaRatio::G_IsPointInPolygon2(pt, vecExact.data(), -1));
 }
 
+void TestCalcChromaRatio::FewerThanThreePointsFault_data()
+{
+    QTest::addColumn<int>("nFirst");
+    QTest::addColumn<int>("nSecond");
+    QTest::newRow("the first has two") << 2 << 3;
+    QTest::newRow("the second has two") << 3 << 2;
+    QTest::newRow("both have none") << 0 << 0;
+}
+
 void TestCalcChromaRatio::FewerThanThreePointsFault()
 {
-    const SDeath death = RunToDeath([] {
-        Triangle vecA = c_triangleRight;
-        Triangle vecB = {{0, 0}, {1, 0}};
+    QFETCH(int, nFirst);
+    QFETCH(int, nSecond);
+    const SDeath death = RunToDeath([&] {
+        Triangle vecA(c_triangleRight.begin(), c_triangleRight.begin() + nFirst);
+        Triangle vecB(c_triangleRight.begin(), c_triangleRight.begin() + nSecond);
         float fRatio = 0.0F;
         CCalcChromaRatio().CalcChromaRatio(vecA, vecB, fRatio);
     });

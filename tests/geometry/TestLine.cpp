@@ -437,6 +437,12 @@ void TestLine::SegmentsCross_data()
         << SSegments{{0, 0}, {2, 2}, {fBelow, -fBelow}, {2, 2}} << false;
     QTest::newRow("collinear, shifted by the tolerance")
         << SSegments{{0, 0}, {2, 0}, {std::ldexp(1.0F, -23), 0}, {2, 0}} << true;
+    QTest::newRow("collinear, sharing the first ends") << SSegments{{0, 0}, {1, 1}, {0, 0}, {2, 2}} << true;
+    QTest::newRow("collinear, sharing the last ends") << SSegments{{0, 0}, {2, 2}, {1, 1}, {2, 2}} << true;
+    QTest::newRow("collinear, the second begins where the first ends")
+        << SSegments{{0, 0}, {1, 1}, {1, 1}, {2, 2}} << true;
+    QTest::newRow("collinear, the first begins where the second ends")
+        << SSegments{{1, 1}, {2, 2}, {0, 0}, {1, 1}} << true;
     QTest::newRow("collinear and overlapping") << SSegments{{0, 0}, {2, 2}, {1, 1}, {3, 3}} << true;
     QTest::newRow("collinear and apart: the boxes tell")
         << SSegments{{0, 0}, {1, 1}, {2, 2}, {3, 3}} << false;
