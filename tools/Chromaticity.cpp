@@ -2,6 +2,7 @@
 
 #include "SenderModuleDialog/colour/ColourStandards.h"
 #include "SenderModuleDialog/geometry/Line.h"
+#include "instruments/colour/WhitePoint.h"
 #include "tools/Report.h"
 
 #include <QStringList>
@@ -120,6 +121,22 @@ QStringList OtherNames(const SColourStandard& standard)
             listNames += QString::fromLatin1(row.szName);
     }
     return listNames;
+}
+
+SChromaticity ParseWhite(const QString& strWhite)
+{
+    if (strWhite.contains(QLatin1Char(','))) {
+        const QPointF pt = ParseChromaticity(strWhite);
+        return {pt.x(), pt.y()};
+    }
+    QStringList listNames;
+    for (const SWhitePoint& white : c_arrWhitePoints) {
+        listNames += QString::fromLatin1(white.szName);
+        if (strWhite.compare(listNames.constLast(), Qt::CaseInsensitive) == 0)
+            return white.xy;
+    }
+    throw CToolError(QStringLiteral("'%1' is no white; write x,y or one of: %2")
+                         .arg(strWhite, listNames.join(QStringLiteral(", "))));
 }
 
 bool HasArea(const std::vector<CPointEx<float>>& vecTriangle)

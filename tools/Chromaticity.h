@@ -2,6 +2,7 @@
 #define TOOLS_CHROMATICITY_H
 
 #include "host/CommonClass/PointEx.h"
+#include "instruments/colour/Chromaticity.h"
 
 #include <QPointF>
 #include <QString>
@@ -27,6 +28,9 @@ const SColourStandard* FindStandard(const QString& strName);
 
 /// The other names by which `FindStandard` finds a standard colour space, as people write them.
 QStringList OtherNames(const SColourStandard& standard);
+
+/// A white: the name of a CIE illuminant, for example `D65`, or a chromaticity as `x,y`. Throws `CToolError`.
+SChromaticity ParseWhite(const QString& strWhite);
 
 /// Whether three corners enclose an area that single precision can tell from zero.
 bool HasArea(const std::vector<CPointEx<float>>& vecTriangle);

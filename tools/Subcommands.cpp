@@ -6,9 +6,11 @@
 #include "tools/GamutCommand.h"
 #include "tools/LocusCommand.h"
 #include "tools/ManualCommand.h"
+#include "tools/MatrixCommand.h"
 #include "tools/StandardsCommand.h"
 #include "tools/Subcommand.h"
 #include "tools/TimingCommand.h"
+#include "tools/WallCommand.h"
 
 std::vector<SSubcommand> AllSubcommands()
 {
@@ -20,6 +22,8 @@ std::vector<SSubcommand> AllSubcommands()
         GamutSubcommand(),
         LocusSubcommand(),
         StandardsSubcommand(),
+        MatrixSubcommand(),
+        WallSubcommand(),
         ChartSubcommand(),
         // What describes the others comes last.
         ManualSubcommand(),

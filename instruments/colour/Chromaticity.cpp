@@ -2,13 +2,20 @@
 
 #include <cmath>
 
+namespace {
+
+/// Readings are rounded to four decimals or so, so those of pure reds may add up to a little more than 1.
+constexpr double c_dLargestSum = 1.0 + 1e-4;
+
+} // namespace
+
 namespace Chromaticity {
 
 enColourFault Check(SChromaticity xy)
 {
     if (!std::isfinite(xy.dX) || !std::isfinite(xy.dY))
         return enColourFault::enNotFinite;
-    const bool bReal = xy.dX > 0.0 && xy.dY > 0.0 && xy.dX + xy.dY <= 1.0;
+    const bool bReal = xy.dX > 0.0 && xy.dY > 0.0 && xy.dX + xy.dY <= c_dLargestSum;
     return bReal ? enColourFault::enNone : enColourFault::enNotChromaticity;
 }
 

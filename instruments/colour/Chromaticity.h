@@ -38,7 +38,8 @@ struct STristimulus
 
 namespace Chromaticity {
 
-/// Why a point is no chromaticity that a calculation can use: not finite, x or y not above 0, x + y above 1.
+/// Why a point is no chromaticity that a calculation can use: not finite, x or y not above 0, x + y above 1
+/// by more than four decimals round.
 enColourFault Check(SChromaticity xy);
 
 /// u' = 4x / (-2x + 12y + 3), v' = 9y / (-2x + 12y + 3). Finite for every chromaticity.

@@ -2,7 +2,7 @@
 
 #include <QJsonArray>
 
-/// `sender-tool cct`, `gamut` and `locus`.
+/// `sender-tool cct`, `gamut`, `matrix` and `locus`.
 class TestColourCommands : public QObject
 {
     Q_OBJECT
@@ -10,10 +10,17 @@ class TestColourCommands : public QObject
 private Q_SLOTS:
     void cctTurnsOneIntoTheOther_data();
     void cctTurnsOneIntoTheOther();
+    void cctTellsWhichTemperatureIsWhich();
     void cctRejects_data();
     void cctRejects();
     void gamutTellsTheCoverage_data();
     void gamutTellsTheCoverage();
+    void gamutComparesInEitherPlane();
+    void matrixPrintsRows_data();
+    void matrixPrintsRows();
+    void matrixTellsWhatItClips();
+    void matrixRejects_data();
+    void matrixRejects();
     void gamutRejects_data();
     void gamutRejects();
     void standardsListsEveryName();
@@ -43,10 +50,24 @@ void TestColourCommands::cctTurnsOneIntoTheOther_data()
 void TestColourCommands::cctTurnsOneIntoTheOther()
 {
     QFETCH(QByteArrayList, words);
+    QFETCH(QByteArray, output);
     const SToolRun run = RunTool(words);
     QCOMPARE(run.errors, QByteArray());
     QCOMPARE(run.nStatus, 0);
-    QTEST(run.output, "output");
+    // Programs read the first line; what follows is for people.
+    QCOMPARE(run.output.left(output.size()), output);
+}
+
+void TestColourCommands::cctTellsWhichTemperatureIsWhich()
+{
+    const SToolRun run = RunTool({"cct", "0.3127,0.3290"});
+    QCOMPARE(run.nStatus, 0);
+    const QByteArrayList listLines = run.output.split('\n');
+    QCOMPARE(listLines.size(), 5);
+    QVERIFY(listLines[1].startsWith("Daylight temperature           6500.00 K"));
+    QVERIFY(listLines[2].startsWith("Correlated colour temperature  6504.39 K"));
+    QVERIFY(listLines[3].startsWith("Duv                            +0.00321"));
+    QCOMPARE(RunTool({"cct", "6500"}).output.count('\n'), 1);
 }
 
 void TestColourCommands::cctRejects_data()
@@ -61,6 +82,9 @@ void TestColourCommands::cctRejects_data()
     QTest::newRow("not a number") << QByteArrayList{"nan"} << QByteArray("'nan' is no temperature");
     QTest::newRow("beyond the last row")
         << QByteArrayList{"0.25,0.25"} << QByteArray("'0.25,0.25' is out of range");
+    QTest::newRow("too warm for daylight, but near a Planckian radiator")
+        << QByteArrayList{"0.44758,0.40745"}
+        << QByteArray("(correlated colour temperature 2855.54 K, Duv +0.0000");
     QTest::newRow("outside the gate") << QByteArrayList{"0.6,0.3"} << QByteArray("'0.6,0.3' is out of range");
     QTest::newRow("three numbers") << QByteArrayList{"0.3,0.3,0.4"} << QByteArray("is no chromaticity");
     QTest::newRow("no number") << QByteArrayList{"0.3,y"} << QByteArray("'y' is no coordinate");
@@ -103,6 +127,66 @@ void TestColourCommands::gamutTellsTheCoverage()
     QCOMPARE(run.errors, QByteArray());
     QCOMPARE(run.nStatus, 0);
     QTEST(run.output, "output");
+}
+
+void TestColourCommands::gamutComparesInEitherPlane()
+{
+    QCOMPARE(RunTool({"gamut", "--of", "Rec2020", "--by", "DCIP3", "--uv"}).output, QByteArray("72.85 %\n"));
+    QCOMPARE(RunTool({"gamut", "--of", "NTSC", "--by", "NTSC", "--uv"}).output, QByteArray("100.00 %\n"));
+    VERIFY_BAD_INPUT(RunTool({"gamut", "--of", "sRGB", "--by", "0,0;1,0;0,1", "--uv"}), "cannot be compared");
+}
+
+void TestColourCommands::matrixPrintsRows_data()
+{
+    QTest::addColumn<QByteArrayList>("words");
+    QTest::addColumn<QByteArray>("output");
+    QTest::newRow("to XYZ") << QByteArrayList{"sRGB"}
+                            << QByteArray("   0.4123908   0.3575843   0.1804808\n"
+                                          "   0.2126390   0.7151687   0.0721923\n"
+                                          "   0.0193308   0.1191948   0.9505322\n");
+    QTest::newRow("to itself") << QByteArrayList{"DCIP3", "--to", "DCIP3"} << QByteArray("   1.0000000");
+    QTest::newRow("from XYZ") << QByteArrayList{"sRGB", "--inverse"}
+                              << QByteArray("   3.2409699  -1.5373832");
+    QTest::newRow("another white") << QByteArrayList{"0.68,0.32;0.265,0.69;0.15,0.06", "--white", "DCI"}
+                                   << QByteArray("   0.4451698   0.2771344   0.1722827\n");
+}
+
+void TestColourCommands::matrixPrintsRows()
+{
+    QFETCH(QByteArrayList, words);
+    QFETCH(QByteArray, output);
+    const SToolRun run = RunTool(QByteArrayList{"matrix"} + words);
+    QCOMPARE(run.errors, QByteArray());
+    QCOMPARE(run.output.left(output.size()), output);
+}
+
+void TestColourCommands::matrixTellsWhatItClips()
+{
+    QVERIFY(RunTool({"matrix", "sRGB", "--to", "Rec2020"})
+                .output.endsWith("0.00 % of the colours lie outside\n"));
+    const QJsonObject json = JsonOf(RunTool({"matrix", "Rec2020", "--to", "sRGB", "--json"}));
+    QVERIFY(json[QStringLiteral("clipped")].toDouble() > 0.5);
+    QCOMPARE(json[QStringLiteral("matrix")].toArray().size(), 3);
+}
+
+void TestColourCommands::matrixRejects_data()
+{
+    QTest::addColumn<QByteArrayList>("words");
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("nothing") << QByteArrayList{} << QByteArray("GAMUT");
+    QTest::newRow("no gamut") << QByteArrayList{"SECAM"} << QByteArray("'SECAM' is no gamut");
+    QTest::newRow("no white") << QByteArrayList{"sRGB", "--white", "D99"}
+                              << QByteArray("'D99' is no white; write x,y or one of: D65, D50");
+    QTest::newRow("white outside") << QByteArrayList{"sRGB", "--white", "0.7,0.29"}
+                                   << QByteArray("the white lies outside the gamut");
+    QTest::newRow("no colours") << QByteArrayList{"0,0;1,0;0,1"} << QByteArray("x and y must be above 0");
+}
+
+void TestColourCommands::matrixRejects()
+{
+    QFETCH(QByteArrayList, words);
+    QFETCH(QByteArray, text);
+    VERIFY_BAD_INPUT(RunTool(QByteArrayList{"matrix"} + words), text);
 }
 
 void TestColourCommands::gamutRejects_data()

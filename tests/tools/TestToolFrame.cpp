@@ -48,8 +48,8 @@ void TestToolFrame::HelpGoesToStandardOutput()
 void TestToolFrame::TheHelpListsEverySubcommand()
 {
     const SToolRun run = RunTool({"--help"});
-    for (const char* szName :
-         {"  edid ", "  timing ", "  cct ", "  gamut ", "  locus ", "  standards ", "  chart "})
+    for (const char* szName : {"  edid ", "  timing ", "  cct ", "  gamut ", "  locus ", "  standards ",
+                               "  matrix ", "  wall ", "  chart "})
         QVERIFY2(run.output.contains(szName), run.output.constData());
 }
 

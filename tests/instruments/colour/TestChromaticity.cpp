@@ -114,6 +114,7 @@ void TestChromaticity::whatIsNoChromaticityIsNamed_data()
     QTest::addColumn<enColourFault>("fault");
     QTest::newRow("white") << SChromaticity{0.3127, 0.329} << enColourFault::enNone;
     QTest::newRow("no blue at all") << SChromaticity{0.7, 0.3} << enColourFault::enNone;
+    QTest::newRow("a red of rounded decimals") << SChromaticity{0.7081, 0.2920} << enColourFault::enNone;
     QTest::newRow("NaN in x") << SChromaticity{c_dNaN, 0.3} << enColourFault::enNotFinite;
     QTest::newRow("NaN in y") << SChromaticity{0.3, c_dNaN} << enColourFault::enNotFinite;
     QTest::newRow("infinite") << SChromaticity{0.3, c_dInfinity} << enColourFault::enNotFinite;
