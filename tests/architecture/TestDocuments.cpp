@@ -136,6 +136,20 @@ QStringList CodeSpans(const QString& strText)
     return listSpans;
 }
 
+/// What links to the headings of a document are called: small letters, and dashes for blanks.
+QSet<QString> Anchors(const QString& strText)
+{
+    static const QRegularExpression s_regHeading(L("^#+ (.*)$"), QRegularExpression::MultilineOption);
+    QSet<QString> setAnchors;
+    QRegularExpressionMatchIterator itHeading = s_regHeading.globalMatch(strText);
+    while (itHeading.hasNext()) {
+        QString strAnchor = itHeading.next().captured(1).toLower();
+        strAnchor.remove(QRegularExpression(L("[^\\w -]"))).replace(QLatin1Char(' '), QLatin1Char('-'));
+        setAnchors.insert(strAnchor);
+    }
+    return setAnchors;
+}
+
 /// The lines of a document that are code: indented by four, or between fences.
 struct SCodeBlock
 {
@@ -168,13 +182,20 @@ std::vector<SCodeBlock> CodeBlocks(const QString& strText)
     return vecBlocks;
 }
 
-/// One command of the README and what stands below it.
+/// One command of the README and the output below it.
 struct SExample
 {
+    QString strSetup; ///< the commands before it in its block, whose files it may use
     QString strCommand;
     QString strOutput;
     int nLine = 0;
 };
+
+QString SetupAfter(const std::vector<SExample>& vecExamples)
+{
+    return vecExamples.empty() ? QString()
+                               : vecExamples.back().strSetup + vecExamples.back().strCommand + L("\n");
+}
 
 /// Splits a block at its lines with a dollar sign; a backslash continues the command.
 std::vector<SExample> ExamplesOf(const SCodeBlock& block)
@@ -186,7 +207,7 @@ std::vector<SExample> ExamplesOf(const SCodeBlock& block)
         if (bContinued)
             vecExamples.back().strCommand += QLatin1Char('\n') + strLine;
         else if (strLine.startsWith(L("$ ")))
-            vecExamples.push_back({strLine.mid(2), QString(), nLine});
+            vecExamples.push_back({SetupAfter(vecExamples), strLine.mid(2), QString(), nLine});
         else if (!vecExamples.empty())
             vecExamples.back().strOutput += strLine + QLatin1Char('\n');
         bContinued = !vecExamples.empty() && vecExamples.back().strOutput.isEmpty() &&
@@ -204,6 +225,21 @@ std::vector<SExample> Examples()
         vecExamples.insert(vecExamples.end(), vecOfBlock.begin(), vecOfBlock.end());
     }
     return vecExamples;
+}
+
+/// What commands print in a folder, with the built tool in the path.
+QString RunIn(const QString& strFolder, const QString& strCommands)
+{
+    QProcess process;
+    process.setWorkingDirectory(strFolder);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(L("PATH"), L("%1:%2").arg(L(SENDER_TOOL_FOLDER), environment.value(L("PATH"))));
+    process.setProcessEnvironment(environment);
+    process.start(L("bash"), {L("-c"), strCommands});
+    if (!process.waitForFinished())
+        qFatal("%s does not end", qPrintable(strCommands));
+    return QString::fromUtf8(process.readAll()).trimmed();
 }
 
 /// The names behind a text, up to the end of its line, in order.
@@ -247,6 +283,8 @@ private Q_SLOTS:
     void EveryHeadingHasAText();
     void EveryPictureAndLinkExists_data();
     void EveryPictureAndLinkExists();
+    void EveryLinkWithinADocumentHasItsHeading_data();
+    void EveryLinkWithinADocumentHasItsHeading();
     void EveryFileAndFolderExists_data();
     void EveryFileAndFolderExists();
     void EveryNameOccursInTheSources_data();
@@ -313,6 +351,27 @@ void TestDocuments::EveryPictureAndLinkExists()
     QVERIFY2(listMissing.isEmpty(), qPrintable(listMissing.join(QLatin1Char('\n'))));
 }
 
+void TestDocuments::EveryLinkWithinADocumentHasItsHeading_data()
+{
+    AddDocuments();
+}
+
+void TestDocuments::EveryLinkWithinADocumentHasItsHeading()
+{
+    QFETCH(QString, document);
+    static const QRegularExpression s_regLink(L("\\]\\(#([^)\\s]+)\\)"));
+    const QString strText = Text(document);
+    const QSet<QString> setAnchors = Anchors(strText);
+    QRegularExpressionMatchIterator itLink = s_regLink.globalMatch(strText);
+    QStringList listMissing;
+    while (itLink.hasNext()) {
+        const QString strAnchor = itLink.next().captured(1);
+        if (!setAnchors.contains(strAnchor))
+            listMissing.append(strAnchor);
+    }
+    QVERIFY2(listMissing.isEmpty(), qPrintable(listMissing.join(QLatin1Char('\n'))));
+}
+
 void TestDocuments::EveryFileAndFolderExists_data()
 {
     AddDocuments();
@@ -324,7 +383,12 @@ void TestDocuments::EveryFileAndFolderExists()
     const QString strText = Text(document);
     QStringList listNamed = CodeSpans(strText);
     for (const SCodeBlock& block : CodeBlocks(strText)) {
-        for (const QString& strLine : block.listLines) {
+        // Of examples only the commands name files; their output may hold anything.
+        const std::vector<SExample> vecExamples = ExamplesOf(block);
+        QStringList listLines;
+        for (const SExample& example : vecExamples)
+            listLines.append(example.strCommand);
+        for (const QString& strLine : vecExamples.empty() ? block.listLines : listLines) {
             for (const QString& strWord : strLine.split(QRegularExpression(L("[\\s\"<>();,']+"))))
                 listNamed.append(strWord);
         }
@@ -378,29 +442,25 @@ void TestDocuments::TheHelpNamesTheBenchmarksThatAreBuilt()
 
 void TestDocuments::AnExamplePrintsWhatStandsThere_data()
 {
+    QTest::addColumn<QString>("setup");
     QTest::addColumn<QString>("command");
     QTest::addColumn<QString>("output");
     const std::vector<SExample> vecExamples = Examples();
     QVERIFY(vecExamples.size() >= 10);
     for (const SExample& example : vecExamples)
         QTest::addRow("line %d: %s", example.nLine, qPrintable(example.strCommand))
-            << example.strCommand << example.strOutput;
+            << example.strSetup << example.strCommand << example.strOutput;
 }
 
 void TestDocuments::AnExamplePrintsWhatStandsThere()
 {
+    QFETCH(QString, setup);
     QFETCH(QString, command);
     QFETCH(QString, output);
     const QTemporaryDir folder;
-    QProcess process;
-    process.setWorkingDirectory(folder.path());
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(L("PATH"), L("%1:%2").arg(L(SENDER_TOOL_FOLDER), environment.value(L("PATH"))));
-    process.setProcessEnvironment(environment);
-    process.start(L("bash"), {L("-c"), command});
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(QString::fromUtf8(process.readAll()).trimmed(), output.trimmed());
+    QVERIFY(QFile::link(Root().filePath(L("docs")), folder.filePath(L("docs"))));
+    RunIn(folder.path(), setup);
+    QCOMPARE(RunIn(folder.path(), command), output.trimmed());
 }
 
 QTEST_GUILESS_MAIN(TestDocuments)
