@@ -31,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSi
     float fRatio = c_fPreset;
     Require(CCalcChromaRatio().CalcChromaRatio(vecA, vecB, fRatio), "the result is always true");
     Require(fRatio == c_fPreset || std::isnan(fRatio) || (fRatio >= 0.0F && fRatio <= 1.0F),
-            "the ratio is left alone, or no number, or from 0 to 1");
+            "the ratio is left alone, or NaN, or from 0 to 1");
 
     for (int nCount = 0; nCount <= 3; ++nCount) {
         // A copy of exactly so many points lets a sanitizer see a read beyond them.

@@ -35,7 +35,7 @@ void CheckSelf(CPointEx<float> ptA, CPointEx<float> ptB)
     Require(!CLine::IsCross(ptA, ptB, ptB, ptA), "no segment crosses its reverse");
 }
 
-// Keeps the compiler from leaving out a calculation whose result nobody reads.
+// Keeps the compiler from dropping a calculation whose result is unused.
 template <class T>
 void Keep(T value)
 {

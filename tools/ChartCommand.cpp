@@ -71,7 +71,7 @@ QSize ParseSize(const CArguments& arguments)
     const QRegularExpressionMatch match = s_pattern.match(strSize);
     if (!match.hasMatch())
         throw CToolError(
-            QStringLiteral("'%1' is no size; write WIDTHxHEIGHT, for example 1000x1000").arg(strSize));
+            QStringLiteral("'%1' is not a size; write WIDTHxHEIGHT, for example 1000x1000").arg(strSize));
     return {ParseSide(strSize, match.captured(1)), ParseSide(strSize, match.captured(2))};
 }
 
@@ -88,7 +88,7 @@ QColor ParseBackground(const CArguments& arguments, const QColor& colorOwn)
     QColor color(strColor);
     if (!color.isValid())
         throw CToolError(
-            QStringLiteral("'%1' is no colour; write #RRGGBB, for example #323232").arg(strColor));
+            QStringLiteral("'%1' is not a colour; write #RRGGBB, for example #323232").arg(strColor));
     return color;
 }
 
@@ -145,7 +145,7 @@ SChromaGroupInfo WrittenGroup(const QString& strGroup)
     const int nColon = strGroup.lastIndexOf(QLatin1Char(':'));
     if (nColon <= 0)
         throw CToolError(
-            QStringLiteral("'%1' is no group; write NAME:x,y;x,y;x,y;x,y for red, green, blue and white")
+            QStringLiteral("'%1' is not a group; write NAME:x,y;x,y;x,y;x,y for red, green, blue and white")
                 .arg(strGroup));
     const std::vector<CPointEx<float>> vecPoints = ParseChromaticities(strGroup.mid(nColon + 1));
     if (vecPoints.size() != c_nGroupPoints)

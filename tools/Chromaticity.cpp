@@ -72,7 +72,7 @@ double ParseNumber(const QString& strNumber, const char* szWhat)
     bool bOk = false;
     const double dValue = strNumber.toDouble(&bOk);
     if (!bOk || !std::isfinite(dValue))
-        throw CToolError(QStringLiteral("'%1' is no %2").arg(strNumber, QString::fromLatin1(szWhat)));
+        throw CToolError(QStringLiteral("'%1' is not a %2").arg(strNumber, QString::fromLatin1(szWhat)));
     return dValue;
 }
 
@@ -81,7 +81,7 @@ QPointF ParseChromaticity(const QString& strPoint)
     const QStringList listNumbers = strPoint.split(QLatin1Char(','));
     if (listNumbers.size() != 2)
         throw CToolError(
-            QStringLiteral("'%1' is no chromaticity; write x,y, for example 0.3127,0.3290").arg(strPoint));
+            QStringLiteral("'%1' is not a chromaticity; write x,y, for example 0.3127,0.3290").arg(strPoint));
     const QPointF pt(ParseNumber(listNumbers[0].trimmed(), "coordinate"),
                      ParseNumber(listNumbers[1].trimmed(), "coordinate"));
     if (!IsCoordinate(pt.x()) || !IsCoordinate(pt.y()))
@@ -135,7 +135,7 @@ SChromaticity ParseWhite(const QString& strWhite)
         if (strWhite.compare(listNames.constLast(), Qt::CaseInsensitive) == 0)
             return white.xy;
     }
-    throw CToolError(QStringLiteral("'%1' is no white; write x,y or one of: %2")
+    throw CToolError(QStringLiteral("'%1' is not a white point; write x,y or one of: %2")
                          .arg(strWhite, listNames.join(QStringLiteral(", "))));
 }
 
@@ -162,7 +162,7 @@ std::vector<CPointEx<float>> ParseGamut(const QString& strGamut)
     if (const SColourStandard* const pStandard = FindStandard(strGamut))
         return {pStandard->ptRed, pStandard->ptGreen, pStandard->ptBlue};
     if (!strGamut.contains(QLatin1Char(',')))
-        throw CToolError(QStringLiteral("'%1' is no gamut; write x,y;x,y;x,y or one of: %2")
+        throw CToolError(QStringLiteral("'%1' is not a gamut; write x,y;x,y;x,y or one of: %2")
                              .arg(strGamut, StandardLabels()));
     return ParseTriangle(strGamut);
 }

@@ -16,7 +16,7 @@ void ToStandardOutput(const QByteArray& content);
 /// or a pipe is written to directly. Throws `CToolError` when it cannot be written.
 void ToFile(const QString& strFile, const QByteArray& content);
 
-/// Whether a file's name stands for standard output: it is `-`.
+/// Whether a file's name means standard output: `-`.
 bool IsStandardOutput(const QString& strFile);
 
 /// To the file, or to standard output when no file is named or its name is `-`.

@@ -25,7 +25,7 @@ QRegularExpressionMatch Match(const QString& strMode)
         QStringLiteral("(-?[0-9]+)[xX](-?[0-9]+)@(-?[0-9]+(?:\\.[0-9]+)?)")));
     const QRegularExpressionMatch match = s_pattern.match(strMode);
     if (!match.hasMatch())
-        throw CToolError(QStringLiteral("'%1' is no video mode; %2").arg(strMode, c_strExample));
+        throw CToolError(QStringLiteral("'%1' is not a video mode; %2").arg(strMode, c_strExample));
     return match;
 }
 

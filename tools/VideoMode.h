@@ -12,7 +12,7 @@ struct SVideoMode
     QString strRate; ///< the rate as it was written
 };
 
-/// Reads a mode. Throws `CToolError` when the text is no mode or a number is out of its range.
+/// Reads a mode. Throws `CToolError` when the text is not a mode or a number is out of its range.
 SVideoMode ParseVideoMode(const QString& strMode);
 
 /// `1920x1080 at 59.94 Hz`.

@@ -29,8 +29,8 @@ const SSubcommand* Find(const Subcommands& vecSubcommands, const char* szName)
     return it == vecSubcommands.end() ? nullptr : &*it;
 }
 
-/// Remarks of Qt about the surroundings, such as a runtime folder that is not there, are none of the user's:
-/// what the tool has to say on standard error, it says itself.
+/// Drops Qt's environment warnings, such as a missing runtime folder: standard error is for the tool's own
+/// lines.
 void KeepSevere(QtMsgType type, const QMessageLogContext& /*context*/, const QString& strText)
 {
     if (type == QtCriticalMsg || type == QtFatalMsg)
@@ -106,7 +106,7 @@ void PrintHelp(const Subcommands& vecSubcommands, const QString& strName)
     Output::ToStandardOutput(HelpText(*pSubcommand).toUtf8());
 }
 
-/// What stands in the place of a subcommand without being one.
+/// The first word where it is not a subcommand.
 void RunWithoutSubcommand(const Subcommands& vecSubcommands, const QStringList& listWords)
 {
     const QString strWord = listWords.value(0);

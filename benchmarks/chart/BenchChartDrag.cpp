@@ -86,7 +86,7 @@ private:
     SChromaGroupInfo m_group = Group();
 };
 
-/// The plain procedure's first call, on a list that nobody has used yet.
+/// The plain procedure's first call, on a fresh list.
 class CPlainDragBench
 {
 public:

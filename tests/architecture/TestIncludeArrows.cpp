@@ -234,8 +234,8 @@ void TestIncludeArrows::AWrongArrowIsNoticed_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("include");
-    QTest::newRow("geometry knows nobody") << "SenderModuleDialog/geometry/Line.cpp"
-                                           << "\"SenderModuleDialog/colour/CCT2ColorCoord.h\"";
+    QTest::newRow("geometry knows no other folder") << "SenderModuleDialog/geometry/Line.cpp"
+                                                    << "\"SenderModuleDialog/colour/CCT2ColorCoord.h\"";
     QTest::newRow("colour knows no chart") << "SenderModuleDialog/colour/CCT2ColorCoord.cpp"
                                            << "\"SenderModuleDialog/chart/ChromaGroupInfo.h\"";
     QTest::newRow("calculation knows no widget") << "SenderModuleDialog/geometry/Line.h"
@@ -266,8 +266,8 @@ void TestIncludeArrows::AWrongArrowIsNoticed_data()
                                                     << "\"SenderModuleDialog/edid/EDIDRaw.h\"";
     QTest::newRow("declarations know nothing but each other") << "host/TevraData/Sender.h"
                                                               << "\"simulator/OrviControl/Theme.h\"";
-    QTest::newRow("a folder that nobody placed") << "elsewhere/File.cpp"
-                                                 << "<vector>";
+    QTest::newRow("a folder without a layer") << "elsewhere/File.cpp"
+                                              << "<vector>";
 }
 
 void TestIncludeArrows::AWrongArrowIsNoticed()

@@ -13,8 +13,8 @@ struct STestInterface
     QStringList listAddresses;
 };
 
-/// A network of its own for a test: interfaces, addresses and routes of the kernel that nobody else sees. It
-/// vanishes with the object, or with the process.
+/// A network of its own for a test: interfaces, addresses and routes of the kernel that no other process
+/// sees. It vanishes with the object, or with the process.
 ///
 /// The calling thread is inside from construction to destruction, and so are the processes that it starts.
 /// Create it on the main thread: /proc/net shows the main thread's network.

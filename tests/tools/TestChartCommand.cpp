@@ -140,7 +140,7 @@ void TestChartCommand::TheLegendTellsTheCoverage()
                                      "whole:0.5,0;0,0.5;0,0;0.1,0.1"};
     const QByteArray svg = SvgOf(listHalf + QByteArrayList{"--coverage"});
     QVERIFY(svg.contains(">Output colour space, 50% covered<"));
-    QVERIFY(svg.contains(">Screen colour space (corrected)<"));
+    QVERIFY(svg.contains(">Screen colour space (after correction)<"));
     QVERIFY(!SvgOf(listHalf).contains("%"));
 }
 
@@ -250,7 +250,7 @@ void TestChartCommand::BadInputIsOneLineAndStatus2_data()
     QTest::newRow("a folder that is not there")
         << QByteArrayList{"-o", "/nowhere/at/all.png"} << QByteArray("cannot write '/nowhere/at/all.png'");
     QTest::newRow("size without an x")
-        << QByteArrayList{"-o", file, "--size", "1000"} << QByteArray("'1000' is no size");
+        << QByteArrayList{"-o", file, "--size", "1000"} << QByteArray("'1000' is not a size");
     QTest::newRow("size too small") << QByteArrayList{"-o", file, "--size", "100x500"}
                                     << QByteArray("100 is out of range; it must be from 101");
     QTest::newRow("size too large") << QByteArrayList{"-o", file, "--size", "500x16385"}
@@ -262,22 +262,22 @@ void TestChartCommand::BadInputIsOneLineAndStatus2_data()
     QTest::newRow("unknown standard")
         << QByteArrayList{"-o", file, "--standard", "Rec2021"}
         << QByteArray("unknown standard 'Rec2021'; give one of: sRGB, AdobeRGB");
-    QTest::newRow("group without a name")
-        << QByteArrayList{"-o", file, "--group", "0.1,0.1;0.2,0.2"} << QByteArray("is no group; write NAME:");
+    QTest::newRow("group without a name") << QByteArrayList{"-o", file, "--group", "0.1,0.1;0.2,0.2"}
+                                          << QByteArray("is not a group; write NAME:");
     QTest::newRow("group of three points")
         << QByteArrayList{"-o", file, "--group", "a:0.1,0.1;0.2,0.2;0.3,0.3"}
         << QByteArray("has 3 points; write four");
     QTest::newRow("point without y") << QByteArrayList{"-o", file, "--group", "a:0.1,0.1;0.2;0.3,0.3;0.4,0.4"}
-                                     << QByteArray("'0.2' is no chromaticity");
+                                     << QByteArray("'0.2' is not a chromaticity");
     QTest::newRow("coordinate that is none")
         << QByteArrayList{"-o", file, "--group", "a:0.1,0.1;0.2,b;0.3,0.3;0.4,0.4"}
-        << QByteArray("'b' is no coordinate");
+        << QByteArray("'b' is not a coordinate");
     QTest::newRow("coordinate out of range")
         << QByteArrayList{"-o", file, "--group", "a:0.1,0.1;0.2,1.5;0.3,0.3;0.4,0.4"}
         << QByteArray("chromaticity '0.2,1.5': x and y must be from 0 to 1");
-    QTest::newRow("coordinate that is no number")
+    QTest::newRow("coordinate that is NaN")
         << QByteArrayList{"-o", file, "--group", "a:0.1,0.1;0.2,nan;0.3,0.3;0.4,0.4"}
-        << QByteArray("'nan' is no coordinate");
+        << QByteArray("'nan' is not a coordinate");
     QTest::newRow("coverage of one group") << QByteArrayList{"-o", file, "--standard", "sRGB", "--coverage"}
                                            << QByteArray("--coverage needs two groups");
     QTest::newRow("another --format") << QByteArrayList{"-o", file, "--format", "gif"}
@@ -287,11 +287,11 @@ void TestChartCommand::BadInputIsOneLineAndStatus2_data()
     QTest::newRow("line too wide") << QByteArrayList{"-o", file, "--line-width", "100.1"}
                                    << QByteArray("the line width 100.1 is out of range");
     QTest::newRow("line width that is none") << QByteArrayList{"-o", file, "--line-width", "bold"}
-                                             << QByteArray("'bold' is no line width in pixels");
+                                             << QByteArray("'bold' is not a line width in pixels");
     QTest::newRow("two backgrounds") << QByteArrayList{"-o", file, "--dark", "--background", "#000000"}
                                      << QByteArray("both given");
     QTest::newRow("colour that is none")
-        << QByteArrayList{"-o", file, "--background", "#12345"} << QByteArray("'#12345' is no colour");
+        << QByteArrayList{"-o", file, "--background", "#12345"} << QByteArray("'#12345' is not a colour");
     QTest::newRow("an argument") << QByteArrayList{"-o", file, "sRGB"}
                                  << QByteArray("surplus argument 'sRGB'");
 }

@@ -78,16 +78,16 @@ void TestColourCommands::cctRejects_data()
     QTest::newRow("too low") << QByteArrayList{"3999.9"} << QByteArray("'3999.9' is out of range");
     QTest::newRow("too high") << QByteArrayList{"25000.1"} << QByteArray("'25000.1' is out of range");
     QTest::newRow("negative") << QByteArrayList{"-5"} << QByteArray("'-5' is out of range");
-    QTest::newRow("a word") << QByteArrayList{"warm"} << QByteArray("'warm' is no temperature");
-    QTest::newRow("not a number") << QByteArrayList{"nan"} << QByteArray("'nan' is no temperature");
+    QTest::newRow("a word") << QByteArrayList{"warm"} << QByteArray("'warm' is not a temperature");
+    QTest::newRow("not a number") << QByteArrayList{"nan"} << QByteArray("'nan' is not a temperature");
     QTest::newRow("beyond the last row")
         << QByteArrayList{"0.25,0.25"} << QByteArray("'0.25,0.25' is out of range");
     QTest::newRow("too warm for daylight, but near a Planckian radiator")
         << QByteArrayList{"0.44758,0.40745"}
         << QByteArray("(correlated colour temperature 2855.54 K, Duv +0.0000");
     QTest::newRow("outside the gate") << QByteArrayList{"0.6,0.3"} << QByteArray("'0.6,0.3' is out of range");
-    QTest::newRow("three numbers") << QByteArrayList{"0.3,0.3,0.4"} << QByteArray("is no chromaticity");
-    QTest::newRow("no number") << QByteArrayList{"0.3,y"} << QByteArray("'y' is no coordinate");
+    QTest::newRow("three numbers") << QByteArrayList{"0.3,0.3,0.4"} << QByteArray("is not a chromaticity");
+    QTest::newRow("no number") << QByteArrayList{"0.3,y"} << QByteArray("'y' is not a coordinate");
     QTest::newRow("above 1") << QByteArrayList{"0.3,1.5"} << QByteArray("must be from 0 to 1");
 }
 
@@ -174,9 +174,9 @@ void TestColourCommands::matrixRejects_data()
     QTest::addColumn<QByteArrayList>("words");
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("nothing") << QByteArrayList{} << QByteArray("GAMUT");
-    QTest::newRow("no gamut") << QByteArrayList{"SECAM"} << QByteArray("'SECAM' is no gamut");
+    QTest::newRow("no gamut") << QByteArrayList{"SECAM"} << QByteArray("'SECAM' is not a gamut");
     QTest::newRow("no white") << QByteArrayList{"sRGB", "--white", "D99"}
-                              << QByteArray("'D99' is no white; write x,y or one of: D65, D50");
+                              << QByteArray("'D99' is not a white point; write x,y or one of: D65, D50");
     QTest::newRow("white outside") << QByteArrayList{"sRGB", "--white", "0.7,0.29"}
                                    << QByteArray("the white lies outside the gamut");
     QTest::newRow("no colours") << QByteArrayList{"0,0;1,0;0,1"} << QByteArray("x and y must be above 0");
@@ -195,9 +195,9 @@ void TestColourCommands::gamutRejects_data()
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("no covering gamut") << QByteArrayList{"--of", "sRGB"} << QByteArray("--by is missing");
     QTest::newRow("no covered gamut") << QByteArrayList{"--by", "sRGB"} << QByteArray("--of is missing");
-    QTest::newRow("unknown name") << QByteArrayList{"--of", "sRGB", "--by", "SECAM"}
-                                  << QByteArray(
-                                         "'SECAM' is no gamut; write x,y;x,y;x,y or one of: sRGB, AdobeRGB");
+    QTest::newRow("unknown name")
+        << QByteArrayList{"--of", "sRGB", "--by", "SECAM"}
+        << QByteArray("'SECAM' is not a gamut; write x,y;x,y;x,y or one of: sRGB, AdobeRGB");
     QTest::newRow("two points") << QByteArrayList{"--of", "sRGB", "--by", "0,0;1,0"}
                                 << QByteArray("has 2 points");
     QTest::newRow("bad point") << QByteArrayList{"--of", "sRGB", "--by", "0,0;1,0;2,1"}

@@ -133,7 +133,7 @@ void TestEdidCommand::BadModesAreRejected_data()
     const auto NoMode = [](const char* szMode) {
         QTest::newRow(szMode) << QByteArray(szMode)
                               << QByteArray("'") + szMode +
-                                     "' is no video mode; write WIDTHxHEIGHT@RATE, for example";
+                                     "' is not a video mode; write WIDTHxHEIGHT@RATE, for example";
     };
     const auto OutOfRange = [](const char* szMode, const char* szWhat) {
         QTest::newRow(szMode) << QByteArray(szMode)

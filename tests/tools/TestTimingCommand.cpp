@@ -159,7 +159,7 @@ void TestTimingCommand::ALargeModeIsNoReasonToWarn()
 
 void TestTimingCommand::BadModesAreRejected()
 {
-    VERIFY_BAD_INPUT(RunTool({"timing", "1920x1080"}), "'1920x1080' is no video mode");
+    VERIFY_BAD_INPUT(RunTool({"timing", "1920x1080"}), "'1920x1080' is not a video mode");
     VERIFY_BAD_INPUT(RunTool({"timing", "1920x1080@-1", "--normal"}), "the rate -1 is out of range");
 }
 

@@ -90,7 +90,7 @@ void TestToolFrame::BadCommandLinesAreOneLineAndStatus2_data()
     QTest::newRow("flags are not joined")
         << QByteArrayList{"edid", "1x1@1", "-"} << QByteArray("surplus argument '-'");
     QTest::newRow("after -- all is positional")
-        << QByteArrayList{"edid", "--", "--help"} << QByteArray("'--help' is no video mode");
+        << QByteArrayList{"edid", "--", "--help"} << QByteArray("'--help' is not a video mode");
 }
 
 void TestToolFrame::BadCommandLinesAreOneLineAndStatus2()
@@ -135,7 +135,8 @@ void TestToolFrame::TheLastOfTwoOptionsCounts()
 
 void TestToolFrame::AnErrorStaysOneLineWhateverIsInTheArgument()
 {
-    VERIFY_BAD_INPUT(RunTool({"edid", "1920x1080\n@60\t\x1b[31m"}), "'1920x1080?@60??[31m' is no video mode");
+    VERIFY_BAD_INPUT(RunTool({"edid", "1920x1080\n@60\t\x1b[31m"}),
+                     "'1920x1080?@60??[31m' is not a video mode");
 }
 
 void TestToolFrame::AFullStandardOutputIsAnError()

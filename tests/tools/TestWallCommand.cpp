@@ -108,7 +108,7 @@ void TestWallCommand::badInputIsOneLine_data()
     QTest::newRow("unknown standard")
         << QByteArrayList{good, "--standard", "SECAM"} << QByteArray("unknown standard 'SECAM'");
     QTest::newRow("unknown white") << QByteArrayList{good, "--white", "D99"}
-                                   << QByteArray("'D99' is no white");
+                                   << QByteArray("'D99' is not a white point");
 }
 
 void TestWallCommand::badInputIsOneLine()

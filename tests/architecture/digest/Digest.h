@@ -46,7 +46,7 @@ private:
     // The parameters that the hash is published with.
     static constexpr std::uint64_t c_nOffset = 14695981039346656037U;
     static constexpr std::uint64_t c_nPrime = 1099511628211U;
-    // Sign and payload of a NaN are nobody's promise.
+    // Sign and payload of a NaN are unspecified.
     static constexpr std::uint64_t c_nAnyNaN = 0x7FF8000000000000U;
 
     static std::uint64_t BitsOf(double dValue)
@@ -80,7 +80,7 @@ public:
     float Unit() { return float(Next() >> 8U) * 0x1p-24F; }
 
     /// Near the unit square: anything, eighths (which meet and line up), the neighbourhood of 2^-23, and now
-    /// and then what nobody should pass.
+    /// and then invalid values.
     float Coordinate()
     {
         static constexpr float c_arrOdd[] = {-0.0F,    -1.0F, 1e-30F, 1e30F, 3.4028234663852886e+38F,

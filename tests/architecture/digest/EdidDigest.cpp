@@ -8,7 +8,7 @@ namespace {
 
 constexpr int c_nRounds = 8000;
 
-/// Sizes of displays, anything up to the limits of the controls, and now and then what nobody should pass.
+/// Sizes of displays, anything up to the limits of the controls, and now and then invalid ones.
 int Size(CSequence& sequence)
 {
     static constexpr int c_arrUsual[] = {600,  768,  800,  900,  960,  1024, 1050, 1080, 1152, 1200,
