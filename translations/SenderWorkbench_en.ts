@@ -214,6 +214,33 @@
         <source>无法写入 %1：%2。请选择别的位置。</source>
         <translation>Cannot write %1: %2. Please choose another place.</translation>
     </message>
+    <message>
+        <source>色彩组</source>
+        <translation>Groups</translation>
+    </message>
+    <message>
+        <source>读数</source>
+        <translation>Readings</translation>
+    </message>
+</context>
+<context>
+    <name>CCoverageModel</name>
+    <message>
+        <source>覆盖 xy</source>
+        <translation>Covered xy</translation>
+    </message>
+    <message>
+        <source>覆盖 u&apos;v&apos;</source>
+        <translation>Covered u&apos;v&apos;</translation>
+    </message>
+    <message>
+        <source>面积 xy</source>
+        <translation>Area xy</translation>
+    </message>
+    <message>
+        <source>面积 u&apos;v&apos;</source>
+        <translation>Area u&apos;v&apos;</translation>
+    </message>
 </context>
 <context>
     <name>CCustomDialog</name>
@@ -985,6 +1012,77 @@ Choose another picture.</translation>
     </message>
 </context>
 <context>
+    <name>CPointReadingsModel</name>
+    <message>
+        <source>红</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>CIE 1976 均匀色度坐标</source>
+        <translation>CIE 1976 uniform chromaticity</translation>
+    </message>
+    <message>
+        <source>相对本组白点的主波长；c 表示补色波长</source>
+        <translation>Dominant wavelength against the group&apos;s white; c marks a complementary one</translation>
+    </message>
+    <message>
+        <source>兴奋纯度</source>
+        <translation>Excitation purity</translation>
+    </message>
+    <message>
+        <source>各基色在白点亮度中的比例</source>
+        <translation>The part of each primary in the luminance of the white</translation>
+    </message>
+    <message>
+        <source>普朗克轨迹上最近点的温度</source>
+        <translation>Temperature of the nearest point of the Planckian locus</translation>
+    </message>
+    <message>
+        <source>到普朗克轨迹的距离，偏绿为正</source>
+        <translation>Distance from the Planckian locus, positive toward green</translation>
+    </message>
+    <message>
+        <source>日光轨迹上最近点的温度</source>
+        <translation>Temperature of the nearest point of the daylight locus</translation>
+    </message>
+    <message>
+        <source>主波长</source>
+        <translation>Wavelength</translation>
+    </message>
+    <message>
+        <source>纯度</source>
+        <translation>Purity</translation>
+    </message>
+    <message>
+        <source>亮度比例</source>
+        <translation>Luminance</translation>
+    </message>
+    <message>
+        <source>相关色温</source>
+        <translation>CCT</translation>
+    </message>
+    <message>
+        <source>Duv</source>
+        <translation>Duv</translation>
+    </message>
+    <message>
+        <source>日光色温</source>
+        <translation>Daylight</translation>
+    </message>
+</context>
+<context>
     <name>CProjectActions</name>
     <message>
         <source>工程 (*.json);;所有文件 (*)</source>
@@ -1045,6 +1143,25 @@ Choose another picture.</translation>
     <message>
         <source>工程</source>
         <translation>Project</translation>
+    </message>
+</context>
+<context>
+    <name>CReadingsPanel</name>
+    <message>
+        <source>覆盖的标准</source>
+        <translation>Standards covered</translation>
+    </message>
+    <message>
+        <source>所选组的读数</source>
+        <translation>Readings of the selected group</translation>
+    </message>
+    <message>
+        <source>所选组覆盖的标准</source>
+        <translation>Standards that the selected group covers</translation>
+    </message>
+    <message>
+        <source>没有选中的组</source>
+        <translation>No group is selected</translation>
     </message>
 </context>
 <context>

@@ -283,7 +283,7 @@ void TestColourPage::TheReadoutNamesThePointUnderTheMouse()
     QVERIFY(strGreen.contains(Text(shown.Screen().ptGreen)));
     shown.Move(shown.Screen().ptWhite);
     QVERIFY(PointReadout::Of(shown.Chart()).contains(QStringLiteral(" K")));
-    shown.Move({0.2F, 0.4F});
+    shown.Move({0.205F, 0.4F});
     QVERIFY(PointReadout::Of(shown.Chart()).startsWith(QStringLiteral("x, y = 0.2")));
     shown.Move({0.7F, 0.7F});
     QVERIFY(PointReadout::Of(shown.Chart()).isEmpty());

@@ -6,6 +6,7 @@
 #include "workbench/colour/ChartView.h"
 #include "workbench/colour/GroupPanel.h"
 #include "workbench/colour/PointReadout.h"
+#include "workbench/colour/ReadingsPanel.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -15,12 +16,12 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr int c_nSideWidth = 392; ///< pixels: two groups with their captions
-constexpr int c_nSideMargin = 4;  ///< pixels between the splitter's handle and the side
+constexpr int c_nSideWidth = 412; ///< pixels: two groups with their captions
 
 } // namespace
 
@@ -56,16 +57,30 @@ QWidget* CColourPage::CreateChart()
 
 QWidget* CColourPage::CreateSide()
 {
+    m_pTabs = new QTabWidget(this);
+    m_pTabs->setMinimumWidth(c_nSideWidth);
+    m_pTabs->addTab(CreateGroups(), QString());
+    m_pReadings = new CReadingsPanel(m_pView->Editor(), this);
+    m_pTabs->addTab(m_pReadings, QString());
+    connect(m_pGroups, &CGroupPanel::GroupSelected, m_pReadings, &CReadingsPanel::ShowGroup);
+    return m_pTabs;
+}
+
+QWidget* CColourPage::CreateGroups()
+{
     m_pGroups = new CGroupPanel(m_pView->Editor(), this);
     m_pControls = new CChartControls(*m_pView, this);
-    auto* pSide = new QWidget(this);
-    pSide->setMinimumWidth(c_nSideWidth);
-    auto* pLayout = new QVBoxLayout(pSide);
-    pLayout->setContentsMargins(c_nSideMargin, 0, 0, 0);
+    auto* pGroups = new QWidget(this);
+    auto* pLayout = new QVBoxLayout(pGroups);
     pLayout->addWidget(m_pGroups, 1);
     pLayout->addWidget(m_pControls);
     pLayout->addWidget(CreateExports());
-    return pSide;
+    return pGroups;
+}
+
+void CColourPage::ShowTab(enTab tab)
+{
+    m_pTabs->setCurrentIndex(tab);
 }
 
 QWidget* CColourPage::CreateExports()
@@ -102,7 +117,10 @@ void CColourPage::ShowSelection(const SSelection& selection)
 
 void CColourPage::Retranslate()
 {
+    m_pTabs->setTabText(enGroupsTab, tr("色彩组"));
+    m_pTabs->setTabText(enReadingsTab, tr("读数"));
     m_pGroups->Retranslate();
+    m_pReadings->Retranslate();
     m_pControls->Retranslate();
     m_pView->Chart().setAccessibleName(tr("CIE 1931 色度图"));
     ShowReadout();

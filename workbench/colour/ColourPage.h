@@ -6,10 +6,13 @@
 class CChartControls;
 class CChartView;
 class CGroupPanel;
+class CReadingsPanel;
 class QLabel;
 class QPushButton;
+class QTabWidget;
 
-/// The chromaticity chart with its groups in a table beside it, what it shows and holds, and pictures of it.
+/// The chromaticity chart with its groups in a table beside it, what it shows and holds, what the selected
+/// group's points are worth, and pictures of it.
 /// The groups are the page's own: no sender has any part in them.
 class CColourPage final : public CWorkbenchPage
 {
@@ -26,6 +29,14 @@ public:
     CChartView& View() { return *m_pView; }
     CGroupPanel& Groups() { return *m_pGroups; }
     CChartControls& Controls() { return *m_pControls; }
+    CReadingsPanel& Readings() { return *m_pReadings; }
+    /// The tabs beside the chart, in their order.
+    enum enTab
+    {
+        enGroupsTab,
+        enReadingsTab,
+    };
+    void ShowTab(enTab tab);
 
     /// @name Pictures of the chart
     /// @return false when the file could not be written; the status line tells why
@@ -38,6 +49,7 @@ public:
 private:
     QWidget* CreateChart();
     QWidget* CreateSide();
+    QWidget* CreateGroups();
     QWidget* CreateExports();
     void ChooseFileAndSave(bool bSvg);
     bool ReportSaved(const QString& strFile, const QString& strError);
@@ -47,10 +59,13 @@ private:
     void TourOfLook(CTour& tour);
     void TourOfRegion(CTour& tour);
     void TourOfDrag(CTour& tour);
+    void TourOfReadings(CTour& tour);
     void TourOfFiles(CTour& tour);
 
     CChartView* m_pView = nullptr;
+    QTabWidget* m_pTabs = nullptr;
     CGroupPanel* m_pGroups = nullptr;
+    CReadingsPanel* m_pReadings = nullptr;
     CChartControls* m_pControls = nullptr;
     QLabel* m_pReadout = nullptr;
     QPushButton* m_pCopy = nullptr;

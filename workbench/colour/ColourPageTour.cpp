@@ -159,6 +159,14 @@ void CColourPage::TourOfDrag(CTour& tour)
                QStringLiteral("undo did not take the drag back in one step"));
 }
 
+void CColourPage::TourOfReadings(CTour& tour)
+{
+    ShowTab(enReadingsTab);
+    m_pView->WaitForBitmap();
+    tour.Picture(this, QStringLiteral("chart-readings"));
+    ShowTab(enGroupsTab);
+}
+
 void CColourPage::TourOfFiles(CTour& tour)
 {
     const QDir folder(tour.Folder());
@@ -177,5 +185,6 @@ void CColourPage::Tour(CTour& tour, QWidget* pWorkbench)
     TourOfLook(tour);
     TourOfRegion(tour);
     TourOfDrag(tour);
+    TourOfReadings(tour);
     TourOfFiles(tour);
 }

@@ -139,6 +139,7 @@ void CGroupPanel::Refresh()
     const CChromaticityDlgWnd& chart = m_editor.Chart();
     if (SelectedKey() < 0 && !chart.m_mapGroups.isEmpty())
         SelectKey(chart.m_mapGroups.contains(nKey) ? nKey : chart.m_mapGroups.firstKey());
+    Q_EMIT GroupSelected(SelectedKey());
     const bool bSelected = SelectedKey() >= 0;
     m_pRemove->setEnabled(bSelected);
     m_pPreset->setEnabled(bSelected);

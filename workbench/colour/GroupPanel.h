@@ -46,6 +46,8 @@ public:
 Q_SIGNALS:
     /// One line for the status bar.
     void Reported(const QString& strText);
+    /// Another group is selected, or none: its key is then -1.
+    void GroupSelected(int nKey);
     /// The first group took the points of this standard.
     void StandardChosen(enColorStandard standard);
 
