@@ -1,0 +1,152 @@
+#include "tests/robot/RobotWatch.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <iterator>
+
+#include <malloc.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int c_nMostFailures = 100;
+
+/// No action may take longer, milliseconds of processor time.
+constexpr qint64 c_nLongestAction = 1000;
+
+/// From this part of the work on caches are full and memory should stay as it is.
+constexpr double c_dWarm = 0.3;
+
+/// Messages of Qt that say nothing about this program, each with its reason.
+constexpr const char* c_harmlessMessages[] = {
+    // The offscreen platform has no window manager to ask.
+    "This plugin does not support propagateSizeHints()",
+    "This plugin does not support raise()",
+    "This plugin does not support grabbing the ",
+    "This plugin does not support setting window opacity",
+    // It has no screen either from which Qt's colour dialog could pick a colour.
+    "QImage::pixel: coordinate (0,0) out of range",
+    // The machine may have no user session.
+    "QStandardPaths: XDG_RUNTIME_DIR not set",
+    "QStandardPaths: runtime directory",
+    // Qt Test tells that a click met a widget that its own press has just hidden.
+    "Mouse event occurs outside target window",
+    "Mouse event \"MousePress\" not accepted by receiving widget",
+    "Mouse event \"MouseRelease\" not accepted by receiving widget",
+};
+
+/// Nothing that the robot does may keep it from the next action for longer, seconds.
+constexpr unsigned int c_nHangs = 60;
+
+CRobotWatch* s_pWatch = nullptr;
+
+/// Nothing but the raw text and the end: the process hangs somewhere.
+void EndHanging(int nSignal)
+{
+    if (s_pWatch != nullptr)
+        std::fprintf(stderr, "sender-robot: %s: nothing followed\n", qPrintable(s_pWatch->Action()));
+    std::signal(nSignal, SIG_DFL);
+    std::abort();
+}
+
+bool IsHarmless(const QString& strText)
+{
+    return std::any_of(std::begin(c_harmlessMessages), std::end(c_harmlessMessages),
+                       [&strText](const char* szText) { return strText.contains(QLatin1String(szText)); });
+}
+
+void TakeMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& strText)
+{
+    if (type == QtDebugMsg || type == QtInfoMsg || IsHarmless(strText))
+        return;
+    if (s_pWatch != nullptr)
+        s_pWatch->Fail(QStringLiteral("Qt says: ") + strText);
+    if (type == QtFatalMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(strText));
+}
+
+/// Milliseconds of processor time that this thread has used.
+qint64 ProcessorTime()
+{
+    timespec time = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return qint64(time.tv_sec) * 1000 + qint64(time.tv_nsec) / 1000000;
+}
+
+/// Bytes of memory that the process holds.
+qint64 MemoryInUse()
+{
+    malloc_trim(0);
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+}
+
+} // namespace
+
+CRobotWatch::CRobotWatch()
+{
+    s_pWatch = this;
+    std::signal(SIGALRM, &EndHanging);
+    qInstallMessageHandler(&TakeMessage);
+}
+
+CRobotWatch::~CRobotWatch()
+{
+    alarm(0);
+    qInstallMessageHandler(nullptr);
+    s_pWatch = nullptr;
+}
+
+void CRobotWatch::Fail(const QString& strWhat)
+{
+    const QString strFailure = m_strAction + QStringLiteral(": ") + strWhat;
+    std::fprintf(stderr, "sender-robot: %s\n", qPrintable(strFailure));
+    if (m_listFailures.size() < c_nMostFailures)
+        m_listFailures.append(strFailure);
+}
+
+void CRobotWatch::SetAction(const QString& strAction)
+{
+    m_strAction = strAction;
+    alarm(c_nHangs);
+}
+
+void CRobotWatch::NoteMemory(double dDone)
+{
+    m_nMemory = MemoryInUse();
+    if (m_nWarmMemory == 0 && dDone >= c_dWarm)
+        m_nWarmMemory = m_nMemory;
+}
+
+double CRobotWatch::MemoryGrowth() const
+{
+    return m_nWarmMemory > 0 ? double(m_nMemory) / double(m_nWarmMemory) : 0.0;
+}
+
+CRobotWatch::CTimedAction::CTimedAction(CRobotWatch& watch)
+    : m_watch(watch)
+    , m_strAction(watch.Action())
+    , m_nStart(ProcessorTime())
+    , m_nOuterInner(watch.m_nInner)
+{
+    m_watch.m_nInner = 0;
+}
+
+CRobotWatch::CTimedAction::~CTimedAction()
+{
+    const qint64 nElapsed = ProcessorTime() - m_nStart;
+    const qint64 nOwn = nElapsed - m_watch.m_nInner;
+    m_watch.m_nSlowest = std::max(m_watch.m_nSlowest, nOwn);
+    if (nOwn > c_nLongestAction) {
+        m_watch.SetAction(m_strAction);
+        m_watch.Fail(QStringLiteral("it took %1 ms of processor time").arg(nOwn));
+    }
+    m_watch.m_nInner = m_nOuterInner + nElapsed;
+}
