@@ -13,6 +13,12 @@ QString& Speaker()
     return s_strSpeaker;
 }
 
+int& StatusValue()
+{
+    static int s_nStatus = 0;
+    return s_nStatus;
+}
+
 QString OneLine(QString strText)
 {
     const auto IsUnprintable = [](QChar ch) { return !ch.isPrint() && !ch.isSurrogate(); };
@@ -25,6 +31,16 @@ QString OneLine(QString strText)
 void SetSpeaker(const QString& strSpeaker)
 {
     Speaker() = strSpeaker;
+}
+
+void SetStatus(int nStatus)
+{
+    StatusValue() = nStatus;
+}
+
+int Status()
+{
+    return StatusValue();
 }
 
 void Error(const QString& strText)

@@ -25,6 +25,11 @@ namespace Report {
 /// Sets what every line begins with: the tool's and the subcommand's name.
 void SetSpeaker(const QString& strSpeaker);
 
+/// Sets what the program ends with when the subcommand has done its work: 0 unless this is called.
+void SetStatus(int nStatus);
+/// What the program ends with.
+int Status();
+
 /// Prints one line. What cannot be printed, a newline in a file name for example, becomes a question mark.
 void Error(const QString& strText);
 /// As `Error`, marked as a warning: the result stands.

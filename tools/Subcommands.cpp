@@ -1,5 +1,6 @@
 #include "tools/CctCommand.h"
 #include "tools/ChartCommand.h"
+#include "tools/CheckCommand.h"
 #include "tools/CompletionCommand.h"
 #include "tools/EdidCommand.h"
 #include "tools/ExplainCommand.h"
@@ -18,6 +19,7 @@ std::vector<SSubcommand> AllSubcommands()
         EdidSubcommand(),
         TimingSubcommand(),
         ExplainSubcommand(),
+        CheckSubcommand(),
         CctSubcommand(),
         GamutSubcommand(),
         LocusSubcommand(),

@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int c_nSuccess = 0;
 constexpr int c_nBadInput = 2;
 
 constexpr int c_nSummaryColumn = 12; ///< where the summaries of the help begin
@@ -138,7 +137,7 @@ int main(int argc, char** argv)
 {
     try {
         Run(argc, argv);
-        return c_nSuccess;
+        return Report::Status();
     } catch (const CToolError& error) {
         Report::Error(error.Text());
         return c_nBadInput;

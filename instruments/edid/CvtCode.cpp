@@ -31,6 +31,15 @@ unsigned Byte(quint32 nCode, unsigned nShift)
 
 } // namespace
 
+bool SCvtCode::IsPreferredSupported() const
+{
+    constexpr unsigned c_arrBits[] = {0x10, 0x08 | 0x01, 0x04, 0x02};
+    for (std::size_t i = 0; i < std::size(c_arrPreferred); ++i)
+        if (c_arrPreferred[i] == nPreferredRate)
+            return (nRates & c_arrBits[i]) != 0;
+    return false;
+}
+
 SCvtCode ReadCvtCode(quint32 nCode)
 {
     const unsigned nFirst = Byte(nCode, 16);

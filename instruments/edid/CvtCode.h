@@ -15,6 +15,9 @@ struct SCvtCode
     int nHeight;
     int nPreferredRate; ///< Hz
     unsigned nRates;    ///< bits 4 to 0: 50, 60, 75, 85 Hz, 60 Hz with reduced blanking
+
+    /// Whether the preferred rate is one of those that are supported.
+    bool IsPreferredSupported() const;
 };
 
 /// Reads a code, first byte high.
