@@ -31,6 +31,7 @@ class TestCustomAddProcessorDlg : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void TheHostIsAskedWithFalseAsThirdArgument();
     void RowsAndSizeFollowTheHost_data();
     void RowsAndSizeFollowTheHost();
     void TheHostIsAskedInOrder();
@@ -341,6 +342,19 @@ void TestCustomAddProcessorDlg::BeforeTheHostIsThereTheDialogFaults()
     const SDeath death = RunToDeath([] { const CCustomAddProcessorDlg dialog(nullptr); });
     QVERIFY(death.bAborted);
     QVERIFY2(death.strOutput.contains("g_pSenderLogic != nullptr"), death.strOutput.constData());
+}
+
+void TestCustomAddProcessorDlg::TheHostIsAskedWithFalseAsThirdArgument()
+{
+    CRecordingHost host;
+    UseAddresses(host);
+    const CLocalAddressScript local({"10.0.0.5"});
+    CCustomAddProcessorDlg dialog(nullptr);
+    dialog.ActionSlots(0);
+    const QStringList listQuestions = host.record.Only({QStringLiteral("IsIPHasError")});
+    QVERIFY(!listQuestions.filter(QStringLiteral("code")).isEmpty());
+    QVERIFY(!listQuestions.filter(QStringLiteral("null")).isEmpty());
+    QCOMPARE(listQuestions.filter(QStringLiteral(", false)")), listQuestions);
 }
 
 QTEST_MAIN(TestCustomAddProcessorDlg)

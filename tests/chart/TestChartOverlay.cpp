@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/chart/ChartOverlay.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
+#include "host/OrviControl/Style.h"
 #include "oracles/chart/PlainOverlays.h"
 #include "tests/chart/ChartInputs.h"
 #include "tests/chart/OverlayTesting.h"
@@ -17,6 +18,7 @@ class TestChartOverlay : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void ALabelOfATemperatureIsCutAtItsBox();
     void EveryLayerIsToldLikeThePlainOne();
     void TheLayersComeInOrder();
 
@@ -408,7 +410,7 @@ namespace {
 QImage Painted(QSize size, const std::function<void(QPainter&)>& funcPaint)
 {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::black);
+    image.fill(Qt::darkGreen);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     funcPaint(painter);
@@ -503,6 +505,22 @@ void TestChartOverlay::AnotherGroupThanTheFirstFaults()
     const SDeath death = RunToDeath([&] { chart.Record(&CChromaticityDlgWnd::DrawCIEStandardShow); });
     QVERIFY(death.bAborted);
     QVERIFY(death.strOutput.contains("\"keyNum == m_nGroupIndex\""));
+}
+
+void TestChartOverlay::ALabelOfATemperatureIsCutAtItsBox()
+{
+    CTestChart chart;
+    constexpr int c_nLong = 1234567890;
+    const QSize size(c_nSide, c_nSide);
+    const QImage imageLabel = Painted(size, [&](QPainter& painter) {
+        chart.DrawCCTLineString(painter, 0.0F, QPointF(300.0, 200.0), c_nLong);
+    });
+    const QImage imageExpected = Painted(size, [&](QPainter& painter) {
+        painter.setFont(QFont(GetFontFamily(), 12, -1, false));
+        painter.setPen(QColor(Qt::black));
+        painter.drawText(QRectF(306.0, 200.0, 48.0, 24.0), QString::number(c_nLong), QTextOption());
+    });
+    QVERIFY(imageLabel == imageExpected);
 }
 
 QTEST_MAIN(TestChartOverlay)

@@ -22,6 +22,7 @@ class TestEdidSetDlgCommit : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void TheProgressBarCannotBeCancelled();
     void BasicWriteInOrder();
     void BasicFailureWaitsTheWholeTimeAndSpeaksAfterwards();
     void FullWriteInOrder();
@@ -535,6 +536,18 @@ void TestEdidSetDlgCommit::On132AShortListCannotBeWritten()
     QVERIFY(dialog.probe.OK().isEnabled());
     dialog.probe.OK().click();
     CompareAborted(dialog);
+}
+
+void TestEdidSetDlgCommit::TheProgressBarCannotBeCancelled()
+{
+    CEdidHost host;
+    CEdidDialog dialog(host);
+    int nButtons = -1;
+    host.funcOnWait = [&] {
+        nButtons = dialog.dlg.findChild<CCustomProgressbar*>()->findChildren<QPushButton*>().size();
+    };
+    dialog.dlg.OnOKPushButtonClicked();
+    QCOMPARE(nButtons, 0);
 }
 
 QTEST_MAIN(TestEdidSetDlgCommit)

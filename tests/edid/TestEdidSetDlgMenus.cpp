@@ -16,6 +16,7 @@ class TestEdidSetDlgMenus : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void EveryMenuIsAsWideAsItsBox();
     void TheResolutionMenuOffersCustomAndTheList();
     void TheComputersOwnSizeIsMarked();
     void TheCurrentSizeIsChecked();
@@ -325,6 +326,20 @@ void TestEdidSetDlgMenus::ChoosingATimingStandardAsksTheHostAgain()
     QCOMPARE(host.record.All().last(), QStringLiteral("CheckEdidLimit(1920, 1080, 138)"));
     EdidDialog::Choose(dialog.probe.Standard(), QStringLiteral("CVT"));
     QCOMPARE(host.record.All().last(), QStringLiteral("CheckEdidLimit(1920, 1080, 172)"));
+}
+
+void TestEdidSetDlgMenus::EveryMenuIsAsWideAsItsBox()
+{
+    CEdidHost host;
+    host.senderLogic.nSenderType = 43;
+    CEdidDialog dialog(host, 16);
+    dialog.dlg.show();
+    const CEdidSetDlgProbe& probe = dialog.probe;
+    for (CCustomComboBox* pComboBox :
+         {&probe.Resolution(), &probe.Rate(), &probe.Depth(), &probe.Format(), &probe.Standard()}) {
+        Q_EMIT pComboBox->menu()->aboutToShow();
+        QCOMPARE(pComboBox->menu()->minimumWidth(), pComboBox->width());
+    }
 }
 
 QTEST_MAIN(TestEdidSetDlgMenus)

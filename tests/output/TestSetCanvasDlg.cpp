@@ -1,5 +1,6 @@
 #include "tests/output/CanvasProbe.h"
 
+#include <QGridLayout>
 #include <QtTest>
 
 using namespace CanvasProbe;
@@ -10,6 +11,8 @@ class TestSetCanvasDlg : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void TheFieldsHaveNoDecimals();
+    void TheSizeTakesOneRowOfTheGrid();
     void TheMetaObjectHasTheSlots();
     void TheWindowAndItsControls();
     void TheControlsLieInTheWindow_data();
@@ -276,6 +279,27 @@ void TestSetCanvasDlg::TypingAnotherSizeShowsACustomText()
     TypeOver(probe.Width(), 1921);
     QCOMPARE(probe.Combo().text(), QStringLiteral("自定义(1921×1080)"));
     QCOMPARE(probe.Fields(), QSize(1921, 1080));
+}
+
+void TestSetCanvasDlg::TheFieldsHaveNoDecimals()
+{
+    CRecordingHost host;
+    const CProbe probe;
+    QCOMPARE(probe.Width().decimals(), 0);
+    QCOMPARE(probe.Height().decimals(), 0);
+}
+
+void TestSetCanvasDlg::TheSizeTakesOneRowOfTheGrid()
+{
+    CRecordingHost host;
+    const CProbe probe;
+    const auto* pGrid = probe.dialog.findChild<QGridLayout*>();
+    int nRow = -1;
+    int nColumn = -1;
+    int nRowSpan = -1;
+    int nColumnSpan = -1;
+    pGrid->getItemPosition(pGrid->indexOf(&probe.Combo()), &nRow, &nColumn, &nRowSpan, &nColumnSpan);
+    QCOMPARE(QVector<int>({nRow, nColumn, nRowSpan, nColumnSpan}), QVector<int>({0, 0, 1, 5}));
 }
 
 QTEST_MAIN(TestSetCanvasDlg)
