@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QFontMetrics>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QStringList>
@@ -147,39 +148,82 @@ void CheckEntry(const QList<QAction*>& listActions, int nData)
     }
 }
 
-QPushButton* CreateButton(QWidget* pParent, const SButton& button)
+void NameControl(QWidget* pControl, const char* szName, const QString& strAccessibleName)
 {
-    auto* pButton = new QPushButton(CCustomDialog::tr(button.szText), pParent);
-    StyleButton(pButton);
-    if (button.size.isValid())
-        pButton->setFixedSize(button.size);
-    if (button.funcClick)
-        QObject::connect(pButton, &QPushButton::clicked, pParent, button.funcClick);
-    return pButton;
+    pControl->setObjectName(QString::fromLatin1(szName));
+    pControl->setAccessibleName(strAccessibleName);
 }
 
-QHBoxLayout* CreateOkCancelRow(QWidget* pParent, const std::function<void(int nID)>& funcAction)
+void NameControl(QWidget* pControl, const char* szName, QLabel* pCaption)
 {
-    auto* pRow = new QHBoxLayout;
-    pRow->addWidget(CreateButton(pParent, {QT_TRANSLATE_NOOP("CCustomDialog", "确定"), c_sizeButton,
-                                           [funcAction] { funcAction(enOk); }}));
-    pRow->addWidget(CreateButton(pParent, {QT_TRANSLATE_NOOP("CCustomDialog", "取消"), c_sizeButton,
-                                           [funcAction] { funcAction(enCancel); }}));
-    return pRow;
+    NameControl(pControl, szName, pCaption->text());
+    pCaption->setBuddy(pControl);
 }
 
-void Finish(QDialog* pDialog, int nResult)
+CCustomLabel* CreateLabel(QWidget* pParent, const QString& strText, Qt::Alignment alignment)
 {
-    pDialog->done(nResult);
-    pDialog->close();
+    auto* pLabel = new CCustomLabel(strText, pParent, Qt::WindowFlags());
+    pLabel->setAlignment(alignment);
+    return pLabel;
 }
 
 CCustomLabel* CreateCaption(QWidget* pParent, const QString& strText, Qt::Alignment alignment)
 {
-    auto* pLabel = new CCustomLabel(strText, pParent, Qt::WindowFlags());
+    CCustomLabel* pLabel = CreateLabel(pParent, strText, alignment);
     StyleCaption(pLabel);
-    pLabel->setAlignment(alignment);
     return pLabel;
+}
+
+SOkCancel SOkCancel::Create(QWidget* pParent, const char* szOk)
+{
+    SOkCancel buttons;
+    buttons.pOk = new QPushButton(CCustomDialog::tr(szOk), pParent);
+    buttons.pCancel = new QPushButton(CCustomDialog::tr("取消"), pParent);
+    NameControl(buttons.pOk, "ok", buttons.pOk->text());
+    NameControl(buttons.pCancel, "cancel", buttons.pCancel->text());
+    return buttons;
+}
+
+void SOkCancel::Style() const
+{
+    StyleButton(pOk);
+    StyleButton(pCancel);
+}
+
+void SOkCancel::SetFixedSize(QSize size) const
+{
+    pOk->setFixedSize(size);
+    pCancel->setFixedSize(size);
+}
+
+void SOkCancel::SetFixedHeight(int nHeight) const
+{
+    pOk->setFixedHeight(nHeight);
+    pCancel->setFixedHeight(nHeight);
+}
+
+void SOkCancel::Connect(const std::function<void(int nID)>& funcAction, int nOk, int nCancel) const
+{
+    QObject::connect(pOk, &QPushButton::clicked, pOk->parentWidget(), [=] { funcAction(nOk); });
+    QObject::connect(pCancel, &QPushButton::clicked, pCancel->parentWidget(), [=] { funcAction(nCancel); });
+}
+
+QHBoxLayout* CreateOkCancelRow(QWidget* pParent, const std::function<void(int nID)>& funcAction)
+{
+    const SOkCancel buttons = SOkCancel::Create(pParent, QT_TRANSLATE_NOOP("CCustomDialog", "确定"));
+    buttons.Style();
+    buttons.SetFixedSize(c_sizeButton);
+    buttons.Connect(funcAction);
+    auto* pRow = new QHBoxLayout;
+    pRow->addWidget(buttons.pOk);
+    pRow->addWidget(buttons.pCancel);
+    return pRow;
+}
+
+void Finish(QDialog* pDialog, enResult result)
+{
+    pDialog->done(result);
+    pDialog->close();
 }
 
 void ShowWrapped(CCustomLabel* pLabel, const QString& strText, int nLines)

@@ -13,6 +13,7 @@ class CCustomLabel;
 class QAction;
 class QDialog;
 class QHBoxLayout;
+class QLabel;
 class QMenu;
 class QPushButton;
 
@@ -69,36 +70,65 @@ QAction* AddEntry(QMenu* pMenu, const SMenuEntry& entry);
 /// Checks the first action with that data and no other. Data that no action has checks none.
 void CheckEntry(const QList<QAction*>& listActions, int nData);
 
-/// One push button of a dialog.
-struct SButton
-{
-    const char* szText;              ///< source text in the context `CCustomDialog`
-    QSize size;                      ///< pixels; an invalid size leaves it to the layout
-    std::function<void()> funcClick; ///< run on `clicked`; empty leaves the button unconnected
-};
+/// @name Names
+/// Each control has an object name, by which tests find it, and an accessible name, which assistive tools
+/// read out. Neither can be seen.
+/// @{
+void NameControl(QWidget* pControl, const char* szName, const QString& strAccessibleName);
+/// Names a control by the caption beside it: the caption's buddy becomes the control.
+void NameControl(QWidget* pControl, const char* szName, QLabel* pCaption);
+/// @}
 
-/// A styled, connected push button, owned by the parent.
-QPushButton* CreateButton(QWidget* pParent, const SButton& button);
-
-/// What the two buttons of a dialog ask for, as the slots of the dialogs take it.
-enum enAction
-{
-    enOk = 0,
-    enCancel = 1
-};
-
-/// A row with the buttons OK and Cancel.
-/// @param funcAction run with `enOk` or `enCancel`
-QHBoxLayout* CreateOkCancelRow(QWidget* pParent, const std::function<void(int nID)>& funcAction);
-
-/// Ends a dialog with a result and closes it.
-void Finish(QDialog* pDialog, int nResult);
+/// A label with a text, not styled yet.
+CCustomLabel* CreateLabel(QWidget* pParent, const QString& strText,
+                          Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter);
 
 /// A styled caption label.
 /// @param strText the translated caption
 /// @param alignment as most captions stand in a grid: to the right, vertically centred
 CCustomLabel* CreateCaption(QWidget* pParent, const QString& strText,
                             Qt::Alignment alignment = Qt::AlignRight | Qt::AlignVCenter);
+
+/// The result that `exec` returns. One dialog has another result for Cancel.
+enum enResult
+{
+    enCancelled = 0,
+    enAccepted = 1
+};
+
+/// What the two buttons of most dialogs pass to their slot.
+enum enAction
+{
+    enOk = 0,
+    enCancel = 1
+};
+
+/// The buttons OK and Cancel of a dialog. Each step is one that the dialogs take in stages of their own.
+struct SOkCancel
+{
+    QPushButton* pOk = nullptr;
+    QPushButton* pCancel = nullptr;
+
+    /// Creates both.
+    /// @param szOk source text of the first in the context `CCustomDialog`: dialogs differ in it
+    static SOkCancel Create(QWidget* pParent, const char* szOk);
+
+    void Style() const;
+    void SetFixedSize(QSize size) const;
+    void SetFixedHeight(int nHeight) const;
+    /// Connects `clicked` of each.
+    /// @param funcAction run with the number of the button
+    void Connect(const std::function<void(int nID)>& funcAction, int nOk = enOk,
+                 int nCancel = enCancel) const;
+};
+
+/// The buttons of most dialogs, in a row: created, styled, of the common size and connected.
+/// @param funcAction run with `enOk` or `enCancel`
+QHBoxLayout* CreateOkCancelRow(QWidget* pParent, const std::function<void(int nID)>& funcAction);
+
+/// Ends a dialog with a result and sends it a close event. `QDialog::done` alone sends none, and hosts watch
+/// for it in the dialogs that end this way.
+void Finish(QDialog* pDialog, enResult result);
 
 /// Shows a text in a label of fixed size that wraps words. A text with more lines than the label holds ends
 /// in an ellipsis, and the tooltip is the whole text; a text that fits has no tooltip.

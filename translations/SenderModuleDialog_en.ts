@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>输入的IP地址和本机电脑的IP地址相同，会导致网络连接探测失败，是否继续？</source>
-        <translation>The IP address is the same as this computer's, so network detection will fail. Continue?</translation>
+        <translation>The IP address is the same as this computer&apos;s, so network detection will fail. Continue?</translation>
     </message>
     <message>
         <source>输出口带载面积不能超过655360。</source>
@@ -298,6 +298,10 @@
     <message>
         <source>清空</source>
         <translation>Clear</translation>
+    </message>
+    <message>
+        <source>第 %1 段</source>
+        <translation>Octet %1</translation>
     </message>
 </context>
 </TS>

@@ -79,17 +79,24 @@ void CCustomAddProcessorDlg::InitControl()
                            DialogFrame::CreateOkCancelRow(this, [this](int nID) { ActionSlots(nID); }));
 }
 
-void CCustomAddProcessorDlg::AddCaption(QGridLayout* pGrid, int nRow, const char* szText, int nMaxWidth)
+CCustomLabel* CCustomAddProcessorDlg::CreateRowCaption(const char* szText, int nMaxWidth)
 {
-    CCustomLabel* pLabel = DialogFrame::CreateCaption(this, CCustomDialog::tr(szText));
-    pLabel->setMaximumWidth(nMaxWidth);
-    pLabel->setFixedHeight(c_nCaptionHeight);
-    pGrid->addWidget(pLabel, nRow, c_nCaptionColumn);
+    CCustomLabel* pCaption = DialogFrame::CreateCaption(this, CCustomDialog::tr(szText));
+    pCaption->setMaximumWidth(nMaxWidth);
+    pCaption->setFixedHeight(c_nCaptionHeight);
+    return pCaption;
+}
+
+void CCustomAddProcessorDlg::AddRow(QGridLayout* pGrid, int nRow, CCustomLabel* pCaption, QWidget* pField)
+{
+    pGrid->addWidget(pCaption, nRow, c_nCaptionColumn);
+    pGrid->addWidget(pField, nRow, c_nFieldColumn);
 }
 
 void CCustomAddProcessorDlg::InitCountRow(QGridLayout* pGrid)
 {
-    AddCaption(pGrid, c_nCountRow, QT_TRANSLATE_NOOP("CCustomDialog", "主控数量"), c_nCountCaptionWidth);
+    CCustomLabel* pCaption =
+        CreateRowCaption(QT_TRANSLATE_NOOP("CCustomDialog", "主控数量"), c_nCountCaptionWidth);
     m_pCountSpinBox = new CCustomSpinBox(0, this);
     m_pCountSpinBox->setFixedSize(DialogFrame::c_sizeSmallField);
     // The misspelt selector is what hosts' styles are written for: the box keeps the look that it has of its
@@ -98,12 +105,14 @@ void CCustomAddProcessorDlg::InitCountRow(QGridLayout* pGrid)
     const bool bIPAddressMode = HostAccess::SenderLogic().IsIPAddressMode();
     m_pCountSpinBox->SetMinMax(1, HostAccess::RuntimeData().GetSenderCountLimit(bIPAddressMode));
     m_pCountSpinBox->setValue(c_nDefaultCount);
-    pGrid->addWidget(m_pCountSpinBox, c_nCountRow, c_nFieldColumn);
+    DialogFrame::NameControl(m_pCountSpinBox, "count", pCaption);
+    AddRow(pGrid, c_nCountRow, pCaption, m_pCountSpinBox);
 }
 
 void CCustomAddProcessorDlg::InitPortRow(QGridLayout* pGrid)
 {
-    AddCaption(pGrid, c_nPortRow, QT_TRANSLATE_NOOP("CCustomDialog", "输出口数量"), c_nCaptionWidth);
+    CCustomLabel* pCaption =
+        CreateRowCaption(QT_TRANSLATE_NOOP("CCustomDialog", "输出口数量"), c_nCaptionWidth);
     m_pPortComboBox = new CCustomComboBox(this);
     m_pPortComboBox->setFixedSize(DialogFrame::c_sizeSmallField);
     QMenu* pMenu = DialogFrame::CreateMenu(this, {});
@@ -113,17 +122,20 @@ void CCustomAddProcessorDlg::InitPortRow(QGridLayout* pGrid)
     // The text is the current processor's while the count at first is that of processor 0; only OK makes them
     // one.
     m_pPortComboBox->setText(QString::number(HostAccess::CurrentSender().nOutputPortCount));
-    pGrid->addWidget(m_pPortComboBox, c_nPortRow, c_nFieldColumn);
+    DialogFrame::NameControl(m_pPortComboBox, "ports", pCaption);
+    AddRow(pGrid, c_nPortRow, pCaption, m_pPortComboBox);
 }
 
 void CCustomAddProcessorDlg::InitAddressRow(QGridLayout* pGrid)
 {
-    AddCaption(pGrid, c_nAddressRow, QT_TRANSLATE_NOOP("CCustomDialog", "起始IP地址"), c_nCaptionWidth);
+    CCustomLabel* pCaption =
+        CreateRowCaption(QT_TRANSLATE_NOOP("CCustomDialog", "起始IP地址"), c_nCaptionWidth);
     m_pIPEdit = AddressDialogs::CreateAddressField(this);
     QString strIP;
     GetInitialIP(strIP);
     m_pIPEdit->setText(strIP);
-    pGrid->addWidget(m_pIPEdit, c_nAddressRow, c_nFieldColumn);
+    DialogFrame::NameControl(m_pIPEdit, "address", pCaption);
+    AddRow(pGrid, c_nAddressRow, pCaption, m_pIPEdit);
 }
 
 void CCustomAddProcessorDlg::GetInitialIP(QString& strIP)
@@ -143,7 +155,7 @@ void CCustomAddProcessorDlg::ActionSlots(int nID)
     if (nID == DialogFrame::enOk)
         Accept();
     else if (nID == DialogFrame::enCancel)
-        DialogFrame::Finish(this, 0);
+        DialogFrame::Finish(this, DialogFrame::enCancelled);
 }
 
 void CCustomAddProcessorDlg::Accept()
@@ -156,7 +168,7 @@ void CCustomAddProcessorDlg::Accept()
             return;
         StoreAddresses();
     }
-    DialogFrame::Finish(this, 1);
+    DialogFrame::Finish(this, DialogFrame::enAccepted);
 }
 
 void CCustomAddProcessorDlg::StoreAddresses()

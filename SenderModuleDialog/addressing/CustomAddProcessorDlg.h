@@ -6,6 +6,7 @@
 
 class CCustomComboBox;
 class CCustomIPEdit;
+class CCustomLabel;
 class CCustomSpinBox;
 class QGridLayout;
 
@@ -43,7 +44,8 @@ private:
     void InitCountRow(QGridLayout* pGrid);
     void InitPortRow(QGridLayout* pGrid);
     void InitAddressRow(QGridLayout* pGrid);
-    void AddCaption(QGridLayout* pGrid, int nRow, const char* szText, int nMaxWidth);
+    void AddRow(QGridLayout* pGrid, int nRow, CCustomLabel* pCaption, QWidget* pField);
+    CCustomLabel* CreateRowCaption(const char* szText, int nMaxWidth);
     void Accept();
     void StoreAddresses();
 

@@ -15,11 +15,12 @@
 
 namespace {
 
+/// What the controls pass to `ControlClicked`.
 enum enControl
 {
-    enPickType = 0,
-    enOk = 1,
-    enCancel = 2
+    enTypePicked = 0,
+    enOkButton = 1,
+    enCancelButton = 2
 };
 
 /// A processor type that can be demonstrated.
@@ -74,39 +75,39 @@ CDemoProjectConfigDlg::~CDemoProjectConfigDlg() = default;
 
 void CDemoProjectConfigDlg::InitControl()
 {
-    m_pTypeLabel = new CCustomLabel(CCustomDialog::tr("主控类型"), this, Qt::WindowFlags());
+    m_pTypeLabel = DialogFrame::CreateLabel(this, CCustomDialog::tr("主控类型"));
     m_pTypeComboBox = new CCustomComboBox(this);
     m_pTypeComboBox->setText(NameAt(m_nTypeIndex));
-    m_pOKButton = new QPushButton(CCustomDialog::tr("确认"), this);
-    m_pCancelButton = new QPushButton(CCustomDialog::tr("取消"), this);
+    const auto buttons = DialogFrame::SOkCancel::Create(this, QT_TRANSLATE_NOOP("CCustomDialog", "确认"));
+    m_pOkButton = buttons.pOk;
+    m_pCancelButton = buttons.pCancel;
+    DialogFrame::NameControl(m_pTypeComboBox, "type", m_pTypeLabel);
 
     auto* pMenu = new QMenu(this);
     for (int i = 0; i < int(c_arrTypes.size()); ++i) {
         const QAction* pAction = DialogFrame::AddEntry(pMenu, {NameAt(i), i});
-        connect(pAction, &QAction::triggered, this, [this, i] { ControlClicked(enPickType, i); });
+        connect(pAction, &QAction::triggered, this, [this, i] { ControlClicked(enTypePicked, i); });
     }
     DialogFrame::StyleMenu(pMenu);
     pMenu->setFixedWidth(c_sizeComboBox.width());
     m_pTypeComboBox->setMenu(pMenu);
 
-    connect(m_pOKButton, &QPushButton::clicked, this, [this] { ControlClicked(enOk); });
-    connect(m_pCancelButton, &QPushButton::clicked, this, [this] { ControlClicked(enCancel); });
+    DialogFrame::SOkCancel{m_pOkButton, m_pCancelButton}.Connect([this](int nID) { ControlClicked(nID); },
+                                                                 enOkButton, enCancelButton);
 }
 
 void CDemoProjectConfigDlg::InitStyle()
 {
     DialogFrame::StyleCaption(m_pTypeLabel);
     m_pTypeLabel->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    DialogFrame::StyleButton(m_pOKButton);
-    DialogFrame::StyleButton(m_pCancelButton);
+    DialogFrame::SOkCancel{m_pOkButton, m_pCancelButton}.Style();
 }
 
 void CDemoProjectConfigDlg::SetControlRect()
 {
     m_pTypeLabel->setFixedSize(c_sizeLabel);
     m_pTypeComboBox->setFixedSize(c_sizeComboBox);
-    m_pOKButton->setFixedSize(c_sizeButton);
-    m_pCancelButton->setFixedSize(c_sizeButton);
+    DialogFrame::SOkCancel{m_pOkButton, m_pCancelButton}.SetFixedSize(c_sizeButton);
 
     auto* pTypeRow = new QHBoxLayout;
     pTypeRow->setSpacing(0);
@@ -116,7 +117,7 @@ void CDemoProjectConfigDlg::SetControlRect()
 
     auto* pButtonRow = new QHBoxLayout;
     pButtonRow->addStretch();
-    pButtonRow->addWidget(m_pOKButton);
+    pButtonRow->addWidget(m_pOkButton);
     pButtonRow->addStretch();
     pButtonRow->addWidget(m_pCancelButton);
     pButtonRow->addStretch();
@@ -129,14 +130,14 @@ void CDemoProjectConfigDlg::SetControlRect()
 void CDemoProjectConfigDlg::ControlClicked(int id, int sub)
 {
     switch (id) {
-    case enPickType:
+    case enTypePicked:
         PickType(sub);
         break;
-    case enOk:
+    case enOkButton:
         OpenDemoProject();
         break;
-    case enCancel:
-        DialogFrame::Finish(this, 0);
+    case enCancelButton:
+        DialogFrame::Finish(this, DialogFrame::enCancelled);
         break;
     default:
         break;
@@ -155,5 +156,5 @@ void CDemoProjectConfigDlg::OpenDemoProject()
     if (const SDemoType* pType = TypeAt(m_nTypeIndex))
         HostAccess::ProjectData().SetDemoSenderType(pType->nSenderType);
     HostAccess::SenderLogic().ApplyDemoProject();
-    DialogFrame::Finish(this, 1);
+    DialogFrame::Finish(this, DialogFrame::enAccepted);
 }

@@ -33,7 +33,7 @@ private:
 
     CCustomLabel* m_pTypeLabel = nullptr;
     CCustomComboBox* m_pTypeComboBox = nullptr;
-    QPushButton* m_pOKButton = nullptr;
+    QPushButton* m_pOkButton = nullptr;
     QPushButton* m_pCancelButton = nullptr;
     int m_nTypeIndex = 0;
 };

@@ -99,12 +99,14 @@ void CSetIPOfflineDlg::InitControl()
                            DialogFrame::CreateOkCancelRow(this, [this](int nID) { ActionSlots(nID); }));
 }
 
-void CSetIPOfflineDlg::AddRow(QGridLayout* pGrid, const QString& strCaption, QWidget* pField)
+void CSetIPOfflineDlg::AddRow(QGridLayout* pGrid, const QString& strCaption, QWidget* pField,
+                              const char* szName)
 {
     // rowCount() is 1 for an empty grid.
     const int nRow = pGrid->count() == 0 ? 0 : pGrid->rowCount();
     CCustomLabel* pLabel = DialogFrame::CreateCaption(this, strCaption);
     pLabel->setFixedSize(c_sizeCaption);
+    DialogFrame::NameControl(pField, szName, pLabel);
     pGrid->addWidget(pLabel, nRow, 0);
     pGrid->addWidget(pField, nRow, 1);
 }
@@ -118,8 +120,8 @@ void CSetIPOfflineDlg::InitBatchRows(QGridLayout* pGrid)
     m_pCountSpinBox->SetMinMax(1, IPAddressRules::c_nListLimit - listStored.size());
     m_pCountSpinBox->setValue(FirstBatchSize(listStored.size()));
     m_pIPEdit = AddressDialogs::CreateAddressField(this);
-    AddRow(pGrid, CCustomDialog::tr("添加数量"), m_pCountSpinBox);
-    AddRow(pGrid, CCustomDialog::tr("起始IP地址"), m_pIPEdit);
+    AddRow(pGrid, CCustomDialog::tr("添加数量"), m_pCountSpinBox, "count");
+    AddRow(pGrid, CCustomDialog::tr("起始IP地址"), m_pIPEdit, "address");
 }
 
 void CSetIPOfflineDlg::InitSingleRows(QGridLayout* pGrid)
@@ -135,8 +137,8 @@ void CSetIPOfflineDlg::InitSingleRows(QGridLayout* pGrid)
     DialogFrame::StyleWith(m_pNameEdit, c_szNameStyle, "QLineEdit");
     if (!m_bSet)
         m_pNameEdit->setText(IPAddressRules::SplitEntry(StoredEntry()).strName);
-    AddRow(pGrid, CCustomDialog::tr("IP地址"), pField);
-    AddRow(pGrid, CCustomDialog::tr("IP名称"), m_pNameEdit);
+    AddRow(pGrid, CCustomDialog::tr("IP地址"), pField, "address");
+    AddRow(pGrid, CCustomDialog::tr("IP名称"), m_pNameEdit, "name");
 }
 
 void CSetIPOfflineDlg::InitProcessorRows(QGridLayout* pGrid)
@@ -144,7 +146,8 @@ void CSetIPOfflineDlg::InitProcessorRows(QGridLayout* pGrid)
     // In 64 bits: the host's ordinal can be any int.
     const qint64 nFirst = m_nIndex;
     for (int i = 0; i < m_nCount; ++i)
-        AddRow(pGrid, CCustomDialog::tr("主控 %1").arg(nFirst + i), AddProcessorField());
+        AddRow(pGrid, CCustomDialog::tr("主控 %1").arg(nFirst + i), AddProcessorField(),
+               QByteArray("address" + QByteArray::number(i)).constData());
 }
 
 CCustomIPEdit* CSetIPOfflineDlg::AddProcessorField()
@@ -270,7 +273,7 @@ bool CSetIPOfflineDlg::Commit()
 void CSetIPOfflineDlg::ActionSlots(int nID)
 {
     if (nID == DialogFrame::enCancel)
-        DialogFrame::Finish(this, 0);
+        DialogFrame::Finish(this, DialogFrame::enCancelled);
     else if (nID == DialogFrame::enOk && Commit())
-        DialogFrame::Finish(this, 1);
+        DialogFrame::Finish(this, DialogFrame::enAccepted);
 }

@@ -52,7 +52,7 @@ private:
     void InitBatchRows(QGridLayout* pGrid);
     void InitSingleRows(QGridLayout* pGrid);
     void InitProcessorRows(QGridLayout* pGrid);
-    void AddRow(QGridLayout* pGrid, const QString& strCaption, QWidget* pField);
+    void AddRow(QGridLayout* pGrid, const QString& strCaption, QWidget* pField, const char* szName);
     CCustomIPEdit* AddProcessorField();
 
     void SetInitialIP();

@@ -251,7 +251,7 @@ void CEdidSetDlg::OnTimingStandardComboBoxSelect(int index)
 
 void CEdidSetDlg::OnCancelPushButtonClicked()
 {
-    done(0);
+    done(DialogFrame::enCancelled);
 }
 
 void CEdidSetDlg::RefreshWindow()
@@ -355,7 +355,7 @@ void CEdidSetDlg::ClearError()
     DialogFrame::ShowWrapped(m_pErrorLabel, QString(), c_nErrorLines);
     m_byShowError = 0;
     m_pErrorLabel->hide();
-    m_pOKButton->setEnabled(true);
+    m_pOkButton->setEnabled(true);
 }
 
 void CEdidSetDlg::ShowVerdict(const QString& strVerdict)
@@ -367,7 +367,7 @@ void CEdidSetDlg::ShowVerdict(const QString& strVerdict)
     DialogFrame::ShowWrapped(m_pErrorLabel, strVerdict, c_nErrorLines);
     m_byShowError = 1;
     m_pErrorLabel->show();
-    m_pOKButton->setEnabled(EdidLimit::IsNotice(strVerdict));
+    m_pOkButton->setEnabled(EdidLimit::IsNotice(strVerdict));
 }
 
 void CEdidSetDlg::RefreshSize()

@@ -133,7 +133,8 @@ private:
     QGridLayout* CreateGrid();
     CCustomComboBox* CreateComboBox();
     void InitSizeRow(QGridLayout* pGrid);
-    void InitChoiceRow(QGridLayout* pGrid, int nGridRow, const char* szCaption, SChoiceRow& row);
+    void InitChoiceRow(QGridLayout* pGrid, int nGridRow, const char* szCaption, const char* szName,
+                       SChoiceRow& row);
     void InitOptionRows(QGridLayout* pGrid);
     void InitButtonRow(QGridLayout* pGrid);
     void InitResolutionMenu();
@@ -203,7 +204,7 @@ private:
     SChoiceRow m_rowStandard;
     QCheckBox* m_pConnectPCCheckBox = nullptr;
     CCustomLabel* m_pErrorLabel = nullptr;
-    QPushButton* m_pOKButton = nullptr;
+    QPushButton* m_pOkButton = nullptr;
     QPushButton* m_pCancelButton = nullptr;
 
     QList<QAction*> m_listResolutionActions; ///< the custom action too where the menu lacks it

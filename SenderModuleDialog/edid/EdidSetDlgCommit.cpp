@@ -58,7 +58,7 @@ void CEdidSetDlg::CommitBasic(int nSender, QSize size, unsigned char byRate)
     pProgressbar->CloseProgress();
     if (!bWritten)
         ShowSaveFailed();
-    done(1);
+    done(DialogFrame::enAccepted);
 }
 
 bool CEdidSetDlg::CommitFull(int nSender, QSize size)
@@ -83,7 +83,7 @@ void CEdidSetDlg::WriteFull(int nSender, const SEdidSetting& setting)
     CVideoSourceLogic& logic = HostAccess::VideoSourceLogic();
     if (logic.SetEdidSetting(nSender, m_nInterfaceId, &setting) != 0) {
         ShowSaveFailed();
-        done(1);
+        done(DialogFrame::enAccepted);
         return;
     }
     CCustomProgressbar* pProgressbar = CreateProgressbar();
@@ -91,7 +91,7 @@ void CEdidSetDlg::WriteFull(int nSender, const SEdidSetting& setting)
     WaitBehind(pProgressbar, EdidCommit::DeviceWait(nSenderType));
     pProgressbar->CloseProgress();
     logic.FinishEdidWrite(nSender, 1);
-    done(1);
+    done(DialogFrame::enAccepted);
 }
 
 bool CEdidSetDlg::ChosenSize(QSize& size) const

@@ -72,12 +72,14 @@ void CEdidSetDlg::InitControl()
 {
     QGridLayout* pGrid = CreateGrid();
     m_pResolutionComboBox = CreateComboBox();
+    DialogFrame::NameControl(m_pResolutionComboBox, "resolution", CCustomDialog::tr("分辨率"));
     pGrid->addWidget(m_pResolutionComboBox, enRowResolution, 0, 1, c_nColumns, c_alignRow);
     InitSizeRow(pGrid);
-    InitChoiceRow(pGrid, enRowRate, QT_TRANSLATE_NOOP("CCustomDialog", "帧率"), m_rowRate);
-    InitChoiceRow(pGrid, enRowDepth, QT_TRANSLATE_NOOP("CCustomDialog", "色深"), m_rowDepth);
-    InitChoiceRow(pGrid, enRowFormat, QT_TRANSLATE_NOOP("CCustomDialog", "颜色格式"), m_rowFormat);
-    InitChoiceRow(pGrid, enRowStandard, QT_TRANSLATE_NOOP("CCustomDialog", "标准"), m_rowStandard);
+    InitChoiceRow(pGrid, enRowRate, QT_TRANSLATE_NOOP("CCustomDialog", "帧率"), "rate", m_rowRate);
+    InitChoiceRow(pGrid, enRowDepth, QT_TRANSLATE_NOOP("CCustomDialog", "色深"), "depth", m_rowDepth);
+    InitChoiceRow(pGrid, enRowFormat, QT_TRANSLATE_NOOP("CCustomDialog", "颜色格式"), "format", m_rowFormat);
+    InitChoiceRow(pGrid, enRowStandard, QT_TRANSLATE_NOOP("CCustomDialog", "标准"), "standard",
+                  m_rowStandard);
     InitOptionRows(pGrid);
     InitButtonRow(pGrid);
 }
@@ -116,16 +118,22 @@ void CEdidSetDlg::InitSizeRow(QGridLayout* pGrid)
     m_pWidthSpinBox = CreateSpinBox(c_nWidthMax, m_sizeCustom.width());
     m_pTimesLabel = DialogFrame::CreateCaption(this, QStringLiteral("×"), Qt::AlignCenter);
     m_pHeightSpinBox = CreateSpinBox(c_nHeightMax, m_sizeCustom.height());
+    DialogFrame::NameControl(m_pWidthSpinBox, "width", m_pSizeLabel);
+    DialogFrame::NameControl(m_pHeightSpinBox, "height", m_pTimesLabel);
+    m_pWidthSpinBox->setAccessibleName(CCustomDialog::tr("宽"));
+    m_pHeightSpinBox->setAccessibleName(CCustomDialog::tr("高"));
     pGrid->addWidget(m_pSizeLabel, enRowSize, 0, c_alignRow);
     pGrid->addWidget(m_pWidthSpinBox, enRowSize, 1, c_alignRow);
     pGrid->addWidget(m_pTimesLabel, enRowSize, 2, c_alignRow);
     pGrid->addWidget(m_pHeightSpinBox, enRowSize, 3, c_alignRow);
 }
 
-void CEdidSetDlg::InitChoiceRow(QGridLayout* pGrid, int nGridRow, const char* szCaption, SChoiceRow& row)
+void CEdidSetDlg::InitChoiceRow(QGridLayout* pGrid, int nGridRow, const char* szCaption, const char* szName,
+                                SChoiceRow& row)
 {
     row.pLabel = DialogFrame::CreateCaption(this, CCustomDialog::tr(szCaption), Qt::AlignCenter);
     row.pComboBox = CreateComboBox();
+    DialogFrame::NameControl(row.pComboBox, szName, row.pLabel);
     pGrid->addWidget(row.pLabel, nGridRow, 0, c_alignRow);
     pGrid->addWidget(row.pComboBox, nGridRow, 1, 1, c_nColumns - 1, c_alignRow);
 }
@@ -135,24 +143,27 @@ void CEdidSetDlg::InitOptionRows(QGridLayout* pGrid)
     m_pConnectPCCheckBox = new QCheckBox(CCustomDialog::tr("连接电脑"), this);
     DialogFrame::StyleCheckBox(m_pConnectPCCheckBox);
     m_pConnectPCCheckBox->setFixedSize(c_sizeCheckBox);
+    DialogFrame::NameControl(m_pConnectPCCheckBox, "connectPC", m_pConnectPCCheckBox->text());
     pGrid->addWidget(m_pConnectPCCheckBox, enRowConnectPC, 0, 1, c_nColumns, c_alignRow);
 
     m_pErrorLabel = new CCustomLabel(this, Qt::WindowFlags());
     DialogFrame::StyleWarning(m_pErrorLabel);
     m_pErrorLabel->setWordWrap(true);
+    m_pErrorLabel->setObjectName(QStringLiteral("error"));
     m_pErrorLabel->setFixedSize(c_sizeError);
     pGrid->addWidget(m_pErrorLabel, enRowError, 0, 1, c_nColumns, c_alignRow);
 }
 
 void CEdidSetDlg::InitButtonRow(QGridLayout* pGrid)
 {
-    m_pOKButton =
-        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "确认"), c_sizeButton, {}});
+    const auto buttons = DialogFrame::SOkCancel::Create(this, QT_TRANSLATE_NOOP("CCustomDialog", "确认"));
+    m_pOkButton = buttons.pOk;
+    m_pCancelButton = buttons.pCancel;
+    buttons.Style();
+    buttons.SetFixedSize(c_sizeButton);
     // Enter in a spin box confirms; without a default of its own the window would open the nearest menu.
-    m_pOKButton->setDefault(true);
-    m_pCancelButton =
-        DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "取消"), c_sizeButton, {}});
-    pGrid->addWidget(m_pOKButton, enRowButtons, 0, c_alignRow | Qt::AlignLeft);
+    m_pOkButton->setDefault(true);
+    pGrid->addWidget(m_pOkButton, enRowButtons, 0, c_alignRow | Qt::AlignLeft);
     pGrid->addWidget(m_pCancelButton, enRowButtons, 2, 1, 2, c_alignRow | Qt::AlignRight);
 }
 
@@ -270,6 +281,6 @@ void CEdidSetDlg::InitControlConnect()
             [this] { m_bConnectPC = m_bConnectPC == 1 ? 0 : 1; });
     connect(m_pWidthSpinBox, &QDoubleSpinBox::textChanged, this, &CEdidSetDlg::OnWidthSpinBoxValueChanged);
     connect(m_pHeightSpinBox, &QDoubleSpinBox::textChanged, this, &CEdidSetDlg::OnHeightSpinBoxValueChanged);
-    connect(m_pOKButton, &QPushButton::clicked, this, &CEdidSetDlg::OnOKPushButtonClicked);
+    connect(m_pOkButton, &QPushButton::clicked, this, &CEdidSetDlg::OnOKPushButtonClicked);
     connect(m_pCancelButton, &QPushButton::clicked, this, &CEdidSetDlg::OnCancelPushButtonClicked);
 }

@@ -94,45 +94,53 @@ void CBackgroundImageDlg::InitControl()
 {
     auto* pOuter = new QVBoxLayout(this);
     pOuter->setContentsMargins(c_nMargin, c_nMargin, c_nMargin, c_nMargin);
-    const auto AddRow = [this, pOuter](const QString& strCaption,
-                                       void (CBackgroundImageDlg::*pInit)(QHBoxLayout*)) {
-        QHBoxLayout* pRow = CreateRow(strCaption);
-        (this->*pInit)(pRow);
-        pOuter->addLayout(pRow);
-    };
-    AddRow(CCustomDialog::tr("启用"), &CBackgroundImageDlg::InitSwitchRow);
-    AddRow(CCustomDialog::tr("契合度"), &CBackgroundImageDlg::InitFitRow);
-    AddRow(CCustomDialog::tr("透明度"), &CBackgroundImageDlg::InitTransparencyRow);
+    pOuter->addLayout(CreateSwitchRow());
+    pOuter->addLayout(CreateFitRow());
+    pOuter->addLayout(CreateTransparencyRow());
 }
 
-QHBoxLayout* CBackgroundImageDlg::CreateRow(const QString& strCaption)
+CCustomLabel* CBackgroundImageDlg::CreateRowCaption(const char* szText)
 {
-    auto* pLabel = new CCustomLabel(strCaption, this, Qt::WindowFlags());
-    pLabel->setFixedSize(c_sizeCaption);
-    pLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    DialogFrame::StyleCaption(pLabel);
+    CCustomLabel* pCaption =
+        DialogFrame::CreateCaption(this, CCustomDialog::tr(szText), Qt::AlignLeft | Qt::AlignVCenter);
+    pCaption->setFixedSize(c_sizeCaption);
+    return pCaption;
+}
+
+QHBoxLayout* CBackgroundImageDlg::CreateRow(CCustomLabel* pCaption)
+{
     auto* pRow = new QHBoxLayout;
     pRow->setContentsMargins(0, 0, 0, 0);
     pRow->setSpacing(c_nRowSpacing);
-    pRow->addWidget(pLabel);
+    pRow->addWidget(pCaption);
     return pRow;
 }
 
-void CBackgroundImageDlg::InitSwitchRow(QHBoxLayout* pRow)
+QHBoxLayout* CBackgroundImageDlg::CreateSwitchRow()
 {
-    m_pSwitchEnable = new CCustomSwitchButton(this);
-    connect(m_pSwitchEnable, &CCustomSwitchButton::checked, this, [this] { ActionSlots(enSwitch); });
-    m_pBtnChoose = DialogFrame::CreateButton(this, {QT_TRANSLATE_NOOP("CCustomDialog", "选取图片..."),
-                                                    c_sizeChoose, [this] { ActionSlots(enChoose); }});
-    pRow->addWidget(m_pSwitchEnable);
+    CCustomLabel* pCaption = CreateRowCaption(QT_TRANSLATE_NOOP("CCustomDialog", "启用"));
+    m_pEnableSwitch = new CCustomSwitchButton(this);
+    connect(m_pEnableSwitch, &CCustomSwitchButton::checked, this, [this] { ActionSlots(enSwitch); });
+    m_pChooseButton = new QPushButton(CCustomDialog::tr("选取图片..."), this);
+    m_pChooseButton->setFixedSize(c_sizeChoose);
+    // Enter in the transparency field ends the input and opens nothing.
+    m_pChooseButton->setAutoDefault(false);
+    DialogFrame::StyleButton(m_pChooseButton);
+    connect(m_pChooseButton, &QPushButton::clicked, this, [this] { ActionSlots(enChoose); });
+    DialogFrame::NameControl(m_pEnableSwitch, "enable", pCaption);
+    DialogFrame::NameControl(m_pChooseButton, "choose", m_pChooseButton->text());
+    QHBoxLayout* pRow = CreateRow(pCaption);
+    pRow->addWidget(m_pEnableSwitch);
     pRow->addStretch();
-    pRow->addWidget(m_pBtnChoose);
+    pRow->addWidget(m_pChooseButton);
+    return pRow;
 }
 
-void CBackgroundImageDlg::InitFitRow(QHBoxLayout* pRow)
+QHBoxLayout* CBackgroundImageDlg::CreateFitRow()
 {
-    m_pComboFit = new CCustomComboBox(this);
-    m_pComboFit->setFixedHeight(c_nRowHeight);
+    CCustomLabel* pCaption = CreateRowCaption(QT_TRANSLATE_NOOP("CCustomDialog", "契合度"));
+    m_pFitComboBox = new CCustomComboBox(this);
+    m_pFitComboBox->setFixedHeight(c_nRowHeight);
     QMenu* pMenu = DialogFrame::CreateMenu(this, {});
     const QString arrTexts[] = {QString::fromLatin1(BackgroundRules::c_szOneToOne),
                                 CCustomDialog::tr("拉伸")};
@@ -144,49 +152,58 @@ void CBackgroundImageDlg::InitFitRow(QHBoxLayout* pRow)
         ++nFit;
     }
     // First the box's own handling, which changes the text, then ours, which reads it.
-    m_pComboFit->SetMenu(pMenu, true, true, true);
+    m_pFitComboBox->SetMenu(pMenu, true, true, true);
     connect(pMenu, &QMenu::triggered, this, [this] { ActionSlots(enFit); });
-    pRow->addWidget(m_pComboFit);
+    DialogFrame::NameControl(m_pFitComboBox, "fit", pCaption);
+    QHBoxLayout* pRow = CreateRow(pCaption);
+    pRow->addWidget(m_pFitComboBox);
+    return pRow;
 }
 
-void CBackgroundImageDlg::InitTransparencyRow(QHBoxLayout* pRow)
+QHBoxLayout* CBackgroundImageDlg::CreateTransparencyRow()
 {
-    m_pSliderTransparency = new QSlider(Qt::Horizontal, this);
-    m_pSliderTransparency->setRange(0, BackgroundRules::c_nMaxPercent);
-    m_pSliderTransparency->setFixedHeight(c_nRowHeight);
-    m_pSliderTransparency->setStyleSheet(QString::fromLatin1(c_szSliderStyle));
-    m_pSpinTransparency = new QDoubleSpinBox(this);
-    m_pSpinTransparency->setRange(0, BackgroundRules::c_nMaxPercent);
-    m_pSpinTransparency->setDecimals(0);
-    m_pSpinTransparency->setSuffix(QStringLiteral("%"));
-    m_pSpinTransparency->setFixedSize(c_sizeSpin);
-    DialogFrame::StyleSpinBox(m_pSpinTransparency, "QDoubleSpinBox");
-    connect(m_pSliderTransparency, &QAbstractSlider::valueChanged, this, [this] { ActionSlots(enSlider); });
-    connect(m_pSpinTransparency, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+    CCustomLabel* pCaption = CreateRowCaption(QT_TRANSLATE_NOOP("CCustomDialog", "透明度"));
+    m_pTransparencySlider = new QSlider(Qt::Horizontal, this);
+    m_pTransparencySlider->setRange(0, BackgroundRules::c_nMaxPercent);
+    m_pTransparencySlider->setFixedHeight(c_nRowHeight);
+    m_pTransparencySlider->setStyleSheet(QString::fromLatin1(c_szSliderStyle));
+    m_pTransparencySpinBox = new QDoubleSpinBox(this);
+    m_pTransparencySpinBox->setRange(0, BackgroundRules::c_nMaxPercent);
+    m_pTransparencySpinBox->setDecimals(0);
+    m_pTransparencySpinBox->setSuffix(QStringLiteral("%"));
+    m_pTransparencySpinBox->setFixedSize(c_sizeSpin);
+    DialogFrame::StyleSpinBox(m_pTransparencySpinBox, "QDoubleSpinBox");
+    connect(m_pTransparencySlider, &QAbstractSlider::valueChanged, this, [this] { ActionSlots(enSlider); });
+    connect(m_pTransparencySpinBox, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
             [this] { ActionSlots(enNumber); });
-    pRow->addWidget(m_pSliderTransparency, 0, Qt::AlignVCenter);
-    pRow->addWidget(m_pSpinTransparency);
+    // The caption stands for both, and its buddy is the number.
+    DialogFrame::NameControl(m_pTransparencySlider, "transparencySlider", pCaption->text());
+    DialogFrame::NameControl(m_pTransparencySpinBox, "transparency", pCaption);
+    QHBoxLayout* pRow = CreateRow(pCaption);
+    pRow->addWidget(m_pTransparencySlider, 0, Qt::AlignVCenter);
+    pRow->addWidget(m_pTransparencySpinBox);
+    return pRow;
 }
 
 void CBackgroundImageDlg::RefreshWindow()
 {
     m_bRefreshing = true;
     // A stored picture that has vanished shows as switched off, while the setting stays on.
-    m_pSwitchEnable->setOpen(m_bEnable && !m_strImagePath.isEmpty(), true);
-    m_pComboFit->setText(m_nFit == 0 ? QString::fromLatin1(BackgroundRules::c_szOneToOne)
-                                     : CCustomDialog::tr("拉伸"));
+    m_pEnableSwitch->setOpen(m_bEnable && !m_strImagePath.isEmpty(), true);
+    m_pFitComboBox->setText(m_nFit == 0 ? QString::fromLatin1(BackgroundRules::c_szOneToOne)
+                                        : CCustomDialog::tr("拉伸"));
     const int nPercent = BackgroundRules::PercentOfAlpha(m_nAlpha);
-    m_pSliderTransparency->setValue(nPercent);
-    m_pSpinTransparency->setValue(nPercent);
+    m_pTransparencySlider->setValue(nPercent);
+    m_pTransparencySpinBox->setValue(nPercent);
     EnableControls();
     m_bRefreshing = false;
 }
 
 void CBackgroundImageDlg::EnableControls()
 {
-    const bool bOpen = m_pSwitchEnable->isOpen();
-    for (QWidget* pControl : std::initializer_list<QWidget*>{m_pBtnChoose, m_pComboFit, m_pSliderTransparency,
-                                                             m_pSpinTransparency})
+    const bool bOpen = m_pEnableSwitch->isOpen();
+    for (QWidget* pControl : std::initializer_list<QWidget*>{m_pChooseButton, m_pFitComboBox,
+                                                             m_pTransparencySlider, m_pTransparencySpinBox})
         pControl->setEnabled(bOpen);
 }
 
@@ -242,7 +259,7 @@ void CBackgroundImageDlg::ActionSlots(int nID)
 void CBackgroundImageDlg::ToggleEnable()
 {
     m_bEnable = !m_bEnable;
-    m_pSwitchEnable->setOpen(m_bEnable, true);
+    m_pEnableSwitch->setOpen(m_bEnable, true);
     EnableControls();
     RefreshView(true);
 }
@@ -259,26 +276,26 @@ void CBackgroundImageDlg::ChooseImage()
 
 void CBackgroundImageDlg::ChooseFit()
 {
-    m_nFit = BackgroundRules::FitOfText(m_pComboFit->text());
+    m_nFit = BackgroundRules::FitOfText(m_pFitComboBox->text());
     RefreshView(false);
 }
 
 /// Saving is left to the number, which changes when the slider really moved.
 void CBackgroundImageDlg::SliderMoved()
 {
-    if (m_pSliderTransparency == nullptr || m_pSpinTransparency == nullptr || m_bRefreshing)
+    if (m_pTransparencySlider == nullptr || m_pTransparencySpinBox == nullptr || m_bRefreshing)
         return;
-    const int nPercent = m_pSliderTransparency->value();
-    m_pSpinTransparency->setValue(nPercent);
+    const int nPercent = m_pTransparencySlider->value();
+    m_pTransparencySpinBox->setValue(nPercent);
     m_nAlpha = BackgroundRules::AlphaOfPercent(nPercent);
 }
 
 void CBackgroundImageDlg::SpinChanged()
 {
-    if (m_pSliderTransparency == nullptr || m_pSpinTransparency == nullptr || m_bRefreshing)
+    if (m_pTransparencySlider == nullptr || m_pTransparencySpinBox == nullptr || m_bRefreshing)
         return;
-    const int nPercent = int(m_pSpinTransparency->value());
-    m_pSliderTransparency->setValue(nPercent);
+    const int nPercent = int(m_pTransparencySpinBox->value());
+    m_pTransparencySlider->setValue(nPercent);
     m_nAlpha = BackgroundRules::AlphaOfPercent(nPercent);
     RefreshView(false);
 }

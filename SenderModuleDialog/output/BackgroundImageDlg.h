@@ -7,6 +7,7 @@
 #include <QString>
 
 class CCustomComboBox;
+class CCustomLabel;
 class CCustomSwitchButton;
 class QDoubleSpinBox;
 class QHBoxLayout;
@@ -33,10 +34,11 @@ private:
     void RefreshWindow();
     void RefreshView(bool bImageChanged);
 
-    QHBoxLayout* CreateRow(const QString& strCaption);
-    void InitSwitchRow(QHBoxLayout* pRow);
-    void InitFitRow(QHBoxLayout* pRow);
-    void InitTransparencyRow(QHBoxLayout* pRow);
+    QHBoxLayout* CreateRow(CCustomLabel* pCaption);
+    QHBoxLayout* CreateSwitchRow();
+    QHBoxLayout* CreateFitRow();
+    QHBoxLayout* CreateTransparencyRow();
+    CCustomLabel* CreateRowCaption(const char* szText);
     void EnableControls();
     void StorePicture();
     void ToggleEnable();
@@ -45,16 +47,16 @@ private:
     void SliderMoved();
     void SpinChanged();
 
-    CCustomSwitchButton* m_pSwitchEnable = nullptr;
-    QPushButton* m_pBtnChoose = nullptr;
-    CCustomComboBox* m_pComboFit = nullptr;
-    QSlider* m_pSliderTransparency = nullptr;      ///< per cent
-    QDoubleSpinBox* m_pSpinTransparency = nullptr; ///< per cent
-    bool m_bRefreshing = false;                    ///< the controls are being filled: nobody chose anything
-    bool m_bEnable = false;                        ///< the picture is switched on
-    QString m_strImagePath;                        ///< the chosen or stored picture; empty without one
-    qint32 m_nAlpha = 128;                         ///< opacity, 0 to 255
-    qint32 m_nFit = 0;                             ///< 0 one to one, 1 stretched
+    CCustomSwitchButton* m_pEnableSwitch = nullptr;
+    QPushButton* m_pChooseButton = nullptr;
+    CCustomComboBox* m_pFitComboBox = nullptr;
+    QSlider* m_pTransparencySlider = nullptr;         ///< per cent
+    QDoubleSpinBox* m_pTransparencySpinBox = nullptr; ///< per cent
+    bool m_bRefreshing = false; ///< the controls are being filled: nobody chose anything
+    bool m_bEnable = false;     ///< the picture is switched on
+    QString m_strImagePath;     ///< the chosen or stored picture; empty without one
+    qint32 m_nAlpha = 128;      ///< opacity, 0 to 255
+    qint32 m_nFit = 0;          ///< 0 one to one, 1 stretched
 };
 
 #endif // SENDERMODULEDIALOG_OUTPUT_BACKGROUNDIMAGEDLG_H

@@ -49,19 +49,20 @@ void CResetCoefDlg::InitControl()
     pLabel->setAlignment(Qt::AlignCenter);
     DialogFrame::StyleCaption(pLabel);
     // The field starts at 0 although the value is 1: it shows what the host presets, and nothing before.
-    m_pSpinValue = new QDoubleSpinBox(this);
-    m_pSpinValue->setDecimals(c_nDecimals);
-    m_pSpinValue->setRange(0.0, 1.0);
-    m_pSpinValue->setSingleStep(c_dStep);
-    m_pSpinValue->setFixedSize(c_sizeSpin);
-    DialogFrame::StyleSpinBox(m_pSpinValue, "QDoubleSpinBox");
+    m_pValueSpinBox = new QDoubleSpinBox(this);
+    m_pValueSpinBox->setDecimals(c_nDecimals);
+    m_pValueSpinBox->setRange(0.0, 1.0);
+    m_pValueSpinBox->setSingleStep(c_dStep);
+    m_pValueSpinBox->setFixedSize(c_sizeSpin);
+    DialogFrame::StyleSpinBox(m_pValueSpinBox, "QDoubleSpinBox");
+    DialogFrame::NameControl(m_pValueSpinBox, "coefficient", pLabel);
 
     auto* pFields = new QHBoxLayout;
     pFields->setContentsMargins(0, 0, 0, 0);
     pFields->addStretch();
     pFields->addWidget(pLabel);
     pFields->addStretch();
-    pFields->addWidget(m_pSpinValue);
+    pFields->addWidget(m_pValueSpinBox);
     pFields->addStretch();
 
     auto* pOuter = new QVBoxLayout(this);
@@ -73,7 +74,7 @@ void CResetCoefDlg::InitControl()
 void CResetCoefDlg::SetValue(float fValue)
 {
     m_fValue = fValue;
-    m_pSpinValue->setValue(double(fValue));
+    m_pValueSpinBox->setValue(double(fValue));
 }
 
 float CResetCoefDlg::GetValue() const
@@ -91,6 +92,6 @@ void CResetCoefDlg::ActionSlots(int nID)
 
 void CResetCoefDlg::Accept()
 {
-    m_fValue = float(m_pSpinValue->value());
-    DialogFrame::Finish(this, 1);
+    m_fValue = float(m_pValueSpinBox->value());
+    DialogFrame::Finish(this, DialogFrame::enAccepted);
 }

@@ -34,7 +34,7 @@ private:
 
     bool m_bCorrection;
     float m_fValue = 1.0F;
-    QDoubleSpinBox* m_pSpinValue = nullptr;
+    QDoubleSpinBox* m_pValueSpinBox = nullptr;
 };
 
 #endif // SENDERMODULEDIALOG_OUTPUT_RESETCOEFDLG_H

@@ -17,10 +17,11 @@
 
 namespace {
 
+/// What the buttons pass to `ButtonClicked`.
 enum enButton
 {
-    enOk = 3,
-    enCancel = 4
+    enOkButton = 3,
+    enCancelButton = 4
 };
 
 // Sizes, pixels.
@@ -44,11 +45,6 @@ QString PresetText(int nPreset)
     return QString::fromUtf8(CanvasRules::c_arrPresets.at(std::size_t(nPreset)).szText);
 }
 
-CCustomLabel* CreateLabel(QWidget* pParent, const QString& strText)
-{
-    return new CCustomLabel(strText, pParent, Qt::WindowFlags());
-}
-
 } // namespace
 
 CSetCanvasDlg::CSetCanvasDlg(QWidget* pParent)
@@ -67,21 +63,24 @@ CSetCanvasDlg::~CSetCanvasDlg() = default;
 
 void CSetCanvasDlg::InitControl()
 {
-    m_pComboSize = new CCustomComboBox(this);
-    m_pLabelWidth = CreateLabel(this, CCustomDialog::tr("宽"));
-    m_pSpinWidth = new CCustomSpinBox(0, this);
-    m_pSpinWidth->SetMinMax(CanvasRules::c_nMinSide, CanvasRules::c_nMaxWidth);
-    m_pLabelHeight = CreateLabel(this, CCustomDialog::tr("高"));
-    m_pSpinHeight = new CCustomSpinBox(0, this);
-    m_pSpinHeight->SetMinMax(CanvasRules::c_nMinSide, CanvasRules::c_nMaxHeight);
-    for (CCustomSpinBox* pSpin : {m_pSpinWidth, m_pSpinHeight})
+    m_pSizeComboBox = new CCustomComboBox(this);
+    m_pWidthLabel = DialogFrame::CreateLabel(this, CCustomDialog::tr("宽"), Qt::AlignCenter);
+    m_pWidthSpinBox = new CCustomSpinBox(0, this);
+    m_pWidthSpinBox->SetMinMax(CanvasRules::c_nMinSide, CanvasRules::c_nMaxWidth);
+    m_pHeightLabel = DialogFrame::CreateLabel(this, CCustomDialog::tr("高"), Qt::AlignCenter);
+    m_pHeightSpinBox = new CCustomSpinBox(0, this);
+    m_pHeightSpinBox->SetMinMax(CanvasRules::c_nMinSide, CanvasRules::c_nMaxHeight);
+    for (CCustomSpinBox* pSpin : {m_pWidthSpinBox, m_pHeightSpinBox})
         pSpin->setAlignment(Qt::AlignCenter);
-    for (CCustomLabel* pLabel : {m_pLabelWidth, m_pLabelHeight})
-        pLabel->setAlignment(Qt::AlignCenter);
-    m_pLabelError = CreateLabel(this, m_strError);
-    m_pLabelError->setWordWrap(true);
-    m_pBtnOk = new QPushButton(CCustomDialog::tr("确定"), this);
-    m_pBtnCancel = new QPushButton(CCustomDialog::tr("取消"), this);
+    m_pErrorLabel = DialogFrame::CreateLabel(this, m_strError);
+    m_pErrorLabel->setWordWrap(true);
+    m_pErrorLabel->setObjectName(QStringLiteral("error"));
+    const auto buttons = DialogFrame::SOkCancel::Create(this, QT_TRANSLATE_NOOP("CCustomDialog", "确定"));
+    m_pOkButton = buttons.pOk;
+    m_pCancelButton = buttons.pCancel;
+    DialogFrame::NameControl(m_pSizeComboBox, "size", windowTitle());
+    DialogFrame::NameControl(m_pWidthSpinBox, "width", m_pWidthLabel);
+    DialogFrame::NameControl(m_pHeightSpinBox, "height", m_pHeightLabel);
     InitControlValue();
 }
 
@@ -92,8 +91,8 @@ void CSetCanvasDlg::InitControlValue()
     CSenderLogic& logic = HostAccess::SenderLogic();
     if (logic.IsVideoProcessor(nSender) && logic.IsSupportCanvasSize(nSender))
         size = CanvasRules::OpeningSize(logic.GetHardwareCanvasSize(nSender));
-    m_pSpinWidth->setValue(size.width());
-    m_pSpinHeight->setValue(size.height());
+    m_pWidthSpinBox->setValue(size.width());
+    m_pHeightSpinBox->setValue(size.height());
     // Kept as it was read: what the fields cannot show is still what Cancel leaves behind.
     m_sizeCanvas = size;
     IsShowError();
@@ -101,19 +100,18 @@ void CSetCanvasDlg::InitControlValue()
 
 void CSetCanvasDlg::InitStyle()
 {
-    DialogFrame::StyleCaption(m_pLabelWidth);
-    DialogFrame::StyleCaption(m_pLabelHeight);
-    DialogFrame::StyleWarning(m_pLabelError);
-    DialogFrame::StyleButton(m_pBtnOk);
-    DialogFrame::StyleButton(m_pBtnCancel);
+    DialogFrame::StyleCaption(m_pWidthLabel);
+    DialogFrame::StyleCaption(m_pHeightLabel);
+    DialogFrame::StyleWarning(m_pErrorLabel);
+    DialogFrame::SOkCancel{m_pOkButton, m_pCancelButton}.Style();
 }
 
 void CSetCanvasDlg::SetControlRect()
 {
-    for (QWidget* pControl :
-         std::initializer_list<QWidget*>{m_pComboSize, m_pLabelWidth, m_pSpinWidth, m_pLabelHeight,
-                                         m_pSpinHeight, m_pBtnOk, m_pBtnCancel})
+    for (QWidget* pControl : std::initializer_list<QWidget*>{m_pSizeComboBox, m_pWidthLabel, m_pWidthSpinBox,
+                                                             m_pHeightLabel, m_pHeightSpinBox})
         pControl->setFixedHeight(c_nControlHeight);
+    DialogFrame::SOkCancel{m_pOkButton, m_pCancelButton}.SetFixedHeight(c_nControlHeight);
 
     auto* pFields = new QWidget(this);
     auto* pGrid = new QGridLayout(pFields);
@@ -121,17 +119,17 @@ void CSetCanvasDlg::SetControlRect()
     pGrid->setSpacing(c_nGridSpacing);
     for (int i = 0; i < c_nColumns; ++i)
         pGrid->setColumnStretch(i, c_arrColumnStretches[i]);
-    pGrid->addWidget(m_pComboSize, 0, 0, 1, c_nColumns);
-    pGrid->addWidget(m_pLabelWidth, 1, 0);
-    pGrid->addWidget(m_pSpinWidth, 1, 1);
-    pGrid->addWidget(m_pLabelHeight, 1, 3);
-    pGrid->addWidget(m_pSpinHeight, 1, 4);
+    pGrid->addWidget(m_pSizeComboBox, 0, 0, 1, c_nColumns);
+    pGrid->addWidget(m_pWidthLabel, 1, 0);
+    pGrid->addWidget(m_pWidthSpinBox, 1, 1);
+    pGrid->addWidget(m_pHeightLabel, 1, 3);
+    pGrid->addWidget(m_pHeightSpinBox, 1, 4);
 
     auto* pButtons = new QHBoxLayout;
     pButtons->setContentsMargins(0, 0, 0, 0);
     pButtons->setSpacing(0);
     pButtons->addStretch(c_nButtonGap);
-    for (QPushButton* pButton : {m_pBtnOk, m_pBtnCancel}) {
+    for (QPushButton* pButton : {m_pOkButton, m_pCancelButton}) {
         pButtons->addWidget(pButton, c_nButtonStretch);
         pButtons->addStretch(c_nButtonGap);
     }
@@ -139,7 +137,7 @@ void CSetCanvasDlg::SetControlRect()
     auto* pOuter = new QVBoxLayout(this);
     pOuter->setContentsMargins(c_margins);
     pOuter->addWidget(pFields);
-    pOuter->addWidget(m_pLabelError);
+    pOuter->addWidget(m_pErrorLabel);
     pOuter->addLayout(pButtons);
 }
 
@@ -154,12 +152,12 @@ void CSetCanvasDlg::InitControlConnect()
         connect(pAction, &QAction::triggered, this,
                 [this, pAction] { ComboBoxSelect(pAction->data().toInt()); });
     }
-    m_pComboSize->setMenu(pMenu);
+    m_pSizeComboBox->setMenu(pMenu);
 
-    for (CCustomSpinBox* pSpin : {m_pSpinWidth, m_pSpinHeight})
+    for (CCustomSpinBox* pSpin : {m_pWidthSpinBox, m_pHeightSpinBox})
         connect(pSpin, &QDoubleSpinBox::textChanged, this, [this] { IsShowError(); });
-    connect(m_pBtnOk, &QPushButton::clicked, this, [this] { ButtonClicked(enOk); });
-    connect(m_pBtnCancel, &QPushButton::clicked, this, [this] { ButtonClicked(enCancel); });
+    DialogFrame::SOkCancel{m_pOkButton, m_pCancelButton}.Connect([this](int nID) { ButtonClicked(nID); },
+                                                                 enOkButton, enCancelButton);
 }
 
 QSize CSetCanvasDlg::GetCanvasSize() const
@@ -170,28 +168,28 @@ QSize CSetCanvasDlg::GetCanvasSize() const
 /// A preset's text moves the fields to that preset; a custom text matches none.
 void CSetCanvasDlg::SetControlValue()
 {
-    const QString strText = m_pComboSize->text();
+    const QString strText = m_pSizeComboBox->text();
     for (const CanvasRules::SPreset& preset : CanvasRules::c_arrPresets) {
         if (strText != QString::fromUtf8(preset.szText))
             continue;
-        m_pSpinWidth->setValue(preset.size.width());
-        m_pSpinHeight->setValue(preset.size.height());
+        m_pWidthSpinBox->setValue(preset.size.width());
+        m_pHeightSpinBox->setValue(preset.size.height());
         return;
     }
 }
 
 QSize CSetCanvasDlg::FieldSize() const
 {
-    return {int(m_pSpinWidth->value()), int(m_pSpinHeight->value())};
+    return {int(m_pWidthSpinBox->value()), int(m_pHeightSpinBox->value())};
 }
 
 /// The text tells the size, not the menu: it names a preset also where the sender's menu lacks it.
 void CSetCanvasDlg::ShowSizeText(QSize size)
 {
     const int nPreset = CanvasRules::PresetOf(size);
-    m_pComboSize->setText(nPreset < 0
-                              ? CCustomDialog::tr("自定义(%1×%2)").arg(size.width()).arg(size.height())
-                              : PresetText(nPreset));
+    m_pSizeComboBox->setText(nPreset < 0
+                                 ? CCustomDialog::tr("自定义(%1×%2)").arg(size.width()).arg(size.height())
+                                 : PresetText(nPreset));
 }
 
 /// The error text of a size, empty when it is valid. Only a video processor has limits of its own.
@@ -212,31 +210,31 @@ QString CSetCanvasDlg::Judge(QSize size) const
 
 bool CSetCanvasDlg::IsShowError()
 {
-    if (m_pSpinWidth->value() > CanvasRules::c_nMaxWidth)
-        m_pSpinWidth->setValue(CanvasRules::c_nMaxWidth);
-    if (m_pSpinHeight->value() > CanvasRules::c_nMaxHeight)
-        m_pSpinHeight->setValue(CanvasRules::c_nMaxHeight);
+    if (m_pWidthSpinBox->value() > CanvasRules::c_nMaxWidth)
+        m_pWidthSpinBox->setValue(CanvasRules::c_nMaxWidth);
+    if (m_pHeightSpinBox->value() > CanvasRules::c_nMaxHeight)
+        m_pHeightSpinBox->setValue(CanvasRules::c_nMaxHeight);
     const QSize size = FieldSize();
     ShowSizeText(size);
     m_strError = Judge(size);
     const bool bValid = m_strError.isEmpty();
     if (!bValid)
-        m_pLabelError->setText(m_strError);
+        m_pErrorLabel->setText(m_strError);
     ChangeSize(!bValid);
     return bValid;
 }
 
 void CSetCanvasDlg::ChangeSize(bool bShowError)
 {
-    m_pLabelError->setVisible(bShowError);
-    m_pBtnOk->setEnabled(!bShowError);
+    m_pErrorLabel->setVisible(bShowError);
+    m_pOkButton->setEnabled(!bShowError);
     DialogFrame::FixSize(this, bShowError ? c_sizeError : c_sizeValid);
 }
 
 void CSetCanvasDlg::ComboBoxSelect(int id)
 {
     if (id >= 0 && id < int(CanvasRules::c_arrPresets.size()))
-        m_pComboSize->setText(PresetText(id));
+        m_pSizeComboBox->setText(PresetText(id));
     SetControlValue();
     IsShowError();
 }
@@ -248,10 +246,10 @@ void CSetCanvasDlg::SpinBoxValueChanged()
 
 void CSetCanvasDlg::ButtonClicked(int id)
 {
-    if (id == enOk)
+    if (id == enOkButton)
         Accept();
-    else if (id == enCancel)
-        done(0);
+    else if (id == enCancelButton)
+        done(DialogFrame::enCancelled);
 }
 
 void CSetCanvasDlg::Accept()
@@ -261,5 +259,5 @@ void CSetCanvasDlg::Accept()
         return;
     }
     m_sizeCanvas = FieldSize();
-    done(1);
+    done(DialogFrame::enAccepted);
 }

@@ -55,14 +55,14 @@ private:
     QSize m_sizeCanvas;
     QString m_strError; ///< empty when the input is valid
 
-    CCustomComboBox* m_pComboSize = nullptr;
-    CCustomLabel* m_pLabelWidth = nullptr;
-    CCustomSpinBox* m_pSpinWidth = nullptr;
-    CCustomLabel* m_pLabelHeight = nullptr;
-    CCustomSpinBox* m_pSpinHeight = nullptr;
-    CCustomLabel* m_pLabelError = nullptr;
-    QPushButton* m_pBtnOk = nullptr;
-    QPushButton* m_pBtnCancel = nullptr;
+    CCustomComboBox* m_pSizeComboBox = nullptr;
+    CCustomLabel* m_pWidthLabel = nullptr;
+    CCustomSpinBox* m_pWidthSpinBox = nullptr;
+    CCustomLabel* m_pHeightLabel = nullptr;
+    CCustomSpinBox* m_pHeightSpinBox = nullptr;
+    CCustomLabel* m_pErrorLabel = nullptr;
+    QPushButton* m_pOkButton = nullptr;
+    QPushButton* m_pCancelButton = nullptr;
 };
 
 #endif // SENDERMODULEDIALOG_OUTPUT_SETCANVASDLG_H

@@ -16,14 +16,15 @@
 
 namespace {
 
+/// What the buttons pass to `ButtonClicked`.
 enum enButton
 {
-    enOk = 2,
-    enCancel = 3
+    enOkButton = 2,
+    enCancelButton = 3
 };
 
-/// The result of Cancel: here alone it is not 0.
-constexpr int c_nResultCancel = 2;
+/// The result of Cancel: in this dialog alone it is not 0.
+constexpr int c_nCancelled = 2;
 
 /// What the host is told after a write.
 constexpr int c_nRateDepthEvent = 0xC00;
@@ -49,26 +50,12 @@ constexpr int c_nOuterGap = 1;
 constexpr int c_nInnerGap = 2;
 constexpr int c_nButtonStretch = 2;
 
-CCustomLabel* CreateLabel(QWidget* pParent, const QString& strText)
-{
-    auto* pLabel = new CCustomLabel(strText, pParent, Qt::WindowFlags());
-    pLabel->setAlignment(Qt::AlignCenter);
-    return pLabel;
-}
-
 CCustomComboBox* CreateCombo(QWidget* pParent, const QString& strText)
 {
     auto* pCombo = new CCustomComboBox(pParent);
     pCombo->setText(strText);
     pCombo->setFixedHeight(c_nControlHeight);
     return pCombo;
-}
-
-QPushButton* CreateButton(QWidget* pParent, const QString& strText)
-{
-    auto* pButton = new QPushButton(strText, pParent);
-    pButton->setFixedHeight(c_nControlHeight);
-    return pButton;
 }
 
 QString ChoiceText(const DepthRateRules::SChoice& choice)
@@ -109,34 +96,38 @@ CSetDepthRateDlg::~CSetDepthRateDlg() = default;
 void CSetDepthRateDlg::InitControl()
 {
     const CSender& sender = HostAccess::CurrentSender();
-    m_pPanelFields = new CCustomLabel(this, Qt::WindowFlags());
-    m_pPanelButtons = new CCustomLabel(this, Qt::WindowFlags());
-    m_pLabelRate = CreateLabel(this, CCustomDialog::tr("支持的最大帧率"));
-    m_pComboRate = CreateCombo(this, QStringLiteral("%1Hz").arg(sender.nFrameRate));
-    m_pLabelDepth = CreateLabel(this, CCustomDialog::tr("输出色深"));
-    m_pComboDepth = CreateCombo(this, QStringLiteral("%1bit").arg(sender.nColorDepth));
-    m_pBtnOk = CreateButton(this, CCustomDialog::tr("确定"));
-    m_pBtnCancel = CreateButton(this, CCustomDialog::tr("取消"));
-    m_pLabelWarning = new CCustomLabel(m_strError, this, Qt::WindowFlags());
-    m_pLabelWarning->hide();
+    m_pFieldsPanel = new CCustomLabel(this, Qt::WindowFlags());
+    m_pButtonsPanel = new CCustomLabel(this, Qt::WindowFlags());
+    m_pRateLabel = DialogFrame::CreateLabel(this, CCustomDialog::tr("支持的最大帧率"), Qt::AlignCenter);
+    m_pRateComboBox = CreateCombo(this, QStringLiteral("%1Hz").arg(sender.nFrameRate));
+    m_pDepthLabel = DialogFrame::CreateLabel(this, CCustomDialog::tr("输出色深"), Qt::AlignCenter);
+    m_pDepthComboBox = CreateCombo(this, QStringLiteral("%1bit").arg(sender.nColorDepth));
+    const auto buttons = DialogFrame::SOkCancel::Create(this, QT_TRANSLATE_NOOP("CCustomDialog", "确定"));
+    m_pOkButton = buttons.pOk;
+    m_pCancelButton = buttons.pCancel;
+    buttons.SetFixedHeight(c_nControlHeight);
+    DialogFrame::NameControl(m_pRateComboBox, "rate", m_pRateLabel);
+    DialogFrame::NameControl(m_pDepthComboBox, "depth", m_pDepthLabel);
+    m_pWarningLabel = DialogFrame::CreateLabel(this, m_strError);
+    m_pWarningLabel->setObjectName(QStringLiteral("warning"));
+    m_pWarningLabel->hide();
 }
 
 void CSetDepthRateDlg::InitStyle()
 {
-    DialogFrame::StyleCaption(m_pLabelRate);
-    DialogFrame::StyleCaption(m_pLabelDepth);
-    DialogFrame::StyleWarning(m_pLabelWarning);
-    DialogFrame::StyleButton(m_pBtnOk);
-    DialogFrame::StyleButton(m_pBtnCancel);
+    DialogFrame::StyleCaption(m_pRateLabel);
+    DialogFrame::StyleCaption(m_pDepthLabel);
+    DialogFrame::StyleWarning(m_pWarningLabel);
+    DialogFrame::SOkCancel{m_pOkButton, m_pCancelButton}.Style();
 }
 
 void CSetDepthRateDlg::InitControlConnect()
 {
     const int nSender = HostAccess::CurrentSenderIndex();
-    FillRateMenu(CreateMenu(m_pComboRate), nSender);
-    FillDepthMenu(CreateMenu(m_pComboDepth), nSender);
-    connect(m_pBtnOk, &QPushButton::clicked, this, [this] { ButtonClicked(enOk); });
-    connect(m_pBtnCancel, &QPushButton::clicked, this, [this] { ButtonClicked(enCancel); });
+    FillRateMenu(CreateMenu(m_pRateComboBox), nSender);
+    FillDepthMenu(CreateMenu(m_pDepthComboBox), nSender);
+    DialogFrame::SOkCancel{m_pOkButton, m_pCancelButton}.Connect([this](int nID) { ButtonClicked(nID); },
+                                                                 enOkButton, enCancelButton);
 }
 
 QMenu* CSetDepthRateDlg::CreateMenu(CCustomComboBox* pCombo)
@@ -186,29 +177,29 @@ void CSetDepthRateDlg::SetControlRect()
     auto* pOuter = FreshLayout<QVBoxLayout>(this);
     pOuter->setContentsMargins(c_nOuterMargin, c_nOuterMargin, c_nOuterMargin, c_nOuterMargin);
     pOuter->setSpacing(0);
-    pOuter->addWidget(m_pPanelFields, c_nFieldsStretch);
-    pOuter->addWidget(m_pPanelButtons, c_nButtonsStretch);
+    pOuter->addWidget(m_pFieldsPanel, c_nFieldsStretch);
+    pOuter->addWidget(m_pButtonsPanel, c_nButtonsStretch);
 
-    auto* pFields = FreshLayout<QGridLayout>(m_pPanelFields);
+    auto* pFields = FreshLayout<QGridLayout>(m_pFieldsPanel);
     pFields->setContentsMargins(c_nFieldMargin, c_nFieldMargin, c_nFieldMargin, c_nFieldMargin);
     pFields->setSpacing(c_nFieldSpacing);
     pFields->setColumnStretch(0, 1);
     pFields->setColumnStretch(1, 1);
-    pFields->addWidget(m_pLabelRate, 0, 0, Qt::AlignCenter);
-    pFields->addWidget(m_pComboRate, 0, 1);
-    pFields->addWidget(m_pLabelDepth, 1, 0, Qt::AlignCenter);
-    pFields->addWidget(m_pComboDepth, 1, 1);
+    pFields->addWidget(m_pRateLabel, 0, 0, Qt::AlignCenter);
+    pFields->addWidget(m_pRateComboBox, 0, 1);
+    pFields->addWidget(m_pDepthLabel, 1, 0, Qt::AlignCenter);
+    pFields->addWidget(m_pDepthComboBox, 1, 1);
 
-    auto* pButtons = FreshLayout<QHBoxLayout>(m_pPanelButtons);
+    auto* pButtons = FreshLayout<QHBoxLayout>(m_pButtonsPanel);
     pButtons->setContentsMargins(0, 0, 0, 0);
     pButtons->setSpacing(0);
     pButtons->addStretch(c_nOuterGap);
-    pButtons->addWidget(m_pBtnOk, c_nButtonStretch);
+    pButtons->addWidget(m_pOkButton, c_nButtonStretch);
     pButtons->addStretch(c_nInnerGap);
-    pButtons->addWidget(m_pBtnCancel, c_nButtonStretch);
+    pButtons->addWidget(m_pCancelButton, c_nButtonStretch);
     pButtons->addStretch(c_nOuterGap);
 
-    m_pPanelButtons->move(c_ptButtonsPlain);
+    m_pButtonsPanel->move(c_ptButtonsPlain);
     setFixedSize(c_sizePlain);
 }
 
@@ -216,13 +207,13 @@ void CSetDepthRateDlg::SetControlRect()
 void CSetDepthRateDlg::ShowWarning()
 {
     SetControlRect();
-    m_pLabelWarning->setText(m_strError);
-    m_pPanelButtons->move(c_ptButtonsWarning);
+    m_pWarningLabel->setText(m_strError);
+    m_pButtonsPanel->move(c_ptButtonsWarning);
     setFixedSize(c_sizeWarning);
-    m_pBtnOk->setEnabled(false);
-    m_pLabelWarning->adjustSize();
-    m_pLabelWarning->show();
-    m_pLabelWarning->move(c_ptWarning);
+    m_pOkButton->setEnabled(false);
+    m_pWarningLabel->adjustSize();
+    m_pWarningLabel->show();
+    m_pWarningLabel->move(c_ptWarning);
 }
 
 void CSetDepthRateDlg::ChangeWndSize(bool bShowError)
@@ -231,10 +222,10 @@ void CSetDepthRateDlg::ChangeWndSize(bool bShowError)
         ShowWarning();
         return;
     }
-    m_pPanelButtons->move(c_ptButtonsPlain);
+    m_pButtonsPanel->move(c_ptButtonsPlain);
     setFixedSize(c_sizeBack);
-    m_pBtnOk->setEnabled(true);
-    m_pLabelWarning->hide();
+    m_pOkButton->setEnabled(true);
+    m_pWarningLabel->hide();
     SetControlRect();
     m_strError.clear();
 }
@@ -249,16 +240,16 @@ void CSetDepthRateDlg::SetControlValue() {}
 void CSetDepthRateDlg::ShowChoice(const QString& strText)
 {
     if (DepthRateRules::RateOf(strText))
-        m_pComboRate->setText(strText);
+        m_pRateComboBox->setText(strText);
     else if (DepthRateRules::DepthOf(strText))
-        m_pComboDepth->setText(strText);
+        m_pDepthComboBox->setText(strText);
 }
 
 void CSetDepthRateDlg::ComboBoxSelect(QAction* action)
 {
     ShowChoice(Deref(action, "action != nullptr").text());
     // 50 Hz is exempt from every limit, also where the depth is what changed.
-    if (DepthRateRules::RateOf(m_pComboRate->text()) == DepthRateRules::c_nExemptRate)
+    if (DepthRateRules::RateOf(m_pRateComboBox->text()) == DepthRateRules::c_nExemptRate)
         return;
     const int nSender = HostAccess::CurrentSenderIndex();
     const int nType = HostAccess::SenderLogic().GetSenderType(nSender);
@@ -273,17 +264,17 @@ void CSetDepthRateDlg::ComboBoxSelect(QAction* action)
 
 void CSetDepthRateDlg::ButtonClicked(int id)
 {
-    if (id == enOk)
+    if (id == enOkButton)
         Accept();
-    else if (id == enCancel)
-        done(c_nResultCancel);
+    else if (id == enCancelButton)
+        done(c_nCancelled);
 }
 
 /// A text that is not in its menu leaves the value as it is: what a sender came with is not kept.
 void CSetDepthRateDlg::TakeFields()
 {
-    m_nFrameRate = DepthRateRules::RateOf(m_pComboRate->text()).value_or(m_nFrameRate);
-    m_nColorDepth = DepthRateRules::DepthOf(m_pComboDepth->text()).value_or(m_nColorDepth);
+    m_nFrameRate = DepthRateRules::RateOf(m_pRateComboBox->text()).value_or(m_nFrameRate);
+    m_nColorDepth = DepthRateRules::DepthOf(m_pDepthComboBox->text()).value_or(m_nColorDepth);
 }
 
 /// @return true when the rate may be saved
@@ -310,7 +301,7 @@ void CSetDepthRateDlg::Accept()
     }
     SaveData();
     HostAccess::Label().PostLabelEvent(c_nRateDepthEvent, 0, 1, 0);
-    done(1);
+    done(DialogFrame::enAccepted);
 }
 
 void CSetDepthRateDlg::SaveData()

@@ -63,15 +63,15 @@ private:
     int m_nColorDepth = 8; ///< to save, bits
     QString m_strError;    ///< text of the warning
 
-    CCustomLabel* m_pPanelFields = nullptr;
-    CCustomLabel* m_pPanelButtons = nullptr;
-    CCustomLabel* m_pLabelRate = nullptr;
-    CCustomComboBox* m_pComboRate = nullptr;
-    CCustomLabel* m_pLabelDepth = nullptr;
-    CCustomComboBox* m_pComboDepth = nullptr;
-    QPushButton* m_pBtnOk = nullptr;
-    QPushButton* m_pBtnCancel = nullptr;
-    CCustomLabel* m_pLabelWarning = nullptr;
+    CCustomLabel* m_pFieldsPanel = nullptr;
+    CCustomLabel* m_pButtonsPanel = nullptr;
+    CCustomLabel* m_pRateLabel = nullptr;
+    CCustomComboBox* m_pRateComboBox = nullptr;
+    CCustomLabel* m_pDepthLabel = nullptr;
+    CCustomComboBox* m_pDepthComboBox = nullptr;
+    QPushButton* m_pOkButton = nullptr;
+    QPushButton* m_pCancelButton = nullptr;
+    CCustomLabel* m_pWarningLabel = nullptr;
 };
 
 #endif // SENDERMODULEDIALOG_OUTPUT_SETDEPTHRATEDLG_H

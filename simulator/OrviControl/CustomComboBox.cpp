@@ -1,6 +1,7 @@
 #include "host/OrviControl/CustomComboBox.h"
 
 #include "host/OrviControl/Style.h"
+#include "simulator/OrviControl/ComboBoxAccessible.h"
 #include "simulator/OrviControl/Theme.h"
 
 #include <QAction>
@@ -47,6 +48,7 @@ CCustomComboBox::CCustomComboBox(QWidget* pParent)
     : QPushButton(pParent)
     , m_pPrivate(std::make_unique<CPrivate>())
 {
+    CComboBoxAccessible::Install();
     setAutoDefault(false);
     setStyleSheet(GetFontStyleSheet(ComboStyle(), QStringLiteral("QPushButton"), Theme::c_nFontSize));
 }

@@ -91,6 +91,7 @@ CCustomIPEdit::CPrivate::CPrivate(CCustomIPEdit* pOwner)
     for (int i = 0; i < IPAddressText::c_nOctets; ++i) {
         auto* pCell = new COctetEdit(pOwner);
         arrCells.at(std::size_t(i)) = pCell;
+        pCell->setAccessibleName(CCustomDialog::tr("第 %1 段").arg(i + 1));
         pCell->setStyleSheet(GetFontStyleSheet(strStyle, QStringLiteral("QLineEdit"), Theme::c_nFontSize));
         // Tab passes the field as one control: only its first octet is a stop.
         pCell->setFocusPolicy(i == 0 ? Qt::StrongFocus : Qt::ClickFocus);

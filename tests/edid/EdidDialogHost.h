@@ -65,7 +65,7 @@ public:
     CCustomSpinBox& Height() const { return *m_dlg.m_pHeightSpinBox; }
     QCheckBox& ConnectPC() const { return *m_dlg.m_pConnectPCCheckBox; }
     CCustomLabel& Error() const { return *m_dlg.m_pErrorLabel; }
-    QPushButton& OK() const { return *m_dlg.m_pOKButton; }
+    QPushButton& OK() const { return *m_dlg.m_pOkButton; }
     QPushButton& Cancel() const { return *m_dlg.m_pCancelButton; }
     const QList<QAction*>& ResolutionActions() const { return m_dlg.m_listResolutionActions; }
 

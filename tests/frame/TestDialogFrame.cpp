@@ -9,10 +9,13 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDoubleSpinBox>
+#include <QHBoxLayout>
 #include <QMenu>
 #include <QPushButton>
 #include <QTimer>
 #include <QTranslator>
+
+#include <memory>
 
 /// What the settings dialogs share.
 class TestDialogFrame : public QObject
@@ -33,9 +36,10 @@ private Q_SLOTS:
     void CheckingAnEntryUnchecksTheOthers();
     void OnlyTheFirstOfTwoEqualEntriesIsChecked();
     void DataThatNoEntryHasChecksNone();
-    void AButtonIsTranslatedStyledAndConnected();
-    void AButtonWithoutAHandlerIsLeftAlone();
-    void AButtonWithoutASizeIsLeftToTheLayout();
+    void TheButtonsAreTranslatedStyledAndConnected();
+    void TheButtonsPassTheNumbersThatTheyAreGiven();
+    void FinishSendsACloseEventWithTheResult();
+    void ACaptionLeadsToItsControl();
     void ACaptionStandsToTheRight();
     void ACaptionCanBeCentred();
     void FixingASizeTwiceChangesNothing();
@@ -203,32 +207,78 @@ void TestDialogFrame::DataThatNoEntryHasChecksNone()
     QCOMPARE(Checked(listActions), QList<bool>({false, false}));
 }
 
-void TestDialogFrame::AButtonIsTranslatedStyledAndConnected()
+void TestDialogFrame::TheButtonsAreTranslatedStyledAndConnected()
 {
     QWidget parent;
-    int nClicks = 0;
-    QPushButton* pButton =
-        DialogFrame::CreateButton(&parent, {"确认", QSize(86, 26), [&nClicks] { ++nClicks; }});
-    QCOMPARE(pButton->text(), QStringLiteral("确认"));
-    QCOMPARE(pButton->minimumSize(), QSize(86, 26));
-    QCOMPARE(pButton->maximumSize(), QSize(86, 26));
-    QVERIFY(!pButton->styleSheet().isEmpty());
-    QTest::mouseClick(pButton, Qt::LeftButton);
-    QCOMPARE(nClicks, 1);
+    QList<int> listPressed;
+    const std::unique_ptr<QHBoxLayout> pRow(
+        DialogFrame::CreateOkCancelRow(&parent, [&](int nID) { listPressed.append(nID); }));
+    const QString strStyle = GetFontStyleSheet(g_pushButtonStyle, QStringLiteral("QPushButton"), 12);
+    QStringList listTexts;
+    for (int i = 0; i < pRow->count(); ++i) {
+        auto* pButton = qobject_cast<QPushButton*>(pRow->itemAt(i)->widget());
+        QVERIFY(pButton != nullptr);
+        QCOMPARE(pButton->minimumSize(), QSize(80, 24));
+        QCOMPARE(pButton->maximumSize(), QSize(80, 24));
+        QCOMPARE(pButton->styleSheet(), strStyle);
+        listTexts.append(pButton->text());
+        QTest::mouseClick(pButton, Qt::LeftButton);
+    }
+    QCOMPARE(listTexts, QStringList({QStringLiteral("确定"), QStringLiteral("取消")}));
+    QCOMPARE(listPressed, QList<int>({0, 1}));
 }
 
-void TestDialogFrame::AButtonWithoutAHandlerIsLeftAlone()
+void TestDialogFrame::TheButtonsPassTheNumbersThatTheyAreGiven()
 {
     QWidget parent;
-    QPushButton* pButton = DialogFrame::CreateButton(&parent, {"确认", QSize(80, 24), {}});
-    QTest::mouseClick(pButton, Qt::LeftButton);
+    QList<int> listPressed;
+    const DialogFrame::SOkCancel buttons = DialogFrame::SOkCancel::Create(&parent, "确认");
+    QCOMPARE(buttons.pOk->text(), QStringLiteral("确认"));
+    QVERIFY(buttons.pOk->maximumWidth() > 1000); // left to the layout
+    buttons.Connect([&](int nID) { listPressed.append(nID); }, 3, 4);
+    QTest::mouseClick(buttons.pCancel, Qt::LeftButton);
+    QTest::mouseClick(buttons.pOk, Qt::LeftButton);
+    QCOMPARE(listPressed, QList<int>({4, 3}));
 }
 
-void TestDialogFrame::AButtonWithoutASizeIsLeftToTheLayout()
+namespace {
+
+/// Counts the close events of a widget.
+class CCloseEvents : public QObject
+{
+public:
+    explicit CCloseEvents(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        nCount += pEvent->type() == QEvent::Close ? 1 : 0;
+        return QObject::eventFilter(pWatched, pEvent);
+    }
+
+    int nCount = 0;
+};
+
+} // namespace
+
+void TestDialogFrame::FinishSendsACloseEventWithTheResult()
+{
+    QDialog dialog;
+    const CCloseEvents events(dialog);
+    dialog.show();
+    DialogFrame::Finish(&dialog, DialogFrame::enAccepted);
+    QCOMPARE(dialog.result(), 1);
+    QVERIFY(dialog.isHidden());
+    QCOMPARE(events.nCount, 1);
+}
+
+void TestDialogFrame::ACaptionLeadsToItsControl()
 {
     QWidget parent;
-    const QPushButton* pButton = DialogFrame::CreateButton(&parent, {"确认", QSize(), {}});
-    QVERIFY(pButton->maximumWidth() > 1000);
+    CCustomLabel* pCaption = DialogFrame::CreateCaption(&parent, QStringLiteral("caption"));
+    auto* pSpinBox = new QDoubleSpinBox(&parent);
+    DialogFrame::NameControl(pSpinBox, "value", pCaption);
+    QCOMPARE(pSpinBox->objectName(), QStringLiteral("value"));
+    QCOMPARE(pSpinBox->accessibleName(), QStringLiteral("caption"));
+    QCOMPARE(pCaption->buddy(), pSpinBox);
 }
 
 void TestDialogFrame::ACaptionStandsToTheRight()
@@ -281,8 +331,9 @@ void TestDialogFrame::TextsAreLookedUpInTheCommonContext()
     CBrackets translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
     QWidget parent;
-    const QPushButton* pButton = DialogFrame::CreateButton(&parent, {"取消", QSize(80, 24), {}});
-    QCOMPARE(pButton->text(), QStringLiteral("[取消]"));
+    const DialogFrame::SOkCancel buttons = DialogFrame::SOkCancel::Create(&parent, "确认");
+    QCOMPARE(buttons.pOk->text(), QStringLiteral("[确认]"));
+    QCOMPARE(buttons.pCancel->text(), QStringLiteral("[取消]"));
     QCoreApplication::removeTranslator(&translator);
 }
 

@@ -10,6 +10,7 @@ class TestBackgroundImageDlg : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void EnterInTheTransparencyFieldOpensNothing();
     void TheMetaObjectHasTheSlot();
     void TheWindowAndItsControls();
     void TheControlsLieInTheWindow();
@@ -244,6 +245,23 @@ void TestBackgroundImageDlg::TheSwitchIsOperatedByTheMouseAndByKeys()
     QCOMPARE(host.Record().at(1), 0);
     QTest::keyClick(&probe.Switch(), Qt::Key_Space);
     QCOMPARE(host.Record().at(1), 1);
+}
+
+void TestBackgroundImageDlg::EnterInTheTransparencyFieldOpensNothing()
+{
+    CFolderHost folders;
+    folders.Store("picture");
+    CProbe probe;
+    probe.dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&probe.dialog));
+    probe.Spin().setFocus();
+    probe.Spin().selectAll();
+    const CFileAnswers answers;
+    QTest::keyClicks(&probe.Spin(), QStringLiteral("30"));
+    QTest::keyClick(&probe.Spin(), Qt::Key_Return);
+    QVERIFY(answers.Shown().isEmpty());
+    QCOMPARE(probe.Spin().value(), 30.0);
+    QVERIFY(probe.dialog.isVisible());
 }
 
 QTEST_MAIN(TestBackgroundImageDlg)

@@ -1,6 +1,7 @@
 #include "host/OrviControl/CustomComboBox.h"
 #include "tests/simulator/kit/Keyboard.h"
 
+#include <QAccessible>
 #include <QMenu>
 #include <QTimer>
 
@@ -9,6 +10,8 @@ class TestCustomComboBox : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void AssistiveToolsAreToldNameAndValue();
+    void AssistiveToolsCanOpenIt();
     void init();
     void cleanup();
 
@@ -240,6 +243,34 @@ void TestCustomComboBox::ADisabledBoxOpensNothing()
     QTest::mouseClick(m_pBox, Qt::LeftButton);
     QTest::keyClick(m_pBox, Qt::Key_Down);
     QVERIFY(!m_bOpened);
+}
+
+void TestCustomComboBox::AssistiveToolsAreToldNameAndValue()
+{
+    CCustomComboBox box;
+    box.setAccessibleName(QStringLiteral("frame rate"));
+    box.setText(QStringLiteral("60"));
+    const QAccessibleInterface* pInterface = QAccessible::queryAccessibleInterface(&box);
+    QCOMPARE(pInterface->role(), QAccessible::ComboBox);
+    QCOMPARE(pInterface->text(QAccessible::Name), QStringLiteral("frame rate"));
+    QCOMPARE(pInterface->text(QAccessible::Value), QStringLiteral("60"));
+}
+
+void TestCustomComboBox::AssistiveToolsCanOpenIt()
+{
+    CCustomComboBox box;
+    QMenu menu;
+    menu.addAction(QStringLiteral("60"));
+    box.SetMenu(&menu, true, true, true);
+    box.show();
+    bool bOpened = false;
+    connect(&menu, &QMenu::aboutToShow, &box, [&] {
+        bOpened = true;
+        QMetaObject::invokeMethod(&menu, "close", Qt::QueuedConnection);
+    });
+    QAccessible::queryAccessibleInterface(&box)->actionInterface()->doAction(
+        QAccessibleActionInterface::showMenuAction());
+    QVERIFY(bOpened);
 }
 
 QTEST_MAIN(TestCustomComboBox)
