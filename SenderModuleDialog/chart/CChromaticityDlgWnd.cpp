@@ -2,7 +2,6 @@
 
 #include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/chart/CctCurve.h"
-#include "SenderModuleDialog/chart/ChartKeptDrawings.h"
 #include "SenderModuleDialog/chart/ChartSharpBitmap.h"
 #include "SenderModuleDialog/chart/ChartSolver.h"
 #include "SenderModuleDialog/chart/ChartStaticLayer.h"
@@ -61,7 +60,6 @@ CChromaticityDlgWnd::CChromaticityDlgWnd(QWidget* parent)
     , m_pStore(MakeStore())
     , m_pSharp(std::make_unique<SChartSharpBitmap>())
     , m_pStaticLayer(std::make_unique<CChartStaticLayer>())
-    , m_pKept(std::make_unique<CChartKeptDrawings>())
 {
     m_pCct = new CCCT2ColorCoord;
     m_pGamut = new CChromaGamutInterpolation;

@@ -20,7 +20,6 @@
 
 class CCCT2ColorCoord;
 class CCctCurve;
-class CChartKeptDrawings;
 class CChartSolver;
 class CChartStaticLayer;
 class CChromaBitmapStore;
@@ -332,7 +331,6 @@ private:
     std::shared_ptr<CChromaBitmapStore> m_pStore;      ///< paints the bitmaps; workers share it
     std::unique_ptr<SChartSharpBitmap> m_pSharp;       ///< for screens with more device pixels than pixels
     std::unique_ptr<CChartStaticLayer> m_pStaticLayer; ///< the layers that stay the same from paint to paint
-    std::unique_ptr<CChartKeptDrawings> m_pKept;       ///< small drawings that stay the same, on top of them
 };
 
 #endif // SENDERMODULEDIALOG_CHART_CCHROMATICITYDLGWND_H

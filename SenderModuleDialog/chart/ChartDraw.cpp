@@ -1,6 +1,5 @@
 #include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
-#include "SenderModuleDialog/chart/ChartKeptDrawings.h"
 #include "SenderModuleDialog/chart/ChartStaticLayer.h"
 #include "SenderModuleDialog/chart/ChartSurface.h"
 #include "host/OrviControl/Style.h"
@@ -34,17 +33,13 @@ void CChromaticityDlgWnd::Draw(QPainter& painter)
                                                  m_nGridAlpha, m_fMarginX,      m_fMarginY,
                                                  m_fScale,     GetFontFamily(), boundary};
     const auto funcPaint = [this, &imgBitmap](QPainter& target) { DrawStaticLayers(target, imgBitmap); };
-    const CChartSurface surface(painter);
-    if (m_pStaticLayer->Show(painter, surface, content, funcPaint))
-        m_pKept->Begin(surface, m_rcChart, m_pStaticLayer->Key());
-    else
+    if (!m_pStaticLayer->Show(painter, content, funcPaint))
         funcPaint(painter);
     DrawTipsString(painter);
     DrawCrossLine(painter);
     DrawCCTLine(painter);
     DrawChromTriangle(painter);
     DrawChromNote(painter);
-    m_pKept->End();
     DrawFrame(painter);
 }
 

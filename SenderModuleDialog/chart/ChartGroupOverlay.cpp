@@ -2,13 +2,13 @@
 
 #include "SenderModuleDialog/Saturate.h"
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
-#include "SenderModuleDialog/chart/ChartKeptDrawings.h"
 #include "SenderModuleDialog/chart/ChromaPalette.h"
 #include "SenderModuleDialog/geometry/CalcChromaRatio.h"
 #include "host/OrviControl/CustomDialog.h"
 
 #include <QColor>
 #include <QFont>
+#include <QFontMetrics>
 #include <QPainter>
 #include <QPen>
 
@@ -48,10 +48,6 @@ constexpr double c_dLegendRowGap = 10.0;
 constexpr qreal c_dLegendLineWidth = 2.0;
 constexpr qreal c_dLegendDash = 2.0;
 constexpr int c_nRedByteMax = 255;
-
-/// How far beyond their places drawings touch pixels: at least half a pen's width, and a pixel.
-constexpr double c_dDiscReach = 3.0;
-constexpr double c_dLegendSampleReach = 3.0;
 
 /// The legend's two walks: one measures, one draws. They call the output colour space by two names of the
 /// same length, and that is meant.
@@ -133,16 +129,15 @@ int DiscStart(double dStart, int nSize)
     return std::clamp(SaturateTo<int>(dStart), nFirst, nLast);
 }
 
-void DrawDisc(QPainter& painter, CChartKeptDrawings& kept, QPointF ptCorner, int nSize)
+void DrawDisc(QPainter& painter, QPointF ptCorner, int nSize)
 {
-    const QRect rcDisc(DiscStart(ptCorner.x(), nSize), DiscStart(ptCorner.y(), nSize), nSize, nSize);
-    kept.Draw(painter, {rcDisc, c_dDiscReach, QString()}, [&] { painter.drawEllipse(rcDisc); });
+    painter.drawEllipse(QRect(DiscStart(ptCorner.x(), nSize), DiscStart(ptCorner.y(), nSize), nSize, nSize));
 }
 
-void DrawColourDot(QPainter& painter, CChartKeptDrawings& kept, QPointF pt, float fRadius)
+void DrawColourDot(QPainter& painter, QPointF pt, float fRadius)
 {
     const double dRadius = double(fRadius);
-    DrawDisc(painter, kept, pt - QPointF(dRadius, dRadius), SaturateTo<int>(2.0F * fRadius));
+    DrawDisc(painter, pt - QPointF(dRadius, dRadius), SaturateTo<int>(2.0F * fRadius));
 }
 
 void DrawColourDots(QPainter& painter, const SChartFrame& frame, const SChromaGroupInfo& group,
@@ -157,16 +152,14 @@ void DrawColourDots(QPainter& painter, const SChartFrame& frame, const SChromaGr
             continue;
         painter.setPen(group.*fields.pMove ? penMovable : penFixed);
         painter.setBrush(QBrush(pColors[i]));
-        DrawColourDot(painter, frame.kept, frame.mapping.ToPixel(group.*fields.pPoint),
-                      radii[std::size_t(i)]);
+        DrawColourDot(painter, frame.mapping.ToPixel(group.*fields.pPoint), radii[std::size_t(i)]);
     }
 }
 
 // A disc in single precision, by its corner's offset and its size.
-void DrawWhiteDisc(QPainter& painter, CChartKeptDrawings& kept, CPointEx<float> pt, float fOffset,
-                   float fSize)
+void DrawWhiteDisc(QPainter& painter, CPointEx<float> pt, float fOffset, float fSize)
 {
-    DrawDisc(painter, kept, QPointF(double(pt.x - fOffset), double(pt.y - fOffset)), SaturateTo<int>(fSize));
+    DrawDisc(painter, QPointF(double(pt.x - fOffset), double(pt.y - fOffset)), SaturateTo<int>(fSize));
 }
 
 // A disc in the group's colour with a white one in it. Its rim is white whether or not the point may be
@@ -177,10 +170,10 @@ void DrawWhiteDot(QPainter& painter, const SChartFrame& frame, const SChromaGrou
     const CPointEx<float> pt(float(ptPixel.x()), float(ptPixel.y()));
     painter.setPen(QPen(Qt::white, c_dWhiteDotRim));
     painter.setBrush(ColorOf(group));
-    DrawWhiteDisc(painter, frame.kept, pt, fRadius + 1.0F, 2.0F * (fRadius + 1.0F));
+    DrawWhiteDisc(painter, pt, fRadius + 1.0F, 2.0F * (fRadius + 1.0F));
     painter.setPen(Qt::white);
     painter.setBrush(Qt::white);
-    DrawWhiteDisc(painter, frame.kept, pt, (fRadius - 1.0F) / 2.0F, fRadius - 1.0F);
+    DrawWhiteDisc(painter, pt, (fRadius - 1.0F) / 2.0F, fRadius - 1.0F);
 }
 
 std::vector<CPointEx<float>> StoredTriangle(const SChromaGroupInfo& group)
@@ -216,11 +209,12 @@ void ForEachNote(CGroupMap& mapGroups, enLegendWalk walk, SSourcePlace place, TA
     }
 }
 
-int WidestNote(CGroupMap& mapGroups, const QFont& font, CChartKeptDrawings& kept, SSourcePlace place)
+int WidestNote(CGroupMap& mapGroups, const QFont& font, SSourcePlace place)
 {
+    const QFontMetrics metrics(font);
     int nWidest = 0;
     ForEachNote(mapGroups, enMeasureWalk, place, [&](const SChromaGroupInfo&, const QString& strText) {
-        nWidest = std::max(nWidest, kept.TextWidth(font, strText));
+        nWidest = std::max(nWidest, metrics.boundingRect(strText).width());
     });
     return nWidest;
 }
@@ -288,7 +282,7 @@ void DrawLegend(QPainter& painter, const SChartFrame& frame, CGroupMap& mapGroup
     painter.setFont(font);
 
     const double dRatio = double(fTextRatio);
-    const int nWidest = WidestNote(mapGroups, font, frame.kept, place);
+    const int nWidest = WidestNote(mapGroups, font, place);
     const double dX = c_dLegendAxisSpan * double(frame.mapping.Scale()) + double(frame.mapping.MarginX()) -
                       nWidest - c_dLegendIndent * dRatio;
     const int nFirstRow = (nWidgetHeight - 1) / c_nLegendHeightDivisor;
@@ -298,14 +292,11 @@ void DrawLegend(QPainter& painter, const SChartFrame& frame, CGroupMap& mapGroup
             return;
         painter.setPen(Qt::white);
         const QPointF ptText(dX + c_dLegendTextX * dRatio, dY + c_dLegendTextY * dRatio);
-        frame.kept.Draw(painter, CChartKeptDrawings::SDrawing::FreeText(ptText, strText),
-                        [&] { painter.drawText(ptText, strText); });
+        painter.drawText(ptText, strText);
         painter.setPen(SamplePen(group));
         const int nY = SaturateTo<int>(dY);
-        const QLine sample(SaturateTo<int>(dX - c_dLegendSample * dRatio), nY,
-                           SaturateTo<int>(dX + c_dLegendSample * dRatio), nY);
-        frame.kept.Draw(painter, {QRectF(sample.p1(), sample.p2()), c_dLegendSampleReach, QString()},
-                        [&] { painter.drawLine(sample); });
+        painter.drawLine(SaturateTo<int>(dX - c_dLegendSample * dRatio), nY,
+                         SaturateTo<int>(dX + c_dLegendSample * dRatio), nY);
         dY += nFontSize + c_dLegendRowGap * dRatio;
     });
 }

@@ -2,7 +2,6 @@
 
 #include "SenderModuleDialog/Saturate.h"
 #include "SenderModuleDialog/chart/CctCurve.h"
-#include "SenderModuleDialog/chart/ChartKeptDrawings.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
 
 #include <QColor>
@@ -62,12 +61,6 @@ constexpr QChar c_charTemperatureFill(0x02);
 
 /// Cross hair.
 constexpr QColor c_colorCross(255, 240, 240, 240);
-
-/// How far the curve's line touches pixels beyond its points.
-constexpr double c_dCurveReach = 3.0;
-
-/// Texts are cut at their boxes, but for a pixel that the box has a part of.
-constexpr double c_dTextReach = 1.0;
 
 /// Box of a tick's label, in font sizes.
 constexpr double c_dCctLabelWidth = 4.0;
@@ -186,8 +179,8 @@ QString TemperatureText(QPointF ptChromaticity, QPointF ptD65, const CCCT2ColorC
 void DrawCross(QPainter& painter, const SChartFrame& frame, QPoint pt)
 {
     painter.setPen(QPen(c_colorCross, 1.0));
-    frame.kept.DrawLineAcross(painter, QLine(0, pt.y(), frame.rcChart.width(), pt.y()));
-    frame.kept.DrawLineAcross(painter, QLine(pt.x(), 0, pt.x(), frame.rcChart.height()));
+    painter.drawLine(QLine(0, pt.y(), frame.rcChart.width(), pt.y()));
+    painter.drawLine(QLine(pt.x(), 0, pt.x(), frame.rcChart.height()));
 }
 
 void DrawCctCurve(QPainter& painter, const SChartFrame& frame, CCctCurve& curve)
@@ -195,8 +188,7 @@ void DrawCctCurve(QPainter& painter, const SChartFrame& frame, CCctCurve& curve)
     curve.SetMapping(frame.mapping);
     const QPen penCurve(Qt::black, 1.0);
     painter.setPen(penCurve);
-    frame.kept.Draw(painter, {curve.Path().controlPointRect(), c_dCurveReach, QString()},
-                    [&] { painter.drawPath(curve.Path()); });
+    painter.drawPath(curve.Path());
     for (const CCctCurve::STick& tick : curve.Ticks()) {
         painter.setPen(penCurve);
         painter.drawLine(QLineF(tick.ptFoot, tick.ptEnd));
@@ -212,9 +204,7 @@ void DrawCctLabel(QPainter& painter, const SChartFrame& frame, QPointF pt, int n
     const int nIndent = nFontSize / 2;
     const QRectF rcLabel(pt.x() + nIndent, pt.y(), c_dCctLabelWidth * nFontSize,
                          c_dCctLabelHeight * nFontSize);
-    const QString strText = QString::number(nTemperature);
-    frame.kept.Draw(painter, {rcLabel, c_dTextReach, strText},
-                    [&] { painter.drawText(rcLabel, strText, QTextOption()); });
+    painter.drawText(rcLabel, QString::number(nTemperature), QTextOption());
 }
 
 QRectF StandardBox(const CChartMapping& mapping, QSize sizeWidget)

@@ -12,7 +12,6 @@
 
 class CCCT2ColorCoord;
 class CCctCurve;
-class CChartKeptDrawings;
 class QPainter;
 
 /// The layers that are painted over the chart's bitmap, one function each, from plain values. What a layer
@@ -24,9 +23,8 @@ namespace ChartOverlay {
 struct SChartFrame
 {
     CChartMapping mapping;
-    QRect rcChart;            ///< (0, 0) to (width - 1, height - 1)
-    QString strFontFamily;    ///< the host's font
-    CChartKeptDrawings& kept; ///< does what a layer draws, or copies it
+    QRect rcChart;         ///< (0, 0) to (width - 1, height - 1)
+    QString strFontFamily; ///< the host's font
 };
 
 /// The point that the tips and the cross show.

@@ -34,7 +34,7 @@ QPoint Truncated(QPointF pt)
 
 ChartOverlay::SChartFrame CChromaticityDlgWnd::Frame() const
 {
-    return {Mapping(), m_rcChart, GetFontFamily(), *m_pKept};
+    return {Mapping(), m_rcChart, GetFontFamily()};
 }
 
 void CChromaticityDlgWnd::DrawBorder(QPainter& painter)

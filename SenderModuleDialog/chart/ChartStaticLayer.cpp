@@ -20,9 +20,9 @@ bool CChartStaticLayer::SContent::operator==(const SContent& other) const
     return Fields(*this) == Fields(other);
 }
 
-bool CChartStaticLayer::Show(QPainter& painter, const CChartSurface& surface, const SContent& content,
-                             const FuncPaint& funcPaint)
+bool CChartStaticLayer::Show(QPainter& painter, const SContent& content, const FuncPaint& funcPaint)
 {
+    const CChartSurface surface(painter);
     if (content.rcChart.isEmpty() || content.clrBackground.alpha() != c_nOpaque || !surface.CanCopy())
         return false;
     if (m_image.isNull() || !(content == m_content) || !(surface.State() == m_state))

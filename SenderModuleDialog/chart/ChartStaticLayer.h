@@ -44,11 +44,7 @@ public:
     /// Shows the layers on the painter's surface and leaves the painter as `funcPaint` would have.
     /// @return false, with nothing done, where a copy is not sure to give the same pixels: on a surface that
     ///         takes no copies, and over a background that lets something through
-    bool Show(QPainter& painter, const CChartSurface& surface, const SContent& content,
-              const FuncPaint& funcPaint);
-
-    /// Tells the kept picture from every other one.
-    qint64 Key() const { return m_image.cacheKey(); }
+    bool Show(QPainter& painter, const SContent& content, const FuncPaint& funcPaint);
 
 private:
     void Repaint(const SContent& content, const CChartSurface::SState& state, const FuncPaint& funcPaint);

@@ -1,7 +1,6 @@
 #include "SenderModuleDialog/chart/ChartSurface.h"
 
 #include <QPaintEngine>
-#include <QRegion>
 #include <QTransform>
 
 #include <cmath>
@@ -51,15 +50,6 @@ bool CanCopyTo(const QPainter& painter, const QImage* pImage)
            painter.compositionMode() == QPainter::CompositionMode_SourceOver;
 }
 
-/// A widget's painter is let into the part of the image that is to be updated.
-QRect PaintableRect(const QPainter& painter, const QImage& image)
-{
-    const QRegion regionSystem = painter.paintEngine()->systemClip();
-    if (regionSystem.isEmpty())
-        return image.rect();
-    return regionSystem.rectCount() == 1 ? regionSystem.boundingRect() & image.rect() : QRect();
-}
-
 } // namespace
 
 bool CChartSurface::SState::operator==(const SState& other) const
@@ -79,10 +69,7 @@ CChartSurface::CChartSurface(const QPainter& painter)
     const QImage* pImage = TargetImage(painter);
     if (!CanCopyTo(painter, pImage))
         return;
-    m_pImage = pImage;
+    m_bCanCopy = true;
     m_state = {pImage->format(), pImage->devicePixelRatioF(), painter.renderHints(), painter.font(),
                painter.layoutDirection()};
-    const QTransform& transform = painter.deviceTransform();
-    m_ptOrigin = QPoint(qRound(transform.dx()), qRound(transform.dy()));
-    m_rcPaintable = PaintableRect(painter, *pImage);
 }

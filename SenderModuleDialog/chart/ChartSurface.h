@@ -4,8 +4,6 @@
 #include <QFont>
 #include <QImage>
 #include <QPainter>
-#include <QPoint>
-#include <QRect>
 
 /// The raster image that a painter paints into, whatever device it was opened on, where pixels that were
 /// painted before can be copied instead of being painted anew.
@@ -32,21 +30,15 @@ public:
 
     /// Whether copies are sure to give the pixels that painting gives. They are not on devices that are no
     /// 32-bit raster images, nor under a clip, an opacity, a composition mode or a transformation other than
-    /// whole pixels. What is said below holds where they are.
-    bool CanCopy() const { return m_pImage != nullptr; }
+    /// whole pixels.
+    bool CanCopy() const { return m_bCanCopy; }
 
+    /// Only where `CanCopy()` is true.
     const SState& State() const { return m_state; }
-    const QImage& Image() const { return *m_pImage; }
-    /// The painter's (0, 0) in the image's pixels.
-    QPoint Origin() const { return m_ptOrigin; }
-    /// The pixels of the image that the painter's device lets it paint; none if they are no rectangle.
-    QRect Paintable() const { return m_rcPaintable; }
 
 private:
-    const QImage* m_pImage = nullptr;
+    bool m_bCanCopy = false;
     SState m_state;
-    QPoint m_ptOrigin;
-    QRect m_rcPaintable;
 };
 
 #endif // SENDERMODULEDIALOG_CHART_CHARTSURFACE_H
