@@ -183,10 +183,6 @@
         <translation>Export SVG...</translation>
     </message>
     <message>
-        <source>拖动白边的点；灰边的点不能移动。</source>
-        <translation>Drag the dots with a white rim; those with a grey rim stay where they are.</translation>
-    </message>
-    <message>
         <source>图片已复制到剪贴板。</source>
         <translation>The picture has been copied to the clipboard.</translation>
     </message>
@@ -221,6 +217,10 @@
     <message>
         <source>读数</source>
         <translation>Readings</translation>
+    </message>
+    <message>
+        <source>拖动白边的点，或用 Tab 键选点、方向键移动；灰边的点不能移动。</source>
+        <translation>Drag a point with a white rim, or choose one by Tab and move it by the arrows; grey rims are fixed.</translation>
     </message>
 </context>
 <context>

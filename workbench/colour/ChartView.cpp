@@ -3,6 +3,7 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 #include "SenderModuleDialog/chart/ChromaGamutThread.h"
+#include "workbench/colour/PointKeys.h"
 #include "workbench/colour/RegionOverlay.h"
 
 #include <QMouseEvent>
@@ -25,9 +26,12 @@ CChartView::CChartView(QWidget* pParent)
     , m_pChart(new CChromaticityDlgWnd(this))
     , m_pEditor(new CChartEditor(*m_pChart, this))
     , m_pOverlay(new CRegionOverlay(*m_pChart, m_region, this))
+    , m_pKeys(new CPointKeys(*this, this))
 {
     m_pChart->SetWndType(c_nWorkerType);
     m_pChart->installEventFilter(this);
+    // After a click the arrows fine-tune what was dragged.
+    m_pChart->setFocusProxy(m_pKeys);
     // The answer is read right after the emission.
     connect(m_pChart, &CChromaticityDlgWnd::OnPositionChangeSignal, this, &CChartView::Answer,
             Qt::DirectConnection);
@@ -56,6 +60,7 @@ void CChartView::LayOut()
     const QSize sizeChart = size().expandedTo(c_sizeSmallest);
     m_pChart->setGeometry(QRect(QPoint(0, 0), sizeChart));
     m_pOverlay->setGeometry(m_pChart->geometry());
+    m_pKeys->setGeometry(m_pChart->geometry());
     m_pChart->SetSize(sizeChart.width(), sizeChart.height());
     m_pChart->StoreWndData(c_nWorkerType, sizeChart.width(), sizeChart.height());
     m_pChart->StartWndBitmapThread();
@@ -84,8 +89,10 @@ bool CChartView::eventFilter(QObject* pWatched, QEvent* pEvent)
         m_pEditor->BeginDrag();
     else if (pEvent->type() == QEvent::MouseMove)
         RememberPlace();
-    else if (pEvent->type() == QEvent::MouseButtonRelease && IsLeft())
+    else if (pEvent->type() == QEvent::MouseButtonRelease && IsLeft()) {
         EndDrag();
+        SelectDragged();
+    }
     return QWidget::eventFilter(pWatched, pEvent);
 }
 
@@ -105,6 +112,32 @@ void CChartView::Answer(int nGroup, int nPoint, bool& bSuccessed)
         m_pChart->ReCalCMY(pGroup);
     // The point has its final place only after the answer was read.
     QMetaObject::invokeMethod(m_pEditor, &CChartEditor::Changed, Qt::QueuedConnection);
+}
+
+void CChartView::SelectDragged()
+{
+    const SGroupPoint point = {m_pChart->m_nHoverGroup, m_pChart->m_nHoverPoint};
+    if (m_pKeys->Points().contains(point))
+        m_pKeys->Select(point);
+}
+
+void CChartView::MovePoint(int nGroup, int nPoint, QPointF offset)
+{
+    SChromaGroupInfo* const pGroup = m_pChart->GetChromaGroupByIndex(nGroup);
+    if (pGroup == nullptr || !IsChromaPoint(nPoint))
+        return;
+    m_ptBefore = GroupPoint(*pGroup, nPoint);
+    const QPointF ptTarget = QPointF(double(m_ptBefore.x), double(m_ptBefore.y)) + offset;
+    // The chart moves the point that it knows to be under the mouse.
+    const int nHoverPoint = m_pChart->m_nHoverPoint;
+    m_pChart->m_nHoverPoint = nPoint;
+    m_pChart->CalcCurrentPoint(m_pChart->Mapping().ToPixel(ptTarget), pGroup);
+    m_pChart->m_nHoverPoint = nHoverPoint;
+    bool bSuccessed = false;
+    Answer(nGroup, nPoint, bSuccessed);
+    if (!bSuccessed && IsColourPoint(nPoint))
+        GroupPoint(*pGroup, nPoint) = m_pChart->QPointFToCPointF(m_pChart->m_ptNearest);
+    m_pChart->update();
 }
 
 void CChartView::EndDrag()

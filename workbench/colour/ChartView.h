@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+class CPointKeys;
 class CRegionOverlay;
 
 /// The chart at the size of this widget, with what the workbench shows over it. It answers the chart's
@@ -25,6 +26,13 @@ public:
     CChartEditor& Editor() { return *m_pEditor; }
     CFeasibleRegion& Region() { return m_region; }
     CRegionOverlay& Overlay() { return *m_pOverlay; }
+    CPointKeys& Keys() { return *m_pKeys; }
+
+    /// Moves a point by an offset as a step of a drag does: it stays a real colour, in the feasible region
+    /// while that is on, and the group stays legal. The drag is begun by the editor and ended by `EndDrag`.
+    void MovePoint(int nGroup, int nPoint, QPointF offset);
+    /// Ends a drag: it is one step that can be undone.
+    void EndDrag();
 
     /// Names the standard of the first group, or no longer. A drag does not end it.
     void SetStandardShown(bool bShown);
@@ -53,13 +61,14 @@ private:
     void LayOut();
     void Answer(int nGroup, int nPoint, bool& bSuccessed);
     void RememberPlace();
-    void EndDrag();
+    void SelectDragged();
     void AskForStandard();
 
     CChromaticityDlgWnd* m_pChart = nullptr;
     CChartEditor* m_pEditor = nullptr;
     CFeasibleRegion m_region;
     CRegionOverlay* m_pOverlay = nullptr;
+    CPointKeys* m_pKeys = nullptr;
     CPointEx<float> m_ptBefore; ///< where the dragged point was before the present move
     enColorStandard m_standard = enStandardSRGB;
     bool m_bStandardShown = false;

@@ -5,6 +5,7 @@
 #include "workbench/colour/ChartExport.h"
 #include "workbench/colour/ChartView.h"
 #include "workbench/colour/GroupPanel.h"
+#include "workbench/colour/PointKeys.h"
 #include "workbench/colour/PointReadout.h"
 #include "workbench/colour/ReadingsPanel.h"
 
@@ -41,6 +42,7 @@ CColourPage::CColourPage(QWidget* pParent)
     connect(m_pGroups, &CGroupPanel::StandardChosen, m_pView, &CChartView::PreferStandard);
     connect(m_pControls, &CChartControls::Reported, this, &CColourPage::Reported);
     connect(m_pView, &CChartView::MouseMoved, this, &CColourPage::ShowReadout);
+    connect(&m_pView->Keys(), &CPointKeys::Told, m_pReadout, &QLabel::setText);
     StartAnew();
     Retranslate();
 }
@@ -132,7 +134,9 @@ void CColourPage::Retranslate()
 void CColourPage::ShowReadout()
 {
     const QString strReadout = PointReadout::Of(m_pView->Chart());
-    m_pReadout->setText(strReadout.isEmpty() ? tr("拖动白边的点；灰边的点不能移动。") : strReadout);
+    m_pReadout->setText(strReadout.isEmpty()
+                            ? tr("拖动白边的点，或用 Tab 键选点、方向键移动；灰边的点不能移动。")
+                            : strReadout);
 }
 
 void CColourPage::CopyPicture()

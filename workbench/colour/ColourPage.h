@@ -59,6 +59,7 @@ private:
     void TourOfLook(CTour& tour);
     void TourOfRegion(CTour& tour);
     void TourOfDrag(CTour& tour);
+    void TourOfKeys(CTour& tour);
     void TourOfReadings(CTour& tour);
     void TourOfFiles(CTour& tour);
 

@@ -7,11 +7,13 @@
 #include "workbench/colour/ColourPage.h"
 #include "workbench/colour/GroupModel.h"
 #include "workbench/colour/GroupPanel.h"
+#include "workbench/colour/PointKeys.h"
 #include "workbench/colour/RegionOverlay.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 namespace {
@@ -159,6 +161,25 @@ void CColourPage::TourOfDrag(CTour& tour)
                QStringLiteral("undo did not take the drag back in one step"));
 }
 
+void CColourPage::TourOfKeys(CTour& tour)
+{
+    CPointKeys& keys = m_pView->Keys();
+    const SChromaGroupInfo* pGroup = m_pView->Chart().GetChromaGroupByIndex(enScreenColorSpace);
+    const CPointEx<float> ptBefore = pGroup->ptGreen;
+    // The ring is there while the keys go to the chart.
+    QApplication::setActiveWindow(window());
+    keys.setFocus(Qt::OtherFocusReason);
+    keys.Select({enScreenColorSpace, enGreenPoint});
+    for (int i = 0; i < 2; ++i) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier);
+        QCoreApplication::sendEvent(&keys, &press);
+    }
+    tour.Picture(this, QStringLiteral("chart-keys"));
+    tour.Check(pGroup->ptGreen.x > ptBefore.x, QStringLiteral("an arrow did not move the focused point"));
+    keys.Select({enScreenColorSpace, enGreenPoint});
+    m_pView->Editor().Undo();
+}
+
 void CColourPage::TourOfReadings(CTour& tour)
 {
     ShowTab(enReadingsTab);
@@ -185,6 +206,7 @@ void CColourPage::Tour(CTour& tour, QWidget* pWorkbench)
     TourOfLook(tour);
     TourOfRegion(tour);
     TourOfDrag(tour);
+    TourOfKeys(tour);
     TourOfReadings(tour);
     TourOfFiles(tour);
 }

@@ -35,7 +35,7 @@ QString PlaceText(QPointF pt)
     return QStringLiteral("x, y = %1").arg(ColourGroups::PointText({float(pt.x()), float(pt.y())}));
 }
 
-QString OfPoint(const CChromaticityDlgWnd& chart, const SChromaGroupInfo& group, int nPoint)
+QString Describe(const CChromaticityDlgWnd& chart, const SChromaGroupInfo& group, int nPoint)
 {
     const CPointEx<float> point = GroupPointOrOrigin(group, nPoint);
     const QPointF pt(double(point.x), double(point.y));
@@ -50,11 +50,17 @@ QString OfPoint(const CChromaticityDlgWnd& chart, const SChromaGroupInfo& group,
 
 } // namespace
 
+QString PointReadout::OfPoint(const CChromaticityDlgWnd& chart, int nGroup, int nPoint)
+{
+    const SChromaGroupInfo* pGroup = chart.m_mapGroups.value(nGroup, nullptr);
+    return pGroup != nullptr && IsChromaPoint(nPoint) ? Describe(chart, *pGroup, nPoint) : QString();
+}
+
 QString PointReadout::Of(const CChromaticityDlgWnd& chart)
 {
     const SChromaGroupInfo* pGroup = chart.m_mapGroups.value(chart.m_nHoverGroup, nullptr);
     if (pGroup != nullptr && IsChromaPoint(chart.m_nHoverPoint))
-        return OfPoint(chart, *pGroup, chart.m_nHoverPoint);
+        return Describe(chart, *pGroup, chart.m_nHoverPoint);
     const QPointF pt = chart.Mapping().ToChromaticity(chart.m_ptMouse);
     return chart.m_pGamut->IsPointInCIEPolygon(pt) ? PlaceText(pt) : QString();
 }

@@ -12,6 +12,9 @@ namespace PointReadout {
 /// too; else the chromaticity under the mouse, empty outside the locus.
 QString Of(const CChromaticityDlgWnd& chart);
 
+/// The same of one point; empty for a group or a point that is not there.
+QString OfPoint(const CChromaticityDlgWnd& chart, int nGroup, int nPoint);
+
 } // namespace PointReadout
 
 #endif // WORKBENCH_COLOUR_POINTREADOUT_H
