@@ -227,6 +227,28 @@ std::vector<SExample> Examples()
     return vecExamples;
 }
 
+/// The lines of a source without indentation and without the empty ones.
+QStringList TrimmedLines(const QString& strText)
+{
+    QStringList listLines;
+    for (const QString& strLine : strText.split(QLatin1Char('\n'))) {
+        if (!strLine.trimmed().isEmpty())
+            listLines.append(strLine.simplified());
+    }
+    return listLines;
+}
+
+/// Whether all lines occur in the same order, with others between them perhaps.
+bool ContainsInOrder(const QStringList& listAll, const QStringList& listSome)
+{
+    auto itNext = listSome.cbegin();
+    for (const QString& strLine : listAll) {
+        if (itNext != listSome.cend() && strLine == *itNext)
+            ++itNext;
+    }
+    return itNext == listSome.cend();
+}
+
 /// What commands print in a folder, with the built tool in the path.
 QString RunIn(const QString& strFolder, const QString& strCommands)
 {
@@ -291,6 +313,8 @@ private Q_SLOTS:
     void EveryNameOccursInTheSources();
     void TheHelpAndTheReadmeNameTheSameBenchmarks();
     void TheHelpNamesTheBenchmarksThatAreBuilt();
+    void ASnippetIsPartOfAnExampleProgram_data();
+    void ASnippetIsPartOfAnExampleProgram();
     void AnExamplePrintsWhatStandsThere_data();
     void AnExamplePrintsWhatStandsThere();
 
@@ -438,6 +462,28 @@ void TestDocuments::TheHelpNamesTheBenchmarksThatAreBuilt()
     if (BuiltBenchmarks().isEmpty())
         QSKIP("this build was configured without benchmarks");
     QCOMPARE(NamesAfter(HelpOfRun(), L("or the one named: ")), BuiltBenchmarks());
+}
+
+void TestDocuments::ASnippetIsPartOfAnExampleProgram_data()
+{
+    QTest::addColumn<QStringList>("lines");
+    static const QRegularExpression s_regSnippet(L("```cpp\\n(.*?)```"),
+                                                 QRegularExpression::DotMatchesEverythingOption);
+    QRegularExpressionMatchIterator itSnippet = s_regSnippet.globalMatch(Text(L("README.md")));
+    QVERIFY(itSnippet.hasNext());
+    for (int i = 1; itSnippet.hasNext(); ++i)
+        QTest::addRow("snippet %d", i) << TrimmedLines(itSnippet.next().captured(1));
+}
+
+void TestDocuments::ASnippetIsPartOfAnExampleProgram()
+{
+    QFETCH(QStringList, lines);
+    const QStringList& listPaths = Tree().listPaths;
+    const bool bFound = std::any_of(listPaths.cbegin(), listPaths.cend(), [&](const QString& strPath) {
+        return strPath.startsWith(L("examples/")) && strPath.endsWith(L(".cpp")) &&
+               ContainsInOrder(TrimmedLines(Text(strPath)), lines);
+    });
+    QVERIFY2(bFound, qPrintable(lines.join(QLatin1Char('\n'))));
 }
 
 void TestDocuments::AnExamplePrintsWhatStandsThere_data()

@@ -1,7 +1,7 @@
-# Installs the build into a folder of its own, moves that elsewhere, builds a program against it with find_package, and
-# runs it; then asks pkg-config for the same library.
+# Installs the build into a folder of its own, moves that elsewhere, builds programs against it with find_package, and
+# runs them; then builds one of them with qmake and pkg-config.
 #
-#   cmake -DBUILD_FOLDER=... -DCONSUMER=... -DWORK_FOLDER=... -DCXX=... -P TryInstall.cmake
+#   cmake -DBUILD_FOLDER=... -DCONSUMER=... -DEXAMPLES=... -DWORK_FOLDER=... -DCXX=... -DLAUNCHER=... -P TryInstall.cmake
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE STATUS OUTPUT_VARIABLE OUTPUT ERROR_VARIABLE OUTPUT)
     if(NOT STATUS EQUAL 0)
@@ -24,13 +24,25 @@ set(PREFIX "${WORK_FOLDER}/prefix")
 file(RENAME "${WORK_FOLDER}/first" "${PREFIX}")
 
 run("${CMAKE_COMMAND}" -S "${CONSUMER}" -B "${WORK_FOLDER}/build" -G Ninja
-    "-DCMAKE_PREFIX_PATH=${PREFIX}" "-DCMAKE_CXX_COMPILER=${CXX}")
+    "-DCMAKE_PREFIX_PATH=${PREFIX}" "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}"
+    "-DEXAMPLES=${EXAMPLES}")
 run("${CMAKE_COMMAND}" --build "${WORK_FOLDER}/build")
 set(ENV{QT_QPA_PLATFORM} offscreen)
 run("${WORK_FOLDER}/build/consumer")
 if(NOT OUTPUT MATCHES "22 0.3127 0.5")
     message(FATAL_ERROR "The program printed: ${OUTPUT}")
 endif()
+
+run("${WORK_FOLDER}/build/examples/gamut-coverage")
+if(NOT OUTPUT MATCHES "coverage 0.68\n5000 K 0.34574,0.35867  D65 6500 K  outline 156 points  D65 real")
+    message(FATAL_ERROR "gamut-coverage printed: ${OUTPUT}")
+endif()
+run("${WORK_FOLDER}/build/examples/edid-file" 1920 1080 60 "${WORK_FOLDER}/block.bin")
+run("${PREFIX}/bin/sender-tool" edid 1920x1080@60 --format bin -o "${WORK_FOLDER}/expected.bin")
+run("${CMAKE_COMMAND}" -E compare_files "${WORK_FOLDER}/block.bin" "${WORK_FOLDER}/expected.bin")
+run("${WORK_FOLDER}/build/drive-minimal-host")
+execute_process(COMMAND "${EXAMPLES}/../docs/make-wall.sh" OUTPUT_FILE "${WORK_FOLDER}/wall.csv" COMMAND_ERROR_IS_FATAL ANY)
+run("${WORK_FOLDER}/build/examples/wall-matrices" "${WORK_FOLDER}/wall.csv")
 
 # What is installed runs where it is, and names no place of the build.
 run("${PREFIX}/bin/sender-tool" cct 6500)
@@ -63,3 +75,10 @@ run(pkg-config --variable=libdir SenderModuleDialog)
 require_file("${OUTPUT}/libSenderModuleDialog.so")
 run(pkg-config --variable=includedir SenderModuleDialog)
 require_file("${OUTPUT}/SenderModuleDialog/SenderModuleDialogInit.h")
+
+# The second way to build: qmake.
+file(MAKE_DIRECTORY "${WORK_FOLDER}/qmake")
+run("${CMAKE_COMMAND}" -E chdir "${WORK_FOLDER}/qmake"
+    qmake "${EXAMPLES}/minimal-host/minimal-host.pro" "QMAKE_CXX=${LAUNCHER} ${CXX}")
+run("${CMAKE_COMMAND}" -E chdir "${WORK_FOLDER}/qmake" make)
+require_file("${WORK_FOLDER}/qmake/minimal-host")
