@@ -243,6 +243,49 @@
     </message>
 </context>
 <context>
+    <name>CCorrectionPanel</name>
+    <message>
+        <source>校正</source>
+        <translation>Correction</translation>
+    </message>
+    <message>
+        <source>预设值</source>
+        <translation>Preset value</translation>
+    </message>
+    <message>
+        <source>取得的值</source>
+        <translation>Value taken</translation>
+    </message>
+    <message>
+        <source>校正系数</source>
+        <translation>Correction coefficient</translation>
+    </message>
+    <message>
+        <source>重置校正系数</source>
+        <translation>Reset the correction coefficient</translation>
+    </message>
+    <message>
+        <source>修缝系数</source>
+        <translation>Seam repair coefficient</translation>
+    </message>
+    <message>
+        <source>重置修缝系数</source>
+        <translation>Reset the seam repair coefficient</translation>
+    </message>
+    <message>
+        <source>重置...</source>
+        <translation>Reset...</translation>
+    </message>
+    <message>
+        <source>校正系数：%1</source>
+        <translation>Correction coefficient: %1</translation>
+    </message>
+    <message>
+        <source>修缝系数：%1</source>
+        <translation>Seam repair coefficient: %1</translation>
+    </message>
+</context>
+<context>
     <name>CCustomDialog</name>
     <message>
         <source>分辨率的宽或高不能小于%1。</source>
@@ -823,7 +866,7 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
     </message>
 </context>
 <context>
-    <name>COutputPage</name>
+    <name>COutputFacts</name>
     <message>
         <source>开</source>
         <translation>On</translation>
@@ -834,7 +877,7 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
     </message>
     <message>
         <source>没有设置</source>
-        <translation>Not set</translation>
+        <translation>no setting</translation>
     </message>
     <message>
         <source>没有文件</source>
@@ -843,28 +886,6 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
     <message>
         <source>无法读取</source>
         <translation>Unreadable</translation>
-    </message>
-    <message>
-        <source>背景图片已启用，但文件不存在：
-%1
-请重新选取图片。</source>
-        <translation>The background picture is switched on, but its file is missing:
-%1
-Choose a picture again.</translation>
-    </message>
-    <message>
-        <source>无法读取背景图片：
-%1
-%2
-请选取另一张图片。</source>
-        <translation>The background picture cannot be read:
-%1
-%2
-Choose another picture.</translation>
-    </message>
-    <message>
-        <source>背景图片太大（%1 像素），此处不显示。</source>
-        <translation>The background picture (%1 pixels) is too large to be shown here.</translation>
     </message>
     <message>
         <source>画布、帧率和色深</source>
@@ -927,38 +948,6 @@ Choose another picture.</translation>
         <translation>Set background picture...</translation>
     </message>
     <message>
-        <source>校正</source>
-        <translation>Correction</translation>
-    </message>
-    <message>
-        <source>预设值</source>
-        <translation>Preset value</translation>
-    </message>
-    <message>
-        <source>取得的值</source>
-        <translation>Value taken</translation>
-    </message>
-    <message>
-        <source>校正系数</source>
-        <translation>Correction coefficient</translation>
-    </message>
-    <message>
-        <source>修缝系数</source>
-        <translation>Seam repair coefficient</translation>
-    </message>
-    <message>
-        <source>重置...</source>
-        <translation>Reset...</translation>
-    </message>
-    <message>
-        <source>输出</source>
-        <translation>Output</translation>
-    </message>
-    <message>
-        <source>请选择一个发送器</source>
-        <translation>Select a sender</translation>
-    </message>
-    <message>
         <source>50 Hz：%1</source>
         <translation>50 Hz: %1</translation>
     </message>
@@ -969,6 +958,43 @@ Choose another picture.</translation>
     <message>
         <source>拉伸</source>
         <translation>Stretch</translation>
+    </message>
+</context>
+<context>
+    <name>COutputPage</name>
+    <message>
+        <source>背景图片已启用，但文件不存在：
+%1
+请重新选取图片。</source>
+        <translation>The background picture is switched on, but its file is missing:
+%1
+Choose a picture again.</translation>
+    </message>
+    <message>
+        <source>无法读取背景图片：
+%1
+%2
+请选取另一张图片。</source>
+        <translation>The background picture cannot be read:
+%1
+%2
+Choose another picture.</translation>
+    </message>
+    <message>
+        <source>背景图片太大（%1 像素），此处不显示。</source>
+        <translation>The background picture (%1 pixels) is too large to be shown here.</translation>
+    </message>
+    <message>
+        <source>画布</source>
+        <translation>Canvas</translation>
+    </message>
+    <message>
+        <source>输出</source>
+        <translation>Output</translation>
+    </message>
+    <message>
+        <source>请选择一个发送器</source>
+        <translation>Select a sender</translation>
     </message>
     <message>
         <source>画布没有面积：%1</source>
@@ -993,22 +1019,6 @@ Choose another picture.</translation>
     <message>
         <source>最大帧率已设为 %1 Hz，输出色深已设为 %2 bit。</source>
         <translation>The maximum frame rate is now %1 Hz, the output depth %2 bit.</translation>
-    </message>
-    <message>
-        <source>校正系数：%1</source>
-        <translation>Correction coefficient: %1</translation>
-    </message>
-    <message>
-        <source>修缝系数：%1</source>
-        <translation>Seam repair coefficient: %1</translation>
-    </message>
-    <message>
-        <source>重置校正系数</source>
-        <translation>Reset the correction coefficient</translation>
-    </message>
-    <message>
-        <source>重置修缝系数</source>
-        <translation>Reset the seam repair coefficient</translation>
     </message>
 </context>
 <context>
@@ -1310,10 +1320,6 @@ Choose another picture.</translation>
         <translation>Hardware runs at 50 Hz</translation>
     </message>
     <message>
-        <source>实际输入帧率 (Hz)，0 为未知</source>
-        <translation>Actual input frame rate (Hz, 0: unknown)</translation>
-    </message>
-    <message>
         <source>输出超限</source>
         <translation>Output limits exceeded</translation>
     </message>
@@ -1370,16 +1376,36 @@ Choose another picture.</translation>
         <translation>Addressed by IP address</translation>
     </message>
     <message>
-        <source>探测方式，2 要求起始地址</source>
-        <translation>Detect strategy (2 asks for a start address)</translation>
-    </message>
-    <message>
-        <source>已有主控数量，-1 为发送器的数量</source>
-        <translation>Existing processors (-1: the number of senders)</translation>
-    </message>
-    <message>
         <source>主控数量上限（按地址）</source>
         <translation>Maximum number of processors (by address)</translation>
+    </message>
+    <message>
+        <source>按地址：手动添加时要求起始地址</source>
+        <translation>By address: adding by hand asks for a start address</translation>
+    </message>
+    <message>
+        <source>不按地址</source>
+        <translation>Not by address</translation>
+    </message>
+    <message>
+        <source>实际输入帧率 (Hz)</source>
+        <translation>Actual input rate (Hz)</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Unknown</translation>
+    </message>
+    <message>
+        <source>探测方式</source>
+        <translation>Detection</translation>
+    </message>
+    <message>
+        <source>已有主控数量</source>
+        <translation>Processors that are there already</translation>
+    </message>
+    <message>
+        <source>发送器的数量</source>
+        <translation>As many as there are senders</translation>
     </message>
 </context>
 <context>

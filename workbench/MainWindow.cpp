@@ -4,7 +4,6 @@
 #include "workbench/JournalDock.h"
 #include "workbench/ProjectActions.h"
 #include "workbench/SenderTree.h"
-#include "workbench/Tour.h"
 #include "workbench/addresses/AddressPage.h"
 #include "workbench/colour/ColourPage.h"
 #include "workbench/edid/EdidPage.h"
@@ -225,13 +224,4 @@ void CMainWindow::closeEvent(QCloseEvent* pEvent)
     m_settings.setValue(c_strGeometryKey, saveGeometry());
     m_settings.setValue(c_strStateKey, saveState());
     pEvent->accept();
-}
-
-void CMainWindow::Tour(CTour& tour)
-{
-    tour.Picture(this, QStringLiteral("workbench"));
-    for (CWorkbenchPage* pPage : m_vecPages) {
-        ShowPage(pPage);
-        pPage->Tour(tour, this);
-    }
 }

@@ -11,7 +11,6 @@
 class CJournalDock;
 class CProjectActions;
 class CSenderTree;
-class CTour;
 class QMenu;
 class QSettings;
 class QTabWidget;
@@ -32,9 +31,6 @@ public:
     const std::vector<CWorkbenchPage*>& Pages() const { return m_vecPages; }
     /// Brings a page to the front.
     void ShowPage(CWorkbenchPage* pPage);
-
-    /// Walks through every page in the current language.
-    void Tour(CTour& tour);
 
 protected:
     void closeEvent(QCloseEvent* pEvent) override;

@@ -4,7 +4,8 @@
 #include "simulator/CommonClass/Simulator.h"
 #include "workbench/MainWindow.h"
 #include "workbench/ProjectActions.h"
-#include "workbench/Tour.h"
+#include "workbench/tour/PageTours.h"
+#include "workbench/tour/Tour.h"
 
 #include <QApplication>
 #include <QDir>
@@ -78,7 +79,7 @@ int RunTour(const SWorkbenchOptions& options)
         CSimulator::Instance().Document().NewProject();
         CMainWindow window(language, settings);
         window.show();
-        window.Tour(tour);
+        PageTours::Everything(tour, window);
         if (current == enLanguage::English)
             LeaveFiles(tour, window);
     }

@@ -3,8 +3,6 @@
 
 #include <QWidget>
 
-class CTour;
-
 /// What is selected in the tree of senders.
 struct SSelection
 {
@@ -31,8 +29,6 @@ public:
     virtual void ShowSelection(const SSelection& selection) = 0;
     /// Puts all texts into the current language.
     virtual void Retranslate() = 0;
-    /// Walks through what the page offers. The workbench's window is given to take pictures of.
-    virtual void Tour(CTour& tour, QWidget* pWorkbench) = 0;
 
 Q_SIGNALS:
     /// One line for the status bar: what has just happened.

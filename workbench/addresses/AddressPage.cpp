@@ -149,6 +149,11 @@ void CAddressPage::ShowVerdict()
     m_pVerdict->setText(m_pCheck->text().isEmpty() ? QString() : VerdictText::OfText(m_pCheck->text()));
 }
 
+void CAddressPage::CheckAddress(const QString& strAddress)
+{
+    m_pCheck->setText(strAddress);
+}
+
 QString CAddressPage::ShownVerdict() const
 {
     return m_pVerdict->text();

@@ -30,7 +30,6 @@ public:
     QString Title() const override;
     void ShowSelection(const SSelection& selection) override;
     void Retranslate() override;
-    void Tour(CTour& tour, QWidget* pWorkbench) override;
 
     /// @name What the buttons do
     /// @{
@@ -45,6 +44,8 @@ public:
 
     /// Selects an entry of the list.
     void SelectRow(int nRow);
+    /// Puts an address into the check field.
+    void CheckAddress(const QString& strAddress);
     /// What is said of the address in the check field.
     QString ShownVerdict() const;
 

@@ -24,7 +24,6 @@ public:
     QString Title() const override;
     void ShowSelection(const SSelection& selection) override;
     void Retranslate() override;
-    void Tour(CTour& tour, QWidget* pWorkbench) override;
 
     CChartView& View() { return *m_pView; }
     CGroupPanel& Groups() { return *m_pGroups; }
@@ -55,13 +54,6 @@ private:
     bool ReportSaved(const QString& strFile, const QString& strError);
     void StartAnew();
     void ShowReadout();
-    void TourOfModes(CTour& tour);
-    void TourOfLook(CTour& tour);
-    void TourOfRegion(CTour& tour);
-    void TourOfDrag(CTour& tour);
-    void TourOfKeys(CTour& tour);
-    void TourOfReadings(CTour& tour);
-    void TourOfFiles(CTour& tour);
 
     CChartView* m_pView = nullptr;
     QTabWidget* m_pTabs = nullptr;

@@ -24,8 +24,9 @@ public:
     QString Title() const override;
     void ShowSelection(const SSelection& selection) override;
     void Retranslate() override;
-    void Tour(CTour& tour, QWidget* pWorkbench) override;
 
+    /// The input that is shown, or null.
+    const SSimulatedInput* Input() const;
     /// Saves the block that is shown.
     /// @return false when the file could not be written; the status line tells why
     bool SaveBlock(const QString& strFile);
@@ -33,7 +34,6 @@ public:
 private:
     QWidget* CreateHead();
     QWidget* CreateMemoryView();
-    const SSimulatedInput* Input() const;
     void EditEdid();
     void ChooseFileAndSave();
     void Refresh();
@@ -42,10 +42,6 @@ private:
     void ShowChange(const QByteArray& blockBefore, const QByteArray& blockAfter);
     void MarkSelectedField();
     void SelectFieldOfByte(int nOffset);
-    void TourOfDialog(CTour& tour);
-    void AcceptMode(CTour& tour, int nResolution);
-    void TourOfFailure(CTour& tour);
-    void TourOfSenders(CTour& tour);
 
     SSelection m_selection;
     QVector<SEdidField> m_vecFields;

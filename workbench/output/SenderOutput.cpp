@@ -32,3 +32,8 @@ int SenderOutput::HardwareDepth(const SSimulatedSender& sender)
 {
     return c_nFirstDepth + c_nDepthStep * sender.nOutputDepthMode;
 }
+
+QString SenderOutput::SizeText(QSize size)
+{
+    return QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
+}

@@ -2,6 +2,7 @@
 #define WORKBENCH_OUTPUT_SENDEROUTPUT_H
 
 #include <QSize>
+#include <QString>
 
 struct SSimulatedSender;
 
@@ -14,6 +15,8 @@ bool KeepsCanvas(const SSimulatedSender& sender);
 QSize Canvas(const SSimulatedSender& sender);
 /// Stores a canvas in the record, and in hardware that keeps one.
 void StoreCanvas(SSimulatedSender& sender, QSize size);
+/// "1920 × 1080".
+QString SizeText(QSize size);
 /// The output depth that the hardware is set to, bits.
 int HardwareDepth(const SSimulatedSender& sender);
 

@@ -20,137 +20,142 @@ constexpr int c_nMaxArea = 2147483647;
 constexpr int c_nMaxDelay = 60000; ///< ms
 constexpr int c_nComputed = -1;    ///< limit flags are computed from the project
 constexpr int c_nBySenders = -1;   ///< the number of processors is that of the senders
+constexpr int c_nByAddress = 2;    ///< the detect strategy that finds processors by address
+constexpr int c_nNotByAddress = 1; ///< any other; the dialogs make no difference between them
 
-SSimulatedSender& Sender(SSimulatedProject& project, int nSender)
+/// Reading and writing of one property.
+struct SAccess
 {
-    return *project.FindSender(nSender);
-}
-
-const SSimulatedSender& Sender(const SSimulatedProject& project, int nSender)
-{
-    return *project.FindSender(nSender);
-}
-
-/// Where a property stands and how it is edited.
-struct SCaption
-{
-    const char* szGroup;
-    const char* szName;
+    QVariant (*pRead)(const SSimulatedProject& project, int nSender);
+    void (*pWrite)(SSimulatedProject& project, int nSender, const QVariant& value);
 };
 
-/// Limits of a number, both included.
-struct SLimits
+/// A field of a sender, reached through members: capability, then one of its fields.
+template <auto... c_pMembers>
+struct SOfSender
 {
-    int nMin;
-    int nMax;
+    template <class TProject>
+    static auto& Field(TProject& project, int nSender)
+    {
+        return ((*project.FindSender(nSender)).*....*c_pMembers);
+    }
 };
 
-/// A property that is one field. The access gives the field of a project, constant or not.
-template <class FAccess>
-SSenderProperty Field(const SCaption& caption, enEditor editor, FAccess access, SLimits limits = {0, 0},
-                      const std::vector<SPropertyChoice>& vecChoices = {})
+/// A field of the project itself.
+template <auto... c_pMembers>
+struct SOfProject
 {
-    return {caption.szGroup,
-            caption.szName,
-            editor,
-            limits.nMin,
-            limits.nMax,
-            vecChoices,
-            [access](const SSimulatedProject& project, int nSender) {
-                return QVariant(access(project, nSender));
-            },
-            [access](SSimulatedProject& project, int nSender, const QVariant& value) {
-                auto& field = access(project, nSender);
-                field = value.value<std::decay_t<decltype(field)>>();
-            }};
+    template <class TProject>
+    static auto& Field(TProject& project, int)
+    {
+        return (project.*....*c_pMembers);
+    }
+};
+
+template <class TPlace>
+constexpr SAccess c_accessTo = {
+    [](const SSimulatedProject& project, int nSender) { return QVariant(TPlace::Field(project, nSender)); },
+    [](SSimulatedProject& project, int nSender, const QVariant& value) {
+        auto& field = TPlace::Field(project, nSender);
+        field = value.value<std::decay_t<decltype(field)>>();
+    }};
+
+template <auto... c_pMembers>
+constexpr SAccess c_sender = c_accessTo<SOfSender<c_pMembers...>>;
+
+template <auto... c_pMembers>
+constexpr SAccess c_project = c_accessTo<SOfProject<c_pMembers...>>;
+
+/// One side of a size of the sender.
+template <auto c_pRead, auto c_pWrite, auto... c_pMembers>
+constexpr SAccess c_side = {[](const SSimulatedProject& project, int nSender) {
+                                return QVariant(
+                                    (SOfSender<c_pMembers...>::Field(project, nSender).*c_pRead)());
+                            },
+                            [](SSimulatedProject& project, int nSender, const QVariant& value) {
+                                (SOfSender<c_pMembers...>::Field(project, nSender).*c_pWrite)(value.toInt());
+                            }};
+
+template <auto... c_pMembers>
+constexpr SAccess c_width = c_side<&QSize::width, &QSize::setWidth, c_pMembers...>;
+
+template <auto... c_pMembers>
+constexpr SAccess c_height = c_side<&QSize::height, &QSize::setHeight, c_pMembers...>;
+
+/// A value that may be absent, which a number outside its range stands for.
+template <class TPlace, int c_nAbsent>
+constexpr SAccess c_optional = {[](const SSimulatedProject& project, int nSender) {
+                                    const auto& optional = TPlace::Field(project, nSender);
+                                    return QVariant(optional ? int(*optional) : c_nAbsent);
+                                },
+                                [](SSimulatedProject& project, int nSender, const QVariant& value) {
+                                    auto& optional = TPlace::Field(project, nSender);
+                                    optional.reset();
+                                    if (value.toInt() != c_nAbsent)
+                                        optional = value.toInt();
+                                }};
+
+constexpr SAccess c_writeFails = {
+    [](const SSimulatedProject& project, int nSender) {
+        return QVariant(project.FindSender(nSender)->faults.nEdidWriteResult != 0);
+    },
+    [](SSimulatedProject& project, int nSender, const QVariant& value) {
+        project.FindSender(nSender)->faults.nEdidWriteResult = value.toBool() ? 1 : 0;
+    }};
+
+constexpr SAccess c_detectStrategy = {
+    [](const SSimulatedProject& project, int) {
+        return QVariant(project.addressing.nDetectStrategy == c_nByAddress ? c_nByAddress : c_nNotByAddress);
+    },
+    [](SSimulatedProject& project, int, const QVariant& value) {
+        project.addressing.nDetectStrategy = value.toInt();
+    }};
+
+/// How a property is edited.
+struct SEditing
+{
+    enEditor editor;
+    int nMin = 0;
+    int nMax = 0;
+    const char* szLowest = nullptr;
+    std::vector<SPropertyChoice> vecChoices = {};
+};
+
+SEditing Numbers(int nMin, int nMax, const char* szLowest = nullptr)
+{
+    return {enEditor::Number, nMin, nMax, szLowest};
 }
 
-/// The width of a size that the access gives.
-template <class FAccess>
-SSenderProperty Width(const SCaption& caption, FAccess access)
+SEditing Choices(std::vector<SPropertyChoice> vecChoices)
 {
-    return {
-        caption.szGroup,
-        caption.szName,
-        enEditor::Number,
-        0,
-        c_nMaxSide,
-        {},
-        [access](const SSimulatedProject& project, int nSender) { return access(project, nSender).width(); },
-        [access](SSimulatedProject& project, int nSender, const QVariant& value) {
-            access(project, nSender).setWidth(value.toInt());
-        }};
+    return {enEditor::Choice, 0, 0, nullptr, std::move(vecChoices)};
 }
 
-/// The height of a size that the access gives.
-template <class FAccess>
-SSenderProperty Height(const SCaption& caption, FAccess access)
+SSenderProperty Row(const char* szGroup, const char* szName, const SEditing& editing, const SAccess& access)
 {
-    return {
-        caption.szGroup,
-        caption.szName,
-        enEditor::Number,
-        0,
-        c_nMaxSide,
-        {},
-        [access](const SSimulatedProject& project, int nSender) { return access(project, nSender).height(); },
-        [access](SSimulatedProject& project, int nSender, const QVariant& value) {
-            access(project, nSender).setHeight(value.toInt());
-        }};
+    return {szGroup,      szName,           editing.editor,     editing.nMin,
+            editing.nMax, editing.szLowest, editing.vecChoices, access.pRead,
+            access.pWrite};
 }
 
-QVariant ReadLimitFlags(const SSimulatedProject& project, int nSender)
-{
-    const auto& flags = Sender(project, nSender).outputLimitFlags;
-    return flags ? int(*flags) : c_nComputed;
-}
-
-void WriteLimitFlags(SSimulatedProject& project, int nSender, const QVariant& value)
-{
-    auto& flags = Sender(project, nSender).outputLimitFlags;
-    if (value.toInt() == c_nComputed)
-        flags.reset();
-    else
-        flags = unsigned(value.toInt());
-}
-
-QVariant ReadWriteFails(const SSimulatedProject& project, int nSender)
-{
-    return Sender(project, nSender).faults.nEdidWriteResult != 0;
-}
-
-void WriteWriteFails(SSimulatedProject& project, int nSender, const QVariant& value)
-{
-    Sender(project, nSender).faults.nEdidWriteResult = value.toBool() ? 1 : 0;
-}
-
-QVariant ReadAddedCount(const SSimulatedProject& project, int)
-{
-    return project.addressing.nAddedSenderCount.value_or(c_nBySenders);
-}
-
-void WriteAddedCount(SSimulatedProject& project, int, const QVariant& value)
-{
-    auto& count = project.addressing.nAddedSenderCount;
-    if (value.toInt() == c_nBySenders)
-        count.reset();
-    else
-        count = value.toInt();
-}
-
+constexpr const char* c_szFaults = QT_TRANSLATE_NOOP("CSenderPropertyText", "故障");
 constexpr const char* c_szSender = QT_TRANSLATE_NOOP("CSenderPropertyText", "发送器");
 constexpr const char* c_szOutput = QT_TRANSLATE_NOOP("CSenderPropertyText", "输出");
 constexpr const char* c_szCanvas = QT_TRANSLATE_NOOP("CSenderPropertyText", "画布");
-constexpr const char* c_szFaults = QT_TRANSLATE_NOOP("CSenderPropertyText", "故障");
 constexpr const char* c_szAddressing = QT_TRANSLATE_NOOP("CSenderPropertyText", "寻址（整个工程）");
 
-const std::vector<SPropertyChoice> c_vecDepthModes = {
+const SEditing c_text = {enEditor::Text};
+const SEditing c_switch = {enEditor::Switch};
+const SEditing c_side16 = Numbers(0, c_nMaxSide);
+const SEditing c_limit16 = Numbers(1, c_nMaxSide);
+
+const SEditing c_depthModes = Choices({
     {QT_TRANSLATE_NOOP("CSenderPropertyText", "8 位"), 0},
     {QT_TRANSLATE_NOOP("CSenderPropertyText", "10 位"), 1},
     {QT_TRANSLATE_NOOP("CSenderPropertyText", "12 位"), 2},
-};
+});
 
-const std::vector<SPropertyChoice> c_vecLimitFlags = {
+const SEditing c_limitFlags = Choices({
     {QT_TRANSLATE_NOOP("CSenderPropertyText", "由工程计算"), c_nComputed},
     {QT_TRANSLATE_NOOP("CSenderPropertyText", "没有超限"), 0},
     {QT_TRANSLATE_NOOP("CSenderPropertyText", "输出视频区域"), 0x800},
@@ -159,135 +164,84 @@ const std::vector<SPropertyChoice> c_vecLimitFlags = {
     {QT_TRANSLATE_NOOP("CSenderPropertyText", "输出口带载面积"), 0x8000000},
     {QT_TRANSLATE_NOOP("CSenderPropertyText", "EDID 输出面积"), 0x10000000},
     {QT_TRANSLATE_NOOP("CSenderPropertyText", "未知的标志"), 0x1},
+});
+
+const SEditing c_strategies = Choices({
+    {QT_TRANSLATE_NOOP("CSenderPropertyText", "按地址：手动添加时要求起始地址"), c_nByAddress},
+    {QT_TRANSLATE_NOOP("CSenderPropertyText", "不按地址"), c_nNotByAddress},
+});
+
+using SSender = SSimulatedSender;
+using SProject = SSimulatedProject;
+using SCapability = SSenderCapability;
+using SLimit = SCanvasLimit;
+
+// Faults stand first: they are what a person comes for. Addressing stands last, since it is the project's.
+const std::vector<SSenderProperty> c_vecProperties = {
+    Row(c_szFaults, QT_TRANSLATE_NOOP("CSenderPropertyText", "EDID 写入失败"), c_switch, c_writeFails),
+    Row(c_szFaults, QT_TRANSLATE_NOOP("CSenderPropertyText", "EDID 写入后不生效"), c_switch,
+        c_sender<&SSender::faults, &SSenderFaults::bBasicEdidFails>),
+    Row(c_szFaults, QT_TRANSLATE_NOOP("CSenderPropertyText", "写入延迟（毫秒）"), Numbers(0, c_nMaxDelay),
+        c_sender<&SSender::faults, &SSenderFaults::nWriteDelay>),
+    Row(c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "名称"), c_text, c_sender<&SSender::strName>),
+    Row(c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "视频处理器"), c_switch,
+        c_sender<&SSender::capability, &SCapability::bVideoProcessor>),
+    Row(c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "支持 10 位"), c_switch,
+        c_sender<&SSender::capability, &SCapability::bSupport10Bit>),
+    Row(c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "支持 12 位"), c_switch,
+        c_sender<&SSender::capability, &SCapability::bSupport12Bit>),
+    Row(c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "接受完整的 EDID 记录"), c_switch,
+        c_sender<&SSender::capability, &SCapability::bExtendedEdid>),
+    Row(c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "支持 EDID 扩展块"), c_switch,
+        c_sender<&SSender::capability, &SCapability::bExtensionBlock>),
+    Row(c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "输出口数量"), Numbers(0, 255),
+        c_sender<&SSender::record, &CSender::nOutputPortCount>),
+    Row(c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "工程帧率 (Hz)"), Numbers(1, 240),
+        c_sender<&SSender::record, &CSender::nFrameRate>),
+    Row(c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "工程色深（位）"), Numbers(1, 16),
+        c_sender<&SSender::record, &CSender::nColorDepth>),
+    Row(c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "硬件色深"), c_depthModes,
+        c_sender<&SSender::nOutputDepthMode>),
+    Row(c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "硬件以 50 Hz 运行"), c_switch,
+        c_sender<&SSender::b50Hz>),
+    Row(c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "实际输入帧率 (Hz)"),
+        {enEditor::Decimal, 0, 1000, QT_TRANSLATE_NOOP("CSenderPropertyText", "未知")},
+        c_sender<&SSender::fMaxInputFrameRate>),
+    Row(c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "输出超限"), c_limitFlags,
+        c_optional<SOfSender<&SSender::outputLimitFlags>, c_nComputed>),
+    Row(c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "画布宽"), c_side16,
+        c_width<&SSender::record, &CSender::sizeCanvas>),
+    Row(c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "画布高"), c_side16,
+        c_height<&SSender::record, &CSender::sizeCanvas>),
+    Row(c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "从硬件读取画布"), c_switch,
+        c_sender<&SSender::capability, &SCapability::bCanvasFromHardware>),
+    Row(c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "硬件画布宽"), c_side16,
+        c_width<&SSender::sizeHardwareCanvas>),
+    Row(c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "硬件画布高"), c_side16,
+        c_height<&SSender::sizeHardwareCanvas>),
+    Row(c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "最大宽"), c_limit16,
+        c_sender<&SSender::capability, &SCapability::canvasLimit, &SLimit::nMaxWidth>),
+    Row(c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "最大高"), c_limit16,
+        c_sender<&SSender::capability, &SCapability::canvasLimit, &SLimit::nMaxHeight>),
+    Row(c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "最大面积"), Numbers(1, c_nMaxArea),
+        c_sender<&SSender::capability, &SCapability::canvasLimit, &SLimit::nMaxArea>),
+    Row(c_szAddressing, QT_TRANSLATE_NOOP("CSenderPropertyText", "演示模式"), c_switch,
+        c_project<&SProject::bDemoMode>),
+    Row(c_szAddressing, QT_TRANSLATE_NOOP("CSenderPropertyText", "按 IP 地址寻址"), c_switch,
+        c_project<&SProject::addressing, &SAddressing::bIPAddressMode>),
+    Row(c_szAddressing, QT_TRANSLATE_NOOP("CSenderPropertyText", "探测方式"), c_strategies, c_detectStrategy),
+    Row(c_szAddressing, QT_TRANSLATE_NOOP("CSenderPropertyText", "已有主控数量"),
+        Numbers(c_nBySenders, 255, QT_TRANSLATE_NOOP("CSenderPropertyText", "发送器的数量")),
+        c_optional<SOfProject<&SProject::addressing, &SAddressing::nAddedSenderCount>, c_nBySenders>),
+    Row(c_szAddressing, QT_TRANSLATE_NOOP("CSenderPropertyText", "主控数量上限（按地址）"), Numbers(1, 255),
+        c_project<&SProject::addressing, &SAddressing::nCountLimitByIP>),
 };
 
 } // namespace
 
 const std::vector<SSenderProperty>& All()
 {
-    static const std::vector<SSenderProperty> s_vecProperties = {
-        Field(
-            {c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "名称")}, enEditor::Text,
-            [](auto& project, int nSender) -> auto& { return Sender(project, nSender).strName; }),
-        Field(
-            {c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "视频处理器")}, enEditor::Switch,
-            [](auto& project, int nSender) -> auto& {
-                return Sender(project, nSender).capability.bVideoProcessor;
-            }),
-        Field(
-            {c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "支持 10 位")}, enEditor::Switch,
-            [](auto& project, int nSender) -> auto& {
-                return Sender(project, nSender).capability.bSupport10Bit;
-            }),
-        Field(
-            {c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "支持 12 位")}, enEditor::Switch,
-            [](auto& project, int nSender) -> auto& {
-                return Sender(project, nSender).capability.bSupport12Bit;
-            }),
-        Field(
-            {c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "接受完整的 EDID 记录")}, enEditor::Switch,
-            [](auto& project, int nSender) -> auto& {
-                return Sender(project, nSender).capability.bExtendedEdid;
-            }),
-        Field(
-            {c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "支持 EDID 扩展块")}, enEditor::Switch,
-            [](auto& project, int nSender) -> auto& {
-                return Sender(project, nSender).capability.bExtensionBlock;
-            }),
-        Field({c_szSender, QT_TRANSLATE_NOOP("CSenderPropertyText", "输出口数量")}, enEditor::Number,
-              [](auto& project, int nSender) -> auto& {
-                  return Sender(project, nSender).record.nOutputPortCount;
-              },
-              {0, 255}),
-        Field({c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "工程帧率 (Hz)")}, enEditor::Number,
-              [](auto& project, int nSender) -> auto& { return Sender(project, nSender).record.nFrameRate; },
-              {1, 240}),
-        Field({c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "工程色深（位）")}, enEditor::Number,
-              [](auto& project, int nSender) -> auto& { return Sender(project, nSender).record.nColorDepth; },
-              {1, 16}),
-        Field(
-            {c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "硬件色深")}, enEditor::Choice,
-            [](auto& project, int nSender) -> auto& { return Sender(project, nSender).nOutputDepthMode; },
-            {0, 0}, c_vecDepthModes),
-        Field(
-            {c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "硬件以 50 Hz 运行")}, enEditor::Switch,
-            [](auto& project, int nSender) -> auto& { return Sender(project, nSender).b50Hz; }),
-        Field({c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "实际输入帧率 (Hz)，0 为未知")},
-              enEditor::Decimal,
-              [](auto& project, int nSender) -> auto& { return Sender(project, nSender).fMaxInputFrameRate; },
-              {0, 1000}),
-        {c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "输出超限"), enEditor::Choice, 0, 0,
-         c_vecLimitFlags, ReadLimitFlags, WriteLimitFlags},
-        Width(
-            {c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "画布宽")},
-            [](auto& project, int nSender) -> auto& { return Sender(project, nSender).record.sizeCanvas; }),
-        Height(
-            {c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "画布高")},
-            [](auto& project, int nSender) -> auto& { return Sender(project, nSender).record.sizeCanvas; }),
-        Field(
-            {c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "从硬件读取画布")}, enEditor::Switch,
-            [](auto& project, int nSender) -> auto& {
-                return Sender(project, nSender).capability.bCanvasFromHardware;
-            }),
-        Width(
-            {c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "硬件画布宽")},
-            [](auto& project, int nSender) -> auto& { return Sender(project, nSender).sizeHardwareCanvas; }),
-        Height(
-            {c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "硬件画布高")},
-            [](auto& project, int nSender) -> auto& { return Sender(project, nSender).sizeHardwareCanvas; }),
-        Field({c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "最大宽")}, enEditor::Number,
-              [](auto& project, int nSender) -> auto& {
-                  return Sender(project, nSender).capability.canvasLimit.nMaxWidth;
-              },
-              {1, c_nMaxSide}),
-        Field({c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "最大高")}, enEditor::Number,
-              [](auto& project, int nSender) -> auto& {
-                  return Sender(project, nSender).capability.canvasLimit.nMaxHeight;
-              },
-              {1, c_nMaxSide}),
-        Field({c_szCanvas, QT_TRANSLATE_NOOP("CSenderPropertyText", "最大面积")}, enEditor::Number,
-              [](auto& project, int nSender) -> auto& {
-                  return Sender(project, nSender).capability.canvasLimit.nMaxArea;
-              },
-              {1, c_nMaxArea}),
-        {c_szFaults,
-         QT_TRANSLATE_NOOP("CSenderPropertyText", "EDID 写入失败"),
-         enEditor::Switch,
-         0,
-         0,
-         {},
-         ReadWriteFails,
-         WriteWriteFails},
-        Field(
-            {c_szFaults, QT_TRANSLATE_NOOP("CSenderPropertyText", "EDID 写入后不生效")}, enEditor::Switch,
-            [](auto& project, int nSender) -> auto& {
-                return Sender(project, nSender).faults.bBasicEdidFails;
-            }),
-        Field({c_szFaults, QT_TRANSLATE_NOOP("CSenderPropertyText", "写入延迟（毫秒）")}, enEditor::Number,
-              [](auto& project, int nSender) -> auto& { return Sender(project, nSender).faults.nWriteDelay; },
-              {0, c_nMaxDelay}),
-        Field(
-            {c_szAddressing, QT_TRANSLATE_NOOP("CSenderPropertyText", "演示模式")}, enEditor::Switch,
-            [](auto& project, int) -> auto& { return project.bDemoMode; }),
-        Field(
-            {c_szAddressing, QT_TRANSLATE_NOOP("CSenderPropertyText", "按 IP 地址寻址")}, enEditor::Switch,
-            [](auto& project, int) -> auto& { return project.addressing.bIPAddressMode; }),
-        Field({c_szAddressing, QT_TRANSLATE_NOOP("CSenderPropertyText", "探测方式，2 要求起始地址")},
-              enEditor::Number,
-              [](auto& project, int) -> auto& { return project.addressing.nDetectStrategy; }, {0, 9}),
-        {c_szAddressing,
-         QT_TRANSLATE_NOOP("CSenderPropertyText", "已有主控数量，-1 为发送器的数量"),
-         enEditor::Number,
-         c_nBySenders,
-         255,
-         {},
-         ReadAddedCount,
-         WriteAddedCount},
-        Field({c_szAddressing, QT_TRANSLATE_NOOP("CSenderPropertyText", "主控数量上限（按地址）")},
-              enEditor::Number,
-              [](auto& project, int) -> auto& { return project.addressing.nCountLimitByIP; }, {1, 255}),
-    };
-    return s_vecProperties;
+    return c_vecProperties;
 }
 
 QString Text(const char* szText)

@@ -3,7 +3,6 @@
 
 #include <QVariant>
 
-#include <functional>
 #include <vector>
 
 struct SSimulatedProject;
@@ -34,9 +33,10 @@ struct SSenderProperty
     enEditor editor;
     int nMin; ///< for numbers
     int nMax;
+    const char* szLowest; ///< source text that stands for the lowest number; null: it is a number like others
     std::vector<SPropertyChoice> vecChoices;
-    std::function<QVariant(const SSimulatedProject& project, int nSender)> funcRead;
-    std::function<void(SSimulatedProject& project, int nSender, const QVariant& value)> funcWrite;
+    QVariant (*funcRead)(const SSimulatedProject& project, int nSender);
+    void (*funcWrite)(SSimulatedProject& project, int nSender, const QVariant& value);
 };
 
 namespace SenderProperties {

@@ -1,9 +1,9 @@
 #include "workbench/simulation/SimulationPage.h"
 
 #include "simulator/CommonClass/Simulator.h"
-#include "workbench/Tour.h"
 #include "workbench/simulation/SenderProperties.h"
 
+#include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -14,6 +14,8 @@
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QSpinBox>
+
+#include <algorithm>
 
 namespace {
 
@@ -47,6 +49,18 @@ void TranslateChoices(const SSenderProperty& property, QWidget* pEditor)
         return;
     for (int i = 0; i < pComboBox->count(); ++i)
         pComboBox->setItemText(i, SenderProperties::Text(property.vecChoices[std::size_t(i)].szText));
+}
+
+/// Text that stands for the lowest number of a property.
+QString LowestText(const SSenderProperty& property)
+{
+    return property.szLowest == nullptr ? QString() : SenderProperties::Text(property.szLowest);
+}
+
+void TranslateLowest(const SSenderProperty& property, QWidget* pEditor)
+{
+    if (auto* pField = qobject_cast<QAbstractSpinBox*>(pEditor))
+        pField->setSpecialValueText(LowestText(property));
 }
 
 } // namespace
@@ -144,7 +158,19 @@ void CSimulationPage::Retranslate()
         row.pCaption->setText(SenderProperties::Text(row.pProperty->szName));
         row.pEditor->setAccessibleName(SenderProperties::Text(row.pProperty->szName));
         TranslateChoices(*row.pProperty, row.pEditor);
+        TranslateLowest(*row.pProperty, row.pEditor);
     }
+    AlignGroups();
+}
+
+/// The groups are forms of their own; captions of one width make them one grid.
+void CSimulationPage::AlignGroups()
+{
+    int nWidth = 0;
+    for (const SRow& row : m_vecRows)
+        nWidth = std::max(nWidth, row.pCaption->sizeHint().width());
+    for (const SRow& row : m_vecRows)
+        row.pCaption->setMinimumWidth(nWidth);
 }
 
 void CSimulationPage::ShowSelection(const SSelection& selection)
@@ -173,10 +199,4 @@ void CSimulationPage::Write(const SSenderProperty& property, const QVariant& val
         return;
     simulator.Document().Change(
         [&](SSimulatedProject& project) { property.funcWrite(project, nSender, value); });
-}
-
-void CSimulationPage::Tour(CTour& tour, QWidget* pWorkbench)
-{
-    tour.Picture(pWorkbench, QStringLiteral("simulation"));
-    tour.Picture(m_pForms, QStringLiteral("simulation-all"));
 }

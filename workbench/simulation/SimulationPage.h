@@ -24,7 +24,6 @@ public:
     QString Title() const override;
     void ShowSelection(const SSelection& selection) override;
     void Retranslate() override;
-    void Tour(CTour& tour, QWidget* pWorkbench) override;
 
 private:
     struct SRow
@@ -45,6 +44,7 @@ private:
     QWidget* CreateEditor(const SSenderProperty& property);
     void Write(const SSenderProperty& property, const QVariant& value);
     void Refresh();
+    void AlignGroups();
 
     SSelection m_selection;
     QWidget* m_pForms = nullptr;

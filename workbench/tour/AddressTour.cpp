@@ -3,8 +3,10 @@
 #include "SenderModuleDialog/addressing/SetIPOfflineDlg.h"
 #include "host/OrviControl/CustomIPEdit.h"
 #include "simulator/CommonClass/Simulator.h"
-#include "workbench/Tour.h"
+#include "workbench/MainWindow.h"
 #include "workbench/addresses/AddressPage.h"
+#include "workbench/tour/PageTours.h"
+#include "workbench/tour/Tour.h"
 
 namespace {
 
@@ -46,12 +48,13 @@ void PictureOfHandDialog(CTour& tour, QWidget* pParent, bool bExisting, bool bAd
 
 } // namespace
 
-void CAddressPage::Tour(CTour& tour, QWidget* pWorkbench)
+void PageTours::Addresses(CTour& tour, CMainWindow& window)
 {
+    CAddressPage& page = *window.findChild<CAddressPage*>();
     CSimulator& simulator = CSimulator::Instance();
     simulator.Addresses().SetNetworkFacts(TourNetwork);
     {
-        CSetIPOfflineDlg dialog(0, -1, true, false, this);
+        CSetIPOfflineDlg dialog(0, -1, true, false, &page);
         tour.WithDialog(dialog, [&] {
             dialog.findChild<CCustomIPEdit*>()->setText(QStringLiteral("192.168.1.20"));
             QMetaObject::invokeMethod(&dialog, "ActionSlots", Q_ARG(int, 0));
@@ -60,13 +63,13 @@ void CAddressPage::Tour(CTour& tour, QWidget* pWorkbench)
         tour.Check(simulator.Project().addresses.listStored.size() == 16,
                    QStringLiteral("the first batch did not fill the list up to 16"));
     }
-    SelectRow(2);
+    page.SelectRow(2);
     for (const SMode& mode : c_arrModes) {
-        CSetIPOfflineDlg dialog(2, mode.nCount, mode.bSet, false, this);
+        CSetIPOfflineDlg dialog(2, mode.nCount, mode.bSet, false, &page);
         tour.WithDialog(dialog, [&] { tour.Picture(&dialog, QString::fromLatin1(mode.szName)); });
     }
     {
-        CSetIPOfflineDlg dialog(0, -1, true, false, this);
+        CSetIPOfflineDlg dialog(0, -1, true, false, &page);
         dialog.findChild<CCustomIPEdit*>()->setText(QStringLiteral("192.168.1.10"));
         tour.WithMessage(QStringLiteral("address-question"), 4,
                          [&] { QMetaObject::invokeMethod(&dialog, "ActionSlots", Q_ARG(int, 0)); });
@@ -76,11 +79,11 @@ void CAddressPage::Tour(CTour& tour, QWidget* pWorkbench)
     }
     for (const bool bExisting : {false, true})
         for (const bool bAddresses : {false, true})
-            PictureOfHandDialog(tour, this, bExisting, bAddresses);
-    CDemoProjectConfigDlg dialogDemo(this);
+            PictureOfHandDialog(tour, &page, bExisting, bAddresses);
+    CDemoProjectConfigDlg dialogDemo(&page);
     tour.WithDialog(dialogDemo, [&] { tour.Picture(&dialogDemo, QStringLiteral("demo-project")); });
-    m_pCheck->setText(QStringLiteral("192.168.1.255"));
-    tour.Picture(pWorkbench, QStringLiteral("addresses"));
-    m_pCheck->setText(QString());
+    page.CheckAddress(QStringLiteral("192.168.1.255"));
+    tour.Picture(&window, QStringLiteral("addresses"));
+    page.CheckAddress(QString());
     simulator.Addresses().SetNetworkFacts(MachineNetworkFacts);
 }

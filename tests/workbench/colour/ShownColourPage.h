@@ -1,5 +1,5 @@
-#ifndef TESTS_WORKBENCH_SHOWNCOLOURPAGE_H
-#define TESTS_WORKBENCH_SHOWNCOLOURPAGE_H
+#ifndef TESTS_WORKBENCH_COLOUR_SHOWNCOLOURPAGE_H
+#define TESTS_WORKBENCH_COLOUR_SHOWNCOLOURPAGE_H
 
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "workbench/colour/ChartControls.h"
@@ -64,4 +64,4 @@ struct SShownColourPage
     }
 };
 
-#endif // TESTS_WORKBENCH_SHOWNCOLOURPAGE_H
+#endif // TESTS_WORKBENCH_COLOUR_SHOWNCOLOURPAGE_H

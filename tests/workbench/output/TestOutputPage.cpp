@@ -4,6 +4,7 @@
 #include "simulator/CommonClass/Simulator.h"
 #include "tests/workbench/DialogOperator.h"
 #include "workbench/output/CanvasPreview.h"
+#include "workbench/output/CorrectionPanel.h"
 #include "workbench/output/OutputPage.h"
 #include "workbench/output/SenderOutput.h"
 
@@ -324,7 +325,7 @@ void TestOutputPage::ACoefficientStartsAtThePresetAndIsShown()
         pField->setValue(0.123);
         Press(pDialog, "确定");
     });
-    row == 0 ? page.ResetCorrection() : page.ResetSeamRepair();
+    page.Corrections().Reset(row == 0);
     QTEST(strTitle, "title");
     QCOMPARE(dShown, 0.5);
     QVERIFY(page.Shows(QStringLiteral("0.123")));
@@ -339,7 +340,7 @@ void TestOutputPage::ACancelledCoefficientIsNotTaken()
         pDialog->findChild<QDoubleSpinBox*>()->setValue(0.123);
         Press(pDialog, "取消");
     });
-    page.ResetCorrection();
+    page.Corrections().Reset(true);
     QVERIFY(!page.Shows(QStringLiteral("0.123")));
     QCOMPARE(spy.count(), 0);
 }
@@ -351,7 +352,7 @@ void TestOutputPage::AnotherSenderForgetsTheCoefficients()
         pDialog->findChild<QDoubleSpinBox*>()->setValue(0.123);
         Press(pDialog, "确定");
     });
-    page.ResetCorrection();
+    page.Corrections().Reset(true);
     page.ShowSelection({0, 16});
     QVERIFY2(page.Shows(QStringLiteral("0.123")), "an input of the same sender keeps them");
     page.ShowSelection({1, -1});

@@ -4,6 +4,9 @@
 #include "workbench/simulation/SimulationPage.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QSpinBox>
 #include <QtTest>
 
 namespace {
@@ -26,6 +29,21 @@ QVariant AnotherValue(const SSenderProperty& property, const QVariant& present)
     return present.toInt() == property.nMax ? property.nMin : property.nMax;
 }
 
+/// The editor with that accessible name.
+template <class TEditor>
+TEditor* Editor(const QWidget& page, const char* szName)
+{
+    for (TEditor* pEditor : page.findChildren<TEditor*>())
+        if (pEditor->accessibleName() == QString::fromUtf8(szName))
+            return pEditor;
+    return nullptr;
+}
+
+QCheckBox* ProcessorBox(const QWidget& page)
+{
+    return Editor<QCheckBox>(page, "视频处理器");
+}
+
 } // namespace
 
 class TestSimulationPage : public QObject
@@ -40,6 +58,9 @@ private Q_SLOTS:
     void EditorsFollowTheProject();
     void WithoutASenderNothingCanBeEdited();
     void BeforeAnythingIsSelectedNothingIsChanged();
+    void WhatANumberStandsForIsSaidInWords();
+    void FaultsStandFirst();
+    void AllGroupsShareOneColumnGrid();
 };
 
 void TestSimulationPage::init()
@@ -75,7 +96,7 @@ void TestSimulationPage::AnEditorChangesTheSelectedSender()
     CSimulationPage page;
     page.ShowSelection({3, -1});
     const bool bBefore = CSimulator::Instance().Project().listSenders[3].capability.bVideoProcessor;
-    QTest::keyClick(page.findChild<QCheckBox*>(), Qt::Key_Space);
+    QTest::keyClick(ProcessorBox(page), Qt::Key_Space);
     QCOMPARE(CSimulator::Instance().Project().listSenders[3].capability.bVideoProcessor, !bBefore);
 }
 
@@ -87,7 +108,7 @@ void TestSimulationPage::EditorsFollowTheProject()
         project.listSenders[3].capability.bVideoProcessor =
             !project.listSenders[3].capability.bVideoProcessor;
     });
-    QCOMPARE(page.findChild<QCheckBox*>()->isChecked(),
+    QCOMPARE(ProcessorBox(page)->isChecked(),
              CSimulator::Instance().Project().listSenders[3].capability.bVideoProcessor);
 }
 
@@ -95,17 +116,43 @@ void TestSimulationPage::WithoutASenderNothingCanBeEdited()
 {
     CSimulationPage page;
     page.ShowSelection({-1, -1});
-    QVERIFY(!page.findChild<QCheckBox*>()->isEnabled());
+    QVERIFY(!ProcessorBox(page)->isEnabled());
 }
 
 void TestSimulationPage::BeforeAnythingIsSelectedNothingIsChanged()
 {
     CSimulationPage page;
-    auto* pCheckBox = page.findChild<QCheckBox*>();
+    auto* pCheckBox = ProcessorBox(page);
     QVERIFY(!pCheckBox->isEnabled());
     const QJsonObject before = ProjectToJson(CSimulator::Instance().Project());
     pCheckBox->toggle();
     QCOMPARE(ProjectToJson(CSimulator::Instance().Project()), before);
+}
+
+void TestSimulationPage::WhatANumberStandsForIsSaidInWords()
+{
+    CSimulationPage page;
+    page.ShowSelection({3, -1});
+    QCOMPARE(Editor<QDoubleSpinBox>(page, "实际输入帧率 (Hz)")->text(), QStringLiteral("未知"));
+    QCOMPARE(Editor<QSpinBox>(page, "已有主控数量")->text(), QStringLiteral("发送器的数量"));
+    QCOMPARE(Editor<QComboBox>(page, "探测方式")->currentData().toInt(), 2);
+}
+
+void TestSimulationPage::FaultsStandFirst()
+{
+    QCOMPARE(QString::fromUtf8(SenderProperties::All().front().szGroup), QStringLiteral("故障"));
+}
+
+void TestSimulationPage::AllGroupsShareOneColumnGrid()
+{
+    CSimulationPage page;
+    page.resize(900, 2000);
+    page.ShowSelection({3, -1});
+    page.show();
+    QSet<int> setLeft;
+    for (const QCheckBox* pEditor : page.findChildren<QCheckBox*>())
+        setLeft.insert(pEditor->mapTo(&page, QPoint()).x());
+    QCOMPARE(setLeft.size(), 1);
 }
 
 QTEST_MAIN(TestSimulationPage)

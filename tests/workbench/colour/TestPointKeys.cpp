@@ -1,6 +1,6 @@
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
-#include "tests/workbench/ShownColourPage.h"
+#include "tests/workbench/colour/ShownColourPage.h"
 #include "workbench/colour/PointKeys.h"
 
 #include <QAccessible>

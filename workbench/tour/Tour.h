@@ -1,5 +1,5 @@
-#ifndef WORKBENCH_TOUR_H
-#define WORKBENCH_TOUR_H
+#ifndef WORKBENCH_TOUR_TOUR_H
+#define WORKBENCH_TOUR_TOUR_H
 
 #include <QObject>
 #include <QStringList>
@@ -52,4 +52,4 @@ private:
     QStringList m_listPictures;
 };
 
-#endif // WORKBENCH_TOUR_H
+#endif // WORKBENCH_TOUR_TOUR_H

@@ -6,10 +6,14 @@
 #include "host/OrviControl/CustomSpinBox.h"
 #include "simulator/CommonClass/Simulator.h"
 #include "simulator/HardwareSupport/OutputLimits.h"
-#include "workbench/Tour.h"
+#include "workbench/MainWindow.h"
+#include "workbench/SenderTree.h"
 #include "workbench/output/CanvasPreview.h"
+#include "workbench/output/CorrectionPanel.h"
 #include "workbench/output/OutputPage.h"
 #include "workbench/output/SenderOutput.h"
+#include "workbench/tour/PageTours.h"
+#include "workbench/tour/Tour.h"
 
 #include <QAction>
 #include <QDir>
@@ -167,14 +171,18 @@ void AnswerFileDialog(QDialog& dialog, const QString& strFile)
     });
 }
 
-} // namespace
+const SSimulatedSender* CurrentSender()
+{
+    const SSimulatedProject& project = CSimulator::Instance().Project();
+    return project.FindSender(project.nCurSender);
+}
 
-void COutputPage::TourOfCanvas(CTour& tour)
+void TourOfCanvas(CTour& tour, COutputPage& page)
 {
     ChangeSender([](SSimulatedSender& sender) {
         sender.capability.canvasLimit = {c_nTourMaxWidth, c_nTourMaxHeight, c_nTourMaxArea};
     });
-    CSetCanvasDlg dialog(this);
+    CSetCanvasDlg dialog(&page);
     tour.WithDialog(dialog, [&] {
         for (const SCanvasState& state : c_arrCanvasStates) {
             EnterCanvas(dialog, state.size);
@@ -187,19 +195,19 @@ void COutputPage::TourOfCanvas(CTour& tour)
         EnterCanvas(dialog, {2560, 1440});
         Invoke(dialog, "ButtonClicked", c_nCanvasOk);
     });
-    TakeCanvas(dialog.GetCanvasSize());
-    tour.Check(m_pPreview->Content().sizeCanvas == QSize(2560, 1440),
+    page.TakeCanvas(dialog.GetCanvasSize());
+    tour.Check(page.Preview().Content().sizeCanvas == QSize(2560, 1440),
                QStringLiteral("the page does not show the canvas that was chosen"));
 }
 
-void COutputPage::TourOfRateAndDepth(CTour& tour)
+void TourOfRateAndDepth(CTour& tour, COutputPage& page)
 {
     for (const SRateState& state : c_arrRateStates) {
         ChangeSender([&](SSimulatedSender& sender) {
             sender.capability.nType = state.nSenderType;
             sender.outputLimitFlags = state.nFlags;
         });
-        CSetDepthRateDlg dialog(this);
+        CSetDepthRateDlg dialog(&page);
         tour.WithDialog(dialog, [&] {
             tour.Check(ChooseEntry(dialog, QStringLiteral("120Hz")), QStringLiteral("there is no 120 Hz"));
             tour.Picture(&dialog, QString::fromLatin1(state.szName));
@@ -210,7 +218,7 @@ void COutputPage::TourOfRateAndDepth(CTour& tour)
         sender.outputLimitFlags = 0;
         sender.fMaxInputFrameRate = c_fTourInputRate;
     });
-    CSetDepthRateDlg dialog(this);
+    CSetDepthRateDlg dialog(&page);
     tour.WithDialog(dialog, [&] {
         tour.Picture(&dialog, QStringLiteral("rate-plain"));
         ChooseEntry(dialog, QStringLiteral("10bit"));
@@ -218,15 +226,16 @@ void COutputPage::TourOfRateAndDepth(CTour& tour)
                          [&] { Invoke(dialog, "ButtonClicked", c_nRateOk); });
     });
     CSimulator::Instance().Document().NoticeChanges();
-    tour.Check(Sender()->record.nColorDepth == 10 && SenderOutput::HardwareDepth(*Sender()) == 10,
+    tour.Check(CurrentSender()->record.nColorDepth == 10 &&
+                   SenderOutput::HardwareDepth(*CurrentSender()) == 10,
                QStringLiteral("the depth that was chosen did not reach the hardware"));
 }
 
-void COutputPage::TourOfBackground(CTour& tour, QWidget* pWorkbench)
+void TourOfBackground(CTour& tour, COutputPage& page, QWidget* pWorkbench)
 {
     const QString strFile = QDir(tour.Folder()).filePath(QStringLiteral("background.png"));
     tour.Check(DrawPicture(strFile), QStringLiteral("the picture %1 cannot be saved").arg(strFile));
-    CBackgroundImageDlg dialog(this);
+    CBackgroundImageDlg dialog(&page);
     tour.WithDialog(dialog, [&] {
         tour.Picture(&dialog, QStringLiteral("background-off"));
         Invoke(dialog, "ActionSlots", c_nPictureSwitch);
@@ -239,56 +248,55 @@ void COutputPage::TourOfBackground(CTour& tour, QWidget* pWorkbench)
                        QStringLiteral("the fit of %1 is not in the menu").arg(strName));
             dialog.findChild<QDoubleSpinBox*>()->setValue(state.nTransparency);
             tour.Picture(&dialog, QStringLiteral("background-%1").arg(strName));
-            tour.Check(!m_pPreview->Content().imgPicture.isNull(),
+            tour.Check(!page.Preview().Content().imgPicture.isNull(),
                        QStringLiteral("the page does not show the picture of %1").arg(strName));
             tour.Picture(pWorkbench, QStringLiteral("output-%1").arg(strName));
         }
     });
 }
 
-void COutputPage::TourOfVanishedPicture(CTour& tour, QWidget* pWorkbench)
+void TourOfVanishedPicture(CTour& tour, COutputPage& page, QWidget* pWorkbench)
 {
-    CSimulator& simulator = CSimulator::Instance();
-    const QString strStored = QDir(simulator.Document().PictureFolder())
-                                  .filePath(simulator.Document().PictureName(m_selection.nSender));
-    tour.Check(QFile::remove(strStored), QStringLiteral("the stored picture cannot be removed"));
-    Refresh();
-    tour.Check(m_pPreview->Content().bWarning, QStringLiteral("a vanished picture is not told"));
-    CBackgroundImageDlg dialog(this);
+    tour.Check(QFile::remove(page.PictureFile()), QStringLiteral("the stored picture cannot be removed"));
+    page.Refresh();
+    tour.Check(page.Preview().Content().bWarning, QStringLiteral("a vanished picture is not told"));
+    CBackgroundImageDlg dialog(&page);
     tour.WithDialog(dialog, [&] { tour.Picture(&dialog, QStringLiteral("background-vanished")); });
     tour.Picture(pWorkbench, QStringLiteral("output-vanished"));
 }
 
-void COutputPage::TourOfCorrection(CTour& tour)
+void TourOfCorrection(CTour& tour, COutputPage& page)
 {
-    for (SCorrection& correction : m_vecCorrections) {
-        const QString strName =
-            correction.bCorrection ? QStringLiteral("correction") : QStringLiteral("seam-repair");
-        CResetCoefDlg dialog(correction.bCorrection, this);
+    for (const bool bCorrection : {true, false}) {
+        const QString strName = bCorrection ? QStringLiteral("correction") : QStringLiteral("seam-repair");
+        CResetCoefDlg dialog(bCorrection, &page);
         tour.WithDialog(dialog, [&] {
             tour.Picture(&dialog, QStringLiteral("reset-%1-unset").arg(strName));
-            dialog.SetValue(float(correction.pPreset->value()));
+            dialog.SetValue(page.Corrections().Preset(bCorrection));
             tour.Picture(&dialog, QStringLiteral("reset-%1").arg(strName));
             dialog.findChild<QDoubleSpinBox*>()->setValue(0.875);
             Invoke(dialog, "ActionSlots", c_nCoefficientOk);
         });
-        TakeCoefficient(correction, dialog.GetValue());
+        page.Corrections().Take(bCorrection, dialog.GetValue());
     }
 }
 
-void COutputPage::Tour(CTour& tour, QWidget* pWorkbench)
+} // namespace
+
+void PageTours::Output(CTour& tour, CMainWindow& window)
 {
-    Q_EMIT SelectionWanted({0, -1});
-    if (Sender() == nullptr) {
+    COutputPage& page = *window.findChild<COutputPage*>();
+    window.Tree().Select({0, -1});
+    if (CurrentSender() == nullptr) {
         tour.Check(false, QStringLiteral("the project has no sender"));
         return;
     }
-    const SSimulatedSender senderBefore = *Sender();
-    tour.Picture(pWorkbench, QStringLiteral("output"));
-    TourOfCanvas(tour);
-    TourOfRateAndDepth(tour);
-    TourOfCorrection(tour);
-    TourOfBackground(tour, pWorkbench);
-    TourOfVanishedPicture(tour, pWorkbench);
+    const SSimulatedSender senderBefore = *CurrentSender();
+    tour.Picture(&window, QStringLiteral("output"));
+    TourOfCanvas(tour, page);
+    TourOfRateAndDepth(tour, page);
+    TourOfCorrection(tour, page);
+    TourOfBackground(tour, page, &window);
+    TourOfVanishedPicture(tour, page, &window);
     ChangeSender([&](SSimulatedSender& sender) { sender = senderBefore; });
 }

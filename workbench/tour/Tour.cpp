@@ -1,4 +1,4 @@
-#include "workbench/Tour.h"
+#include "workbench/tour/Tour.h"
 
 #include "host/OrviControl/CustomMessageBox.h"
 

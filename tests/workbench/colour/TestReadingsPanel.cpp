@@ -1,4 +1,4 @@
-#include "tests/workbench/ShownColourPage.h"
+#include "tests/workbench/colour/ShownColourPage.h"
 #include "workbench/colour/GroupPanel.h"
 #include "workbench/colour/ReadingsModels.h"
 #include "workbench/colour/ReadingsPanel.h"

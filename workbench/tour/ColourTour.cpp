@@ -1,6 +1,6 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
-#include "workbench/Tour.h"
+#include "workbench/MainWindow.h"
 #include "workbench/colour/ChartControls.h"
 #include "workbench/colour/ChartExport.h"
 #include "workbench/colour/ChartView.h"
@@ -9,6 +9,8 @@
 #include "workbench/colour/GroupPanel.h"
 #include "workbench/colour/PointKeys.h"
 #include "workbench/colour/RegionOverlay.h"
+#include "workbench/tour/PageTours.h"
+#include "workbench/tour/Tour.h"
 
 #include <QApplication>
 #include <QDir>
@@ -79,20 +81,18 @@ void DrawRegion(CChartView& view, const QPolygonF& polygon)
     }
 }
 
-} // namespace
-
-void CColourPage::TourOfModes(CTour& tour)
+void TourOfModes(CTour& tour, CColourPage& page)
 {
-    CChartView& view = *m_pView;
+    CChartView& view = page.View();
     view.WaitForBitmap();
     tour.Picture(&view, QStringLiteral("chart-coverage"));
-    m_pGroups->SelectKey(enOutputColorSpace);
-    m_pGroups->RemoveSelected();
-    m_pGroups->AddStandard(enStandardSRGB);
-    m_pGroups->AddStandard(enStandardAdobeRGB);
-    m_pGroups->AddStandard(enStandardDCIP3);
+    page.Groups().SelectKey(enOutputColorSpace);
+    page.Groups().RemoveSelected();
+    page.Groups().AddStandard(enStandardSRGB);
+    page.Groups().AddStandard(enStandardAdobeRGB);
+    page.Groups().AddStandard(enStandardDCIP3);
     tour.Picture(&view, QStringLiteral("chart-rgb"));
-    CGroupModel& model = m_pGroups->Model();
+    CGroupModel& model = page.Groups().Model();
     for (int i = 0; i < model.columnCount(); ++i)
         model.setData(model.index(CGroupModel::enMode, i), QStringLiteral("CMY"), Qt::EditRole);
     tour.Picture(&view, QStringLiteral("chart-cmy"));
@@ -102,32 +102,32 @@ void CColourPage::TourOfModes(CTour& tour)
                QStringLiteral("undoing everything did not bring the coverage back"));
 }
 
-void CColourPage::TourOfLook(CTour& tour)
+void TourOfLook(CTour& tour, CColourPage& page)
 {
-    CChartView& view = *m_pView;
-    m_pControls->SetStandardShown(true);
+    CChartView& view = page.View();
+    page.Controls().SetStandardShown(true);
     tour.Picture(&view, QStringLiteral("chart-standard"));
-    m_pControls->SetStandardShown(false);
+    page.Controls().SetStandardShown(false);
     const int nAlpha = view.Chart().m_nGridAlpha;
-    m_pControls->SetGridAlpha(0);
+    page.Controls().SetGridAlpha(0);
     tour.Picture(&view, QStringLiteral("chart-no-grid"));
-    m_pControls->SetGridAlpha(nAlpha);
+    page.Controls().SetGridAlpha(nAlpha);
     const QColor clrBefore = view.Chart().m_clrBackground;
-    m_pControls->SetBackground(QColor(16, 24, 40));
+    page.Controls().SetBackground(QColor(16, 24, 40));
     tour.Picture(&view, QStringLiteral("chart-background"));
-    m_pControls->SetBackground(clrBefore);
-    m_pControls->SetTemperatureShown(true);
+    page.Controls().SetBackground(clrBefore);
+    page.Controls().SetTemperatureShown(true);
     Hover(view.Chart(), view.PixelOf({0.25F, 0.45F}));
     tour.Picture(&view, QStringLiteral("chart-tips"));
     Hover(view.Chart(), view.PixelOf(ColourGroups::ScreenSpace().ptWhite));
-    tour.Picture(this, QStringLiteral("chart-tips-white"));
-    m_pControls->SetTemperatureShown(false);
+    tour.Picture(&page, QStringLiteral("chart-tips-white"));
+    page.Controls().SetTemperatureShown(false);
 }
 
-void CColourPage::TourOfRegion(CTour& tour)
+void TourOfRegion(CTour& tour, CColourPage& page)
 {
-    CChartView& view = *m_pView;
-    m_pControls->DrawRegion();
+    CChartView& view = page.View();
+    page.Controls().DrawRegion();
     const QPolygonF polygon({{0.20, 0.20}, {0.50, 0.28}, {0.46, 0.46}, {0.30, 0.62}, {0.20, 0.45}});
     DrawRegion(view, polygon);
     tour.Picture(&view, QStringLiteral("chart-region-drawing"));
@@ -138,13 +138,13 @@ void CColourPage::TourOfRegion(CTour& tour)
     tour.Picture(&view, QStringLiteral("chart-region"));
     const SChromaGroupInfo* pGroup = view.Chart().GetChromaGroupByIndex(enScreenColorSpace);
     tour.Check(view.Region().Allows(pGroup->ptGreen), QStringLiteral("a drag left the region"));
-    m_pControls->ClearRegion();
+    page.Controls().ClearRegion();
     view.Editor().Undo();
 }
 
-void CColourPage::TourOfDrag(CTour& tour)
+void TourOfDrag(CTour& tour, CColourPage& page)
 {
-    CChartView& view = *m_pView;
+    CChartView& view = page.View();
     const SChromaGroupInfo screen = ColourGroups::ScreenSpace();
     {
         CDrag drag(view, screen.ptGreen, {0.12F, 0.88F});
@@ -161,52 +161,57 @@ void CColourPage::TourOfDrag(CTour& tour)
                QStringLiteral("undo did not take the drag back in one step"));
 }
 
-void CColourPage::TourOfKeys(CTour& tour)
+void TourOfKeys(CTour& tour, CColourPage& page)
 {
-    CPointKeys& keys = m_pView->Keys();
-    const SChromaGroupInfo* pGroup = m_pView->Chart().GetChromaGroupByIndex(enScreenColorSpace);
+    CPointKeys& keys = page.View().Keys();
+    const SChromaGroupInfo* pGroup = page.View().Chart().GetChromaGroupByIndex(enScreenColorSpace);
     const CPointEx<float> ptBefore = pGroup->ptGreen;
     // The ring is there while the keys go to the chart.
-    QApplication::setActiveWindow(window());
+    QApplication::setActiveWindow(page.window());
     keys.setFocus(Qt::OtherFocusReason);
     keys.Select({enScreenColorSpace, enGreenPoint});
     for (int i = 0; i < 2; ++i) {
         QKeyEvent press(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier);
         QCoreApplication::sendEvent(&keys, &press);
     }
-    tour.Picture(this, QStringLiteral("chart-keys"));
+    tour.Picture(&page, QStringLiteral("chart-keys"));
     tour.Check(pGroup->ptGreen.x > ptBefore.x, QStringLiteral("an arrow did not move the focused point"));
     keys.Select({enScreenColorSpace, enGreenPoint});
-    m_pView->Editor().Undo();
+    page.View().Editor().Undo();
 }
 
-void CColourPage::TourOfReadings(CTour& tour)
+void TourOfReadings(CTour& tour, CColourPage& page)
 {
-    ShowTab(enReadingsTab);
-    m_pView->WaitForBitmap();
-    tour.Picture(this, QStringLiteral("chart-readings"));
-    ShowTab(enGroupsTab);
+    page.ShowTab(CColourPage::enReadingsTab);
+    page.View().WaitForBitmap();
+    tour.Picture(&page, QStringLiteral("chart-readings"));
+    page.ShowTab(CColourPage::enGroupsTab);
 }
 
-void CColourPage::TourOfFiles(CTour& tour)
+void TourOfFiles(CTour& tour, CColourPage& page)
 {
     const QDir folder(tour.Folder());
-    tour.Check(SavePng(folder.filePath(QStringLiteral("chart.png"))), QStringLiteral("no PNG was saved"));
-    tour.Check(SaveSvg(folder.filePath(QStringLiteral("chart.svg"))), QStringLiteral("no SVG was saved"));
-    tour.Check(!SavePng(folder.filePath(QStringLiteral("missing/chart.png"))),
+    tour.Check(page.SavePng(folder.filePath(QStringLiteral("chart.png"))),
+               QStringLiteral("no PNG was saved"));
+    tour.Check(page.SaveSvg(folder.filePath(QStringLiteral("chart.svg"))),
+               QStringLiteral("no SVG was saved"));
+    tour.Check(!page.SavePng(folder.filePath(QStringLiteral("missing/chart.png"))),
                QStringLiteral("a PNG was saved in a folder that is not there"));
 }
 
-void CColourPage::Tour(CTour& tour, QWidget* pWorkbench)
+} // namespace
+
+void PageTours::Colour(CTour& tour, CMainWindow& window)
 {
+    CColourPage& page = *window.findChild<CColourPage*>();
     QCoreApplication::processEvents();
-    m_pView->WaitForBitmap();
-    tour.Picture(pWorkbench, QStringLiteral("colour"));
-    TourOfModes(tour);
-    TourOfLook(tour);
-    TourOfRegion(tour);
-    TourOfDrag(tour);
-    TourOfKeys(tour);
-    TourOfReadings(tour);
-    TourOfFiles(tour);
+    page.View().WaitForBitmap();
+    tour.Picture(&window, QStringLiteral("colour"));
+    TourOfModes(tour, page);
+    TourOfLook(tour, page);
+    TourOfRegion(tour, page);
+    TourOfDrag(tour, page);
+    TourOfKeys(tour, page);
+    TourOfReadings(tour, page);
+    TourOfFiles(tour, page);
 }

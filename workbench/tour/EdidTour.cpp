@@ -1,8 +1,11 @@
 #include "SenderModuleDialog/edid/EdidSetDlg.h"
 #include "simulator/CommonClass/Simulator.h"
-#include "workbench/Tour.h"
+#include "workbench/MainWindow.h"
+#include "workbench/SenderTree.h"
 #include "workbench/edid/EdidPage.h"
 #include "workbench/edid/HexView.h"
+#include "workbench/tour/PageTours.h"
+#include "workbench/tour/Tour.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -34,24 +37,9 @@ void PictureOfProgress(CTour& tour, QDialog& dialog)
         tour.Picture(pProgress, QStringLiteral("edid-progress"));
 }
 
-} // namespace
-
-void CEdidPage::TourOfDialog(CTour& tour)
+void AcceptMode(CTour& tour, CEdidPage& page, int nResolution)
 {
-    // The first write fills an empty memory; the second shows what a change of mode changes.
-    AcceptMode(tour, 0);
-    CEdidSetDlg dialog(this, m_selection.nInterfaceId, false);
-    tour.WithDialog(dialog, [&] {
-        tour.Picture(&dialog, QStringLiteral("edid-dialog"));
-        QMetaObject::invokeMethod(&dialog, "OnResolutionComboBoxSelect", Q_ARG(int, 0));
-        tour.Picture(&dialog, QStringLiteral("edid-dialog-custom"));
-    });
-    AcceptMode(tour, c_nChosenResolution);
-}
-
-void CEdidPage::AcceptMode(CTour& tour, int nResolution)
-{
-    CEdidSetDlg dialog(this, m_selection.nInterfaceId, false);
+    CEdidSetDlg dialog(&page, page.Input()->nInterfaceId, false);
     tour.WithDialog(dialog, [&] {
         QMetaObject::invokeMethod(&dialog, "OnResolutionComboBoxSelect", Q_ARG(int, nResolution));
         QTimer::singleShot(c_nProgressTime, &dialog, [&] { PictureOfProgress(tour, dialog); });
@@ -60,7 +48,20 @@ void CEdidPage::AcceptMode(CTour& tour, int nResolution)
     tour.Check(dialog.result() == QDialog::Accepted, QStringLiteral("the EDID dialog did not accept"));
 }
 
-void CEdidPage::TourOfSenders(CTour& tour)
+void TourOfDialog(CTour& tour, CEdidPage& page)
+{
+    // The first write fills an empty memory; the second shows what a change of mode changes.
+    AcceptMode(tour, page, 0);
+    CEdidSetDlg dialog(&page, page.Input()->nInterfaceId, false);
+    tour.WithDialog(dialog, [&] {
+        tour.Picture(&dialog, QStringLiteral("edid-dialog"));
+        QMetaObject::invokeMethod(&dialog, "OnResolutionComboBoxSelect", Q_ARG(int, 0));
+        tour.Picture(&dialog, QStringLiteral("edid-dialog-custom"));
+    });
+    AcceptMode(tour, page, c_nChosenResolution);
+}
+
+void TourOfSenders(CTour& tour, CEdidPage& page)
 {
     CSimulator& simulator = CSimulator::Instance();
     simulator.Document().NewCatalogueProject();
@@ -70,7 +71,7 @@ void CEdidPage::TourOfSenders(CTour& tour)
         if (pSender->listInputs.empty())
             continue;
         simulator.Document().SetCurrentSender(nSender);
-        CEdidSetDlg dialog(this, pSender->listInputs.front().nInterfaceId, false);
+        CEdidSetDlg dialog(&page, pSender->listInputs.front().nInterfaceId, false);
         tour.WithDialog(dialog, [&] {
             tour.Picture(&dialog, QStringLiteral("edid-type%1").arg(pSender->capability.nType));
         });
@@ -78,13 +79,13 @@ void CEdidPage::TourOfSenders(CTour& tour)
     simulator.Document().NewProject();
 }
 
-void CEdidPage::TourOfFailure(CTour& tour)
+void TourOfFailure(CTour& tour, CEdidPage& page)
 {
     CSimulator& simulator = CSimulator::Instance();
-    const int nSender = m_selection.nSender;
+    const int nSender = simulator.Project().nCurSender;
     simulator.Document().Change(
         [nSender](SSimulatedProject& project) { project.FindSender(nSender)->faults.nEdidWriteResult = 1; });
-    CEdidSetDlg dialog(this, m_selection.nInterfaceId, false);
+    CEdidSetDlg dialog(&page, page.Input()->nInterfaceId, false);
     tour.WithMessage(QStringLiteral("edid-write-failed"), 1,
                      [&] { tour.WithDialog(dialog, [&] { Invoke(dialog, "OnOKPushButtonClicked"); }); });
     tour.Check(!dialog.IsSetSuccessed(), QStringLiteral("a write that failed was reported as good"));
@@ -92,20 +93,24 @@ void CEdidPage::TourOfFailure(CTour& tour)
         [nSender](SSimulatedProject& project) { project.FindSender(nSender)->faults.nEdidWriteResult = 0; });
 }
 
-void CEdidPage::Tour(CTour& tour, QWidget* pWorkbench)
+} // namespace
+
+void PageTours::Edid(CTour& tour, CMainWindow& window)
 {
-    TourOfSenders(tour);
-    Q_EMIT SelectionWanted(FirstInput());
-    tour.Check(Input() != nullptr, QStringLiteral("the project has no input"));
-    if (Input() == nullptr)
+    CEdidPage& page = *window.findChild<CEdidPage*>();
+    TourOfSenders(tour, page);
+    window.Tree().Select(FirstInput());
+    tour.Check(page.Input() != nullptr, QStringLiteral("the project has no input"));
+    if (page.Input() == nullptr)
         return;
-    tour.Picture(pWorkbench, QStringLiteral("edid-before"));
-    TourOfDialog(tour);
-    tour.Check(Input()->baEdid.size() == c_nEdidBlockSize,
+    tour.Picture(&window, QStringLiteral("edid-before"));
+    TourOfDialog(tour, page);
+    tour.Check(page.Input()->baEdid.size() == c_nEdidBlockSize,
                QStringLiteral("the EDID memory holds no block after the dialog"));
-    tour.Check(m_pBytes->Bytes() == Input()->baEdid, QStringLiteral("the page shows another block"));
-    tour.Picture(pWorkbench, QStringLiteral("edid-after"));
+    tour.Check(page.findChild<CHexView*>()->Bytes() == page.Input()->baEdid,
+               QStringLiteral("the page shows another block"));
+    tour.Picture(&window, QStringLiteral("edid-after"));
     const QString strFile = QDir(tour.Folder()).filePath(QStringLiteral("edid.bin"));
-    tour.Check(SaveBlock(strFile), QStringLiteral("the block cannot be saved as %1").arg(strFile));
-    TourOfFailure(tour);
+    tour.Check(page.SaveBlock(strFile), QStringLiteral("the block cannot be saved as %1").arg(strFile));
+    TourOfFailure(tour, page);
 }

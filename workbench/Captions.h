@@ -1,0 +1,33 @@
+#ifndef WORKBENCH_CAPTIONS_H
+#define WORKBENCH_CAPTIONS_H
+
+#include <QWidget>
+
+#include <vector>
+
+/// The texts of a widget's controls, put anew into each language.
+class CCaptions
+{
+public:
+    /// @param szContext translation context of the texts: the class that owns the controls
+    explicit CCaptions(const char* szContext);
+
+    /// Notes that a property of a control holds a text.
+    /// @param szText source text
+    void Add(QWidget* pWidget, const char* szProperty, const char* szText);
+    /// Puts all texts into the current language.
+    void Retranslate() const;
+
+private:
+    struct SCaption
+    {
+        QWidget* pWidget;
+        const char* szProperty;
+        const char* szText;
+    };
+
+    const char* m_szContext;
+    std::vector<SCaption> m_vecCaptions;
+};
+
+#endif // WORKBENCH_CAPTIONS_H
