@@ -5,6 +5,7 @@
 #include "tools/Output.h"
 #include "tools/Report.h"
 #include "tools/StoredMode.h"
+#include "tools/TimingComparison.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -167,11 +168,26 @@ QByteArray Json(const CStoredMode& stored, const SKind& kind)
     return QJsonDocument(object).toJson();
 }
 
+/// The timings of others, with their differences to ours.
+void RunOthers(const CArguments& arguments, const CStoredMode& stored, const SKind& kind)
+{
+    const bool bJson = arguments.Has("json");
+    if (arguments.Has("compare"))
+        return Output::ToStandardOutput(bJson ? TimingComparison::AllJson(stored, kind.bInterlaced)
+                                              : TimingComparison::AllText(stored, kind.bInterlaced));
+    const Edid::enTimingStandard standard = TimingComparison::ParseStandard(arguments.Value("standard"));
+    const Edid::SModeTiming timing = TimingComparison::TimingBy(standard, stored.Mode(), kind.bInterlaced);
+    Output::ToStandardOutput(bJson ? TimingComparison::Json(standard, timing, stored)
+                                   : TimingComparison::Text(standard, timing, stored));
+}
+
 void Run(const CArguments& arguments)
 {
     const SVideoMode mode = ParseVideoMode(arguments.Positional().constFirst());
     const SKind kind = {arguments.Has("normal"), arguments.Has("interlaced"), arguments.Has("margins")};
     const CStoredMode stored = Calculate(mode, kind);
+    if (arguments.Has("standard") || arguments.Has("compare"))
+        return RunOthers(arguments, stored, kind);
     Output::ToStandardOutput(arguments.Has("json") ? Json(stored, kind) : Text(stored, kind));
     for (const QString& strCut : stored.ClockCuts())
         Report::Warning(strCut);
@@ -189,11 +205,20 @@ SSubcommand TimingSubcommand()
         "calculate the blanking of a mode and the rate that it really has",
         "RATE may have a fraction, for example 59.94. The stored clock is what a detailed timing of the\n"
         "block holds, whole units of 10 kHz; line rate and actual frame rate follow from it. Totals are\n"
-        "active plus blank, as the block counts them: margins and half lines are no part of them.\n",
+        "active plus blank, as the block counts them: margins and half lines are no part of them.\n"
+        "\n"
+        "--standard calculates the mode as others do, and tells the difference to ours: cvt, cvt-rb, "
+        "cvt-rb2\n"
+        "and cvt-rb3 are the versions of VESA CVT, gtf is VESA GTF, dmt and cea are the lists of VESA and "
+        "CTA.\n"
+        "With --interlaced RATE is that of the fields there. --compare shows all of them.\n",
         {
             {"normal", 0, nullptr, "normal blanking instead of reduced"},
             {"interlaced", 0, nullptr, "interlaced video"},
             {"margins", 0, nullptr, "margins around the picture"},
+            {"standard", 0, "STANDARD", "the timing of another standard",
+             "cvt cvt-rb cvt-rb2 cvt-rb3 dmt cea gtf"},
+            {"compare", 0, nullptr, "compare the timings of all standards"},
             {"json", 0, nullptr, "print a JSON object"},
         },
         enApplication::enCore,

@@ -26,6 +26,9 @@ class TestTimingCommand : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void AnotherStandardTellsItsDifference();
+    void AllStandardsAreCompared();
+    void WhatAStandardDoesNotHaveIsAnError();
     void TheTextIsExact();
     void TheJsonHoldsTheBlanking_data();
     void TheJsonHoldsTheBlanking();
@@ -161,6 +164,37 @@ void TestTimingCommand::BadModesAreRejected()
 {
     VERIFY_BAD_INPUT(RunTool({"timing", "1920x1080"}), "'1920x1080' is not a video mode");
     VERIFY_BAD_INPUT(RunTool({"timing", "1920x1080@-1", "--normal"}), "the rate -1 is out of range");
+}
+
+void TestTimingCommand::AnotherStandardTellsItsDifference()
+{
+    const SToolRun run = RunTool({"timing", "1920x1080@60", "--standard", "cea"});
+    QCOMPARE(run.errors, QByteArray());
+    QCOMPARE(run.nStatus, 0);
+    QVERIFY2(run.output.contains("Pixel clock  148.500 MHz\n"), run.output.constData());
+    QVERIFY2(run.output.contains("Difference   +120 pixels, +14 lines, +9.850 MHz\n"),
+             run.output.constData());
+    const QJsonObject object = JsonOf(RunTool({"timing", "1920x1080@60", "--standard", "cvt-rb2", "--json"}));
+    QCOMPARE(object.value(QStringLiteral("clockHz")).toDouble(), 133320000.0);
+    QCOMPARE(object.value(QStringLiteral("linesMore")).toInt(), 0);
+}
+
+void TestTimingCommand::AllStandardsAreCompared()
+{
+    const SToolRun run = RunTool({"timing", "3072x1728@60", "--compare"});
+    QCOMPARE(run.nStatus, 0);
+    QCOMPARE(run.output.count('\n'), 8);
+    for (const char* szLine :
+         {"ours     3232x", "cvt-rb3  3152x", "dmt      has no such mode\n", "gtf      "})
+        QVERIFY2(run.output.contains(szLine), run.output.constData());
+}
+
+void TestTimingCommand::WhatAStandardDoesNotHaveIsAnError()
+{
+    VERIFY_BAD_INPUT(RunTool({"timing", "3072x1728@60", "--standard", "dmt"}),
+                     "the standard dmt has no timing for 3072x1728 at 60 Hz; try --compare");
+    VERIFY_BAD_INPUT(RunTool({"timing", "3072x1728@60", "--standard", "vga"}),
+                     "unknown standard 'vga'; give one of: cvt");
 }
 
 QTEST_GUILESS_MAIN(TestTimingCommand)
