@@ -1,6 +1,7 @@
 #include "tools/EdidCommand.h"
 
 #include "SenderModuleDialog/edid/EDIDRaw.h"
+#include "instruments/edid/Conforming.h"
 #include "tools/Arguments.h"
 #include "tools/EdidFormat.h"
 #include "tools/Output.h"
@@ -23,10 +24,54 @@ CStoredMode StoredInBlock(const SVideoMode& mode)
     return {mode, blank};
 }
 
+/// Width and height in whole centimetres, as `60x34`.
+void ParseSize(const QString& strSize, Edid::SConformRequest& request)
+{
+    const QStringList listNumbers = strSize.split(QLatin1Char('x'), Qt::KeepEmptyParts, Qt::CaseInsensitive);
+    bool bWidth = false;
+    bool bHeight = false;
+    request.nWidthCm = listNumbers.value(0).toInt(&bWidth);
+    request.nHeightCm = listNumbers.value(1).toInt(&bHeight);
+    if (!bWidth || !bHeight || listNumbers.size() != 2)
+        throw CToolError(
+            QStringLiteral("'%1' is no size; write WIDTHxHEIGHT in centimetres, for example 60x34")
+                .arg(strSize));
+}
+
+/// A block that any computer accepts, or two.
+QByteArray ConformingBlocks(const CArguments& arguments, const SVideoMode& mode)
+{
+    Edid::SConformRequest request = {mode.nWidth, mode.nHeight, mode.fRate, QStringLiteral("LED"), {}, 0, 0};
+    request.strMaker = arguments.Value("maker", request.strMaker);
+    request.strName = arguments.Value("name");
+    if (arguments.Has("name") && request.strName.isEmpty())
+        throw CToolError(QStringLiteral("the name is empty; give 1 to 13 characters"));
+    if (arguments.Has("size-cm"))
+        ParseSize(arguments.Value("size-cm"), request);
+    const Edid::SConformResult result = Edid::MakeConforming(request);
+    if (!result.strError.isEmpty())
+        throw CToolError(QStringLiteral("%1: %2").arg(DescribeVideoMode(mode), result.strError));
+    return result.edid;
+}
+
+/// What only a conforming block takes.
+void RejectConformOptions(const CArguments& arguments)
+{
+    for (const char* szOption : {"maker", "name", "size-cm"})
+        if (arguments.Has(szOption))
+            throw CToolError(
+                QStringLiteral("option --%1 needs --conform").arg(QString::fromLatin1(szOption)));
+}
+
 void Run(const CArguments& arguments)
 {
     const SVideoMode mode = ParseVideoMode(arguments.Positional().constFirst());
     const QString strFormat = arguments.Value("format", EdidFormat::Names().constFirst());
+    if (arguments.Has("conform")) {
+        const QByteArray edid = ConformingBlocks(arguments, mode);
+        return Output::To(arguments.Value("output"), EdidFormat::Format(strFormat, edid, mode));
+    }
+    RejectConformOptions(arguments);
     Output::To(arguments.Value("output"), EdidFormat::Format(strFormat, Block(mode), mode));
     for (const QString& strCut : StoredInBlock(mode).BlockCuts())
         Report::Warning(strCut);
@@ -43,9 +88,18 @@ SSubcommand EdidSubcommand()
         1,
         "build the 128-byte EDID block of a mode",
         "RATE may have a fraction, for example 59.94. The mode gets reduced blanking. What the block\n"
-        "cannot hold is cut and said on standard error, one line each.\n",
+        "cannot hold is cut and said on standard error, one line each.\n"
+        "\n"
+        "--conform makes an EDID that any computer accepts instead: letters for the maker, a terminated "
+        "name,\n"
+        "range limits that contain the mode. A mode wider or higher than 4095, or with a clock above\n"
+        "655.35 MHz, gets a second block, DisplayID; the base block then offers 1920x1080 at 60 Hz.\n",
         {
             {"output", 'o', "FILE", "write to FILE instead of standard output, whole or not at all"},
+            {"conform", 0, nullptr, "make an EDID that any computer accepts"},
+            {"maker", 0, "LETTERS", "the maker's three letters, LED without this option; with --conform"},
+            {"name", 0, "NAME", "the display's name, at most 13 characters; with --conform"},
+            {"size-cm", 0, "WIDTHxHEIGHT", "the display's size in centimetres; with --conform"},
             {"format", 0, "FORMAT", "hex (default), bin, c or json", "hex bin c json"},
         },
         enApplication::enCore,

@@ -38,6 +38,9 @@ class TestEdidCommand : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void AConformingEdidHasNoFinding_data();
+    void AConformingEdidHasNoFinding();
+    void WhatCannotConformIsRefused();
     void TheBlockIsPrintedAsEightLinesOfHex();
     void EveryFormatHoldsTheSameBytes_data();
     void EveryFormatHoldsTheSameBytes();
@@ -318,6 +321,39 @@ void TestEdidCommand::WhatTheFormatCutsIsSaid()
         line.remove(0, begin.size());
     }
     QCOMPARE(listLines, expected);
+}
+
+void TestEdidCommand::AConformingEdidHasNoFinding_data()
+{
+    QTest::addColumn<QByteArray>("mode");
+    QTest::addColumn<int>("blocks");
+    QTest::newRow("one block") << QByteArray("3072x1728@60") << 1;
+    QTest::newRow("a wide wall") << QByteArray("7680x1080@60") << 2;
+}
+
+void TestEdidCommand::AConformingEdidHasNoFinding()
+{
+    QFETCH(QByteArray, mode);
+    QFETCH(int, blocks);
+    QTemporaryDir folder;
+    const QByteArray file = folder.filePath(QStringLiteral("edid.bin")).toUtf8();
+    const SToolRun run = RunTool({"edid", mode, "--conform", "--maker", "ABC", "--name", "Lobby", "--size-cm",
+                                  "200x50", "--format", "bin", "-o", file});
+    QCOMPARE(run.errors, QByteArray());
+    QCOMPARE(run.nStatus, 0);
+    QCOMPARE(ContentOf(QString::fromUtf8(file)).size(), 128 * blocks);
+    const SToolRun check = RunTool({"check", file});
+    QCOMPARE(check.output, QByteArray());
+    QCOMPARE(check.nStatus, 0);
+}
+
+void TestEdidCommand::WhatCannotConformIsRefused()
+{
+    VERIFY_BAD_INPUT(RunTool({"edid", "1920x1080@60", "--conform", "--maker", "LED1"}),
+                     "the maker 'LED1' is not three letters");
+    VERIFY_BAD_INPUT(RunTool({"edid", "1920x1080@60", "--conform", "--size-cm", "60"}), "'60' is no size");
+    VERIFY_BAD_INPUT(RunTool({"edid", "64x64@60", "--conform"}), "64x64 at 60 Hz: the pixel clock of ");
+    VERIFY_BAD_INPUT(RunTool({"edid", "1920x1080@60", "--name", "Lobby"}), "option --name needs --conform");
 }
 
 QTEST_GUILESS_MAIN(TestEdidCommand)
