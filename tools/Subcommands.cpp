@@ -2,7 +2,9 @@
 #include "tools/ChartCommand.h"
 #include "tools/CheckCommand.h"
 #include "tools/CompletionCommand.h"
+#include "tools/DiffCommand.h"
 #include "tools/EdidCommand.h"
+#include "tools/EditCommand.h"
 #include "tools/ExplainCommand.h"
 #include "tools/GamutCommand.h"
 #include "tools/LocusCommand.h"
@@ -20,6 +22,8 @@ std::vector<SSubcommand> AllSubcommands()
         TimingSubcommand(),
         ExplainSubcommand(),
         CheckSubcommand(),
+        DiffSubcommand(),
+        EditSubcommand(),
         CctSubcommand(),
         GamutSubcommand(),
         LocusSubcommand(),

@@ -1,6 +1,5 @@
 #include "instruments/edid/Conforming.h"
 
-#include "SenderModuleDialog/edid/EDIDRaw.h"
 #include "SenderModuleDialog/edid/EdidBlock.h"
 #include "instruments/edid/BaseLayout.h"
 #include "instruments/edid/Checksum.h"
@@ -8,6 +7,7 @@
 #include "instruments/edid/DisplayIdLayout.h"
 #include "instruments/edid/FieldValues.h"
 #include "instruments/edid/ListedTimings.h"
+#include "instruments/edid/ReducedMode.h"
 
 #include <algorithm>
 #include <array>
@@ -19,7 +19,6 @@ namespace {
 
 using Block = std::array<quint8, c_nBlockSize>;
 
-constexpr qint64 c_nClockUnit = 10000;
 /// Below this decoders take a detailed timing for something else, Hz.
 constexpr qint64 c_nLowestClock = 10000000;
 constexpr int c_nMmPerCm = 10;
@@ -29,20 +28,6 @@ constexpr int c_nCommonMode = 0x52; // DMT: 1920x1080 at 60 Hz
 
 /// Modes that every computer starts with; a display offers those that are not larger than its own.
 constexpr quint8 c_arrStartModes[] = {0x04, 0x09, 0x10}; // DMT: 640x480, 800x600, 1024x768 at 60 Hz
-
-SModeTiming ReducedTiming(const SConformRequest& request)
-{
-    tagSBlankTiming blank = {};
-    CEDIDRaw().CalCVTtiming(request.nWidth, request.nHeight, request.fRate, 0, 1, 0, &blank);
-    SModeTiming timing;
-    timing.nClock =
-        EdidBlock::PixelClock(request.nWidth, request.nHeight, request.fRate, blank) * c_nClockUnit;
-    timing.horizontal = {request.nWidth, blank.wHFrontPorch, blank.wHSync,
-                         blank.wHBlank - blank.wHFrontPorch - blank.wHSync, true};
-    timing.vertical = {request.nHeight, blank.byVFrontPorch, blank.byVSync,
-                       blank.wVBlank - blank.byVFrontPorch - blank.byVSync, false};
-    return timing;
-}
 
 QString NameOf(const SConformRequest& request)
 {
@@ -263,7 +248,7 @@ SConformResult MakeConforming(const SConformRequest& request)
     result.strError = RequestError(request);
     if (!result.strError.isEmpty())
         return result;
-    const SModeTiming wanted = ReducedTiming(request);
+    const SModeTiming wanted = ReducedMode(request.nWidth, request.nHeight, request.fRate);
     result.strError = TimingError(wanted);
     if (!result.strError.isEmpty())
         return result;

@@ -68,9 +68,9 @@ void TestToolFrame::BadCommandLinesAreOneLineAndStatus2_data()
     QTest::newRow("empty word") << QByteArrayList{""}
                                 << QByteArray("no subcommand; give one of: edid, timing");
     QTest::newRow("unknown subcommand")
-        << QByteArrayList{"edit"} << QByteArray("unknown subcommand 'edit'; give one of: edid");
+        << QByteArrayList{"edot"} << QByteArray("unknown subcommand 'edot'; give one of: edid");
     QTest::newRow("help of an unknown subcommand")
-        << QByteArrayList{"help", "edit"} << QByteArray("unknown subcommand 'edit'; give one of: edid");
+        << QByteArrayList{"help", "edot"} << QByteArray("unknown subcommand 'edot'; give one of: edid");
     QTest::newRow("option before the subcommand")
         << QByteArrayList{"--json", "edid"} << QByteArray("unknown subcommand '--json'");
     QTest::newRow("no argument") << QByteArrayList{"edid"}

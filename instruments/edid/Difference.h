@@ -1,0 +1,42 @@
+#ifndef INSTRUMENTS_EDID_DIFFERENCE_H
+#define INSTRUMENTS_EDID_DIFFERENCE_H
+
+#include "instruments/edid/FieldText.h"
+
+#include <QByteArray>
+#include <QVector>
+
+/// @file
+/// What two EDIDs have different, by field and by byte.
+
+namespace Edid {
+
+/// A field that is different, or that one of them does not have.
+struct SFieldDifference
+{
+    QString strPath;  ///< labels from the block down, with ` / ` between
+    int nFirstOffset; ///< -1 where the field is not there
+    int nSecondOffset;
+    int nSize;        ///< bytes
+    QString strFirst; ///< values; empty where the field is not there
+    QString strSecond;
+};
+
+/// A byte that is different, or that only one of them has.
+struct SByteDifference
+{
+    int nOffset;
+    int nFirst; ///< -1 where there is none
+    int nSecond;
+};
+
+/// Fields in the order of the bytes. Fields that only repeat others, headings and calculated values, are left
+/// out.
+QVector<SFieldDifference> FieldDifferences(const QByteArray& first, const QByteArray& second);
+
+/// Bytes in their order.
+QVector<SByteDifference> ByteDifferences(const QByteArray& first, const QByteArray& second);
+
+} // namespace Edid
+
+#endif // INSTRUMENTS_EDID_DIFFERENCE_H
