@@ -203,5 +203,13 @@
         <source>This is no regular file, so it holds no project.</source>
         <translation>这不是普通文件，因此不含工程。</translation>
     </message>
+    <message>
+        <source>failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>failed %1</source>
+        <translation>失败 %1</translation>
+    </message>
 </context>
 </TS>

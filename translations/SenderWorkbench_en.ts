@@ -224,25 +224,6 @@
     </message>
 </context>
 <context>
-    <name>CCoverageModel</name>
-    <message>
-        <source>覆盖 xy</source>
-        <translation>Covered xy</translation>
-    </message>
-    <message>
-        <source>覆盖 u&apos;v&apos;</source>
-        <translation>Covered u&apos;v&apos;</translation>
-    </message>
-    <message>
-        <source>面积 xy</source>
-        <translation>Area xy</translation>
-    </message>
-    <message>
-        <source>面积 u&apos;v&apos;</source>
-        <translation>Area u&apos;v&apos;</translation>
-    </message>
-</context>
-<context>
     <name>CCorrectionPanel</name>
     <message>
         <source>校正</source>
@@ -283,6 +264,25 @@
     <message>
         <source>修缝系数：%1</source>
         <translation>Seam repair coefficient: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CCoverageModel</name>
+    <message>
+        <source>覆盖 xy</source>
+        <translation>Covered xy</translation>
+    </message>
+    <message>
+        <source>覆盖 u&apos;v&apos;</source>
+        <translation>Covered u&apos;v&apos;</translation>
+    </message>
+    <message>
+        <source>面积 xy</source>
+        <translation>Area xy</translation>
+    </message>
+    <message>
+        <source>面积 u&apos;v&apos;</source>
+        <translation>Area u&apos;v&apos;</translation>
     </message>
 </context>
 <context>
@@ -608,6 +608,10 @@
     <message>
         <source>EDID 存储器原来是空的，已写入 128 个字节。</source>
         <translation>The EDID memory was empty; 128 bytes have been written.</translation>
+    </message>
+    <message>
+        <source>写入失败，%1 的 EDID 没有改变。原因见主机调用记录。</source>
+        <translation>The write failed and the EDID of %1 did not change. The journal of host calls says why.</translation>
     </message>
 </context>
 <context>

@@ -60,6 +60,7 @@ QWidget* CJournalDock::CreateTable()
     m_pTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_pTable->setAlternatingRowColors(true);
     m_pTable->setWordWrap(false);
+    m_pTable->setTabKeyNavigation(false);
     m_pTable->verticalHeader()->hide();
     m_pTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     m_pTable->horizontalHeader()->setSectionResizeMode(CHostJournal::enColumnCall, QHeaderView::Stretch);

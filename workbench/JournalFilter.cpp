@@ -2,6 +2,8 @@
 
 #include "simulator/CommonClass/HostJournal.h"
 
+#include <QColor>
+
 CJournalFilter::CJournalFilter(QObject* pParent)
     : QSortFilterProxyModel(pParent)
 {}
@@ -16,6 +18,16 @@ void CJournalFilter::SetReadsShown(bool bShown)
 {
     m_bReadsShown = bShown;
     invalidateFilter();
+}
+
+QVariant CJournalFilter::data(const QModelIndex& index, int nRole) const
+{
+    // Light enough to be read on both row colours of the dark theme.
+    constexpr QRgb c_clrFailed = qRgb(255, 138, 128);
+    if (nRole == Qt::ForegroundRole &&
+        QSortFilterProxyModel::data(index, CHostJournal::enRoleFailed).toBool())
+        return QColor(c_clrFailed);
+    return QSortFilterProxyModel::data(index, nRole);
 }
 
 bool CJournalFilter::filterAcceptsRow(int nRow, const QModelIndex& parent) const

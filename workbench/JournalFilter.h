@@ -15,6 +15,9 @@ public:
     void SetText(const QString& strText);
     void SetReadsShown(bool bShown);
 
+    /// Rows of writes that did not take have a colour of their own.
+    QVariant data(const QModelIndex& index, int nRole) const override;
+
 protected:
     bool filterAcceptsRow(int nRow, const QModelIndex& parent) const override;
 

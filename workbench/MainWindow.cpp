@@ -2,8 +2,10 @@
 
 #include "simulator/CommonClass/Simulator.h"
 #include "workbench/JournalDock.h"
+#include "workbench/PageTabs.h"
 #include "workbench/ProjectActions.h"
 #include "workbench/SenderTree.h"
+#include "workbench/WheelGuard.h"
 #include "workbench/addresses/AddressPage.h"
 #include "workbench/colour/ColourPage.h"
 #include "workbench/edid/EdidPage.h"
@@ -44,8 +46,7 @@ CMainWindow::CMainWindow(CLanguage& language, QSettings& settings)
     , m_settings(settings)
     , m_pProject(new CProjectActions(this, settings))
     , m_pTree(new CSenderTree(this))
-    , m_pTabs(new QTabWidget(this))
-    , m_pJournal(new CJournalDock(this))
+    , m_pTabs(new CPageTabs(this))
 {
     auto* pSplitter = new QSplitter(this);
     pSplitter->addWidget(m_pTree);
@@ -53,8 +54,11 @@ CMainWindow::CMainWindow(CLanguage& language, QSettings& settings)
     pSplitter->setStretchFactor(1, 1);
     pSplitter->setSizes({c_nTreeWidth, c_sizeFirst.width() - c_nTreeWidth});
     setCentralWidget(pSplitter);
-    addDockWidget(Qt::BottomDockWidgetArea, m_pJournal);
     AddPages();
+    // The keyboard goes from tree to tabs, page and journal: the order in which they are made.
+    m_pJournal = new CJournalDock(this);
+    addDockWidget(Qt::BottomDockWidgetArea, m_pJournal);
+    new CWheelGuard(this);
     BuildMenus();
     resize(c_sizeFirst);
     restoreGeometry(m_settings.value(c_strGeometryKey).toByteArray());
@@ -67,6 +71,9 @@ CMainWindow::CMainWindow(CLanguage& language, QSettings& settings)
     connect(m_pProject, &CProjectActions::Reported, this, funcReport);
     for (CWorkbenchPage* pPage : m_vecPages) {
         connect(pPage, &CWorkbenchPage::Reported, this, funcReport);
+        connect(pPage, &CWorkbenchPage::Failed, this, [this, pPage](const QString& strText) {
+            QMessageBox::warning(this, pPage->Title(), strText);
+        });
         connect(pPage, &CWorkbenchPage::SelectionWanted, m_pTree, &CSenderTree::Select);
     }
     CSimulator& simulator = CSimulator::Instance();

@@ -33,6 +33,8 @@ public:
 Q_SIGNALS:
     /// One line for the status bar: what has just happened.
     void Reported(const QString& strText);
+    /// Something failed: what, why, and what to do. Shown as a message.
+    void Failed(const QString& strText);
     /// Another sender or input is to be selected in the tree.
     void SelectionWanted(const SSelection& selection);
 };

@@ -44,6 +44,8 @@ QString SJournalEntry::LineText() const
             .arg(TimeText(nTimeStamp), CHostJournal::CategoryName(category), strObject, CallText());
     if (!strResult.isEmpty())
         strLine += QStringLiteral(" = ") + strResult;
+    if (bFailed)
+        strLine += QLatin1Char('\t') + CSimulatorText::tr("failed");
     return strLine;
 }
 
@@ -63,6 +65,15 @@ void CHostJournal::Append(SJournalEntry entry)
     m_entries.push_back(std::move(entry));
     endInsertRows();
     Q_EMIT OnAppended(nRow);
+}
+
+void CHostJournal::MarkLastFailed()
+{
+    if (m_entries.empty())
+        return;
+    m_entries.back().bFailed = true;
+    const int nRow = GetCount() - 1;
+    Q_EMIT dataChanged(index(nRow, 0), index(nRow, enColumnCount - 1));
 }
 
 void CHostJournal::DropOldest()
@@ -139,6 +150,8 @@ QVariant CHostJournal::data(const QModelIndex& index, int nRole) const
     case enRoleLine:
     case Qt::ToolTipRole:
         return entry.LineText();
+    case enRoleFailed:
+        return entry.bFailed;
     default:
         return {};
     }
@@ -158,7 +171,8 @@ QVariant CHostJournal::DisplayText(const SJournalEntry& entry, int nColumn) cons
     case enColumnCall:
         return entry.CallText();
     case enColumnResult:
-        return entry.strResult;
+        return entry.bFailed ? CSimulatorText::tr("failed %1").arg(entry.strResult).trimmed()
+                             : entry.strResult;
     case enColumnDuration:
         return QString::number(entry.dDuration, 'f', 3);
     default:

@@ -27,6 +27,7 @@ struct COMMONCLASS_EXPORT SJournalEntry
     QString strOperation;      ///< such as `GetSenderType`
     QStringList listArguments; ///< as text, as they stand after the call: out-arguments show what came back
     QString strResult;         ///< empty for an operation without a result
+    bool bFailed = false;      ///< a write that did not take
 
     /// The call as the tests write it: `SetOutput50Hz(0, true, 0)`.
     QString CallText() const;
@@ -56,7 +57,8 @@ public:
     enum enRole
     {
         enRoleCategory = Qt::UserRole, ///< `enJournalCategory` as int
-        enRoleLine                     ///< `SJournalEntry::LineText`
+        enRoleLine,                    ///< `SJournalEntry::LineText`
+        enRoleFailed                   ///< `SJournalEntry::bFailed`
     };
 
     /// Number of entries that are kept when nothing else is set: hours of clicking.
@@ -67,6 +69,8 @@ public:
 
     /// Adds an entry and gives it its number.
     void Append(SJournalEntry entry);
+    /// Marks the entry that was added last as a write that did not take.
+    void MarkLastFailed();
     /// Forgets all entries; the running number goes on.
     void Clear();
     /// Sets how many entries are kept, at least 1.

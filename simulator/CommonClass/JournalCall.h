@@ -95,6 +95,9 @@ protected:
         }
     }
 
+    /// Marks the call that was just made as a write that did not take.
+    void MarkFailed() { m_journal.MarkLastFailed(); }
+
 private:
     void Note(SJournalEntry entry, const QElapsedTimer& timer, const QStringList& listArguments)
     {

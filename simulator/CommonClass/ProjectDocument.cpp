@@ -57,7 +57,7 @@ void CProjectDocument::NoticeChanges()
 
 void CProjectDocument::UpdateModified(const SProjectFingerprint& present)
 {
-    const bool bModified = !Difference(m_fingerprintSaved, present).IsEmpty();
+    const bool bModified = Difference(m_fingerprintSaved, present).ConcernsFile();
     if (bModified == m_bModified)
         return;
     m_bModified = bModified;

@@ -37,7 +37,8 @@ public:
     /// The dialogs write sender records in place. Finds such changes and announces them; runs by itself when
     /// control is back in the event loop after a record was handed out.
     void NoticeChanges();
-    /// True when the project differs from its file, or was changed since it was started.
+    /// True when the project differs from its file, or was changed since it was started. Which sender is the
+    /// current one does not count.
     bool IsModified();
     /// @}
 

@@ -101,10 +101,23 @@ QByteArray BytesOf(TRecord& record)
     return bytes.Take();
 }
 
-/// Keeps senders and address lists apart from the rest.
+/// Keeps senders, address lists and the current sender apart from the rest.
 class CProjectParts
 {
 public:
+    explicit CProjectParts(const SSimulatedProject& project)
+        : m_nCurSender(project.nCurSender)
+    {}
+
+    template <class... TLimits>
+    void Field(const char* szKey, int& nValue, const TLimits&... limits)
+    {
+        if (&nValue == &m_nCurSender)
+            m_fingerprint.nCurSender = nValue;
+        else
+            m_settings.Field(szKey, nValue, limits...);
+    }
+
     template <class TValue, class... TLimits>
     void Field(const char* szKey, TValue& value, const TLimits&... limits)
     {
@@ -127,6 +140,7 @@ public:
     }
 
 private:
+    const int& m_nCurSender;
     SProjectFingerprint m_fingerprint;
     CValueBytes m_settings;
 };
@@ -142,12 +156,17 @@ bool HaveSameIds(const SProjectFingerprint& before, const SProjectFingerprint& a
 
 bool SProjectChange::IsEmpty() const
 {
-    return setSenderIds.isEmpty() && !bSenderList && !bAddresses && !bSettings;
+    return !ConcernsFile() && !bCurrentSender;
+}
+
+bool SProjectChange::ConcernsFile() const
+{
+    return !setSenderIds.isEmpty() || bSenderList || bAddresses || bSettings;
 }
 
 SProjectFingerprint FingerprintOf(const SSimulatedProject& project)
 {
-    CProjectParts parts;
+    CProjectParts parts(project);
     Describe(parts, const_cast<SSimulatedProject&>(project)); // NOLINT(cppcoreguidelines-pro-type-const-cast)
     return parts.Take();
 }
@@ -155,6 +174,7 @@ SProjectFingerprint FingerprintOf(const SSimulatedProject& project)
 SProjectChange Difference(const SProjectFingerprint& before, const SProjectFingerprint& after)
 {
     SProjectChange change;
+    change.bCurrentSender = before.nCurSender != after.nCurSender;
     change.bSettings = before.baSettings != after.baSettings;
     change.bAddresses = before.baAddresses != after.baAddresses;
     change.bSenderList = !HaveSameIds(before, after);

@@ -12,12 +12,15 @@
 /// What differs between two states of a project, so that a view redraws that and nothing else.
 struct COMMONCLASS_EXPORT SProjectChange
 {
-    QSet<int> setSenderIds;   ///< ids of the senders that were added or whose values changed
-    bool bSenderList = false; ///< senders were added, removed or moved
-    bool bAddresses = false;  ///< the address lists changed
-    bool bSettings = false;   ///< anything else changed
+    QSet<int> setSenderIds;      ///< ids of the senders that were added or whose values changed
+    bool bSenderList = false;    ///< senders were added, removed or moved
+    bool bAddresses = false;     ///< the address lists changed
+    bool bSettings = false;      ///< anything else in the file changed
+    bool bCurrentSender = false; ///< another sender is edited; its place in the file is no matter of saving
 
     bool IsEmpty() const;
+    /// Whether the file would be worth saving.
+    bool ConcernsFile() const;
 };
 
 Q_DECLARE_METATYPE(SProjectChange)
@@ -32,6 +35,7 @@ struct SProjectFingerprint
         QByteArray baValues;
     };
 
+    int nCurSender = 0;
     QByteArray baSettings;
     QByteArray baAddresses;
     std::vector<SSender> vecSenders;

@@ -181,8 +181,11 @@ public:
     }
     qint64 SetEdidSetting(int nSender, int nInterfaceId, const SEdidSetting* pSetting) override
     {
-        return Call(enJournalWrite, "SetEdidSetting", &CVideoSourceLogic::SetEdidSetting, nSender,
-                    nInterfaceId, pSetting);
+        const qint64 nResult = Call(enJournalWrite, "SetEdidSetting", &CVideoSourceLogic::SetEdidSetting,
+                                    nSender, nInterfaceId, pSetting);
+        if (nResult != 0)
+            MarkFailed();
+        return nResult;
     }
     void FinishEdidWrite(int nSender, int nSave) override
     {
@@ -192,6 +195,8 @@ public:
     {
         Call(enJournalWrite, "ApplyBasicEdid", &CVideoSourceLogic::ApplyBasicEdid, nSender, nWidth, nHeight,
              pSuccess);
+        if (!*pSuccess)
+            MarkFailed();
     }
     float GetMaxInputFrameRate(int nSender) override
     {

@@ -112,7 +112,14 @@ public:
     }
     void SpecifiedIPsSave() override
     {
+        bool bProblem = false;
+        const auto connection =
+            QObject::connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProblem,
+                             [&bProblem] { bProblem = true; });
         Call(enJournalWrite, "SpecifiedIPsSave", &CConfigData::SpecifiedIPsSave);
+        QObject::disconnect(connection);
+        if (bProblem)
+            MarkFailed();
     }
     QString GetCurSetSpecifiedIPWithIndex(int nIndex) override
     {

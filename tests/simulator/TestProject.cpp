@@ -13,6 +13,7 @@ private Q_SLOTS:
     void ACatalogueProjectHoldsOneSenderOfEachType();
     void AnUnknownTypeIsNotAdded();
     void SendersGetIdsThatAreNeverUsedAgain();
+    void SelectingAnotherSenderIsNoUnsavedChange();
     void WithoutIdsNoSenderIsAdded();
     void SendersAddedTogetherAreAnnouncedOnce();
     void RemovingASenderKeepsTheCurrentOne_data();
@@ -71,6 +72,16 @@ void TestProject::SendersGetIdsThatAreNeverUsedAgain()
     QCOMPARE(simulator.Document().PictureName(0), strPicture);
     simulator.Document().AddSender(16);
     QCOMPARE(simulator.Project().FindSender(1)->nId, 3);
+}
+
+void TestProject::SelectingAnotherSenderIsNoUnsavedChange()
+{
+    CProjectDocument& document = CSimulator::Instance().Document();
+    document.NewProject();
+    QSignalSpy spyChanged(&document, &CProjectDocument::OnProjectChanged);
+    document.SetCurrentSender(2);
+    QCOMPARE(spyChanged.count(), 1);
+    QVERIFY(!document.IsModified());
 }
 
 void TestProject::WithoutIdsNoSenderIsAdded()

@@ -208,6 +208,7 @@ void TestVideoSource::AWriteThatFailsLeavesTheSetting()
     OneSender(c_nExtendedType, [](SSimulatedSender& sender) { sender.faults.nEdidWriteResult = 5; });
     const SEdidSetting setting = Setting(1280, 720, 50);
     QCOMPARE(GetHwVideoSourceLogic()->SetEdidSetting(0, 16, &setting), qint64(5));
+    QVERIFY(CSimulator::Instance().Journal().At(CSimulator::Instance().Journal().GetCount() - 1).bFailed);
     GetHwVideoSourceLogic()->FinishEdidWrite(0, 1);
     QCOMPARE(int(StoredSetting(16).wWidth), 1920);
 }

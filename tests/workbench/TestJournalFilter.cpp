@@ -23,6 +23,7 @@ class TestJournalFilter : public QObject
 private Q_SLOTS:
     void CallsThatHoldTheTextArePassed();
     void ReadsCanBeLeftOut();
+    void AWriteThatDidNotTakeIsMarked();
 };
 
 void TestJournalFilter::CallsThatHoldTheTextArePassed()
@@ -49,6 +50,20 @@ void TestJournalFilter::ReadsCanBeLeftOut()
     filter.setSourceModel(&journal);
     filter.SetReadsShown(false);
     QCOMPARE(filter.rowCount(), 2);
+}
+
+void TestJournalFilter::AWriteThatDidNotTakeIsMarked()
+{
+    CHostJournal journal;
+    CJournalFilter filter;
+    filter.setSourceModel(&journal);
+    Append(journal, enJournalWrite, "SetEdidSetting");
+    const QModelIndex index = filter.index(0, CHostJournal::enColumnResult);
+    QVERIFY(!index.data(Qt::ForegroundRole).isValid());
+    journal.MarkLastFailed();
+    QVERIFY(index.data(Qt::ForegroundRole).isValid());
+    QCOMPARE(index.data().toString(), QStringLiteral("failed"));
+    QVERIFY(index.data(CHostJournal::enRoleLine).toString().endsWith(QStringLiteral("failed")));
 }
 
 QTEST_MAIN(TestJournalFilter)

@@ -1,7 +1,10 @@
 #include "SenderModuleDialog/SenderModuleDialogInit.h"
+#include "SenderModuleDialog/edid/EdidSetDlg.h"
+#include "host/OrviControl/CustomMessageBox.h"
 #include "simulator/CommonClass/Simulator.h"
 #include "workbench/JournalDock.h"
 #include "workbench/MainWindow.h"
+#include "workbench/PageTabs.h"
 #include "workbench/ProjectActions.h"
 #include "workbench/SenderTree.h"
 #include "workbench/edid/EdidPage.h"
@@ -13,6 +16,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
+#include <QTabBar>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -98,6 +102,11 @@ private Q_SLOTS:
     void AWrittenSettingFillsTheMemoryAndShowsTheChange();
     void ABlockIsSavedWhole();
     void ABlockThatCannotBeSavedIsTold();
+    void AWriteIsReportedAsItEnded_data();
+    void AWriteIsReportedAsItEnded();
+    void TabGoesFromTheTreeToTabsPageAndJournal_data();
+    void TabGoesFromTheTreeToTabsPageAndJournal();
+    void TheTabBarShowsItsFocus();
     void ChoosingAByteMarksItsField();
     void TheJournalShowsAndFiltersCalls();
 };
@@ -256,9 +265,115 @@ void TestMainWindow::ABlockThatCannotBeSavedIsTold()
 {
     CWorkbenchFixture workbench;
     auto* pPage = workbench.window.findChild<CEdidPage*>();
-    QSignalSpy spy(pPage, &CWorkbenchPage::Reported);
+    CMessageAnswer answer("OK");
     QVERIFY(!pPage->SaveBlock(workbench.File("no/such/folder/edid.bin")));
-    QVERIFY(spy.last().first().toString().contains(QStringLiteral("edid.bin")));
+    QVERIFY(answer.strText.contains(QStringLiteral("edid.bin")));
+}
+
+/// Answers the EDID dialog and the message of its failure.
+class CWriteOperator : public QObject
+{
+public:
+    CWriteOperator() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        if (pEvent->type() == QEvent::Show && qobject_cast<CEdidSetDlg*>(pWatched) != nullptr)
+            QMetaObject::invokeMethod(pWatched, "OnOKPushButtonClicked", Qt::QueuedConnection);
+        if (auto* pMessage = qobject_cast<CCustomMessageBox*>(pWatched))
+            if (pEvent->type() == QEvent::Show)
+                QMetaObject::invokeMethod(pMessage, "reject", Qt::QueuedConnection);
+        return QObject::eventFilter(pWatched, pEvent);
+    }
+};
+
+void TestMainWindow::AWriteIsReportedAsItEnded_data()
+{
+    QTest::addColumn<int>("result");
+    QTest::addColumn<QString>("report");
+    QTest::newRow("it took") << 0 << QStringLiteral("当前模式");
+    QTest::newRow("it failed") << 5 << QStringLiteral("写入失败");
+}
+
+void TestMainWindow::AWriteIsReportedAsItEnded()
+{
+    QFETCH(int, result);
+    QFETCH(QString, report);
+    CWorkbenchFixture workbench;
+    CSimulator::Instance().Document().Change([result](SSimulatedProject& project) {
+        project.bDemoMode = true;
+        project.listSenders[0].faults.nEdidWriteResult = result;
+    });
+    const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
+    workbench.window.Tree().Select({0, nInterfaceId});
+    auto* pPage = workbench.window.findChild<CEdidPage*>();
+    QSignalSpy spyReported(pPage, &CWorkbenchPage::Reported);
+    const CWriteOperator writeOperator;
+    pPage->EditEdid();
+    QVERIFY(spyReported.last().first().toString().contains(report));
+}
+
+/// The window shown and active, so that keys find the focus.
+void Activate(CMainWindow& window)
+{
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+}
+
+/// Which part of the window has the focus.
+QString PartWithFocus(CMainWindow& window)
+{
+    const QWidget* pFocus = QApplication::focusWidget();
+    if (pFocus == nullptr)
+        return QStringLiteral("nothing");
+    if (pFocus == &window.Tree())
+        return QStringLiteral("tree");
+    if (pFocus == window.findChild<CPageTabs*>()->tabBar())
+        return QStringLiteral("tabs");
+    if (window.Journal().isAncestorOf(pFocus))
+        return QStringLiteral("journal");
+    return QStringLiteral("page");
+}
+
+void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal_data()
+{
+    QTest::addColumn<int>("page");
+    for (int i = 0; i < 5; ++i)
+        QTest::addRow("page %d", i) << i;
+}
+
+void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal()
+{
+    constexpr int c_nMostStops = 100;
+    QFETCH(int, page);
+    CWorkbenchFixture workbench;
+    workbench.window.Tree().Select(
+        {0, CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId});
+    workbench.window.ShowPage(workbench.window.Pages()[std::size_t(page)]);
+    Activate(workbench.window);
+    workbench.window.Tree().setFocus();
+    QStringList listParts;
+    for (int i = 0; i < c_nMostStops; ++i) {
+        const QString strPart = PartWithFocus(workbench.window);
+        if (listParts.size() > 1 && strPart == QStringLiteral("tree"))
+            break;
+        if (listParts.isEmpty() || listParts.last() != strPart)
+            listParts.append(strPart);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(listParts.join(QLatin1Char(' ')), QStringLiteral("tree tabs page journal"));
+}
+
+void TestMainWindow::TheTabBarShowsItsFocus()
+{
+    CWorkbenchFixture workbench;
+    Activate(workbench.window);
+    auto* pBar = workbench.window.findChild<QTabWidget*>()->tabBar();
+    workbench.window.Tree().setFocus();
+    const QImage without = pBar->grab().toImage();
+    pBar->setFocus();
+    QVERIFY(pBar->grab().toImage() != without);
 }
 
 void TestMainWindow::ChoosingAByteMarksItsField()

@@ -12,7 +12,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableView>
@@ -40,6 +39,7 @@ CAddressPage::CAddressPage(std::function<bool()> funcMayLeave, QWidget* pParent)
     m_pTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_pTable->setSelectionMode(QAbstractItemView::SingleSelection);
     m_pTable->setAlternatingRowColors(true);
+    m_pTable->setTabKeyNavigation(false);
     m_pTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     auto* pMiddle = new QHBoxLayout;
     pMiddle->addWidget(m_pTable, 1);
@@ -195,7 +195,10 @@ void CAddressPage::ModifySelected()
         return;
     simulator.Addresses().ApplyCurrentSet();
     SFileProblem problem;
-    Q_EMIT Reported(simulator.Document().SaveAddresses(problem) ? tr("地址已修改。") : problem.Text());
+    if (simulator.Document().SaveAddresses(problem))
+        Q_EMIT Reported(tr("地址已修改。"));
+    else
+        Q_EMIT Failed(problem.Text());
 }
 
 void CAddressPage::ResetSelected()
@@ -219,7 +222,7 @@ void CAddressPage::AddByHand()
 {
     const QString strObstacle = HandAddition::Obstacle();
     if (!strObstacle.isEmpty()) {
-        QMessageBox::warning(this, Title(), strObstacle);
+        Q_EMIT Failed(strObstacle);
         return;
     }
     CCustomAddProcessorDlg dialog(this);

@@ -175,7 +175,9 @@ bool CColourPage::SaveSvg(const QString& strFile)
 bool CColourPage::ReportSaved(const QString& strFile, const QString& strError)
 {
     const QString strName = QDir::toNativeSeparators(strFile);
-    Q_EMIT Reported(strError.isEmpty() ? tr("已保存 %1").arg(strName)
-                                       : tr("无法写入 %1：%2。请选择别的位置。").arg(strName, strError));
+    if (strError.isEmpty())
+        Q_EMIT Reported(tr("已保存 %1").arg(strName));
+    else
+        Q_EMIT Failed(tr("无法写入 %1：%2。请选择别的位置。").arg(strName, strError));
     return strError.isEmpty();
 }

@@ -46,6 +46,7 @@ CGroupPanel::CGroupPanel(CChartEditor& editor, QWidget* pParent)
     , m_pTable(new QTableView(this))
     , m_pCoverage(new QLabel(this))
 {
+    m_pTable->setTabKeyNavigation(false);
     CreateButtons();
     CreateSteps();
     CreateTable();

@@ -42,6 +42,7 @@ CReadingsPanel::CReadingsPanel(CChartEditor& editor, QWidget* pParent)
 QTableView* CReadingsPanel::CreateTable(QAbstractItemModel* pModel)
 {
     auto* pTable = new QTableView(this);
+    pTable->setTabKeyNavigation(false);
     pTable->setModel(pModel);
     pTable->setSelectionMode(QAbstractItemView::SingleSelection);
     pTable->setAlternatingRowColors(true);

@@ -213,14 +213,21 @@ void CEdidPage::SelectFieldOfByte(int nOffset)
 
 void CEdidPage::EditEdid()
 {
+    // The dialog accepts a write that failed too, and its flag stays false when a full write took: whether
+    // the memory was written is what tells.
+    bool bTook = false;
+    const auto connection =
+        connect(m_pUpdater, &CEdidMemoryUpdater::BlockStored, this, [&bTook] { bTook = true; });
     CEdidSetDlg dialog(this, m_selection.nInterfaceId, m_pLowRates->isChecked());
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    // A full write leaves the flag false even when it took: the memory tells, and so does the message of a
-    // failure.
+    const bool bAccepted = dialog.exec() == QDialog::Accepted;
+    disconnect(connection);
     const SSimulatedInput* pInput = Input();
-    if (pInput != nullptr && pInput->setting)
+    if (!bAccepted || pInput == nullptr)
+        return;
+    if (bTook && pInput->setting)
         Q_EMIT Reported(tr("当前模式：%1").arg(ModeText::Of(*pInput->setting)));
+    else
+        Q_EMIT Reported(tr("写入失败，%1 的 EDID 没有改变。原因见主机调用记录。").arg(pInput->strName));
 }
 
 void CEdidPage::ChooseFileAndSave()
@@ -238,7 +245,9 @@ bool CEdidPage::SaveBlock(const QString& strFile)
     const bool bSaved = pInput != nullptr && file.open(QIODevice::WriteOnly) &&
                         file.write(pInput->baEdid) == pInput->baEdid.size() && file.commit();
     const QString strName = QDir::toNativeSeparators(strFile);
-    Q_EMIT Reported(bSaved ? tr("已保存 %1").arg(strName)
-                           : tr("无法写入 %1：%2。请选择别的位置。").arg(strName, file.errorString()));
+    if (bSaved)
+        Q_EMIT Reported(tr("已保存 %1").arg(strName));
+    else
+        Q_EMIT Failed(tr("无法写入 %1：%2。请选择别的位置。").arg(strName, file.errorString()));
     return bSaved;
 }

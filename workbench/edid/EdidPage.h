@@ -27,6 +27,8 @@ public:
 
     /// The input that is shown, or null.
     const SSimulatedInput* Input() const;
+    /// Opens the EDID dialog for the input that is shown, and reports how the write ended.
+    void EditEdid();
     /// Saves the block that is shown.
     /// @return false when the file could not be written; the status line tells why
     bool SaveBlock(const QString& strFile);
@@ -34,7 +36,6 @@ public:
 private:
     QWidget* CreateHead();
     QWidget* CreateMemoryView();
-    void EditEdid();
     void ChooseFileAndSave();
     void Refresh();
     void ShowBlock(const QByteArray& block);

@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QEvent>
+#include <QMessageBox>
 #include <QPixmap>
 #include <QPushButton>
 
@@ -82,8 +83,10 @@ void CTour::WithMessage(const QString& strName, int nButton, const std::function
 
 bool CTour::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
-    auto* pMessage = qobject_cast<CCustomMessageBox*>(pWatched);
-    if (pMessage != nullptr && pEvent->type() == QEvent::Show)
+    auto* pMessage = qobject_cast<QDialog*>(pWatched);
+    const bool bMessage = qobject_cast<CCustomMessageBox*>(pWatched) != nullptr ||
+                          qobject_cast<QMessageBox*>(pWatched) != nullptr;
+    if (bMessage && pEvent->type() == QEvent::Show)
         QMetaObject::invokeMethod(
             pMessage, [this, pMessage] { AnswerMessage(pMessage); }, Qt::QueuedConnection);
     return QObject::eventFilter(pWatched, pEvent);

@@ -2,13 +2,12 @@
 #include "SenderModuleDialog/addressing/AddressGenerators.h"
 #include "simulator/CommonClass/AddressText.h"
 #include "simulator/CommonClass/Simulator.h"
-#include "tests/workbench/DialogOperator.h"
 #include "workbench/addresses/AddressPage.h"
 #include "workbench/addresses/HandAddition.h"
 
 #include <QHostAddress>
-#include <QMessageBox>
 #include <QNetworkInterface>
+#include <QSignalSpy>
 #include <QtTest>
 
 #include <algorithm>
@@ -141,13 +140,10 @@ void TestHandAddition::ThePageSaysWhyInsteadOfOpeningTheDialog()
 {
     CSimulator::Instance().Addresses().SetNetworkFacts(EveryAddressIsAGateway);
     CAddressPage page([] { return true; });
-    QString strShown;
-    const CDialogOperator dialogOperator([&strShown](QDialog* pDialog) {
-        if (const auto* pBox = qobject_cast<QMessageBox*>(pDialog))
-            strShown = pBox->text();
-    });
+    QSignalSpy spyFailed(&page, &CWorkbenchPage::Failed);
     page.AddByHand();
-    QCOMPARE(strShown, HandAddition::Obstacle());
+    QCOMPARE(spyFailed.count(), 1);
+    QCOMPARE(spyFailed.first().first().toString(), HandAddition::Obstacle());
 }
 
 QTEST_MAIN(TestHandAddition)

@@ -318,7 +318,7 @@ void TestColourPage::AFileThatCannotBeWrittenIsTold()
 {
     SShownColourPage shown;
     const QTemporaryDir folder;
-    QSignalSpy spy(&shown.page, &CColourPage::Reported);
+    QSignalSpy spy(&shown.page, &CColourPage::Failed);
     for (const char* szName : {"missing/chart.png", "missing/chart.svg"}) {
         const QString strFile = folder.filePath(QString::fromLatin1(szName));
         QVERIFY(!(strFile.endsWith(QStringLiteral("svg")) ? shown.page.SaveSvg(strFile)
