@@ -13,9 +13,9 @@ struct STranslation
 };
 
 constexpr STranslation c_arrTranslations[] = {
-    {enLanguage::English, ":/translations/SenderModuleDialog_en.qm"},
-    {enLanguage::English, ":/translations/SenderWorkbench_en.qm"},
-    {enLanguage::Chinese, ":/translations/SenderSimulator_zh.qm"},
+    {enLanguage::enEnglish, ":/translations/SenderModuleDialog_en.qm"},
+    {enLanguage::enEnglish, ":/translations/SenderWorkbench_en.qm"},
+    {enLanguage::enChinese, ":/translations/SenderSimulator_zh.qm"},
 };
 
 } // namespace
@@ -43,12 +43,12 @@ void CLanguage::Set(enLanguage language)
 
 enLanguage CLanguage::ForLocale(const QString& strLocale)
 {
-    return strLocale.startsWith(QLatin1String("zh")) ? enLanguage::Chinese : enLanguage::English;
+    return strLocale.startsWith(QLatin1String("zh")) ? enLanguage::enChinese : enLanguage::enEnglish;
 }
 
 QString CLanguage::Code(enLanguage language)
 {
-    return language == enLanguage::Chinese ? QStringLiteral("zh") : QStringLiteral("en");
+    return language == enLanguage::enChinese ? QStringLiteral("zh") : QStringLiteral("en");
 }
 
 void CLanguage::InstallTranslators()

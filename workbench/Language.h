@@ -10,8 +10,8 @@
 /// The languages of the workbench.
 enum class enLanguage
 {
-    Chinese,
-    English
+    enChinese,
+    enEnglish
 };
 
 /// Switches the language of the workbench and of the library's dialogs at run time. Windows follow through
@@ -43,7 +43,7 @@ private:
     void RemoveTranslators();
 
     std::vector<std::unique_ptr<QTranslator>> m_vecTranslators;
-    enLanguage m_language = enLanguage::Chinese;
+    enLanguage m_language = enLanguage::enChinese;
 };
 
 #endif // WORKBENCH_LANGUAGE_H

@@ -37,7 +37,8 @@ struct SLanguageRow
     const char* szName; ///< in the language itself
 };
 
-constexpr SLanguageRow c_arrLanguages[] = {{enLanguage::Chinese, "中文"}, {enLanguage::English, "English"}};
+constexpr SLanguageRow c_arrLanguages[] = {{enLanguage::enChinese, "中文"},
+                                           {enLanguage::enEnglish, "English"}};
 
 } // namespace
 

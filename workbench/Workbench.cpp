@@ -73,14 +73,14 @@ int RunTour(const SWorkbenchOptions& options)
     settings.clear();
     SenderModuleDialogInit(CSimulator::Instance().Label());
     CLanguage language;
-    for (const enLanguage current : {enLanguage::Chinese, enLanguage::English}) {
+    for (const enLanguage current : {enLanguage::enChinese, enLanguage::enEnglish}) {
         language.Set(current);
         tour.SetPrefix(CLanguage::Code(current));
         CSimulator::Instance().Document().NewProject();
         CMainWindow window(language, settings);
         window.show();
         PageTours::Everything(tour, window);
-        if (current == enLanguage::English)
+        if (current == enLanguage::enEnglish)
             LeaveFiles(tour, window);
     }
     return Report(tour);

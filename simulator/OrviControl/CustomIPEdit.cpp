@@ -78,7 +78,7 @@ private:
     void Refuse();
     void Announce();
 
-    QString strAnnounced;
+    QString m_strAnnounced;
 };
 
 CCustomIPEdit::CPrivate::CPrivate(CCustomIPEdit* pOwner)
@@ -151,9 +151,9 @@ void CCustomIPEdit::CPrivate::SetOctets(const IPAddressText::Octets& arrOctets)
 void CCustomIPEdit::CPrivate::Announce()
 {
     const QString strNow = IPAddressText::Join(Octets());
-    if (strNow == strAnnounced)
+    if (strNow == m_strAnnounced)
         return;
-    strAnnounced = strNow;
+    m_strAnnounced = strNow;
     Q_EMIT pEdit->textChanged(strNow);
 }
 

@@ -15,17 +15,17 @@ class TestAgainstPlainColorimetry : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyTemperatureGivesTheSamePoint();
-    void temperaturesAgreeNearTheLocus_data();
-    void temperaturesAgreeNearTheLocus();
-    void temperaturesAgreeInTheWholeGate();
-    void temperaturesAgreeOnPlateaus();
-    void temperaturesAgreeAtTheBordersOfTheGate();
-    void temperaturesAgreeAroundEveryRow();
-    void searchAgreesFarAway_data();
-    void searchAgreesFarAway();
-    void insideAgreesInTheDiagram();
-    void insideAgreesAroundTheOutline();
+    void EveryTemperatureGivesTheSamePoint();
+    void TemperaturesAgreeNearTheLocus_data();
+    void TemperaturesAgreeNearTheLocus();
+    void TemperaturesAgreeInTheWholeGate();
+    void TemperaturesAgreeOnPlateaus();
+    void TemperaturesAgreeAtTheBordersOfTheGate();
+    void TemperaturesAgreeAroundEveryRow();
+    void SearchAgreesFarAway_data();
+    void SearchAgreesFarAway();
+    void InsideAgreesInTheDiagram();
+    void InsideAgreesAroundTheOutline();
 
 private:
     void Agree(QPointF xy);
@@ -93,7 +93,7 @@ void TestAgainstPlainColorimetry::AgreeInside(QPointF pt)
         QFAIL(qPrintable(QStringLiteral("inside at ") + Text(pt)));
 }
 
-void TestAgainstPlainColorimetry::everyTemperatureGivesTheSamePoint()
+void TestAgainstPlainColorimetry::EveryTemperatureGivesTheSamePoint()
 {
     int nDifferent = 0;
     for (float fCCT = 4000.0F; fCCT <= 25000.0F; fCCT = std::nextafter(fCCT, 30000.0F)) {
@@ -106,7 +106,7 @@ void TestAgainstPlainColorimetry::everyTemperatureGivesTheSamePoint()
     QCOMPARE(nDifferent, 0);
 }
 
-void TestAgainstPlainColorimetry::temperaturesAgreeNearTheLocus_data()
+void TestAgainstPlainColorimetry::TemperaturesAgreeNearTheLocus_data()
 {
     QTest::addColumn<double>("dOffset");
     QTest::addColumn<int>("nPoints");
@@ -116,7 +116,7 @@ void TestAgainstPlainColorimetry::temperaturesAgreeNearTheLocus_data()
     QTest::newRow("within 0.1") << 0.1 << 50000;
 }
 
-void TestAgainstPlainColorimetry::temperaturesAgreeNearTheLocus()
+void TestAgainstPlainColorimetry::TemperaturesAgreeNearTheLocus()
 {
     QFETCH(double, dOffset);
     QFETCH(int, nPoints);
@@ -129,7 +129,7 @@ void TestAgainstPlainColorimetry::temperaturesAgreeNearTheLocus()
     }
 }
 
-void TestAgainstPlainColorimetry::temperaturesAgreeInTheWholeGate()
+void TestAgainstPlainColorimetry::TemperaturesAgreeInTheWholeGate()
 {
     for (int nInGate = 0; nInGate < 350000 && !QTest::currentTestFailed();) {
         const QPointF pt(Random(0.0, 0.62), Random(0.0, 1.0));
@@ -141,7 +141,7 @@ void TestAgainstPlainColorimetry::temperaturesAgreeInTheWholeGate()
 /// The walk ends where the fall of a row no longer exceeds the rounding of its distance. These points lie so
 /// that it does so within some rows of a chosen one, at distances from a step of the table to the far end of
 /// the gate.
-void TestAgainstPlainColorimetry::temperaturesAgreeOnPlateaus()
+void TestAgainstPlainColorimetry::TemperaturesAgreeOnPlateaus()
 {
     for (int i = 0; i < 150000 && !QTest::currentTestFailed(); ++i) {
         const std::size_t nRow = std::size_t(Random(1.0, 4199.999));
@@ -157,7 +157,7 @@ void TestAgainstPlainColorimetry::temperaturesAgreeOnPlateaus()
     }
 }
 
-void TestAgainstPlainColorimetry::temperaturesAgreeAtTheBordersOfTheGate()
+void TestAgainstPlainColorimetry::TemperaturesAgreeAtTheBordersOfTheGate()
 {
     const float arrBorders[] = {-5.52452803F, -2.46035194F, -0.25539455F, 1.48337674F};
     for (int i = 0; i < 100000 && !QTest::currentTestFailed(); ++i) {
@@ -170,7 +170,7 @@ void TestAgainstPlainColorimetry::temperaturesAgreeAtTheBordersOfTheGate()
     }
 }
 
-void TestAgainstPlainColorimetry::temperaturesAgreeAroundEveryRow()
+void TestAgainstPlainColorimetry::TemperaturesAgreeAroundEveryRow()
 {
     for (std::size_t nRow = 0; nRow < m_vecRows.size() && !QTest::currentTestFailed(); ++nRow) {
         const QPointF pt(m_vecRows[nRow].dX, m_vecRows[nRow].dY);
@@ -180,7 +180,7 @@ void TestAgainstPlainColorimetry::temperaturesAgreeAroundEveryRow()
     }
 }
 
-void TestAgainstPlainColorimetry::searchAgreesFarAway_data()
+void TestAgainstPlainColorimetry::SearchAgreesFarAway_data()
 {
     QTest::addColumn<QPointF>("uv");
     const double dInf = std::numeric_limits<double>::infinity();
@@ -193,7 +193,7 @@ void TestAgainstPlainColorimetry::searchAgreesFarAway_data()
                                          std::numeric_limits<double>::denorm_min());
 }
 
-void TestAgainstPlainColorimetry::searchAgreesFarAway()
+void TestAgainstPlainColorimetry::SearchAgreesFarAway()
 {
     QFETCH(QPointF, uv);
     sCIE1931 arrExpected[2];
@@ -205,14 +205,14 @@ void TestAgainstPlainColorimetry::searchAgreesFarAway()
     QVERIFY(SameRow(arrPair[1], arrExpected[1]));
 }
 
-void TestAgainstPlainColorimetry::insideAgreesInTheDiagram()
+void TestAgainstPlainColorimetry::InsideAgreesInTheDiagram()
 {
     for (int i = 0; i < 300000 && !QTest::currentTestFailed(); ++i)
         AgreeInside(QPointF(Random(-0.05, 0.8), Random(-0.05, 0.9)));
 }
 
 /// Points at vertices, at the heights of vertices, on edges, and at the reach of a vertex.
-void TestAgainstPlainColorimetry::insideAgreesAroundTheOutline()
+void TestAgainstPlainColorimetry::InsideAgreesAroundTheOutline()
 {
     for (int i = 0; i < 300000 && !QTest::currentTestFailed(); ++i) {
         const int nVertex = i % m_vecOutline.size();

@@ -52,31 +52,31 @@ class TestCCT2ColorCoord : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void temperatureGivesTheChromaticity_data();
-    void temperatureGivesTheChromaticity();
-    void temperatureOutsideTheLocusWritesNothing_data();
-    void temperatureOutsideTheLocusWritesNothing();
-    void chromaticityGivesTheTemperature_data();
-    void chromaticityGivesTheTemperature();
-    void theSmallestChromaticityFaultsNothing();
-    void chromaticityOutsideTheGateWritesNothing_data();
-    void chromaticityOutsideTheGateWritesNothing();
-    void solvingEndsInTheKnownNumbers();
-    void rootsAtFourThousandAreThree();
-    void tableHoldsTheLocus_data();
-    void tableHoldsTheLocus();
-    void aWrittenTableIsFollowed();
-    void anEndlessOutwardSearchFaults_data();
-    void anEndlessOutwardSearchFaults();
-    void solvingWithoutASearchAreaFaults();
-    void assertionsNameTheirPlace_data();
-    void assertionsNameTheirPlace();
-    void misuseNamesWhatDoesNotHold_data();
-    void misuseNamesWhatDoesNotHold();
-    void conversionsDoNotAllocate();
+    void TemperatureGivesTheChromaticity_data();
+    void TemperatureGivesTheChromaticity();
+    void TemperatureOutsideTheLocusWritesNothing_data();
+    void TemperatureOutsideTheLocusWritesNothing();
+    void ChromaticityGivesTheTemperature_data();
+    void ChromaticityGivesTheTemperature();
+    void TheSmallestChromaticityFaultsNothing();
+    void ChromaticityOutsideTheGateWritesNothing_data();
+    void ChromaticityOutsideTheGateWritesNothing();
+    void SolvingEndsInTheKnownNumbers();
+    void RootsAtFourThousandAreThree();
+    void TableHoldsTheLocus_data();
+    void TableHoldsTheLocus();
+    void AWrittenTableIsFollowed();
+    void AnEndlessOutwardSearchFaults_data();
+    void AnEndlessOutwardSearchFaults();
+    void SolvingWithoutASearchAreaFaults();
+    void AssertionsNameTheirPlace_data();
+    void AssertionsNameTheirPlace();
+    void MisuseNamesWhatDoesNotHold_data();
+    void MisuseNamesWhatDoesNotHold();
+    void ConversionsDoNotAllocate();
 };
 
-void TestCCT2ColorCoord::temperatureGivesTheChromaticity_data()
+void TestCCT2ColorCoord::TemperatureGivesTheChromaticity_data()
 {
     QTest::addColumn<float>("fCCT");
     QTest::addColumn<bool>("bExact");
@@ -90,7 +90,7 @@ void TestCCT2ColorCoord::temperatureGivesTheChromaticity_data()
     QTest::newRow("highest") << 25000.0F << false << QPointF(0.24985367059707642, 0.2547994554042816);
 }
 
-void TestCCT2ColorCoord::temperatureGivesTheChromaticity()
+void TestCCT2ColorCoord::TemperatureGivesTheChromaticity()
 {
     QFETCH(float, fCCT);
     QFETCH(bool, bExact);
@@ -100,7 +100,7 @@ void TestCCT2ColorCoord::temperatureGivesTheChromaticity()
     COMPARE_BITS(pt, expected);
 }
 
-void TestCCT2ColorCoord::temperatureOutsideTheLocusWritesNothing_data()
+void TestCCT2ColorCoord::TemperatureOutsideTheLocusWritesNothing_data()
 {
     QTest::addColumn<float>("fCCT");
     QTest::newRow("just below") << 3999.9F;
@@ -113,7 +113,7 @@ void TestCCT2ColorCoord::temperatureOutsideTheLocusWritesNothing_data()
     QTest::newRow("not a number") << std::numeric_limits<float>::quiet_NaN();
 }
 
-void TestCCT2ColorCoord::temperatureOutsideTheLocusWritesNothing()
+void TestCCT2ColorCoord::TemperatureOutsideTheLocusWritesNothing()
 {
     QFETCH(float, fCCT);
     QPointF pt = c_ptUnwritten;
@@ -121,7 +121,7 @@ void TestCCT2ColorCoord::temperatureOutsideTheLocusWritesNothing()
     COMPARE_BITS(pt, c_ptUnwritten);
 }
 
-void TestCCT2ColorCoord::chromaticityGivesTheTemperature_data()
+void TestCCT2ColorCoord::ChromaticityGivesTheTemperature_data()
 {
     QTest::addColumn<QPointF>("pt");
     QTest::addColumn<bool>("bExact");
@@ -137,7 +137,7 @@ void TestCCT2ColorCoord::chromaticityGivesTheTemperature_data()
     QTest::newRow("beyond the last row") << QPointF(0.25, 0.25) << false << false << 25002.2 << 0.05;
 }
 
-void TestCCT2ColorCoord::chromaticityGivesTheTemperature()
+void TestCCT2ColorCoord::ChromaticityGivesTheTemperature()
 {
     QFETCH(QPointF, pt);
     QFETCH(bool, bExact);
@@ -150,7 +150,7 @@ void TestCCT2ColorCoord::chromaticityGivesTheTemperature()
 }
 
 /// Its u rounds to 0, which the search alone would fault on.
-void TestCCT2ColorCoord::theSmallestChromaticityFaultsNothing()
+void TestCCT2ColorCoord::TheSmallestChromaticityFaultsNothing()
 {
     const QPointF pt(std::numeric_limits<double>::denorm_min(), 0.95);
     QVERIFY(CCCT2ColorCoord().isCoordInArea(pt));
@@ -159,7 +159,7 @@ void TestCCT2ColorCoord::theSmallestChromaticityFaultsNothing()
     QCOMPARE(temperature.bInRange, CCCT2ColorCoord().isCCTInRange(temperature.fCCT));
 }
 
-void TestCCT2ColorCoord::chromaticityOutsideTheGateWritesNothing_data()
+void TestCCT2ColorCoord::ChromaticityOutsideTheGateWritesNothing_data()
 {
     QTest::addColumn<QPointF>("pt");
     QTest::newRow("y at the epicentre") << QPointF(0.3, 0.1858000010251999);
@@ -176,7 +176,7 @@ void TestCCT2ColorCoord::chromaticityOutsideTheGateWritesNothing_data()
     QTest::newRow("between the wedges") << QPointF(0.6, 0.3);
 }
 
-void TestCCT2ColorCoord::chromaticityOutsideTheGateWritesNothing()
+void TestCCT2ColorCoord::ChromaticityOutsideTheGateWritesNothing()
 {
     QFETCH(QPointF, pt);
     const STemperature temperature = TemperatureOf(pt, false);
@@ -184,7 +184,7 @@ void TestCCT2ColorCoord::chromaticityOutsideTheGateWritesNothing()
     COMPARE_BITS(temperature.fCCT, c_fUnwritten);
 }
 
-void TestCCT2ColorCoord::solvingEndsInTheKnownNumbers()
+void TestCCT2ColorCoord::SolvingEndsInTheKnownNumbers()
 {
     const COpenCCT2ColorCoord cct;
     QVERIFY(cct.m_sReserveTables.isEmpty());
@@ -204,7 +204,7 @@ void TestCCT2ColorCoord::solvingEndsInTheKnownNumbers()
     COMPARE_BITS(cct.m_vecCoordAreas[1].fMax, 1.48337674F);
 }
 
-void TestCCT2ColorCoord::rootsAtFourThousandAreThree()
+void TestCCT2ColorCoord::RootsAtFourThousandAreThree()
 {
     COpenCCT2ColorCoord cct;
     cct.m_vecCrest.clear();
@@ -218,7 +218,7 @@ void TestCCT2ColorCoord::rootsAtFourThousandAreThree()
     COMPARE_BITS(vecRoots[2], -0.25539455F);
 }
 
-void TestCCT2ColorCoord::tableHoldsTheLocus_data()
+void TestCCT2ColorCoord::TableHoldsTheLocus_data()
 {
     QTest::addColumn<int>("nRow");
     QTest::addColumn<int>("nCCT");
@@ -229,7 +229,7 @@ void TestCCT2ColorCoord::tableHoldsTheLocus_data()
     QTest::newRow("last") << 4200 << 25000 << 40.0F << QPointF(0.24985367059707642, 0.2547994554042816);
 }
 
-void TestCCT2ColorCoord::tableHoldsTheLocus()
+void TestCCT2ColorCoord::TableHoldsTheLocus()
 {
     QFETCH(int, nRow);
     const sCIE1931 row = COpenCCT2ColorCoord().m_sColorCoordTables[nRow];
@@ -241,7 +241,7 @@ void TestCCT2ColorCoord::tableHoldsTheLocus()
 }
 
 /// What is prepared for the usual table must not answer for another one.
-void TestCCT2ColorCoord::aWrittenTableIsFollowed()
+void TestCCT2ColorCoord::AWrittenTableIsFollowed()
 {
     COpenCCT2ColorCoord cct;
     const QPointF pt(0.3127, 0.329);
@@ -260,7 +260,7 @@ void TestCCT2ColorCoord::aWrittenTableIsFollowed()
     COMPARE_BITS(fCCT, 6500.0F);
 }
 
-void TestCCT2ColorCoord::anEndlessOutwardSearchFaults_data()
+void TestCCT2ColorCoord::AnEndlessOutwardSearchFaults_data()
 {
     QTest::addColumn<float>("fStep");
     QTest::newRow("no step") << 0.0F;
@@ -268,7 +268,7 @@ void TestCCT2ColorCoord::anEndlessOutwardSearchFaults_data()
     QTest::newRow("infinite step") << std::numeric_limits<float>::infinity();
 }
 
-void TestCCT2ColorCoord::anEndlessOutwardSearchFaults()
+void TestCCT2ColorCoord::AnEndlessOutwardSearchFaults()
 {
     QFETCH(float, fStep);
     const SDeath death = RunToDeath([fStep] {
@@ -279,7 +279,7 @@ void TestCCT2ColorCoord::anEndlessOutwardSearchFaults()
     QVERIFY2(death.strOutput.contains("\"SearchNewArea\""), death.strOutput.constData());
 }
 
-void TestCCT2ColorCoord::solvingWithoutASearchAreaFaults()
+void TestCCT2ColorCoord::SolvingWithoutASearchAreaFaults()
 {
     const SDeath death = RunToDeath([] {
         COpenCCT2ColorCoord cct;
@@ -290,7 +290,7 @@ void TestCCT2ColorCoord::solvingWithoutASearchAreaFaults()
     QVERIFY2(death.strOutput.contains("\"i < m_vecSearchArea.size()\""), death.strOutput.constData());
 }
 
-void TestCCT2ColorCoord::assertionsNameTheirPlace_data()
+void TestCCT2ColorCoord::AssertionsNameTheirPlace_data()
 {
     QTest::addColumn<int>("nCase");
     QTest::addColumn<QByteArray>("strPlace");
@@ -307,7 +307,7 @@ void TestCCT2ColorCoord::assertionsNameTheirPlace_data()
                                      << QByteArray("\"NearTwoColorCoord != nullptr\"");
 }
 
-void TestCCT2ColorCoord::assertionsNameTheirPlace()
+void TestCCT2ColorCoord::AssertionsNameTheirPlace()
 {
     QFETCH(int, nCase);
     const SDeath death = RunToDeath([nCase] {
@@ -336,7 +336,7 @@ void TestCCT2ColorCoord::assertionsNameTheirPlace()
     QVERIFY2(death.strOutput.contains(strExpression), death.strOutput.constData());
 }
 
-void TestCCT2ColorCoord::misuseNamesWhatDoesNotHold_data()
+void TestCCT2ColorCoord::MisuseNamesWhatDoesNotHold_data()
 {
     QTest::addColumn<FuncMisuse>("misuse");
     QTest::addColumn<QByteArray>("strExpression");
@@ -367,7 +367,7 @@ void TestCCT2ColorCoord::misuseNamesWhatDoesNotHold_data()
         "\"nWhich == 1 || nWhich == 2\"");
 }
 
-void TestCCT2ColorCoord::misuseNamesWhatDoesNotHold()
+void TestCCT2ColorCoord::MisuseNamesWhatDoesNotHold()
 {
     QFETCH(FuncMisuse, misuse);
     QFETCH(QByteArray, strExpression);
@@ -379,7 +379,7 @@ void TestCCT2ColorCoord::misuseNamesWhatDoesNotHold()
     QVERIFY2(death.strOutput.contains(strExpression), death.strOutput.constData());
 }
 
-void TestCCT2ColorCoord::conversionsDoNotAllocate()
+void TestCCT2ColorCoord::ConversionsDoNotAllocate()
 {
     const CCCT2ColorCoord cct;
     QPointF pt;

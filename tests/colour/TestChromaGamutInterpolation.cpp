@@ -30,21 +30,21 @@ class TestChromaGamutInterpolation : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void outlineStartsAt404Nanometres();
-    void outlineReachesTheTopOfTheLocus();
-    void everyCallOfGetDataAppendsACopy();
-    void usesAreAppendedWhenTheListIsAskedFor();
-    void usesOfAWrittenOutlineKeepItsPoints();
-    void insideTest_data();
-    void insideTest();
-    void nearAVertexIsInside();
-    void nearThePurpleLineIsOutside();
-    void emptiedOutlineContainsNothing();
-    void writtenOutlineDecides();
-    void insideTestDoesNotAllocate();
+    void OutlineStartsAt404Nanometres();
+    void OutlineReachesTheTopOfTheLocus();
+    void EveryCallOfGetDataAppendsACopy();
+    void UsesAreAppendedWhenTheListIsAskedFor();
+    void UsesOfAWrittenOutlineKeepItsPoints();
+    void InsideTest_data();
+    void InsideTest();
+    void NearAVertexIsInside();
+    void NearThePurpleLineIsOutside();
+    void EmptiedOutlineContainsNothing();
+    void WrittenOutlineDecides();
+    void InsideTestDoesNotAllocate();
 };
 
-void TestChromaGamutInterpolation::outlineStartsAt404Nanometres()
+void TestChromaGamutInterpolation::OutlineStartsAt404Nanometres()
 {
     CChromaGamutInterpolation gamut;
     QCOMPARE(gamut.GetQPointFData().size(), 156);
@@ -52,7 +52,7 @@ void TestChromaGamutInterpolation::outlineStartsAt404Nanometres()
     COMPARE_BITS(float(gamut.GetQPointFData()[0].y()), 0.0047738748F);
 }
 
-void TestChromaGamutInterpolation::outlineReachesTheTopOfTheLocus()
+void TestChromaGamutInterpolation::OutlineReachesTheTopOfTheLocus()
 {
     CChromaGamutInterpolation gamut;
     const QVector<QPointF> vecOutline = gamut.GetQPointFData();
@@ -62,7 +62,7 @@ void TestChromaGamutInterpolation::outlineReachesTheTopOfTheLocus()
     QVERIFY(std::abs(top->y() - 0.8340903) < 1e-7);
 }
 
-void TestChromaGamutInterpolation::everyCallOfGetDataAppendsACopy()
+void TestChromaGamutInterpolation::EveryCallOfGetDataAppendsACopy()
 {
     CChromaGamutInterpolation gamut;
     gamut.GetData();
@@ -76,7 +76,7 @@ void TestChromaGamutInterpolation::everyCallOfGetDataAppendsACopy()
     }
 }
 
-void TestChromaGamutInterpolation::usesAreAppendedWhenTheListIsAskedFor()
+void TestChromaGamutInterpolation::UsesAreAppendedWhenTheListIsAskedFor()
 {
     CChromaGamutInterpolation gamut;
     for (int i = 0; i < 3; ++i) {
@@ -88,7 +88,7 @@ void TestChromaGamutInterpolation::usesAreAppendedWhenTheListIsAskedFor()
     QCOMPARE(gamut.GetData().size(), 5 * 156);
 }
 
-void TestChromaGamutInterpolation::usesOfAWrittenOutlineKeepItsPoints()
+void TestChromaGamutInterpolation::UsesOfAWrittenOutlineKeepItsPoints()
 {
     CChromaGamutInterpolation gamut;
     gamut.UseFloatOutline();
@@ -104,7 +104,7 @@ void TestChromaGamutInterpolation::usesOfAWrittenOutlineKeepItsPoints()
     COMPARE_BITS(listPoints[157].x, 0.75F);
 }
 
-void TestChromaGamutInterpolation::insideTest_data()
+void TestChromaGamutInterpolation::InsideTest_data()
 {
     QTest::addColumn<QPointF>("pt");
     QTest::addColumn<bool>("bInside");
@@ -120,13 +120,13 @@ void TestChromaGamutInterpolation::insideTest_data()
     QTest::newRow("pixels") << QPointF(400.0, 300.0) << false;
 }
 
-void TestChromaGamutInterpolation::insideTest()
+void TestChromaGamutInterpolation::InsideTest()
 {
     QFETCH(QPointF, pt);
     QTEST(CChromaGamutInterpolation().IsPointInCIEPolygon(pt), "bInside");
 }
 
-void TestChromaGamutInterpolation::nearAVertexIsInside()
+void TestChromaGamutInterpolation::NearAVertexIsInside()
 {
     CChromaGamutInterpolation gamut;
     const QPointF ptLowest = gamut.GetQPointFData()[0];
@@ -134,7 +134,7 @@ void TestChromaGamutInterpolation::nearAVertexIsInside()
     QVERIFY(!gamut.IsPointInCIEPolygon(ptLowest + QPointF(-0.00005, -0.00015)));
 }
 
-void TestChromaGamutInterpolation::nearThePurpleLineIsOutside()
+void TestChromaGamutInterpolation::NearThePurpleLineIsOutside()
 {
     CChromaGamutInterpolation gamut;
     const QPointF ptMiddle = MiddleOfPurpleLine(gamut.GetQPointFData());
@@ -142,7 +142,7 @@ void TestChromaGamutInterpolation::nearThePurpleLineIsOutside()
     QVERIFY(gamut.IsPointInCIEPolygon(ptMiddle + QPointF(-0.00005, 0.00005)));
 }
 
-void TestChromaGamutInterpolation::emptiedOutlineContainsNothing()
+void TestChromaGamutInterpolation::EmptiedOutlineContainsNothing()
 {
     CChromaGamutInterpolation gamut;
     gamut.GetQPointFData().clear();
@@ -150,7 +150,7 @@ void TestChromaGamutInterpolation::emptiedOutlineContainsNothing()
     QVERIFY(gamut.GetData().isEmpty());
 }
 
-void TestChromaGamutInterpolation::writtenOutlineDecides()
+void TestChromaGamutInterpolation::WrittenOutlineDecides()
 {
     CChromaGamutInterpolation gamut;
     gamut.GetQPointFData() = {QPointF(2.0, 2.0), QPointF(3.0, 2.0), QPointF(2.0, 3.0)};
@@ -159,7 +159,7 @@ void TestChromaGamutInterpolation::writtenOutlineDecides()
     QVERIFY(CChromaGamutInterpolation().IsPointInCIEPolygon(QPointF(0.3127, 0.3290)));
 }
 
-void TestChromaGamutInterpolation::insideTestDoesNotAllocate()
+void TestChromaGamutInterpolation::InsideTestDoesNotAllocate()
 {
     CChromaGamutInterpolation gamut;
     const CAllocationCounter counter;

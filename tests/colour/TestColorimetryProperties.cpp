@@ -47,13 +47,13 @@ class TestColorimetryProperties : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void thereAndBackAgreesWithinTheStepOfTheTable();
-    void higherTemperaturesLieFartherDownTheLocus();
-    void aTemperatureIsWrittenExactlyInsideTheGate();
-    void theOutlineIsConvex();
-    void aPointBetweenTwoInsideIsInside();
-    void littleCmsGivesTheSamePoint();
-    void littleCmsGivesATemperatureNearby();
+    void ThereAndBackAgreesWithinTheStepOfTheTable();
+    void HigherTemperaturesLieFartherDownTheLocus();
+    void ATemperatureIsWrittenExactlyInsideTheGate();
+    void TheOutlineIsConvex();
+    void APointBetweenTwoInsideIsInside();
+    void LittleCmsGivesTheSamePoint();
+    void LittleCmsGivesATemperatureNearby();
 
 private:
     QPointF PointOf(float fCCT) const
@@ -67,7 +67,7 @@ private:
     CChromaGamutInterpolation m_gamut;
 };
 
-void TestColorimetryProperties::thereAndBackAgreesWithinTheStepOfTheTable()
+void TestColorimetryProperties::ThereAndBackAgreesWithinTheStepOfTheTable()
 {
     QVERIFY(PropertyHolds("to chromaticity and back is within a step", [this] {
         const float fCCT = AnyTemperature();
@@ -78,7 +78,7 @@ void TestColorimetryProperties::thereAndBackAgreesWithinTheStepOfTheTable()
     }));
 }
 
-void TestColorimetryProperties::higherTemperaturesLieFartherDownTheLocus()
+void TestColorimetryProperties::HigherTemperaturesLieFartherDownTheLocus()
 {
     QVERIFY(PropertyHolds("x and y fall as the temperature rises", [this] {
         const float fCCT = AnyTemperature();
@@ -91,7 +91,7 @@ void TestColorimetryProperties::higherTemperaturesLieFartherDownTheLocus()
     }));
 }
 
-void TestColorimetryProperties::aTemperatureIsWrittenExactlyInsideTheGate()
+void TestColorimetryProperties::ATemperatureIsWrittenExactlyInsideTheGate()
 {
     QVERIFY(PropertyHolds("the gate decides whether a temperature is written, its range decides the verdict",
                           [this] {
@@ -105,7 +105,7 @@ void TestColorimetryProperties::aTemperatureIsWrittenExactlyInsideTheGate()
                           }));
 }
 
-void TestColorimetryProperties::theOutlineIsConvex()
+void TestColorimetryProperties::TheOutlineIsConvex()
 {
     const QVector<QPointF> vecOutline = m_gamut.GetQPointFData();
     for (int i = 0; i < vecOutline.size(); ++i) {
@@ -118,7 +118,7 @@ void TestColorimetryProperties::theOutlineIsConvex()
     }
 }
 
-void TestColorimetryProperties::aPointBetweenTwoInsideIsInside()
+void TestColorimetryProperties::APointBetweenTwoInsideIsInside()
 {
     QVERIFY(PropertyHolds("a convex outline holds what lies between two of its points", [this] {
         const QVector<QPointF>& vecOutline = m_gamut.GetQPointFData();
@@ -131,7 +131,7 @@ void TestColorimetryProperties::aPointBetweenTwoInsideIsInside()
     }));
 }
 
-void TestColorimetryProperties::littleCmsGivesTheSamePoint()
+void TestColorimetryProperties::LittleCmsGivesTheSamePoint()
 {
     QVERIFY(PropertyHolds("the same daylight polynomials give the same point up to single precision", [this] {
         const float fCCT = AnyTemperature();
@@ -145,7 +145,7 @@ void TestColorimetryProperties::littleCmsGivesTheSamePoint()
     }));
 }
 
-void TestColorimetryProperties::littleCmsGivesATemperatureNearby()
+void TestColorimetryProperties::LittleCmsGivesATemperatureNearby()
 {
     double dLargest = 0.0;
     double dAt = 0.0;

@@ -137,7 +137,7 @@ void Chart(CRobot& robot)
 void Workbench(CRobot& robot)
 {
     CLanguage language;
-    language.Set(robot.Dice().OnceIn(2) ? enLanguage::Chinese : enLanguage::English);
+    language.Set(robot.Dice().OnceIn(2) ? enLanguage::enChinese : enLanguage::enEnglish);
     QSettings settings(QDir::current().filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
     CMainWindow window(language, settings);
     if (robot.Dice().OnceIn(2))

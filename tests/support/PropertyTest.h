@@ -9,12 +9,12 @@
 
 /// Whether a property holds for generated arguments. The seed is fixed, so that a run tells about the code
 /// and not about luck; set RC_PARAMS, for instance to "seed=7 max_success=100000", for another walk.
-template <class Property>
-bool PropertyHolds(const char* szDescription, Property&& property)
+template <class TProperty>
+bool PropertyHolds(const char* szDescription, TProperty&& property)
 {
     if (qEnvironmentVariableIsEmpty("RC_PARAMS"))
         qputenv("RC_PARAMS", "seed=20260 max_success=2000 max_discard_ratio=100");
-    return rc::check(szDescription, std::forward<Property>(property));
+    return rc::check(szDescription, std::forward<TProperty>(property));
 }
 
 #endif // TESTS_SUPPORT_PROPERTYTEST_H

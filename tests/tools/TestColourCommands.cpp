@@ -8,31 +8,31 @@ class TestColourCommands : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cctTurnsOneIntoTheOther_data();
-    void cctTurnsOneIntoTheOther();
-    void cctTellsWhichTemperatureIsWhich();
-    void cctRejects_data();
-    void cctRejects();
-    void gamutTellsTheCoverage_data();
-    void gamutTellsTheCoverage();
-    void gamutComparesInEitherPlane();
-    void matrixPrintsRows_data();
-    void matrixPrintsRows();
-    void matrixTellsWhatItClips();
-    void matrixRejects_data();
-    void matrixRejects();
-    void gamutRejects_data();
-    void gamutRejects();
-    void standardsListsEveryName();
-    void standardsPrintsJson();
-    void everyListedNameIsUnderstood();
-    void locusPrintsEveryPoint_data();
-    void locusPrintsEveryPoint();
-    void locusPrintsJson();
-    void locusRejectsTwoFormats();
+    void CctTurnsOneIntoTheOther_data();
+    void CctTurnsOneIntoTheOther();
+    void CctTellsWhichTemperatureIsWhich();
+    void CctRejects_data();
+    void CctRejects();
+    void GamutTellsTheCoverage_data();
+    void GamutTellsTheCoverage();
+    void GamutComparesInEitherPlane();
+    void MatrixPrintsRows_data();
+    void MatrixPrintsRows();
+    void MatrixTellsWhatItClips();
+    void MatrixRejects_data();
+    void MatrixRejects();
+    void GamutRejects_data();
+    void GamutRejects();
+    void StandardsListsEveryName();
+    void StandardsPrintsJson();
+    void EveryListedNameIsUnderstood();
+    void LocusPrintsEveryPoint_data();
+    void LocusPrintsEveryPoint();
+    void LocusPrintsJson();
+    void LocusRejectsTwoFormats();
 };
 
-void TestColourCommands::cctTurnsOneIntoTheOther_data()
+void TestColourCommands::CctTurnsOneIntoTheOther_data()
 {
     QTest::addColumn<QByteArrayList>("words");
     QTest::addColumn<QByteArray>("output");
@@ -47,7 +47,7 @@ void TestColourCommands::cctTurnsOneIntoTheOther_data()
         << QByteArrayList{"cct", " 0.3127, 0.3290"} << QByteArray("6500.00 K\n");
 }
 
-void TestColourCommands::cctTurnsOneIntoTheOther()
+void TestColourCommands::CctTurnsOneIntoTheOther()
 {
     QFETCH(QByteArrayList, words);
     QFETCH(QByteArray, output);
@@ -58,7 +58,7 @@ void TestColourCommands::cctTurnsOneIntoTheOther()
     QCOMPARE(run.output.left(output.size()), output);
 }
 
-void TestColourCommands::cctTellsWhichTemperatureIsWhich()
+void TestColourCommands::CctTellsWhichTemperatureIsWhich()
 {
     const SToolRun run = RunTool({"cct", "0.3127,0.3290"});
     QCOMPARE(run.nStatus, 0);
@@ -70,7 +70,7 @@ void TestColourCommands::cctTellsWhichTemperatureIsWhich()
     QCOMPARE(RunTool({"cct", "6500"}).output.count('\n'), 1);
 }
 
-void TestColourCommands::cctRejects_data()
+void TestColourCommands::CctRejects_data()
 {
     QTest::addColumn<QByteArrayList>("words");
     QTest::addColumn<QByteArray>("text");
@@ -91,14 +91,14 @@ void TestColourCommands::cctRejects_data()
     QTest::newRow("above 1") << QByteArrayList{"0.3,1.5"} << QByteArray("must be from 0 to 1");
 }
 
-void TestColourCommands::cctRejects()
+void TestColourCommands::CctRejects()
 {
     QFETCH(QByteArrayList, words);
     QFETCH(QByteArray, text);
     VERIFY_BAD_INPUT(RunTool(QByteArrayList{"cct"} + words), text);
 }
 
-void TestColourCommands::gamutTellsTheCoverage_data()
+void TestColourCommands::GamutTellsTheCoverage_data()
 {
     QTest::addColumn<QByteArray>("of");
     QTest::addColumn<QByteArray>("by");
@@ -119,7 +119,7 @@ void TestColourCommands::gamutTellsTheCoverage_data()
                             << QByteArray("50.00 %\n");
 }
 
-void TestColourCommands::gamutTellsTheCoverage()
+void TestColourCommands::GamutTellsTheCoverage()
 {
     QFETCH(QByteArray, of);
     QFETCH(QByteArray, by);
@@ -129,14 +129,14 @@ void TestColourCommands::gamutTellsTheCoverage()
     QTEST(run.output, "output");
 }
 
-void TestColourCommands::gamutComparesInEitherPlane()
+void TestColourCommands::GamutComparesInEitherPlane()
 {
     QCOMPARE(RunTool({"gamut", "--of", "Rec2020", "--by", "DCIP3", "--uv"}).output, QByteArray("72.85 %\n"));
     QCOMPARE(RunTool({"gamut", "--of", "NTSC", "--by", "NTSC", "--uv"}).output, QByteArray("100.00 %\n"));
     VERIFY_BAD_INPUT(RunTool({"gamut", "--of", "sRGB", "--by", "0,0;1,0;0,1", "--uv"}), "cannot be compared");
 }
 
-void TestColourCommands::matrixPrintsRows_data()
+void TestColourCommands::MatrixPrintsRows_data()
 {
     QTest::addColumn<QByteArrayList>("words");
     QTest::addColumn<QByteArray>("output");
@@ -151,7 +151,7 @@ void TestColourCommands::matrixPrintsRows_data()
                                    << QByteArray("   0.4451698   0.2771344   0.1722827\n");
 }
 
-void TestColourCommands::matrixPrintsRows()
+void TestColourCommands::MatrixPrintsRows()
 {
     QFETCH(QByteArrayList, words);
     QFETCH(QByteArray, output);
@@ -160,7 +160,7 @@ void TestColourCommands::matrixPrintsRows()
     QCOMPARE(run.output.left(output.size()), output);
 }
 
-void TestColourCommands::matrixTellsWhatItClips()
+void TestColourCommands::MatrixTellsWhatItClips()
 {
     QVERIFY(RunTool({"matrix", "sRGB", "--to", "Rec2020"})
                 .output.endsWith("0.00 % of the colours lie outside\n"));
@@ -169,7 +169,7 @@ void TestColourCommands::matrixTellsWhatItClips()
     QCOMPARE(json[QStringLiteral("matrix")].toArray().size(), 3);
 }
 
-void TestColourCommands::matrixRejects_data()
+void TestColourCommands::MatrixRejects_data()
 {
     QTest::addColumn<QByteArrayList>("words");
     QTest::addColumn<QByteArray>("text");
@@ -182,14 +182,14 @@ void TestColourCommands::matrixRejects_data()
     QTest::newRow("no colours") << QByteArrayList{"0,0;1,0;0,1"} << QByteArray("x and y must be above 0");
 }
 
-void TestColourCommands::matrixRejects()
+void TestColourCommands::MatrixRejects()
 {
     QFETCH(QByteArrayList, words);
     QFETCH(QByteArray, text);
     VERIFY_BAD_INPUT(RunTool(QByteArrayList{"matrix"} + words), text);
 }
 
-void TestColourCommands::gamutRejects_data()
+void TestColourCommands::GamutRejects_data()
 {
     QTest::addColumn<QByteArrayList>("words");
     QTest::addColumn<QByteArray>("text");
@@ -209,14 +209,14 @@ void TestColourCommands::gamutRejects_data()
         << QByteArray("gamut '0.1,0.1;0.2,0.2;0.3,0.3' has no area");
 }
 
-void TestColourCommands::gamutRejects()
+void TestColourCommands::GamutRejects()
 {
     QFETCH(QByteArrayList, words);
     QFETCH(QByteArray, text);
     VERIFY_BAD_INPUT(RunTool(QByteArrayList{"gamut"} + words), text);
 }
 
-void TestColourCommands::standardsListsEveryName()
+void TestColourCommands::StandardsListsEveryName()
 {
     const SToolRun run = RunTool({"standards"});
     QCOMPARE(run.nStatus, 0);
@@ -229,7 +229,7 @@ void TestColourCommands::standardsListsEveryName()
                  "BT.2100"));
 }
 
-void TestColourCommands::standardsPrintsJson()
+void TestColourCommands::StandardsPrintsJson()
 {
     const QJsonArray standards = QJsonDocument::fromJson(RunTool({"standards", "--json"}).output).array();
     QCOMPARE(standards.size(), 8);
@@ -239,7 +239,7 @@ void TestColourCommands::standardsPrintsJson()
     QCOMPARE(last[QStringLiteral("otherNames")].toArray()[1].toString(), QStringLiteral("Display P3"));
 }
 
-void TestColourCommands::everyListedNameIsUnderstood()
+void TestColourCommands::EveryListedNameIsUnderstood()
 {
     const QJsonArray standards = QJsonDocument::fromJson(RunTool({"standards", "--json"}).output).array();
     for (const auto& standard : standards) {
@@ -250,7 +250,7 @@ void TestColourCommands::everyListedNameIsUnderstood()
     }
 }
 
-void TestColourCommands::locusPrintsEveryPoint_data()
+void TestColourCommands::LocusPrintsEveryPoint_data()
 {
     QTest::addColumn<QByteArrayList>("words");
     QTest::addColumn<int>("nLines");
@@ -260,7 +260,7 @@ void TestColourCommands::locusPrintsEveryPoint_data()
                          << QByteArray("x,y\n0.17310094833374023,0.0047738747671246");
 }
 
-void TestColourCommands::locusPrintsEveryPoint()
+void TestColourCommands::LocusPrintsEveryPoint()
 {
     QFETCH(QByteArrayList, words);
     const SToolRun run = RunTool(words);
@@ -270,14 +270,14 @@ void TestColourCommands::locusPrintsEveryPoint()
     QCOMPARE(run.output.left(start.size()), start);
 }
 
-void TestColourCommands::locusPrintsJson()
+void TestColourCommands::LocusPrintsJson()
 {
     const QJsonArray points = QJsonDocument::fromJson(RunTool({"locus", "--json"}).output).array();
     QCOMPARE(points.size(), 156);
     QCOMPARE(float(points[0].toArray()[1].toDouble()), 0.0047738748F);
 }
 
-void TestColourCommands::locusRejectsTwoFormats()
+void TestColourCommands::LocusRejectsTwoFormats()
 {
     VERIFY_BAD_INPUT(RunTool({"locus", "--csv", "--json"}), "exclude each other");
 }

@@ -10,13 +10,13 @@ class TestWallCommand : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void theDocumentedWallIsAnalysed();
-    void theOddModulesAreNamed();
-    void jsonHoldsAMatrixForEachModule();
-    void standardAndWhiteAreTaken();
-    void aWhiteThatNoModuleReachesIsTold();
-    void badInputIsOneLine_data();
-    void badInputIsOneLine();
+    void TheDocumentedWallIsAnalysed();
+    void TheOddModulesAreNamed();
+    void JsonHoldsAMatrixForEachModule();
+    void StandardAndWhiteAreTaken();
+    void AWhiteThatNoModuleReachesIsTold();
+    void BadInputIsOneLine_data();
+    void BadInputIsOneLine();
 
 private:
     QByteArray Save(const char* szName, const QByteArray& content)
@@ -39,7 +39,7 @@ void TestWallCommand::initTestCase()
     m_wall = Save("wall.csv", script.readAllStandardOutput());
 }
 
-void TestWallCommand::theDocumentedWallIsAnalysed()
+void TestWallCommand::TheDocumentedWallIsAnalysed()
 {
     const SToolRun run = RunTool({"wall", m_wall, "--standard", "DCIP3"});
     QCOMPARE(run.errors, QByteArray());
@@ -51,7 +51,7 @@ void TestWallCommand::theDocumentedWallIsAnalysed()
         QVERIFY2(run.output.contains(szTerm), szTerm);
 }
 
-void TestWallCommand::theOddModulesAreNamed()
+void TestWallCommand::TheOddModulesAreNamed()
 {
     const QByteArray output = RunTool({"wall", m_wall}).output;
     QVERIFY(output.contains("\nOdd modules     D6 "));
@@ -59,7 +59,7 @@ void TestWallCommand::theOddModulesAreNamed()
     QVERIFY(output.contains("(colour and luminance)"));
 }
 
-void TestWallCommand::jsonHoldsAMatrixForEachModule()
+void TestWallCommand::JsonHoldsAMatrixForEachModule()
 {
     const QJsonObject json = JsonOf(RunTool({"wall", m_wall, "--json"}));
     const QJsonArray modules = json[QStringLiteral("modules")].toArray();
@@ -75,7 +75,7 @@ void TestWallCommand::jsonHoldsAMatrixForEachModule()
     QVERIFY(json[QStringLiteral("common")][QStringLiteral("level")].toDouble() > 500.0);
 }
 
-void TestWallCommand::standardAndWhiteAreTaken()
+void TestWallCommand::StandardAndWhiteAreTaken()
 {
     const QJsonObject json =
         JsonOf(RunTool({"wall", m_wall, "--standard", "BT.2020", "--white", "D50", "--json"}));
@@ -85,14 +85,14 @@ void TestWallCommand::standardAndWhiteAreTaken()
     QVERIFY(standard[QStringLiteral("clipped")].toDouble() > 0.0);
 }
 
-void TestWallCommand::aWhiteThatNoModuleReachesIsTold()
+void TestWallCommand::AWhiteThatNoModuleReachesIsTold()
 {
     const SToolRun run = RunTool({"wall", m_wall, "--white", "0.70,0.29"});
     QCOMPARE(run.nStatus, 0);
     QVERIFY(run.output.contains("\nCommon gamut    none: the white lies outside the gamut\n"));
 }
 
-void TestWallCommand::badInputIsOneLine_data()
+void TestWallCommand::BadInputIsOneLine_data()
 {
     QTest::addColumn<QByteArrayList>("words");
     QTest::addColumn<QByteArray>("text");
@@ -111,7 +111,7 @@ void TestWallCommand::badInputIsOneLine_data()
                                    << QByteArray("'D99' is not a white point");
 }
 
-void TestWallCommand::badInputIsOneLine()
+void TestWallCommand::BadInputIsOneLine()
 {
     QFETCH(QByteArrayList, words);
     QFETCH(QByteArray, text);

@@ -158,10 +158,10 @@ void TestMainWindow::TheLanguageSwitchesAtRunTime()
 {
     CWorkbenchFixture workbench;
     QCOMPARE(workbench.window.menuBar()->actions().first()->text(), QStringLiteral("工程(&P)"));
-    workbench.language.Set(enLanguage::English);
+    workbench.language.Set(enLanguage::enEnglish);
     QTRY_COMPARE(workbench.window.menuBar()->actions().first()->text(), QStringLiteral("&Project"));
     QCOMPARE(workbench.window.Tree().headerItem()->text(0), QStringLiteral("Sender"));
-    workbench.language.Set(enLanguage::Chinese);
+    workbench.language.Set(enLanguage::enChinese);
     QTRY_COMPARE(workbench.window.menuBar()->actions().first()->text(), QStringLiteral("工程(&P)"));
 }
 

@@ -30,7 +30,7 @@ SPictureLayout CanvasLayout::PlacePicture(const SCanvasLayout& layout, QSize siz
 {
     if (layout.rectCanvas.isEmpty() || sizePicture.isEmpty())
         return {};
-    if (fit == enPictureFit::Stretched)
+    if (fit == enPictureFit::enStretched)
         return {QRect(QPoint(), sizePicture), layout.rectCanvas};
     const QSize sizePart = sizePicture.boundedTo(sizeCanvas);
     const QSize sizeTarget(Scaled(sizePart.width(), layout.dScale), Scaled(sizePart.height(), layout.dScale));

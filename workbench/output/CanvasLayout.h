@@ -7,8 +7,8 @@
 /// How a background picture is fitted to the canvas. The values are those of `CSender::BkImageFit`.
 enum class enPictureFit
 {
-    OneToOne = 0, ///< a pixel of the picture is a pixel of the canvas, from its top left corner on
-    Stretched = 1 ///< the picture fills the canvas, whatever its sides
+    enOneToOne = 0, ///< a pixel of the picture is a pixel of the canvas, from its top left corner on
+    enStretched = 1 ///< the picture fills the canvas, whatever its sides
 };
 
 /// Where a canvas is shown.

@@ -24,16 +24,16 @@ SCanvasPicture ReadPicture(const QString& strFile)
     picture.strFile = strFile;
     picture.size = reader.size();
     if (qint64(picture.size.width()) * picture.size.height() > CCanvasPictureReader::c_nMaxPixels) {
-        picture.state = enPictureState::TooLarge;
+        picture.state = enPictureState::enTooLarge;
         return picture;
     }
     if (KeptSize(picture.size) != picture.size)
         reader.setScaledSize(KeptSize(picture.size));
     if (!picture.size.isEmpty() && reader.read(&picture.image)) {
-        picture.state = enPictureState::Good;
+        picture.state = enPictureState::enGood;
         return picture;
     }
-    picture.state = enPictureState::Unreadable;
+    picture.state = enPictureState::enUnreadable;
     picture.strProblem = reader.errorString();
     return picture;
 }
@@ -48,7 +48,7 @@ const SCanvasPicture& CCanvasPictureReader::Read(const QString& strFile)
         m_picture.strFile = strFile;
         return m_picture;
     }
-    const bool bKept = m_picture.state != enPictureState::Missing && m_picture.strFile == strFile &&
+    const bool bKept = m_picture.state != enPictureState::enMissing && m_picture.strFile == strFile &&
                        m_timeModified == info.lastModified() && m_nFileSize == info.size();
     if (!bKept) {
         m_picture = ReadPicture(strFile);

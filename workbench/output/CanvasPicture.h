@@ -8,16 +8,16 @@
 /// What became of reading a picture file.
 enum class enPictureState
 {
-    Missing,    ///< there is no such file
-    Unreadable, ///< it holds no picture that could be shown
-    TooLarge,   ///< it has more pixels than a view should spend memory on
-    Good
+    enMissing,    ///< there is no such file
+    enUnreadable, ///< it holds no picture that could be shown
+    enTooLarge,   ///< it has more pixels than a view should spend memory on
+    enGood
 };
 
 /// A background picture as it is read from its file.
 struct SCanvasPicture
 {
-    enPictureState state = enPictureState::Missing;
+    enPictureState state = enPictureState::enMissing;
     QString strFile;
     QString strProblem; ///< why it is unreadable
     QSize size;         ///< pixels, as in the file

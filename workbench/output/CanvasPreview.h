@@ -13,7 +13,7 @@ struct SCanvasContent
     QImage imgPicture;  ///< the background picture; null: none is shown
     QSize sizePicture;  ///< the picture's own size, pixels: the image may have been made smaller
     quint8 byAlpha = 0; ///< opacity of the picture
-    enPictureFit fit = enPictureFit::OneToOne;
+    enPictureFit fit = enPictureFit::enOneToOne;
     QString strNote;       ///< shown in the middle
     bool bWarning = false; ///< the note tells what is wrong
 };

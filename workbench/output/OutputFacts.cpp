@@ -49,12 +49,12 @@ QString OpacityText(int nAlpha)
 QString FileText(const SCanvasPicture& picture)
 {
     switch (picture.state) {
-    case enPictureState::Missing:
+    case enPictureState::enMissing:
         return COutputFacts::tr("没有文件");
-    case enPictureState::Unreadable:
+    case enPictureState::enUnreadable:
         return COutputFacts::tr("无法读取");
-    case enPictureState::TooLarge:
-    case enPictureState::Good:
+    case enPictureState::enTooLarge:
+    case enPictureState::enGood:
         break;
     }
     return SenderOutput::SizeText(picture.size);

@@ -32,15 +32,15 @@ QString ProblemText(const SCanvasPicture& picture)
 {
     const QString strFile = PathText(picture.strFile);
     switch (picture.state) {
-    case enPictureState::Missing:
+    case enPictureState::enMissing:
         return COutputPage::tr("背景图片已启用，但文件不存在：\n%1\n请重新选取图片。").arg(strFile);
-    case enPictureState::Unreadable:
+    case enPictureState::enUnreadable:
         return COutputPage::tr("无法读取背景图片：\n%1\n%2\n请选取另一张图片。")
             .arg(strFile, picture.strProblem);
-    case enPictureState::TooLarge:
+    case enPictureState::enTooLarge:
         return COutputPage::tr("背景图片太大（%1 像素），此处不显示。")
             .arg(SenderOutput::SizeText(picture.size));
-    case enPictureState::Good:
+    case enPictureState::enGood:
         break;
     }
     return {};
@@ -147,15 +147,15 @@ SCanvasContent COutputPage::Content(const SSimulatedSender& sender, const SCanva
         content.bWarning = true;
     } else if (!sender.record.BkImageEnable) {
         content.strNote =
-            picture.state == enPictureState::Missing ? tr("没有背景图片") : tr("背景图片已关闭");
-    } else if (picture.state != enPictureState::Good) {
+            picture.state == enPictureState::enMissing ? tr("没有背景图片") : tr("背景图片已关闭");
+    } else if (picture.state != enPictureState::enGood) {
         content.strNote = ProblemText(picture);
         content.bWarning = true;
     } else {
         content.imgPicture = picture.image;
         content.sizePicture = picture.size;
         content.byAlpha = sender.record.BkImageAlpha;
-        content.fit = sender.record.BkImageFit == 0 ? enPictureFit::OneToOne : enPictureFit::Stretched;
+        content.fit = sender.record.BkImageFit == 0 ? enPictureFit::enOneToOne : enPictureFit::enStretched;
         if (content.byAlpha == 0)
             content.strNote = tr("背景图片完全透明");
     }

@@ -123,12 +123,12 @@ struct SEditing
 
 SEditing Numbers(int nMin, int nMax, const char* szLowest = nullptr)
 {
-    return {enEditor::Number, nMin, nMax, szLowest};
+    return {enEditor::enNumber, nMin, nMax, szLowest};
 }
 
 SEditing Choices(std::vector<SPropertyChoice> vecChoices)
 {
-    return {enEditor::Choice, 0, 0, nullptr, std::move(vecChoices)};
+    return {enEditor::enChoice, 0, 0, nullptr, std::move(vecChoices)};
 }
 
 SSenderProperty Row(const char* szGroup, const char* szName, const SEditing& editing, const SAccess& access)
@@ -144,8 +144,8 @@ constexpr const char* c_szOutput = QT_TRANSLATE_NOOP("CSenderPropertyText", "输
 constexpr const char* c_szCanvas = QT_TRANSLATE_NOOP("CSenderPropertyText", "画布");
 constexpr const char* c_szAddressing = QT_TRANSLATE_NOOP("CSenderPropertyText", "寻址（整个工程）");
 
-const SEditing c_text = {enEditor::Text};
-const SEditing c_switch = {enEditor::Switch};
+const SEditing c_text = {enEditor::enText};
+const SEditing c_switch = {enEditor::enSwitch};
 const SEditing c_side16 = Numbers(0, c_nMaxSide);
 const SEditing c_limit16 = Numbers(1, c_nMaxSide);
 
@@ -205,7 +205,7 @@ const std::vector<SSenderProperty> c_vecProperties = {
     Row(c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "硬件以 50 Hz 运行"), c_switch,
         c_sender<&SSender::b50Hz>),
     Row(c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "实际输入帧率 (Hz)"),
-        {enEditor::Decimal, 0, 1000, QT_TRANSLATE_NOOP("CSenderPropertyText", "未知")},
+        {enEditor::enDecimal, 0, 1000, QT_TRANSLATE_NOOP("CSenderPropertyText", "未知")},
         c_sender<&SSender::fMaxInputFrameRate>),
     Row(c_szOutput, QT_TRANSLATE_NOOP("CSenderPropertyText", "输出超限"), c_limitFlags,
         c_optional<SOfSender<&SSender::outputLimitFlags>, c_nComputed>),

@@ -10,11 +10,11 @@ struct SSimulatedProject;
 /// How a property is edited.
 enum class enEditor
 {
-    Text,
-    Switch,
-    Number,
-    Decimal,
-    Choice
+    enText,
+    enSwitch,
+    enNumber,
+    enDecimal,
+    enChoice
 };
 
 /// One choice of a property that has a few.

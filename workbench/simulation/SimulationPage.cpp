@@ -23,20 +23,20 @@ namespace {
 void ShowValue(const SSenderProperty& property, QWidget* pEditor, const QVariant& value)
 {
     switch (property.editor) {
-    case enEditor::Text:
+    case enEditor::enText:
         if (static_cast<QLineEdit*>(pEditor)->text() != value.toString())
             static_cast<QLineEdit*>(pEditor)->setText(value.toString());
         break;
-    case enEditor::Switch:
+    case enEditor::enSwitch:
         static_cast<QCheckBox*>(pEditor)->setChecked(value.toBool());
         break;
-    case enEditor::Number:
+    case enEditor::enNumber:
         static_cast<QSpinBox*>(pEditor)->setValue(value.toInt());
         break;
-    case enEditor::Decimal:
+    case enEditor::enDecimal:
         static_cast<QDoubleSpinBox*>(pEditor)->setValue(value.toDouble());
         break;
-    case enEditor::Choice:
+    case enEditor::enChoice:
         static_cast<QComboBox*>(pEditor)->setCurrentIndex(static_cast<QComboBox*>(pEditor)->findData(value));
         break;
     }
@@ -108,25 +108,25 @@ QFormLayout* CSimulationPage::FormOf(const char* szGroup, QVBoxLayout* pLayout)
 QWidget* CSimulationPage::CreateEditor(const SSenderProperty& property)
 {
     switch (property.editor) {
-    case enEditor::Text: {
+    case enEditor::enText: {
         auto* pEdit = new QLineEdit(m_pForms);
         connect(pEdit, &QLineEdit::textEdited, this,
                 [this, &property](const QString& strText) { Write(property, strText); });
         return pEdit;
     }
-    case enEditor::Switch: {
+    case enEditor::enSwitch: {
         auto* pCheckBox = new QCheckBox(m_pForms);
         connect(pCheckBox, &QCheckBox::toggled, this, [this, &property](bool bOn) { Write(property, bOn); });
         return pCheckBox;
     }
-    case enEditor::Decimal: {
+    case enEditor::enDecimal: {
         auto* pSpinBox = new QDoubleSpinBox(m_pForms);
         pSpinBox->setRange(property.nMin, property.nMax);
         connect(pSpinBox, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
                 [this, &property](double dValue) { Write(property, dValue); });
         return pSpinBox;
     }
-    case enEditor::Choice: {
+    case enEditor::enChoice: {
         auto* pComboBox = new QComboBox(m_pForms);
         for (const SPropertyChoice& choice : property.vecChoices)
             pComboBox->addItem(SenderProperties::Text(choice.szText), choice.nValue);
@@ -134,7 +134,7 @@ QWidget* CSimulationPage::CreateEditor(const SSenderProperty& property)
                 [this, &property, pComboBox] { Write(property, pComboBox->currentData()); });
         return pComboBox;
     }
-    case enEditor::Number:
+    case enEditor::enNumber:
         break;
     }
     auto* pSpinBox = new QSpinBox(m_pForms);

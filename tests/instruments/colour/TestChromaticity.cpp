@@ -23,18 +23,18 @@ class TestChromaticity : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void publishedUcsCoordinates_data();
-    void publishedUcsCoordinates();
-    void toUcsAndBackIsTheSamePoint();
-    void straightLinesStayStraight();
-    void tristimulusAndBackIsTheSamePoint();
-    void distanceIsSymmetric();
-    void whatIsNoChromaticityIsNamed_data();
-    void whatIsNoChromaticityIsNamed();
-    void everyFaultHasAText();
+    void PublishedUcsCoordinates_data();
+    void PublishedUcsCoordinates();
+    void ToUcsAndBackIsTheSamePoint();
+    void StraightLinesStayStraight();
+    void TristimulusAndBackIsTheSamePoint();
+    void DistanceIsSymmetric();
+    void WhatIsNoChromaticityIsNamed_data();
+    void WhatIsNoChromaticityIsNamed();
+    void EveryFaultHasAText();
 };
 
-void TestChromaticity::publishedUcsCoordinates_data()
+void TestChromaticity::PublishedUcsCoordinates_data()
 {
     QTest::addColumn<SChromaticity>("xy");
     QTest::addColumn<double>("u");
@@ -50,7 +50,7 @@ void TestChromaticity::publishedUcsCoordinates_data()
     QTest::newRow("BT.709 blue") << SChromaticity{0.15, 0.06} << 0.1754 << 0.1579;
 }
 
-void TestChromaticity::publishedUcsCoordinates()
+void TestChromaticity::PublishedUcsCoordinates()
 {
     QFETCH(SChromaticity, xy);
     QFETCH(double, u);
@@ -61,7 +61,7 @@ void TestChromaticity::publishedUcsCoordinates()
     COMPARE_NEAR(Chromaticity::ToUcs1960(uv).dV, v / 1.5, c_dPublished);
 }
 
-void TestChromaticity::toUcsAndBackIsTheSamePoint()
+void TestChromaticity::ToUcsAndBackIsTheSamePoint()
 {
     QVERIFY(PropertyHolds("(x, y) to (u', v') and back", [] {
         const SChromaticity xy = AnyChromaticity();
@@ -71,7 +71,7 @@ void TestChromaticity::toUcsAndBackIsTheSamePoint()
     }));
 }
 
-void TestChromaticity::straightLinesStayStraight()
+void TestChromaticity::StraightLinesStayStraight()
 {
     QVERIFY(PropertyHolds("a point between two lies on the line between their images", [] {
         const SChromaticity a = AnyChromaticity();
@@ -85,7 +85,7 @@ void TestChromaticity::straightLinesStayStraight()
     }));
 }
 
-void TestChromaticity::tristimulusAndBackIsTheSamePoint()
+void TestChromaticity::TristimulusAndBackIsTheSamePoint()
 {
     QVERIFY(PropertyHolds("(x, y, Y) to XYZ and back", [] {
         const SChromaticity xy = AnyChromaticity();
@@ -98,7 +98,7 @@ void TestChromaticity::tristimulusAndBackIsTheSamePoint()
     }));
 }
 
-void TestChromaticity::distanceIsSymmetric()
+void TestChromaticity::DistanceIsSymmetric()
 {
     QVERIFY(PropertyHolds("from a to b is as far as from b to a", [] {
         const SUcs a = Chromaticity::ToUcs(AnyChromaticity());
@@ -108,7 +108,7 @@ void TestChromaticity::distanceIsSymmetric()
     }));
 }
 
-void TestChromaticity::whatIsNoChromaticityIsNamed_data()
+void TestChromaticity::WhatIsNoChromaticityIsNamed_data()
 {
     QTest::addColumn<SChromaticity>("xy");
     QTest::addColumn<enColourFault>("fault");
@@ -123,14 +123,14 @@ void TestChromaticity::whatIsNoChromaticityIsNamed_data()
     QTest::newRow("sum above 1") << SChromaticity{0.6, 0.5} << enColourFault::enNotChromaticity;
 }
 
-void TestChromaticity::whatIsNoChromaticityIsNamed()
+void TestChromaticity::WhatIsNoChromaticityIsNamed()
 {
     QFETCH(SChromaticity, xy);
     QFETCH(enColourFault, fault);
     QVERIFY(Chromaticity::Check(xy) == fault);
 }
 
-void TestChromaticity::everyFaultHasAText()
+void TestChromaticity::EveryFaultHasAText()
 {
     QSet<QByteArray> texts;
     for (int i = 0; i <= int(enColourFault::enNoModules); ++i)

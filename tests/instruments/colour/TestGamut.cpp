@@ -64,21 +64,21 @@ class TestGamut : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void standardsAreTheirDecimals();
-    void coverageInXyIsTheLibrarys();
-    void coverageInUcsIsTheGrids();
-    void aGamutCoversItself();
-    void theOrderOfPrimariesDoesNotMatter();
-    void areasComeFromBothSides();
-    void apartIsNothing();
-    void everyStandardIsInTheTable();
-    void intersectionIsSymmetric();
-    void intersectionLiesInBoth();
-    void whatIsNoGamutIsNamed_data();
-    void whatIsNoGamutIsNamed();
+    void StandardsAreTheirDecimals();
+    void CoverageInXyIsTheLibrarys();
+    void CoverageInUcsIsTheGrids();
+    void AGamutCoversItself();
+    void TheOrderOfPrimariesDoesNotMatter();
+    void AreasComeFromBothSides();
+    void ApartIsNothing();
+    void EveryStandardIsInTheTable();
+    void IntersectionIsSymmetric();
+    void IntersectionLiesInBoth();
+    void WhatIsNoGamutIsNamed_data();
+    void WhatIsNoGamutIsNamed();
 };
 
-void TestGamut::standardsAreTheirDecimals()
+void TestGamut::StandardsAreTheirDecimals()
 {
     const SGamut p3 = Standard(7);
     QVERIFY(p3.green.dX == 0.265 && p3.green.dY == 0.69);
@@ -86,7 +86,7 @@ void TestGamut::standardsAreTheirDecimals()
     QVERIFY(white.dX == 0.3127 && white.dY == 0.329);
 }
 
-void TestGamut::coverageInXyIsTheLibrarys()
+void TestGamut::CoverageInXyIsTheLibrarys()
 {
     QVERIFY(PropertyHolds("the same coverage as in single precision", [] {
         const SGamut covered = AnyGamut();
@@ -100,7 +100,7 @@ void TestGamut::coverageInXyIsTheLibrarys()
     }));
 }
 
-void TestGamut::coverageInUcsIsTheGrids()
+void TestGamut::CoverageInUcsIsTheGrids()
 {
     for (const int nCovered : {0, 3, 6}) {
         const auto coverage = Gamut::CoverageOf(enDiagram::enUcs, Standard(nCovered), Standard(7));
@@ -109,7 +109,7 @@ void TestGamut::coverageInUcsIsTheGrids()
     }
 }
 
-void TestGamut::aGamutCoversItself()
+void TestGamut::AGamutCoversItself()
 {
     QVERIFY(PropertyHolds("of itself a gamut covers all, in both diagrams", [] {
         const SGamut gamut = AnyGamut();
@@ -121,7 +121,7 @@ void TestGamut::aGamutCoversItself()
     }));
 }
 
-void TestGamut::theOrderOfPrimariesDoesNotMatter()
+void TestGamut::TheOrderOfPrimariesDoesNotMatter()
 {
     QVERIFY(PropertyHolds("primaries in any order and direction", [] {
         const SGamut covered = AnyGamut();
@@ -133,7 +133,7 @@ void TestGamut::theOrderOfPrimariesDoesNotMatter()
     }));
 }
 
-void TestGamut::areasComeFromBothSides()
+void TestGamut::AreasComeFromBothSides()
 {
     QVERIFY(PropertyHolds("coverage times area is the same area from both sides", [] {
         const SGamut a = AnyGamut();
@@ -147,7 +147,7 @@ void TestGamut::areasComeFromBothSides()
     }));
 }
 
-void TestGamut::apartIsNothing()
+void TestGamut::ApartIsNothing()
 {
     const SGamut left = {{0.10, 0.10}, {0.15, 0.10}, {0.10, 0.15}};
     const SGamut right = {{0.50, 0.10}, {0.55, 0.10}, {0.50, 0.15}};
@@ -155,7 +155,7 @@ void TestGamut::apartIsNothing()
     QCOMPARE(Gamut::CoverageOf(enDiagram::enUcs, left, right)->dCovered, 0.0);
 }
 
-void TestGamut::everyStandardIsInTheTable()
+void TestGamut::EveryStandardIsInTheTable()
 {
     const auto coverages = Gamut::CoverageOfStandards(Standard(6));
     QVERIFY(bool(coverages));
@@ -166,7 +166,7 @@ void TestGamut::everyStandardIsInTheTable()
     COMPARE_NEAR((*Gamut::CoverageOfStandards(Standard(7)))[6].xy.dCovered, 0.7173, 5e-5);
 }
 
-void TestGamut::intersectionIsSymmetric()
+void TestGamut::IntersectionIsSymmetric()
 {
     QVERIFY(PropertyHolds("a with b has the area of b with a", [] {
         const ConvexPolygon a = Gamut::Triangle(enDiagram::enXy, AnyGamut());
@@ -176,7 +176,7 @@ void TestGamut::intersectionIsSymmetric()
     }));
 }
 
-void TestGamut::intersectionLiesInBoth()
+void TestGamut::IntersectionLiesInBoth()
 {
     QVERIFY(PropertyHolds("every corner of the intersection lies in both", [] {
         const ConvexPolygon a = Gamut::Triangle(enDiagram::enXy, AnyGamut());
@@ -188,7 +188,7 @@ void TestGamut::intersectionLiesInBoth()
     }));
 }
 
-void TestGamut::whatIsNoGamutIsNamed_data()
+void TestGamut::WhatIsNoGamutIsNamed_data()
 {
     QTest::addColumn<SGamut>("gamut");
     QTest::addColumn<enColourFault>("fault");
@@ -201,7 +201,7 @@ void TestGamut::whatIsNoGamutIsNamed_data()
     QTest::newRow("zero") << SGamut{{0.64, 0.33}, {0.3, 0.6}, {0.0, 0.0}} << enColourFault::enNotChromaticity;
 }
 
-void TestGamut::whatIsNoGamutIsNamed()
+void TestGamut::WhatIsNoGamutIsNamed()
 {
     QFETCH(SGamut, gamut);
     QFETCH(enColourFault, fault);

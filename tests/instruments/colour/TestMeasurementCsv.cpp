@@ -46,23 +46,23 @@ class TestMeasurementCsv : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyWayOfWritingIsRead_data();
-    void everyWayOfWritingIsRead();
-    void namesAreRead_data();
-    void namesAreRead();
-    void aMeasuredWhiteIsKept();
-    void encodingsAreRecognised_data();
-    void encodingsAreRecognised();
-    void theFormatIsRecognised();
-    void errorsNameLineAndColumn_data();
-    void errorsNameLineAndColumn();
-    void whatIsWrittenIsReadBack_data();
-    void whatIsWrittenIsReadBack();
-    void anyReadingsComeBackToTheLastDigit();
-    void truncatedTextNeverFails();
+    void EveryWayOfWritingIsRead_data();
+    void EveryWayOfWritingIsRead();
+    void NamesAreRead_data();
+    void NamesAreRead();
+    void AMeasuredWhiteIsKept();
+    void EncodingsAreRecognised_data();
+    void EncodingsAreRecognised();
+    void TheFormatIsRecognised();
+    void ErrorsNameLineAndColumn_data();
+    void ErrorsNameLineAndColumn();
+    void WhatIsWrittenIsReadBack_data();
+    void WhatIsWrittenIsReadBack();
+    void AnyReadingsComeBackToTheLastDigit();
+    void TruncatedTextNeverFails();
 };
 
-void TestMeasurementCsv::everyWayOfWritingIsRead_data()
+void TestMeasurementCsv::EveryWayOfWritingIsRead_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("comma, one line a module")
@@ -97,13 +97,13 @@ void TestMeasurementCsv::everyWayOfWritingIsRead_data()
              "\"A\"\"2\",0.68,0.31,241,0.2,0.71,801,0.13,0.06,76");
 }
 
-void TestMeasurementCsv::everyWayOfWritingIsRead()
+void TestMeasurementCsv::EveryWayOfWritingIsRead()
 {
     QFETCH(QString, text);
     CheckTheTwo(MeasurementCsv::Read(text), 1e-7);
 }
 
-void TestMeasurementCsv::namesAreRead_data()
+void TestMeasurementCsv::NamesAreRead_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("name");
@@ -117,7 +117,7 @@ void TestMeasurementCsv::namesAreRead_data()
     QTest::newRow("over two lines") << U("id,") + strHeading + U("\"3\nleft\",") + strNumbers << U("3\nleft");
 }
 
-void TestMeasurementCsv::namesAreRead()
+void TestMeasurementCsv::NamesAreRead()
 {
     QFETCH(QString, text);
     const SMeasurements measurements = MeasurementCsv::Read(text);
@@ -125,7 +125,7 @@ void TestMeasurementCsv::namesAreRead()
     QTEST(measurements.modules.front().strName, "name");
 }
 
-void TestMeasurementCsv::aMeasuredWhiteIsKept()
+void TestMeasurementCsv::AMeasuredWhiteIsKept()
 {
     const SMeasurements measurements =
         MeasurementCsv::Read(U("module,primary,x,y,Y\nA,R,0.69,0.305,240\nA,G,0.19,0.72,800\n"
@@ -136,7 +136,7 @@ void TestMeasurementCsv::aMeasuredWhiteIsKept()
     QVERIFY(!measurements.modules[1].white);
 }
 
-void TestMeasurementCsv::encodingsAreRecognised_data()
+void TestMeasurementCsv::EncodingsAreRecognised_data()
 {
     QTest::addColumn<QByteArray>("codec");
     QTest::addColumn<bool>("mark");
@@ -147,7 +147,7 @@ void TestMeasurementCsv::encodingsAreRecognised_data()
     QTest::newRow("GB 18030, a Chinese spreadsheet's CSV") << QByteArray("GB18030") << false;
 }
 
-void TestMeasurementCsv::encodingsAreRecognised()
+void TestMeasurementCsv::EncodingsAreRecognised()
 {
     QFETCH(QByteArray, codec);
     QFETCH(bool, mark);
@@ -162,7 +162,7 @@ void TestMeasurementCsv::encodingsAreRecognised()
     QVERIFY(measurements.format.bChinese);
 }
 
-void TestMeasurementCsv::theFormatIsRecognised()
+void TestMeasurementCsv::TheFormatIsRecognised()
 {
     const SMeasurementFormat format =
         MeasurementCsv::Read(U("模组\t颜色\tX\tY\tZ\n1\t红\t542,9\t240\t3,9\n1\t绿\t211\t800\t100\n"
@@ -172,7 +172,7 @@ void TestMeasurementCsv::theFormatIsRecognised()
     QVERIFY(format.bDecimalComma && format.bChinese && format.bTristimulus && format.bLineAPrimary);
 }
 
-void TestMeasurementCsv::errorsNameLineAndColumn_data()
+void TestMeasurementCsv::ErrorsNameLineAndColumn_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("error");
@@ -220,7 +220,7 @@ void TestMeasurementCsv::errorsNameLineAndColumn_data()
     QTest::newRow("a picture") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16) << U("the file is no text");
 }
 
-void TestMeasurementCsv::errorsNameLineAndColumn()
+void TestMeasurementCsv::ErrorsNameLineAndColumn()
 {
     QFETCH(QByteArray, content);
     QFETCH(QString, error);
@@ -230,7 +230,7 @@ void TestMeasurementCsv::errorsNameLineAndColumn()
     QVERIFY(measurements.modules.empty());
 }
 
-void TestMeasurementCsv::whatIsWrittenIsReadBack_data()
+void TestMeasurementCsv::WhatIsWrittenIsReadBack_data()
 {
     QTest::addColumn<QString>("separator");
     QTest::addColumn<int>("flags");
@@ -239,7 +239,7 @@ void TestMeasurementCsv::whatIsWrittenIsReadBack_data()
             QTest::addRow("separator %d, flags %d", szSeparator[0], nFlags) << U(szSeparator) << nFlags;
 }
 
-void TestMeasurementCsv::whatIsWrittenIsReadBack()
+void TestMeasurementCsv::WhatIsWrittenIsReadBack()
 {
     QFETCH(QString, separator);
     QFETCH(int, flags);
@@ -254,7 +254,7 @@ void TestMeasurementCsv::whatIsWrittenIsReadBack()
     QCOMPARE(measurements.format.bLineAPrimary, format.bLineAPrimary);
 }
 
-void TestMeasurementCsv::anyReadingsComeBackToTheLastDigit()
+void TestMeasurementCsv::AnyReadingsComeBackToTheLastDigit()
 {
     QVERIFY(PropertyHolds("every digit is written", [] {
         const Modules modules = {{QStringLiteral("m"), AnyPrimaries(), SReading{{0.31, 0.33}, AnyPart()}}};
@@ -266,7 +266,7 @@ void TestMeasurementCsv::anyReadingsComeBackToTheLastDigit()
     }));
 }
 
-void TestMeasurementCsv::truncatedTextNeverFails()
+void TestMeasurementCsv::TruncatedTextNeverFails()
 {
     const QString strText = MeasurementCsv::Write(TwoModules(), {QLatin1Char(';'), true, true, false, true});
     for (int i = 0; i < strText.size(); ++i) {

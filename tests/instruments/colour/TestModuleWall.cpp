@@ -54,23 +54,23 @@ class TestModuleWall : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void equalModulesDoNotDiffer();
-    void theMeanIsTheMean();
-    void aMeasuredWhiteStandsForTheSum();
-    void anOddModuleIsFound_data();
-    void anOddModuleIsFound();
-    void anEvenDeliveryHasNoOddModule();
-    void theCommonGamutLiesInEveryModules();
-    void theCommonGamutIsNotTooSmall();
-    void correctedModulesShowTheSameColours();
-    void noModuleIsDrivenBeyondItsRange();
-    void theLimitingModuleSetsTheLevel();
-    void theOrderOfModulesDoesNotMatter();
-    void theLargestTriangleIsThePlainSearchs();
-    void hostileInputIsNamed();
+    void EqualModulesDoNotDiffer();
+    void TheMeanIsTheMean();
+    void AMeasuredWhiteStandsForTheSum();
+    void AnOddModuleIsFound_data();
+    void AnOddModuleIsFound();
+    void AnEvenDeliveryHasNoOddModule();
+    void TheCommonGamutLiesInEveryModules();
+    void TheCommonGamutIsNotTooSmall();
+    void CorrectedModulesShowTheSameColours();
+    void NoModuleIsDrivenBeyondItsRange();
+    void TheLimitingModuleSetsTheLevel();
+    void TheOrderOfModulesDoesNotMatter();
+    void TheLargestTriangleIsThePlainSearchs();
+    void HostileInputIsNamed();
 };
 
-void TestModuleWall::equalModulesDoNotDiffer()
+void TestModuleWall::EqualModulesDoNotDiffer()
 {
     const Modules modules(5, SModule{QStringLiteral("m"), Nominal(), std::nullopt});
     const auto spread = ModuleWall::SpreadOf(modules);
@@ -86,7 +86,7 @@ void TestModuleWall::equalModulesDoNotDiffer()
     COMPARE_NEAR(common->dLevel, Primaries::GreatestLevel(Nominal(), c_d65)->dLevel, 1e-6);
 }
 
-void TestModuleWall::theMeanIsTheMean()
+void TestModuleWall::TheMeanIsTheMean()
 {
     Modules modules(2, SModule{QStringLiteral("m"), Nominal(), std::nullopt});
     modules[1].primaries.red.dLuminance = 300.0;
@@ -101,7 +101,7 @@ void TestModuleWall::theMeanIsTheMean()
     COMPARE_NEAR(spread->vecModules[0].arrColours[1].dUcs, 0.0, c_dRounding);
 }
 
-void TestModuleWall::aMeasuredWhiteStandsForTheSum()
+void TestModuleWall::AMeasuredWhiteStandsForTheSum()
 {
     SModule module = {QStringLiteral("m"), Nominal(), std::nullopt};
     COMPARE_NEAR(ModuleWall::ReadingOf(module, enWallColour::enWhite).dLuminance, 1115.0, c_dRounding);
@@ -109,7 +109,7 @@ void TestModuleWall::aMeasuredWhiteStandsForTheSum()
     COMPARE_NEAR(ModuleWall::ReadingOf(module, enWallColour::enWhite).dLuminance, 1050.0, c_dRounding);
 }
 
-void TestModuleWall::anOddModuleIsFound_data()
+void TestModuleWall::AnOddModuleIsFound_data()
 {
     QTest::addColumn<double>("shift");
     QTest::addColumn<double>("factor");
@@ -120,7 +120,7 @@ void TestModuleWall::anOddModuleIsFound_data()
     QTest::newRow("both") << 0.02 << 1.3 << true << true;
 }
 
-void TestModuleWall::anOddModuleIsFound()
+void TestModuleWall::AnOddModuleIsFound()
 {
     QFETCH(double, shift);
     QFETCH(double, factor);
@@ -135,7 +135,7 @@ void TestModuleWall::anOddModuleIsFound()
     QTEST(spread->vecModules[17].bOddLuminance, "oddLuminance");
 }
 
-void TestModuleWall::anEvenDeliveryHasNoOddModule()
+void TestModuleWall::AnEvenDeliveryHasNoOddModule()
 {
     // Differences that nobody sees are not odd, however regular the others are.
     Modules modules(50, SModule{QStringLiteral("m"), Nominal(), std::nullopt});
@@ -144,7 +144,7 @@ void TestModuleWall::anEvenDeliveryHasNoOddModule()
     QCOMPARE(int(ModuleWall::SpreadOf(modules)->OddCount()), 0);
 }
 
-void TestModuleWall::theCommonGamutLiesInEveryModules()
+void TestModuleWall::TheCommonGamutLiesInEveryModules()
 {
     const Modules modules = Scattered(100, 2);
     const auto common = ModuleWall::CommonOf(modules, c_d65);
@@ -158,7 +158,7 @@ void TestModuleWall::theCommonGamutLiesInEveryModules()
     }
 }
 
-void TestModuleWall::theCommonGamutIsNotTooSmall()
+void TestModuleWall::TheCommonGamutIsNotTooSmall()
 {
     const Modules modules = Scattered(100, 3);
     const auto common = ModuleWall::CommonOf(modules, c_d65);
@@ -175,7 +175,7 @@ void TestModuleWall::theCommonGamutIsNotTooSmall()
     }
 }
 
-void TestModuleWall::correctedModulesShowTheSameColours()
+void TestModuleWall::CorrectedModulesShowTheSameColours()
 {
     const Modules modules = Scattered(30, 4);
     const auto common = ModuleWall::CommonOf(modules, c_d65);
@@ -191,14 +191,14 @@ void TestModuleWall::correctedModulesShowTheSameColours()
     }
 }
 
-void TestModuleWall::noModuleIsDrivenBeyondItsRange()
+void TestModuleWall::NoModuleIsDrivenBeyondItsRange()
 {
     const auto common = ModuleWall::CommonOf(Scattered(50, 5), c_d65);
     for (const CColourMatrix& matrix : common->vecMatrices)
         QCOMPARE(Primaries::ClipShare(matrix, 5).dClipped, 0.0);
 }
 
-void TestModuleWall::theLimitingModuleSetsTheLevel()
+void TestModuleWall::TheLimitingModuleSetsTheLevel()
 {
     Modules modules = Scattered(50, 6);
     modules[33].primaries.blue.dLuminance *= 0.5;
@@ -209,7 +209,7 @@ void TestModuleWall::theLimitingModuleSetsTheLevel()
     COMPARE_NEAR(white[2], 1.0, c_dRounding);
 }
 
-void TestModuleWall::theOrderOfModulesDoesNotMatter()
+void TestModuleWall::TheOrderOfModulesDoesNotMatter()
 {
     Modules modules = Scattered(40, 7);
     const auto common = ModuleWall::CommonOf(modules, c_d65);
@@ -220,7 +220,7 @@ void TestModuleWall::theOrderOfModulesDoesNotMatter()
     COMPARE_NEAR(reversed->gamut.green.dY, common->gamut.green.dY, c_dRounding);
 }
 
-void TestModuleWall::theLargestTriangleIsThePlainSearchs()
+void TestModuleWall::TheLargestTriangleIsThePlainSearchs()
 {
     QVERIFY(PropertyHolds("no three corners span more", [] {
         ConvexPolygon polygon = Gamut::Triangle(enDiagram::enXy, AnyGamut());
@@ -235,7 +235,7 @@ void TestModuleWall::theLargestTriangleIsThePlainSearchs()
     QVERIFY(!ModuleWall::LargestTriangle({{0.1, 0.1}, {0.2, 0.2}}));
 }
 
-void TestModuleWall::hostileInputIsNamed()
+void TestModuleWall::HostileInputIsNamed()
 {
     QCOMPARE(int(ModuleWall::SpreadOf({}).Fault()), int(enColourFault::enNoModules));
     QCOMPARE(int(ModuleWall::CommonOf({}, c_d65).Fault()), int(enColourFault::enNoModules));

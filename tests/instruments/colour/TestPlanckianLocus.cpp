@@ -114,18 +114,18 @@ class TestPlanckianLocus : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theLocusIsPlancksLaw();
-    void publishedTemperatures_data();
-    void publishedTemperatures();
-    void theNearestPointIsTheDenseReferences();
-    void bothEndsBelongToTheRange();
-    void temperaturesBeyondTheRangeAreRefused_data();
-    void temperaturesBeyondTheRangeAreRefused();
-    void duvIsPositiveAboveTheLocus();
-    void farFromTheLocusATemperatureMeansNothing();
+    void TheLocusIsPlancksLaw();
+    void PublishedTemperatures_data();
+    void PublishedTemperatures();
+    void TheNearestPointIsTheDenseReferences();
+    void BothEndsBelongToTheRange();
+    void TemperaturesBeyondTheRangeAreRefused_data();
+    void TemperaturesBeyondTheRangeAreRefused();
+    void DuvIsPositiveAboveTheLocus();
+    void FarFromTheLocusATemperatureMeansNothing();
 };
 
-void TestPlanckianLocus::theLocusIsPlancksLaw()
+void TestPlanckianLocus::TheLocusIsPlancksLaw()
 {
     for (const double dKelvin : {1000.0, 2855.54, 4000.0, 6504.0, 20000.0}) {
         const SUcs1960 uv = PlanckianLocus::PointOfTemperature(dKelvin);
@@ -135,7 +135,7 @@ void TestPlanckianLocus::theLocusIsPlancksLaw()
     }
 }
 
-void TestPlanckianLocus::publishedTemperatures_data()
+void TestPlanckianLocus::PublishedTemperatures_data()
 {
     QTest::addColumn<SChromaticity>("xy");
     QTest::addColumn<double>("kelvin");
@@ -150,7 +150,7 @@ void TestPlanckianLocus::publishedTemperatures_data()
     QTest::newRow("Ohno's D65") << ToXy({0.1978, 0.3122}) << 6507.5 << 0.0032 << 0.5;
 }
 
-void TestPlanckianLocus::publishedTemperatures()
+void TestPlanckianLocus::PublishedTemperatures()
 {
     QFETCH(SChromaticity, xy);
     QFETCH(double, kelvin);
@@ -163,7 +163,7 @@ void TestPlanckianLocus::publishedTemperatures()
     QVERIFY(temperature->IsMeaningful());
 }
 
-void TestPlanckianLocus::theNearestPointIsTheDenseReferences()
+void TestPlanckianLocus::TheNearestPointIsTheDenseReferences()
 {
     double dLargestKelvin = 0.0;
     double dLargestDuv = 0.0;
@@ -189,7 +189,7 @@ void TestPlanckianLocus::theNearestPointIsTheDenseReferences()
     QVERIFY(dLargestDuv < c_dDuvTolerance);
 }
 
-void TestPlanckianLocus::bothEndsBelongToTheRange()
+void TestPlanckianLocus::BothEndsBelongToTheRange()
 {
     for (const double dKelvin : {1000.0, 20000.0}) {
         const auto temperature =
@@ -199,7 +199,7 @@ void TestPlanckianLocus::bothEndsBelongToTheRange()
     }
 }
 
-void TestPlanckianLocus::temperaturesBeyondTheRangeAreRefused_data()
+void TestPlanckianLocus::TemperaturesBeyondTheRangeAreRefused_data()
 {
     QTest::addColumn<SChromaticity>("xy");
     QTest::addColumn<enColourFault>("fault");
@@ -214,7 +214,7 @@ void TestPlanckianLocus::temperaturesBeyondTheRangeAreRefused_data()
     QTest::newRow("zero") << SChromaticity{0.0, 0.0} << enColourFault::enNotChromaticity;
 }
 
-void TestPlanckianLocus::temperaturesBeyondTheRangeAreRefused()
+void TestPlanckianLocus::TemperaturesBeyondTheRangeAreRefused()
 {
     QFETCH(SChromaticity, xy);
     QFETCH(enColourFault, fault);
@@ -223,7 +223,7 @@ void TestPlanckianLocus::temperaturesBeyondTheRangeAreRefused()
     QCOMPARE(int(temperature.Fault()), int(fault));
 }
 
-void TestPlanckianLocus::duvIsPositiveAboveTheLocus()
+void TestPlanckianLocus::DuvIsPositiveAboveTheLocus()
 {
     QVERIFY(PropertyHolds("a point off the locus has its distance and its side back", [] {
         const double dKelvin = 1e6 / AnyBetween(51.0, 990.0);
@@ -237,7 +237,7 @@ void TestPlanckianLocus::duvIsPositiveAboveTheLocus()
     }));
 }
 
-void TestPlanckianLocus::farFromTheLocusATemperatureMeansNothing()
+void TestPlanckianLocus::FarFromTheLocusATemperatureMeansNothing()
 {
     QVERIFY(PlanckianLocus::TemperatureOf(OffLocus(4000.0, 0.049))->IsMeaningful());
     QVERIFY(!PlanckianLocus::TemperatureOf(OffLocus(4000.0, 0.051))->IsMeaningful());

@@ -98,24 +98,24 @@ class TestPrimaries : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void publishedMatrices_data();
-    void publishedMatrices();
-    void littleCmsGivesTheSameColours();
-    void luminancesMixToTheWhite();
-    void publishedLuminances();
-    void theGreatestLevelDrivesOneChannelFully();
-    void levelsScaleWithLuminance();
-    void theDriveMatrixOfADisplayToItselfIsOne();
-    void driveValuesShowTheSourcesColours();
-    void insideTheGamutNothingClips();
-    void clippedColoursAreThoseOfAPlainCount();
-    void permutedPrimariesPermuteTheMatrix();
-    void whatIsNoDisplayIsNamed_data();
-    void whatIsNoDisplayIsNamed();
-    void aWhiteOutsideIsNamed();
+    void PublishedMatrices_data();
+    void PublishedMatrices();
+    void LittleCmsGivesTheSameColours();
+    void LuminancesMixToTheWhite();
+    void PublishedLuminances();
+    void TheGreatestLevelDrivesOneChannelFully();
+    void LevelsScaleWithLuminance();
+    void TheDriveMatrixOfADisplayToItselfIsOne();
+    void DriveValuesShowTheSourcesColours();
+    void InsideTheGamutNothingClips();
+    void ClippedColoursAreThoseOfAPlainCount();
+    void PermutedPrimariesPermuteTheMatrix();
+    void WhatIsNoDisplayIsNamed_data();
+    void WhatIsNoDisplayIsNamed();
+    void AWhiteOutsideIsNamed();
 };
 
-void TestPrimaries::publishedMatrices_data()
+void TestPrimaries::PublishedMatrices_data()
 {
     QTest::addColumn<int>("standard");
     QTest::addColumn<QVector<double>>("elements");
@@ -130,7 +130,7 @@ void TestPrimaries::publishedMatrices_data()
                                                    0.0793, 0.0000, 0.0451, 1.0439};
 }
 
-void TestPrimaries::publishedMatrices()
+void TestPrimaries::PublishedMatrices()
 {
     QFETCH(int, standard);
     QFETCH(QVector<double>, elements);
@@ -140,7 +140,7 @@ void TestPrimaries::publishedMatrices()
         COMPARE_NEAR(matrix->At(std::size_t(i / 3), std::size_t(i % 3)), elements[i], 1e-4);
 }
 
-void TestPrimaries::littleCmsGivesTheSameColours()
+void TestPrimaries::LittleCmsGivesTheSameColours()
 {
     double dLargest = 0.0;
     QVERIFY(PropertyHolds("XYZ of linear light by a profile of the same primaries", [&dLargest] {
@@ -158,7 +158,7 @@ void TestPrimaries::littleCmsGivesTheSameColours()
     qInfo("largest difference from Little-CMS: %.3g", dLargest);
 }
 
-void TestPrimaries::luminancesMixToTheWhite()
+void TestPrimaries::LuminancesMixToTheWhite()
 {
     QVERIFY(PropertyHolds("the primaries at their luminances add up to the white", [] {
         const SGamut gamut = AnyGamut();
@@ -170,7 +170,7 @@ void TestPrimaries::luminancesMixToTheWhite()
     }));
 }
 
-void TestPrimaries::publishedLuminances()
+void TestPrimaries::PublishedLuminances()
 {
     // ITU-R BT.709: Y = 0.2126 R + 0.7152 G + 0.0722 B.
     const auto luminances = Primaries::LuminancesForWhite(Standard(5), c_d65, 100.0);
@@ -179,7 +179,7 @@ void TestPrimaries::publishedLuminances()
     COMPARE_NEAR(luminances->dBlue, 7.22, 0.005);
 }
 
-void TestPrimaries::theGreatestLevelDrivesOneChannelFully()
+void TestPrimaries::TheGreatestLevelDrivesOneChannelFully()
 {
     QVERIFY(PropertyHolds("at the greatest level one drive is 1 and none is more", [] {
         const SPrimaries display = AnyPrimaries();
@@ -193,7 +193,7 @@ void TestPrimaries::theGreatestLevelDrivesOneChannelFully()
     }));
 }
 
-void TestPrimaries::levelsScaleWithLuminance()
+void TestPrimaries::LevelsScaleWithLuminance()
 {
     QVERIFY(PropertyHolds("a display twice as bright reaches twice the level", [] {
         const SPrimaries display = AnyPrimaries();
@@ -207,7 +207,7 @@ void TestPrimaries::levelsScaleWithLuminance()
     }));
 }
 
-void TestPrimaries::theDriveMatrixOfADisplayToItselfIsOne()
+void TestPrimaries::TheDriveMatrixOfADisplayToItselfIsOne()
 {
     QVERIFY(PropertyHolds("a display that is the standard needs no correction", [] {
         const SGamut gamut = AnyGamut();
@@ -217,7 +217,7 @@ void TestPrimaries::theDriveMatrixOfADisplayToItselfIsOne()
     }));
 }
 
-void TestPrimaries::driveValuesShowTheSourcesColours()
+void TestPrimaries::DriveValuesShowTheSourcesColours()
 {
     QVERIFY(PropertyHolds("what is driven is the colour that the source meant", [] {
         const SPrimaries display = AnyPrimaries();
@@ -232,14 +232,14 @@ void TestPrimaries::driveValuesShowTheSourcesColours()
     }));
 }
 
-void TestPrimaries::insideTheGamutNothingClips()
+void TestPrimaries::InsideTheGamutNothingClips()
 {
     const SPrimaries wide = Display(Standard(6), c_d65, 1000.0);
     const auto drive = Primaries::DriveMatrix(Standard(0), c_d65, 1000.0, wide);
     QCOMPARE(Primaries::ClipShare(*drive, 17).dClipped, 0.0);
 }
 
-void TestPrimaries::clippedColoursAreThoseOfAPlainCount()
+void TestPrimaries::ClippedColoursAreThoseOfAPlainCount()
 {
     const SPrimaries narrow = Display(Standard(0), c_d65, 1000.0);
     const CColourMatrix drive = *Primaries::DriveMatrix(Standard(6), c_d65, 1100.0, narrow);
@@ -262,7 +262,7 @@ void TestPrimaries::clippedColoursAreThoseOfAPlainCount()
     QVERIFY(share.dClipped <= share.dBelow + share.dAbove && share.dClipped >= share.dBelow);
 }
 
-void TestPrimaries::permutedPrimariesPermuteTheMatrix()
+void TestPrimaries::PermutedPrimariesPermuteTheMatrix()
 {
     QVERIFY(PropertyHolds("primaries in another order give the same columns in that order", [] {
         const SPrimaries display = AnyPrimaries();
@@ -275,7 +275,7 @@ void TestPrimaries::permutedPrimariesPermuteTheMatrix()
     }));
 }
 
-void TestPrimaries::whatIsNoDisplayIsNamed_data()
+void TestPrimaries::WhatIsNoDisplayIsNamed_data()
 {
     QTest::addColumn<SPrimaries>("display");
     QTest::addColumn<enColourFault>("fault");
@@ -296,7 +296,7 @@ void TestPrimaries::whatIsNoDisplayIsNamed_data()
     QTest::newRow("two equal primaries") << display << enColourFault::enDegenerateGamut;
 }
 
-void TestPrimaries::whatIsNoDisplayIsNamed()
+void TestPrimaries::WhatIsNoDisplayIsNamed()
 {
     QFETCH(SPrimaries, display);
     QFETCH(enColourFault, fault);
@@ -306,7 +306,7 @@ void TestPrimaries::whatIsNoDisplayIsNamed()
     QCOMPARE(int(Primaries::DriveMatrix(Standard(0), c_d65, 100.0, display).Fault()), int(fault));
 }
 
-void TestPrimaries::aWhiteOutsideIsNamed()
+void TestPrimaries::AWhiteOutsideIsNamed()
 {
     const auto Fault = [](SChromaticity white, double dLevel) {
         return int(Primaries::LuminancesForWhite(Standard(0), white, dLevel).Fault());

@@ -28,19 +28,19 @@ class TestSpectralWavelength : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void publishedWavelengths_data();
-    void publishedWavelengths();
-    void purpleHasNoDominantWavelength();
-    void mixturesWithWhiteKeepTheWavelength();
-    void onTheOutlineThePurityIsOne();
-    void complementaryIsTheOtherEndOfTheLine();
-    void whatHasNoDirectionIsRefused_data();
-    void whatHasNoDirectionIsRefused();
-    void marksLieOnTheLocus();
-    void theNearestWavelengthOfAMarkIsItsOwn();
+    void PublishedWavelengths_data();
+    void PublishedWavelengths();
+    void PurpleHasNoDominantWavelength();
+    void MixturesWithWhiteKeepTheWavelength();
+    void OnTheOutlineThePurityIsOne();
+    void ComplementaryIsTheOtherEndOfTheLine();
+    void WhatHasNoDirectionIsRefused_data();
+    void WhatHasNoDirectionIsRefused();
+    void MarksLieOnTheLocus();
+    void TheNearestWavelengthOfAMarkIsItsOwn();
 };
 
-void TestSpectralWavelength::publishedWavelengths_data()
+void TestSpectralWavelength::PublishedWavelengths_data()
 {
     QTest::addColumn<SChromaticity>("xy");
     QTest::addColumn<double>("wavelength");
@@ -51,7 +51,7 @@ void TestSpectralWavelength::publishedWavelengths_data()
     QTest::newRow("BT.709 blue") << SChromaticity{0.15, 0.06} << 464.3 << 0.925;
 }
 
-void TestSpectralWavelength::publishedWavelengths()
+void TestSpectralWavelength::PublishedWavelengths()
 {
     QFETCH(SChromaticity, xy);
     QFETCH(double, wavelength);
@@ -62,7 +62,7 @@ void TestSpectralWavelength::publishedWavelengths()
     COMPARE_NEAR(dominant->dPurity, purity, c_dPublishedPurity);
 }
 
-void TestSpectralWavelength::purpleHasNoDominantWavelength()
+void TestSpectralWavelength::PurpleHasNoDominantWavelength()
 {
     const auto magenta = SpectralWavelength::DominantOf({0.3209, 0.1542}, c_d65);
     QVERIFY(bool(magenta));
@@ -72,7 +72,7 @@ void TestSpectralWavelength::purpleHasNoDominantWavelength()
     QVERIFY(magenta->dPurity > 0.0 && magenta->dPurity < 1.0);
 }
 
-void TestSpectralWavelength::mixturesWithWhiteKeepTheWavelength()
+void TestSpectralWavelength::MixturesWithWhiteKeepTheWavelength()
 {
     QVERIFY(PropertyHolds("halfway to white is half as pure and of the same wavelength", [] {
         const auto mark = SpectralWavelength::Marks(int(AnyBetween(405.0, 690.0)), 830, 1000).front();
@@ -87,7 +87,7 @@ void TestSpectralWavelength::mixturesWithWhiteKeepTheWavelength()
     }));
 }
 
-void TestSpectralWavelength::onTheOutlineThePurityIsOne()
+void TestSpectralWavelength::OnTheOutlineThePurityIsOne()
 {
     for (const auto& mark : SpectralWavelength::Marks(460, 620, 20)) {
         const auto dominant = SpectralWavelength::DominantOf(mark.xy, c_d65);
@@ -96,7 +96,7 @@ void TestSpectralWavelength::onTheOutlineThePurityIsOne()
     }
 }
 
-void TestSpectralWavelength::complementaryIsTheOtherEndOfTheLine()
+void TestSpectralWavelength::ComplementaryIsTheOtherEndOfTheLine()
 {
     QVERIFY(PropertyHolds("the complementary of the boundary beyond the white is the dominant here", [] {
         const auto mark = SpectralWavelength::Marks(int(AnyBetween(470.0, 490.0)), 830, 1000).front();
@@ -110,7 +110,7 @@ void TestSpectralWavelength::complementaryIsTheOtherEndOfTheLine()
     }));
 }
 
-void TestSpectralWavelength::whatHasNoDirectionIsRefused_data()
+void TestSpectralWavelength::WhatHasNoDirectionIsRefused_data()
 {
     QTest::addColumn<SChromaticity>("xy");
     QTest::addColumn<SChromaticity>("white");
@@ -123,7 +123,7 @@ void TestSpectralWavelength::whatHasNoDirectionIsRefused_data()
     QTest::newRow("zero") << SChromaticity{0.3, 0.0} << c_d65 << enColourFault::enNotChromaticity;
 }
 
-void TestSpectralWavelength::whatHasNoDirectionIsRefused()
+void TestSpectralWavelength::WhatHasNoDirectionIsRefused()
 {
     QFETCH(SChromaticity, xy);
     QFETCH(SChromaticity, white);
@@ -131,7 +131,7 @@ void TestSpectralWavelength::whatHasNoDirectionIsRefused()
     QCOMPARE(int(SpectralWavelength::DominantOf(xy, white).Fault()), int(fault));
 }
 
-void TestSpectralWavelength::marksLieOnTheLocus()
+void TestSpectralWavelength::MarksLieOnTheLocus()
 {
     const auto vecMarks = SpectralWavelength::Marks(300, 900, 10);
     QCOMPARE(int(vecMarks.size()), 48);
@@ -142,7 +142,7 @@ void TestSpectralWavelength::marksLieOnTheLocus()
     COMPARE_NEAR(vecMarks[16].xy.dY, 0.8338, 5e-5);
 }
 
-void TestSpectralWavelength::theNearestWavelengthOfAMarkIsItsOwn()
+void TestSpectralWavelength::TheNearestWavelengthOfAMarkIsItsOwn()
 {
     for (const auto& mark : SpectralWavelength::Marks(420, 680, 10)) {
         const auto nearest = SpectralWavelength::NearestTo(mark.xy);

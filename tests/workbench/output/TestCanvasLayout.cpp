@@ -73,18 +73,18 @@ void TestCanvasLayout::PlacePicture_data()
     QTest::addColumn<QRect>("source");
     QTest::addColumn<QRect>("target");
     QTest::newRow("1:1, smaller: top left, at the canvas' scale")
-        << QSize(960, 540) << enPictureFit::OneToOne << QRect(0, 0, 960, 540) << QRect(10, 20, 96, 54);
-    QTest::newRow("1:1, larger: cut off at the canvas")
-        << QSize(5000, 4000) << enPictureFit::OneToOne << QRect(0, 0, 1920, 1080) << QRect(10, 20, 192, 108);
+        << QSize(960, 540) << enPictureFit::enOneToOne << QRect(0, 0, 960, 540) << QRect(10, 20, 96, 54);
+    QTest::newRow("1:1, larger: cut off at the canvas") << QSize(5000, 4000) << enPictureFit::enOneToOne
+                                                        << QRect(0, 0, 1920, 1080) << QRect(10, 20, 192, 108);
     QTest::newRow("1:1, wider and lower: cut off on one side")
-        << QSize(5000, 100) << enPictureFit::OneToOne << QRect(0, 0, 1920, 100) << QRect(10, 20, 192, 10);
+        << QSize(5000, 100) << enPictureFit::enOneToOne << QRect(0, 0, 1920, 100) << QRect(10, 20, 192, 10);
     QTest::newRow("1:1, one pixel: still seen")
-        << QSize(1, 1) << enPictureFit::OneToOne << QRect(0, 0, 1, 1) << QRect(10, 20, 1, 1);
+        << QSize(1, 1) << enPictureFit::enOneToOne << QRect(0, 0, 1, 1) << QRect(10, 20, 1, 1);
     QTest::newRow("stretched, smaller: fills the canvas")
-        << QSize(10, 10) << enPictureFit::Stretched << QRect(0, 0, 10, 10) << QRect(10, 20, 192, 108);
+        << QSize(10, 10) << enPictureFit::enStretched << QRect(0, 0, 10, 10) << QRect(10, 20, 192, 108);
     QTest::newRow("stretched, larger: all of it on the canvas")
-        << QSize(5000, 100) << enPictureFit::Stretched << QRect(0, 0, 5000, 100) << QRect(10, 20, 192, 108);
-    QTest::newRow("no picture") << QSize() << enPictureFit::Stretched << QRect() << QRect();
+        << QSize(5000, 100) << enPictureFit::enStretched << QRect(0, 0, 5000, 100) << QRect(10, 20, 192, 108);
+    QTest::newRow("no picture") << QSize() << enPictureFit::enStretched << QRect() << QRect();
 }
 
 void TestCanvasLayout::PlacePicture()
@@ -101,7 +101,7 @@ void TestCanvasLayout::PlacePicture()
 void TestCanvasLayout::NothingIsPlacedOnNoCanvas()
 {
     const SPictureLayout place =
-        CanvasLayout::PlacePicture({}, QSize(0, 600), QSize(100, 100), enPictureFit::Stretched);
+        CanvasLayout::PlacePicture({}, QSize(0, 600), QSize(100, 100), enPictureFit::enStretched);
     QVERIFY(place.rectTarget.isEmpty());
     QVERIFY(place.rectSource.isEmpty());
 }

@@ -55,7 +55,7 @@ void TestCanvasPicture::APictureIsReadByItsContent()
 {
     CCanvasPictureReader reader;
     const SCanvasPicture& picture = reader.Read(Paint({30, 20}, Qt::red));
-    QCOMPARE(int(picture.state), int(enPictureState::Good));
+    QCOMPARE(int(picture.state), int(enPictureState::enGood));
     QCOMPARE(picture.size, QSize(30, 20));
     QCOMPARE(picture.image.pixelColor(0, 0), QColor(Qt::red));
 }
@@ -64,14 +64,14 @@ void TestCanvasPicture::AMissingFileIsMissing()
 {
     CCanvasPictureReader reader;
     const SCanvasPicture& picture = reader.Read(m_strFile);
-    QCOMPARE(int(picture.state), int(enPictureState::Missing));
+    QCOMPARE(int(picture.state), int(enPictureState::enMissing));
     QCOMPARE(picture.strFile, m_strFile);
 }
 
 void TestCanvasPicture::AFolderIsNoPicture()
 {
     CCanvasPictureReader reader;
-    QCOMPARE(int(reader.Read(m_pFolder->path()).state), int(enPictureState::Missing));
+    QCOMPARE(int(reader.Read(m_pFolder->path()).state), int(enPictureState::enMissing));
 }
 
 void TestCanvasPicture::AFileThatIsNoPictureIsUnreadable_data()
@@ -88,7 +88,7 @@ void TestCanvasPicture::AFileThatIsNoPictureIsUnreadable()
     QFETCH(QByteArray, content);
     CCanvasPictureReader reader;
     const SCanvasPicture& picture = reader.Read(Write(content));
-    QCOMPARE(int(picture.state), int(enPictureState::Unreadable));
+    QCOMPARE(int(picture.state), int(enPictureState::enUnreadable));
     QVERIFY(!picture.strProblem.isEmpty());
     QVERIFY(picture.image.isNull());
 }
@@ -98,7 +98,7 @@ void TestCanvasPicture::APictureOfManyPixelsIsMadeSmaller()
     CCanvasPictureReader reader;
     const SCanvasPicture& picture =
         reader.Read(Paint({CCanvasPictureReader::c_nMaxKeptSide * 2, 10}, Qt::red));
-    QCOMPARE(int(picture.state), int(enPictureState::Good));
+    QCOMPARE(int(picture.state), int(enPictureState::enGood));
     QCOMPARE(picture.size, QSize(CCanvasPictureReader::c_nMaxKeptSide * 2, 10));
     QCOMPARE(picture.image.size(), QSize(CCanvasPictureReader::c_nMaxKeptSide, 5));
 }
@@ -111,7 +111,7 @@ void TestCanvasPicture::AHugePictureIsNotRead()
     CCanvasPictureReader reader;
     const SCanvasPicture& picture = reader.Read(Write(baHead));
     QCOMPARE(picture.size, QSize(20000, 10000));
-    QCOMPARE(int(picture.state), int(enPictureState::TooLarge));
+    QCOMPARE(int(picture.state), int(enPictureState::enTooLarge));
     QVERIFY(picture.image.isNull());
 }
 
@@ -141,7 +141,7 @@ void TestCanvasPicture::AFileThatVanishesIsNoticed()
     reader.Read(strFile);
     QVERIFY(QFile::remove(strFile));
     const SCanvasPicture& picture = reader.Read(strFile);
-    QCOMPARE(int(picture.state), int(enPictureState::Missing));
+    QCOMPARE(int(picture.state), int(enPictureState::enMissing));
     QVERIFY(picture.image.isNull());
 }
 

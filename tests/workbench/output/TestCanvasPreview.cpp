@@ -59,8 +59,8 @@ void TestCanvasPreview::TheFitDecidesWhatThePictureCovers_data()
 {
     QTest::addColumn<enPictureFit>("fit");
     QTest::addColumn<int>("right");
-    QTest::newRow("one to one: the left half") << enPictureFit::OneToOne << 0;
-    QTest::newRow("stretched: all") << enPictureFit::Stretched << 255;
+    QTest::newRow("one to one: the left half") << enPictureFit::enOneToOne << 0;
+    QTest::newRow("stretched: all") << enPictureFit::enStretched << 255;
 }
 
 void TestCanvasPreview::TheFitDecidesWhatThePictureCovers()

@@ -214,9 +214,9 @@ void TestOutputPage::APictureIsFollowedWhileItsDialogIsOpen()
     const CDialogOperator dialogOperator([&page](QDialog* pDialog) {
         QTest::mouseClick(pDialog->findChild<CCustomSwitchButton*>(), Qt::LeftButton);
         QCOMPARE(page.Content().sizePicture, QSize(30, 20));
-        QCOMPARE(int(page.Content().fit), int(enPictureFit::OneToOne));
+        QCOMPARE(int(page.Content().fit), int(enPictureFit::enOneToOne));
         ChooseEntry(pDialog, "拉伸");
-        QCOMPARE(int(page.Content().fit), int(enPictureFit::Stretched));
+        QCOMPARE(int(page.Content().fit), int(enPictureFit::enStretched));
         pDialog->findChild<QDoubleSpinBox*>()->setValue(40);
         QCOMPARE(int(page.Content().byAlpha), 153);
     });

@@ -15,15 +15,15 @@ namespace {
 QVariant AnotherValue(const SSenderProperty& property, const QVariant& present)
 {
     switch (property.editor) {
-    case enEditor::Text:
+    case enEditor::enText:
         return present.toString() + QLatin1Char('!');
-    case enEditor::Switch:
+    case enEditor::enSwitch:
         return !present.toBool();
-    case enEditor::Choice:
+    case enEditor::enChoice:
         return property.vecChoices.back().nValue == present.toInt() ? property.vecChoices.front().nValue
                                                                     : property.vecChoices.back().nValue;
-    case enEditor::Number:
-    case enEditor::Decimal:
+    case enEditor::enNumber:
+    case enEditor::enDecimal:
         break;
     }
     return present.toInt() == property.nMax ? property.nMin : property.nMax;
