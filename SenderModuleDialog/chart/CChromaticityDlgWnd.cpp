@@ -1,18 +1,14 @@
-#include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "SenderModuleDialog/chart/CChromaticityDlgWndPrivate.h"
 
 #include "SenderModuleDialog/Fault.h"
-#include "SenderModuleDialog/chart/CctCurve.h"
-#include "SenderModuleDialog/chart/ChartSharpBitmap.h"
-#include "SenderModuleDialog/chart/ChartSolver.h"
-#include "SenderModuleDialog/chart/ChartStaticLayer.h"
-#include "SenderModuleDialog/chart/ChromaBitmapStore.h"
 #include "SenderModuleDialog/chart/ChromaGamutThread.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
 #include "SenderModuleDialog/colour/ColourStandards.h"
+#include "SenderModuleDialog/geometry/PointPrecision.h"
 
 #include <algorithm>
-#include <cmath>
+#include <cstddef>
 #include <iterator>
 #include <utility>
 
@@ -27,14 +23,9 @@ constexpr float c_fSnapTemperature = 6500.0F;
 /// Coordinates closer than this are the same when a standard is recognised: two steps of a float near 1.
 constexpr float c_fSameCoordinate = 2.3841858e-07F;
 
-bool IsSameCoordinate(float fFirst, float fSecond)
-{
-    return std::fabs(fFirst - fSecond) < c_fSameCoordinate;
-}
-
 bool IsSamePoint(CPointEx<float> ptFirst, CPointEx<float> ptSecond)
 {
-    return IsSameCoordinate(ptFirst.x, ptSecond.x) && IsSameCoordinate(ptFirst.y, ptSecond.y);
+    return IsWithin(ptFirst, ptSecond, c_fSameCoordinate);
 }
 
 bool HasPointsOf(const SChromaGroupInfo& group, const SColourStandard& standard)
@@ -57,27 +48,23 @@ int RecogniseStandard(const SChromaGroupInfo& group)
 
 CChromaticityDlgWnd::CChromaticityDlgWnd(QWidget* parent)
     : QWidget(parent)
-    , m_pStore(MakeStore())
-    , m_pSharp(std::make_unique<SChartSharpBitmap>())
-    , m_pStaticLayer(std::make_unique<CChartStaticLayer>())
 {
     m_pCct = new CCCT2ColorCoord;
     m_pGamut = new CChromaGamutInterpolation;
-    m_nBoundarySize = m_pGamut->GetQPointFData().size();
-    m_pBoundaryPx = new QPointF[size_t(m_nBoundarySize)]();
-    m_pBoundaryPxF = new CPointEx<float>[size_t(m_nBoundarySize)]();
+    m_pPrivate = std::make_unique<CPrivate>(*this);
+    const auto nBoundarySize = std::size_t(m_pPrivate->m_nBoundarySize);
+    m_pBoundaryPx = new QPointF[nBoundarySize]();
+    m_pBoundaryPxF = new CPointEx<float>[nBoundarySize]();
     setAttribute(Qt::WA_MouseTracking);
-    m_pSolver = std::make_unique<CChartSolver>(*m_pGamut);
-    m_pCctCurve = std::make_unique<CCctCurve>(*m_pCct);
     m_pCct->CCTtoColorCoord(c_fSnapTemperature, &m_ptD65, false);
     m_pThread = new CChromaGamutThread(this);
     m_pThread->SetChromaticityDlgWnd(this);
-    ConnectWndBitmapThread();
+    m_pPrivate->ConnectWndBitmapThread();
 }
 
 CChromaticityDlgWnd::~CChromaticityDlgWnd()
 {
-    ReleaseWndBitmapThread();
+    m_pPrivate->ReleaseWndBitmapThread();
     delete m_pCct;
     delete m_pGamut;
     delete[] m_pBoundaryPx;
@@ -129,22 +116,30 @@ void CChromaticityDlgWnd::SetSize(int nWidth, int nHeight)
     Require(nWidth > c_nSmallestSide && nHeight > c_nSmallestSide, "nWidth > 100 && nHeight > 100");
     const CChartMapping mapping = CChartMapping::ForSize(nWidth, nHeight);
     const QVector<QPointF>& vecLocus = m_pGamut->GetQPointFData();
-    const auto lock = m_pStore->Lock();
+    const auto lock = m_pPrivate->m_pStore->Lock();
     m_nWndWidth = nWidth;
     m_nWndHeight = nHeight;
     m_rcChart = QRect(0, 0, nWidth, nHeight);
     m_fMarginX = mapping.MarginX();
     m_fMarginY = mapping.MarginY();
     m_fScale = mapping.Scale();
-    for (int i = 0; i < BoundaryCount(); ++i) {
+    for (int i = 0; i < m_pPrivate->BoundaryCount(); ++i) {
         m_pBoundaryPx[i] = mapping.ToPixel(vecLocus[i]);
         m_pBoundaryPxF[i] = QPointFToCPointF(m_pBoundaryPx[i]);
     }
 }
 
-int CChromaticityDlgWnd::BoundaryCount() const
+CChromaticityDlgWnd::CPrivate::CPrivate(CChromaticityDlgWnd& chart)
+    : m_chart(chart)
+    , m_nBoundarySize(chart.m_pGamut->GetQPointFData().size())
+    , m_pStore(MakeStore())
+    , m_solver(*chart.m_pGamut)
+    , m_cctCurve(*chart.m_pCct)
+{}
+
+int CChromaticityDlgWnd::CPrivate::BoundaryCount() const
 {
-    return std::min(m_nBoundarySize, m_pGamut->GetQPointFData().size());
+    return std::min(m_nBoundarySize, m_chart.m_pGamut->GetQPointFData().size());
 }
 
 void CChromaticityDlgWnd::SetBackgroundColor(QColor color)
@@ -184,12 +179,12 @@ void CChromaticityDlgWnd::CalcCIEStandardValid()
 
 QPointF CChromaticityDlgWnd::CPointFToQPointF(CPointEx<float> point)
 {
-    return {double(point.x), double(point.y)};
+    return Widened(point);
 }
 
 CPointEx<float> CChromaticityDlgWnd::QPointFToCPointF(QPointF point)
 {
-    return {float(point.x()), float(point.y())};
+    return Narrowed(point);
 }
 
 CChartMapping CChromaticityDlgWnd::Mapping() const

@@ -19,21 +19,10 @@
 #include <memory>
 
 class CCCT2ColorCoord;
-class CCctCurve;
-class CChartSolver;
-class CChartStaticLayer;
-class CChromaBitmapStore;
 class CChromaGamutInterpolation;
 class CChromaGamutThread;
 class QImage;
 class QPainter;
-struct SChartSharpBitmap;
-namespace ChartOverlay {
-struct SChartFrame;
-}
-namespace ChromaBitmap {
-struct SSource;
-}
 
 /// The CIE 1931 xy chromaticity diagram with colour groups on it, whose points the operator drags.
 ///
@@ -282,55 +271,9 @@ public:
     /// @}
 
 private:
-    /// The bitmap of a type 0 to 4, null for any other.
-    SWndBitmap* WndBitmap(int nType);
-    /// The finished picture of the type that is shown; a null image if there is none. Waits for it while
-    /// somebody paints.
-    QImage TakeBitmap();
-    /// The same for a device with that many device pixels per pixel: above 1, painted in device pixels.
-    QImage TakeBitmap(double dRatio);
-    /// @param bAborted true from the moment that the host aborts
-    QImage PaintSharp(double dRatio, bool& bAborted);
-    std::shared_ptr<CChromaBitmapStore> MakeStore();
-    /// What the bitmap of a type is to be painted from now. Called under the store's lock.
-    ChromaBitmap::SSource Measure(int nType);
-    /// Shows a picture as the bitmap of a type. Called under the store's lock.
-    void ShowBitmap(int nType, QImage image);
-    void ConnectWndBitmapThread();
-    /// Waits until the chart's own worker has ended, unless it is the caller.
-    void JoinWndBitmapThread();
-    /// The last that the chart has to do with workers.
-    void ReleaseWndBitmapThread();
-    /// The worker has ended; on the GUI thread.
-    void FinishWndBitmapThread();
-
-    /// The points of the boundary that the locus has now: a host may have emptied or cut it.
-    int BoundaryCount() const;
-
-    /// What the layers share.
-    ChartOverlay::SChartFrame Frame() const;
-    /// The chromaticity that the tips show, without negative coordinates.
-    QPointF TipsPoint() const;
-    /// Where the cross hair stands, in widget pixels.
-    QPoint CrossPlace() const;
-    /// A move with the left button held on a point that may be moved.
-    void Drag(QPoint pos);
-    /// A move without the left button.
-    void Hover(QPoint pos);
-
-    /// The layers that stay the same from paint to paint: background, bitmap, locus and grid.
-    void DrawStaticLayers(QPainter& painter, const QImage& imgBitmap);
-    void DrawBitmap(QPainter& painter, const QImage& imgBitmap);
-    void DrawSharpBitmap(QPainter& painter, const QImage& imgBitmap);
-    /// The line around the chart.
-    void DrawFrame(QPainter& painter);
-
-    int m_nBoundarySize = 0;                           ///< points that the boundary arrays have room for
-    std::unique_ptr<CChartSolver> m_pSolver;           ///< keeps groups legal
-    std::unique_ptr<CCctCurve> m_pCctCurve;            ///< the curve of colour temperatures
-    std::shared_ptr<CChromaBitmapStore> m_pStore;      ///< paints the bitmaps; workers share it
-    std::unique_ptr<SChartSharpBitmap> m_pSharp;       ///< for screens with more device pixels than pixels
-    std::unique_ptr<CChartStaticLayer> m_pStaticLayer; ///< the layers that stay the same from paint to paint
+    /// The rooms that do the work, and the steps between them.
+    class Q_DECL_HIDDEN CPrivate;
+    std::unique_ptr<CPrivate> m_pPrivate;
 };
 
 #endif // SENDERMODULEDIALOG_CHART_CCHROMATICITYDLGWND_H

@@ -1,7 +1,7 @@
 #ifndef SENDERMODULEDIALOG_CHART_CHARTGROUPPOINTS_H
 #define SENDERMODULEDIALOG_CHART_CHARTGROUPPOINTS_H
 
-#include "SenderModuleDialog/chart/ChartGeometry.h"
+#include "SenderModuleDialog/chart/ChartTriangle.h"
 #include "SenderModuleDialog/chart/ChromaGroupInfo.h"
 
 #include <array>
@@ -58,7 +58,7 @@ inline bool IsPointMovable(const SChromaGroupInfo& group, int nPoint)
 }
 
 /// The three colour points as they are stored.
-inline ChartGeometry::STriangle TriangleOf(const SChromaGroupInfo& group)
+inline SChromaTriangle TriangleOf(const SChromaGroupInfo& group)
 {
     return {group.ptRed, group.ptGreen, group.ptBlue};
 }

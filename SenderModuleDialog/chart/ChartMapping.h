@@ -38,6 +38,9 @@ public:
     /// Height in pixels at which the chromaticity y is 0.
     double Baseline() const { return double(m_nHeight) - double(m_fMarginY); }
 
+    /// Radius in pixels of a dot that may be moved and is not held; the mouse hits as far.
+    float DotRadius() const { return m_fScale / c_fDotDivisor; }
+
     int Height() const { return m_nHeight; }
     float MarginX() const { return m_fMarginX; }
     float MarginY() const { return m_fMarginY; }
@@ -57,6 +60,8 @@ private:
     /// How far the axes reach, in units of chromaticity.
     static constexpr float c_fAxisSpanX = 0.8F;
     static constexpr float c_fAxisSpanY = 0.9F;
+    /// A dot's radius is the scale over this.
+    static constexpr float c_fDotDivisor = 100.0F;
 
     static float Margin(int nSide) { return float(nSide) / c_fMarginDivisor + c_fMarginPixels; }
     static float ScaleOfSide(int nSide, float fMargin, float fSpan)

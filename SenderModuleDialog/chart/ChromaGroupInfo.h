@@ -4,6 +4,7 @@
 #include "host/CommonClass/PointEx.h"
 
 #include <QImage>
+#include <QMap>
 #include <QString>
 
 #include <atomic>
@@ -84,6 +85,9 @@ struct SChromaGroupInfo
     bool bShowNote = true; ///< the group has a row in the legend
     QString strName;       ///< legend text; the two keys of `enChromaGroupKey` have texts of their own
 };
+
+/// Groups by key, in the order in which they are drawn, hit and listed.
+using ChromaGroups = QMap<int, SChromaGroupInfo*>;
 
 /// The window type whose bitmap has the chart's own size.
 inline constexpr int c_nDefaultWndType = -1;

@@ -1,39 +1,32 @@
 #include "SenderModuleDialog/colour/OutlineIndex.h"
 
 #include "SenderModuleDialog/geometry/EvenOdd.h"
+#include "SenderModuleDialog/geometry/PointPrecision.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-/// How near to a vertex in x and in y a point counts as inside.
-constexpr float c_fVertexReach = 0.0001F;
-
 /// How far a vertex is listed up and down: the reach, with room for the rounding of the difference.
 constexpr float c_fListedReach = 2.0F * c_fVertexReach;
-
-CPointEx<float> Rounded(QPointF pt)
-{
-    return {float(pt.x()), float(pt.y())};
-}
 
 } // namespace
 
 bool OutlineTest::IsAtVertex(CPointEx<float> pt, CPointEx<float> ptVertex)
 {
-    return std::abs(pt.x - ptVertex.x) < c_fVertexReach && std::abs(pt.y - ptVertex.y) < c_fVertexReach;
+    return IsWithin(pt, ptVertex, c_fVertexReach);
 }
 
 bool OutlineTest::Contains(const QVector<QPointF>& vecOutline, QPointF pt)
 {
     if (vecOutline.isEmpty())
         return false;
-    const CPointEx<float> ptRounded = Rounded(pt);
-    CPointEx<float> ptBefore = Rounded(vecOutline.last());
+    const CPointEx<float> ptRounded = Narrowed(pt);
+    CPointEx<float> ptBefore = Narrowed(vecOutline.last());
     bool bInside = false;
     for (const QPointF& ptOutline : vecOutline) {
-        const CPointEx<float> ptVertex = Rounded(ptOutline);
+        const CPointEx<float> ptVertex = Narrowed(ptOutline);
         if (IsAtVertex(ptRounded, ptVertex))
             return true;
         if (IsEdgeLeftOf(ptRounded, ptVertex, ptBefore))
@@ -47,7 +40,7 @@ COutlineIndex::COutlineIndex(const QVector<QPointF>& vecOutline)
 {
     m_vecPoints.reserve(vecOutline.size());
     for (const QPointF& pt : vecOutline)
-        m_vecPoints.append(Rounded(pt));
+        m_vecPoints.append(Narrowed(pt));
     const auto bounds =
         std::minmax_element(m_vecPoints.cbegin(), m_vecPoints.cend(),
                             [](CPointEx<float> ptA, CPointEx<float> ptB) { return ptA.y < ptB.y; });
@@ -66,7 +59,7 @@ COutlineIndex::COutlineIndex(const QVector<QPointF>& vecOutline)
 
 bool COutlineIndex::Contains(QPointF pt) const
 {
-    const CPointEx<float> ptRounded = Rounded(pt);
+    const CPointEx<float> ptRounded = Narrowed(pt);
     // Written so that NaN is outside as well.
     if (!(m_fLowest <= ptRounded.y && ptRounded.y <= m_fHighest))
         return false;

@@ -1,5 +1,7 @@
 #include "SenderModuleDialog/geometry/Line.h"
 
+#include "SenderModuleDialog/geometry/PointPrecision.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -8,7 +10,7 @@
 
 namespace {
 
-// The coincidence and straddle tests compare in double.
+// The straddle test compares in double.
 constexpr double c_dGeometryEpsilon = double(c_fGeometryEpsilon);
 
 // The side of q relative to the line through p1 and p2, as a cross product.
@@ -35,8 +37,7 @@ bool IsOneSided(float fSide1, float fSide2)
 
 bool IsSamePoint(CPointEx<float> ptA, CPointEx<float> ptB)
 {
-    return std::abs(double(ptA.x - ptB.x)) < c_dGeometryEpsilon &&
-           std::abs(double(ptA.y - ptB.y)) < c_dGeometryEpsilon;
+    return IsWithin(ptA, ptB, c_fGeometryEpsilon);
 }
 
 bool IsSameSegment(CPointEx<float> ptP1, CPointEx<float> ptP2, CPointEx<float> ptQ1, CPointEx<float> ptQ2)

@@ -2,6 +2,7 @@
 
 #include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/geometry/Line.h"
+#include "SenderModuleDialog/geometry/PointPrecision.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,16 +14,6 @@ constexpr float c_fNudge = 9.999999747378752e-06F;
 
 // The fewest points that have a hull.
 constexpr int c_nMinHullPoints = 3;
-
-CPointEx<float> Rounded(const QPointF& pt)
-{
-    return {float(pt.x()), float(pt.y())};
-}
-
-QPointF Widened(CPointEx<float> pt)
-{
-    return {double(pt.x), double(pt.y)};
-}
 
 // The difference is taken in double, the rest in float.
 float DistanceOf(const QPointF& ptA, const QPointF& ptB)
@@ -89,9 +80,9 @@ bool IsBetween(double dValue, double dEnd1, double dEnd2)
 
 QPointF FootOn(const QPointF& ptA, const QPointF& ptB, const QPointF& pt)
 {
-    CPointEx<float> ptRoundedA = Rounded(ptA);
-    CPointEx<float> ptRoundedB = Rounded(ptB);
-    return Widened(CLine(ptRoundedA, ptRoundedB).GetFootPoint(Rounded(pt)));
+    CPointEx<float> ptRoundedA = Narrowed(ptA);
+    CPointEx<float> ptRoundedB = Narrowed(ptB);
+    return Widened(CLine(ptRoundedA, ptRoundedB).GetFootPoint(Narrowed(pt)));
 }
 
 } // namespace
@@ -148,7 +139,7 @@ bool CPolygon::GetPointCloser2Convex(QPointF* pPoint) const
     for (int i = 0; i < size(); ++i) {
         const QPointF& ptA = at(i);
         const QPointF& ptB = at((i + 1) % size());
-        if (!CLine::IsCross(Rounded(ptCentre), Rounded(pt), Rounded(ptA), Rounded(ptB)))
+        if (!CLine::IsCross(Narrowed(ptCentre), Narrowed(pt), Narrowed(ptA), Narrowed(ptB)))
             continue;
         QPointF ptFoot = FootOn(ptA, ptB, pt);
         *pPoint = MakePointCloser(ptFoot, ptCentre);
@@ -194,7 +185,7 @@ QPointF CPolygon::MakePointCloser(QPointF& ptFrom, const QPointF& ptToward)
 {
     // For a vertical pair the square overflows and the steps are 0: the point stays where it is, and that is
     // meant.
-    const float fSlope = CLine::GetSlop(Rounded(ptFrom), Rounded(ptToward));
+    const float fSlope = CLine::GetSlop(Narrowed(ptFrom), Narrowed(ptToward));
     const float fDX = c_fNudge / std::sqrt(fSlope * fSlope + 1.0F);
     const float fDY = fSlope * fDX;
     const QPointF ptStep = Widened({fDX, fDY});

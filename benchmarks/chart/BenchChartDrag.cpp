@@ -1,5 +1,5 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
-#include "SenderModuleDialog/chart/LocusEdges.h"
+#include "SenderModuleDialog/chart/solve/LocusEdges.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
 #include "oracles/chart/PlainChart.h"
 

@@ -1,5 +1,5 @@
 #include "SenderModuleDialog/chart/ChartMapping.h"
-#include "SenderModuleDialog/chart/ChromaBitmapPainter.h"
+#include "SenderModuleDialog/chart/bitmap/ChromaBitmapPainter.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
 #include "oracles/chart/PlainBitmap.h"
 

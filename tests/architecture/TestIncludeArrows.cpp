@@ -40,6 +40,14 @@ const std::vector<SLayer>& Layers()
     static const QStringList s_listFrame = {L("SenderModuleDialog/DialogFrame.h"),
                                             L("SenderModuleDialog/HostAccess.h"),
                                             L("SenderModuleDialog/SenderModuleDialogInit.h"), L("host/")};
+    static const QStringList s_listChartValues = {L("SenderModuleDialog/chart/ChartGroupPoints.h"),
+                                                  L("SenderModuleDialog/chart/ChartMapping.h"),
+                                                  L("SenderModuleDialog/chart/ChartTriangle.h"),
+                                                  L("SenderModuleDialog/chart/ChromaGroupInfo.h"),
+                                                  L("SenderModuleDialog/chart/ChromaPalette.h"),
+                                                  L("SenderModuleDialog/colour/"),
+                                                  L("SenderModuleDialog/geometry/"),
+                                                  L("host/CommonClass/")};
     static const std::vector<SLayer> s_vecLayers = {
         {L("geometry"),
          {L("SenderModuleDialog/geometry/")},
@@ -50,7 +58,28 @@ const std::vector<SLayer>& Layers()
          Base() + QStringList{L("SenderModuleDialog/colour/"), L("SenderModuleDialog/geometry/"),
                               L("host/CommonClass/")},
          true},
-        // The chart takes the host's font and text context; it reaches no handle.
+        // The rooms of the chart know neither the widget nor each other.
+        {L("chart/bitmap"),
+         {L("SenderModuleDialog/chart/bitmap/")},
+         Base() + s_listChartValues + QStringList{L("SenderModuleDialog/chart/bitmap/")},
+         false},
+        {L("chart/solve"),
+         {L("SenderModuleDialog/chart/solve/")},
+         Base() + s_listChartValues + QStringList{L("SenderModuleDialog/chart/solve/")},
+         true},
+        {L("chart/paint"),
+         {L("SenderModuleDialog/chart/paint/")},
+         Base() + s_listChartValues +
+             QStringList{L("SenderModuleDialog/chart/paint/"), L("host/OrviControl/")},
+         false},
+        // What the rooms share: plain values.
+        {L("chart values"),
+         {L("SenderModuleDialog/chart/ChartGroupPoints.h"), L("SenderModuleDialog/chart/ChartMapping.h"),
+          L("SenderModuleDialog/chart/ChartTriangle.h"), L("SenderModuleDialog/chart/ChromaGroupInfo.h"),
+          L("SenderModuleDialog/chart/ChromaPalette.h")},
+         Base() + s_listChartValues,
+         false},
+        // The widget takes the host's font and text context; it reaches no handle.
         {L("chart"),
          {L("SenderModuleDialog/chart/")},
          Base() + QStringList{L("SenderModuleDialog/chart/"), L("SenderModuleDialog/colour/"),

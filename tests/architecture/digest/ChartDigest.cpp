@@ -1,6 +1,6 @@
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 #include "SenderModuleDialog/chart/ChartMapping.h"
-#include "SenderModuleDialog/chart/ChartSolver.h"
+#include "SenderModuleDialog/chart/solve/ChartSolver.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
 #include "tests/architecture/digest/Digest.h"
@@ -67,7 +67,7 @@ void Drags(CSequence& sequence, CDigest& digest)
     for (int i = 0; i < c_nRounds; ++i) {
         SChromaGroupInfo group = Group(sequence);
         const QPointF pos{double(sequence.Below(997)), double(sequence.Below(773))};
-        const CPointEx<float> ptTarget = ChartGeometry::Narrowed(mapping.ToChromaticity(pos));
+        const CPointEx<float> ptTarget = Narrowed(mapping.ToChromaticity(pos));
         solver.DragPoint(group, i % c_nChromaPointCount, ptTarget, i % 3 == 0 ? &snap : nullptr, ptNearest);
         digest.Add(ptNearest);
         Add(digest, group);

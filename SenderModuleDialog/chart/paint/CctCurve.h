@@ -1,0 +1,50 @@
+#ifndef SENDERMODULEDIALOG_CHART_PAINT_CCTCURVE_H
+#define SENDERMODULEDIALOG_CHART_PAINT_CCTCURVE_H
+
+#include "SenderModuleDialog/chart/ChartMapping.h"
+
+#include <QPainterPath>
+#include <QPointF>
+
+#include <array>
+#include <optional>
+#include <vector>
+
+class CCCT2ColorCoord;
+
+/// The curve of colour temperatures from 4000 K to 15000 K by 10 K, in chromaticities, and as a path in
+/// widget pixels. The chromaticities are found once; the path is kept until the mapping changes.
+class CCctCurve
+{
+public:
+    /// A temperature that has a tick on the curve.
+    struct STick
+    {
+        int nTemperature; ///< kelvin
+        QPointF ptFoot;   ///< on the curve, in widget pixels
+        QPointF ptEnd;
+    };
+    static constexpr std::array<int, 3> c_tickTemperatures = {4000, 6500, 12000};
+
+    explicit CCctCurve(const CCCT2ColorCoord& cct);
+
+    /// Follows the mapping that the path and the ticks are asked for.
+    void SetMapping(const CChartMapping& mapping);
+    const QPainterPath& Path() const { return m_path; }
+    const std::array<STick, c_tickTemperatures.size()>& Ticks() const { return m_ticks; }
+
+private:
+    struct STickPoints
+    {
+        QPointF ptFoot;
+        QPointF ptNext; ///< the next temperature's point, for the direction
+    };
+
+    std::vector<QPointF> m_vecChromaticities;
+    std::array<STickPoints, c_tickTemperatures.size()> m_tickPoints;
+    std::optional<CChartMapping> m_mapping;
+    QPainterPath m_path;
+    std::array<STick, c_tickTemperatures.size()> m_ticks{};
+};
+
+#endif // SENDERMODULEDIALOG_CHART_PAINT_CCTCURVE_H
