@@ -51,7 +51,7 @@ CChromaticityDlgWnd::CChromaticityDlgWnd(QWidget* parent)
 {
     m_pCct = new CCCT2ColorCoord;
     m_pGamut = new CChromaGamutInterpolation;
-    m_pPrivate = std::make_unique<CPrivate>(*this);
+    m_pPrivate = std::make_unique<CChromaticityDlgWndPrivate>(*this);
     const auto nBoundarySize = std::size_t(m_pPrivate->m_nBoundarySize);
     m_pBoundaryPx = new QPointF[nBoundarySize]();
     m_pBoundaryPxF = new CPointEx<float>[nBoundarySize]();
@@ -129,7 +129,7 @@ void CChromaticityDlgWnd::SetSize(int nWidth, int nHeight)
     }
 }
 
-CChromaticityDlgWnd::CPrivate::CPrivate(CChromaticityDlgWnd& chart)
+CChromaticityDlgWndPrivate::CChromaticityDlgWndPrivate(CChromaticityDlgWnd& chart)
     : m_chart(chart)
     , m_nBoundarySize(chart.m_pGamut->GetQPointFData().size())
     , m_pStore(MakeStore())
@@ -137,7 +137,7 @@ CChromaticityDlgWnd::CPrivate::CPrivate(CChromaticityDlgWnd& chart)
     , m_cctCurve(*chart.m_pCct)
 {}
 
-int CChromaticityDlgWnd::CPrivate::BoundaryCount() const
+int CChromaticityDlgWndPrivate::BoundaryCount() const
 {
     return std::min(m_nBoundarySize, m_chart.m_pGamut->GetQPointFData().size());
 }

@@ -21,6 +21,7 @@
 class CCCT2ColorCoord;
 class CChromaGamutInterpolation;
 class CChromaGamutThread;
+class CChromaticityDlgWndPrivate;
 class QImage;
 class QPainter;
 
@@ -272,8 +273,7 @@ public:
 
 private:
     /// The rooms that do the work, and the steps between them.
-    class Q_DECL_HIDDEN CPrivate;
-    std::unique_ptr<CPrivate> m_pPrivate;
+    std::unique_ptr<CChromaticityDlgWndPrivate> m_pPrivate;
 };
 
 #endif // SENDERMODULEDIALOG_CHART_CCHROMATICITYDLGWND_H

@@ -14,7 +14,7 @@
 /// @file
 /// The chart's background bitmaps: who paints them, where, and how they are handed over.
 
-SWndBitmap* CChromaticityDlgWnd::CPrivate::WndBitmap(int nType)
+SWndBitmap* CChromaticityDlgWndPrivate::WndBitmap(int nType)
 {
     SWndBitmap* const arrBitmaps[c_nWndBitmapCount] = {&m_chart.m_wndBitmap0, &m_chart.m_wndBitmap1,
                                                        &m_chart.m_wndBitmap2, &m_chart.m_wndBitmap3,
@@ -61,7 +61,7 @@ void CChromaticityDlgWnd::GetChromaticityBmp(int nType)
         m_pPrivate->m_pStore->Paint(nType);
 }
 
-std::shared_ptr<CChromaBitmapStore> CChromaticityDlgWnd::CPrivate::MakeStore()
+std::shared_ptr<CChromaBitmapStore> CChromaticityDlgWndPrivate::MakeStore()
 {
     return std::make_shared<CChromaBitmapStore>(
         CChromaBitmapStore::SOwner{[this](int nType) { return Measure(nType); },
@@ -69,7 +69,7 @@ std::shared_ptr<CChromaBitmapStore> CChromaticityDlgWnd::CPrivate::MakeStore()
                                    [this] { return m_chart.m_bAbortPaint.load(); }});
 }
 
-ChromaBitmap::SSource CChromaticityDlgWnd::CPrivate::Measure(int nType)
+ChromaBitmap::SSource CChromaticityDlgWndPrivate::Measure(int nType)
 {
     const SWndBitmap* pBitmap = WndBitmap(nType);
     ChromaBitmap::SSource source;
@@ -80,7 +80,7 @@ ChromaBitmap::SSource CChromaticityDlgWnd::CPrivate::Measure(int nType)
     return source;
 }
 
-void CChromaticityDlgWnd::CPrivate::ShowBitmap(int nType, QImage image)
+void CChromaticityDlgWndPrivate::ShowBitmap(int nType, QImage image)
 {
     SWndBitmap* pBitmap = WndBitmap(nType);
     QImage*& pImage = pBitmap != nullptr ? pBitmap->pImage : m_chart.m_pDefaultImage;
@@ -89,7 +89,7 @@ void CChromaticityDlgWnd::CPrivate::ShowBitmap(int nType, QImage image)
         pBitmap->bReady = true;
 }
 
-QImage CChromaticityDlgWnd::CPrivate::TakeBitmap()
+QImage CChromaticityDlgWndPrivate::TakeBitmap()
 {
     if (m_chart.m_nWndType == c_nDefaultWndType && std::exchange(m_chart.m_bDefaultDirty, false))
         m_chart.GetChromaticityBmp(c_nDefaultWndType);
@@ -103,7 +103,7 @@ QImage CChromaticityDlgWnd::CPrivate::TakeBitmap()
     return pImage != nullptr ? *pImage : QImage();
 }
 
-QImage CChromaticityDlgWnd::CPrivate::TakeBitmap(double dRatio)
+QImage CChromaticityDlgWndPrivate::TakeBitmap(double dRatio)
 {
     QImage imgBitmap = TakeBitmap();
     if (imgBitmap.isNull() || dRatio <= 1.0)
@@ -118,7 +118,7 @@ QImage CChromaticityDlgWnd::CPrivate::TakeBitmap(double dRatio)
     return imgSharp;
 }
 
-QImage CChromaticityDlgWnd::CPrivate::PaintSharp(double dRatio, bool& bAborted)
+QImage CChromaticityDlgWndPrivate::PaintSharp(double dRatio, bool& bAborted)
 {
     ChromaBitmap::SSource source;
     {
@@ -139,12 +139,13 @@ std::function<void()> CChromaticityDlgWnd::WorkOfWndBitmapThread() const
     };
 }
 
-void CChromaticityDlgWnd::CPrivate::ConnectWndBitmapThread()
+void CChromaticityDlgWndPrivate::ConnectWndBitmapThread()
 {
-    connect(m_chart.m_pThread, &CChromaGamutThread::RunOver, &m_chart, [this] { FinishWndBitmapThread(); });
+    QObject::connect(m_chart.m_pThread, &CChromaGamutThread::RunOver, &m_chart,
+                     [this] { FinishWndBitmapThread(); });
     // In the worker's thread, before it has ended: a run that worked for another chart, or for none, leaves
     // nobody waiting for it.
-    connect(
+    QObject::connect(
         m_chart.m_pThread, &QThread::finished, &m_chart, [this] { m_pStore->WithdrawWorker(); },
         Qt::DirectConnection);
 }
@@ -174,13 +175,13 @@ void CChromaticityDlgWnd::StopWndBitmapThread()
     m_pPrivate->m_pStore->SetStopWorkers(false);
 }
 
-void CChromaticityDlgWnd::CPrivate::JoinWndBitmapThread()
+void CChromaticityDlgWndPrivate::JoinWndBitmapThread()
 {
     if (QThread::currentThread() != m_chart.m_pThread)
         m_chart.m_pThread->wait();
 }
 
-void CChromaticityDlgWnd::CPrivate::ReleaseWndBitmapThread()
+void CChromaticityDlgWndPrivate::ReleaseWndBitmapThread()
 {
     m_pStore->Close();
     JoinWndBitmapThread();
@@ -190,10 +191,10 @@ void CChromaticityDlgWnd::CPrivate::ReleaseWndBitmapThread()
         return;
     // A slot of the worker's own signal deletes the chart: the thread goes when it has ended.
     m_chart.m_pThread->setParent(nullptr);
-    connect(m_chart.m_pThread, &QThread::finished, m_chart.m_pThread, &QObject::deleteLater);
+    QObject::connect(m_chart.m_pThread, &QThread::finished, m_chart.m_pThread, &QObject::deleteLater);
 }
 
-void CChromaticityDlgWnd::CPrivate::FinishWndBitmapThread()
+void CChromaticityDlgWndPrivate::FinishWndBitmapThread()
 {
     // The news of a run that was stopped for another one comes late: the other one brings its own.
     if (m_pStore->IsWorkerBusy())

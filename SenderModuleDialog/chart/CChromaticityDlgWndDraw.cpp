@@ -45,7 +45,7 @@ void CChromaticityDlgWnd::Draw(QPainter& painter)
     m_pPrivate->DrawFrame(painter);
 }
 
-void CChromaticityDlgWnd::CPrivate::DrawStaticLayers(QPainter& painter, const QImage& imgBitmap)
+void CChromaticityDlgWndPrivate::DrawStaticLayers(QPainter& painter, const QImage& imgBitmap)
 {
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_chart.m_clrBackground);
@@ -58,7 +58,7 @@ void CChromaticityDlgWnd::CPrivate::DrawStaticLayers(QPainter& painter, const QI
     m_chart.DrawHexCoorDialog(painter);
 }
 
-void CChromaticityDlgWnd::CPrivate::DrawBitmap(QPainter& painter, const QImage& imgBitmap)
+void CChromaticityDlgWndPrivate::DrawBitmap(QPainter& painter, const QImage& imgBitmap)
 {
     const QSize size(m_chart.m_nWndWidth, m_chart.m_nWndHeight);
     if (imgBitmap.devicePixelRatioF() > 1.0) {
@@ -73,7 +73,7 @@ void CChromaticityDlgWnd::CPrivate::DrawBitmap(QPainter& painter, const QImage& 
     painter.drawImage(QRect(QPoint(0, 0), size), imgShown);
 }
 
-void CChromaticityDlgWnd::CPrivate::DrawSharpBitmap(QPainter& painter, const QImage& imgBitmap)
+void CChromaticityDlgWndPrivate::DrawSharpBitmap(QPainter& painter, const QImage& imgBitmap)
 {
     // The part that the chart shows, pixel by device pixel.
     const double dRatio = imgBitmap.devicePixelRatioF();
@@ -83,7 +83,7 @@ void CChromaticityDlgWnd::CPrivate::DrawSharpBitmap(QPainter& painter, const QIm
     painter.drawImage(QRectF(QPointF(0, 0), QSizeF(rcSource.size()) / dRatio), imgBitmap, QRectF(rcSource));
 }
 
-void CChromaticityDlgWnd::CPrivate::DrawFrame(QPainter& painter)
+void CChromaticityDlgWndPrivate::DrawFrame(QPainter& painter)
 {
     painter.setPen(QPen(Qt::black, c_dFrameWidth));
     painter.setBrush(Qt::NoBrush);

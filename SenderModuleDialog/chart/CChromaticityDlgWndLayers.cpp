@@ -32,7 +32,7 @@ QPoint Truncated(QPointF pt)
 
 } // namespace
 
-ChartOverlay::SChartFrame CChromaticityDlgWnd::CPrivate::Frame() const
+ChartOverlay::SChartFrame CChromaticityDlgWndPrivate::Frame() const
 {
     return {m_chart.Mapping(), m_chart.m_rcChart, GetFontFamily()};
 }
@@ -47,7 +47,7 @@ void CChromaticityDlgWnd::DrawHexCoorDialog(QPainter& painter)
     ChartOverlay::DrawGrid(painter, m_pPrivate->Frame(), m_nGridAlpha);
 }
 
-QPointF CChromaticityDlgWnd::CPrivate::TipsPoint() const
+QPointF CChromaticityDlgWndPrivate::TipsPoint() const
 {
     QPointF ptShown;
     if (m_chart.m_nHoverGroup < 0)
@@ -68,7 +68,7 @@ void CChromaticityDlgWnd::DrawTipsString(QPainter& painter)
     ChartOverlay::DrawTips(painter, m_pPrivate->Frame(), {ptShown, bShowTemperature, strTemperature});
 }
 
-QPoint CChromaticityDlgWnd::CPrivate::CrossPlace() const
+QPoint CChromaticityDlgWndPrivate::CrossPlace() const
 {
     const SChromaGroupInfo* const pGroup = m_chart.m_mapGroups.value(m_chart.m_nHoverGroup, nullptr);
     if (m_chart.m_nHoverGroup < 0 || !m_chart.m_bCanDrag || pGroup == nullptr)

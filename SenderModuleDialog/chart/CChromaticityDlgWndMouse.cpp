@@ -65,7 +65,7 @@ void CChromaticityDlgWnd::mouseMoveEvent(QMouseEvent* event)
     update();
 }
 
-void CChromaticityDlgWnd::CPrivate::Drag(QPoint pos)
+void CChromaticityDlgWndPrivate::Drag(QPoint pos)
 {
     m_chart.m_bMouseInside = true;
     m_chart.m_bShowStandard = false;
@@ -82,7 +82,7 @@ void CChromaticityDlgWnd::CPrivate::Drag(QPoint pos)
         GroupPoint(*pGroup, nPoint) = m_chart.QPointFToCPointF(m_chart.m_ptNearest);
 }
 
-void CChromaticityDlgWnd::CPrivate::Hover(QPoint pos)
+void CChromaticityDlgWndPrivate::Hover(QPoint pos)
 {
     // In pixels, not in chromaticities: in effect this is never inside. Nothing reads it.
     m_chart.m_bMouseInside = m_chart.m_pGamut->IsPointInCIEPolygon(QPointF(pos));

@@ -20,11 +20,11 @@ class QPainter;
 
 /// The private part of the chart: it holds what the rooms keep between calls, reads the widget's open members
 /// and hands their values to the rooms.
-class CChromaticityDlgWnd::CPrivate
+class CChromaticityDlgWndPrivate
 {
 public:
     /// @param chart with its locus and its temperatures
-    explicit CPrivate(CChromaticityDlgWnd& chart);
+    explicit CChromaticityDlgWndPrivate(CChromaticityDlgWnd& chart);
 
     /// @name Bitmaps
     /// @{

@@ -275,6 +275,15 @@ void TestIncludeArrows::AWrongArrowIsNoticed_data()
                                              << "\"host/TevraData/ProjectData.h\"";
     QTest::newRow("the block knows no dialog") << "SenderModuleDialog/edid/EDIDRaw.cpp"
                                                << "\"SenderModuleDialog/edid/EdidSetDlg.h\"";
+    QTest::newRow("a room of the chart does not know the widget")
+        << "SenderModuleDialog/chart/bitmap/ChromaBitmapStore.cpp"
+        << "\"SenderModuleDialog/chart/CChromaticityDlgWnd.h\"";
+    QTest::newRow("a room of the chart does not know another")
+        << "SenderModuleDialog/chart/solve/ChartHitTest.cpp"
+        << "\"SenderModuleDialog/chart/paint/ChartGroupOverlay.h\"";
+    QTest::newRow("the values of the chart know no room")
+        << "SenderModuleDialog/chart/ChartGroupPoints.h"
+        << "\"SenderModuleDialog/chart/solve/ChartGeometry.h\"";
     QTest::newRow("the chart knows no handle") << "SenderModuleDialog/chart/CChromaticityDlgWnd.cpp"
                                                << "\"SenderModuleDialog/HostAccess.h\"";
     QTest::newRow("no dialog knows another") << "SenderModuleDialog/output/SetCanvasDlg.cpp"
