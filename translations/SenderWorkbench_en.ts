@@ -222,6 +222,10 @@
         <source>拖动白边的点，或用 Tab 键选点、方向键移动；灰边的点不能移动。</source>
         <translation>Drag a point with a white rim, or choose one by Tab and move it by the arrows; grey rims are fixed.</translation>
     </message>
+    <message>
+        <source>测量</source>
+        <translation>Measured</translation>
+    </message>
 </context>
 <context>
     <name>CCorrectionPanel</name>
@@ -870,6 +874,152 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
     </message>
 </context>
 <context>
+    <name>CMeasurementProblem</name>
+    <message>
+        <source>不是文本文件；请导出为 UTF-8 的 CSV</source>
+        <translation>This is no text; export it as CSV in UTF-8</translation>
+    </message>
+    <message>
+        <source>没有内容；第一行应为表头</source>
+        <translation>There is nothing; the first line should be a heading</translation>
+    </message>
+    <message>
+        <source>“%1”不是表头；例如 module,Rx,Ry,RY,Gx,Gy,GY,Bx,By,BY</source>
+        <translation>&apos;%1&apos; begins no heading; begin with one such as module,Rx,Ry,RY,Gx,Gy,GY,Bx,By,BY</translation>
+    </message>
+    <message>
+        <source>表头缺少列 %1；请补上</source>
+        <translation>the heading has no column %1; add it</translation>
+    </message>
+    <message>
+        <source>表头有两个“%1”；请删去一个</source>
+        <translation>the heading has column &apos;%1&apos; twice; remove one</translation>
+    </message>
+    <message>
+        <source>引号没有结束；请补上</source>
+        <translation>the quoted field does not end; add the closing quote</translation>
+    </message>
+    <message>
+        <source>表头之后没有数据；每个模组一行</source>
+        <translation>nothing follows the heading; add a line for each module</translation>
+    </message>
+    <message>
+        <source>“%1”不是数字；例如 0.3127</source>
+        <translation>&apos;%1&apos; is not a number; write one such as 0.3127</translation>
+    </message>
+    <message>
+        <source>“%1”不可能：%2</source>
+        <translation>&apos;%1&apos; is not possible: %2</translation>
+    </message>
+    <message>
+        <source>“%1”不是基色；请写 R、G、B 或 W</source>
+        <translation>&apos;%1&apos; is no primary; write R, G, B or W</translation>
+    </message>
+    <message>
+        <source>模组“%1”出现两次；请删去一个或改名</source>
+        <translation>module &apos;%1&apos; is there twice; remove one or rename it</translation>
+    </message>
+    <message>
+        <source>模组“%1”的这个基色出现两次；请删去一个</source>
+        <translation>module &apos;%1&apos; has this primary twice; remove one</translation>
+    </message>
+    <message>
+        <source>模组“%1”缺少基色；需要红、绿、蓝</source>
+        <translation>module &apos;%1&apos; lacks a primary; it needs red, green and blue</translation>
+    </message>
+    <message>
+        <source>模组“%1”不可能：%2</source>
+        <translation>module &apos;%1&apos; is not possible: %2</translation>
+    </message>
+    <message>
+        <source>数字不是有限的</source>
+        <translation>a number is not finite</translation>
+    </message>
+    <message>
+        <source>x 和 y 必须大于 0，且和不大于 1</source>
+        <translation>x and y must be above 0, and their sum at most 1</translation>
+    </message>
+    <message>
+        <source>亮度必须大于 0</source>
+        <translation>a luminance must be above 0</translation>
+    </message>
+    <message>
+        <source>三个基色在一条直线上</source>
+        <translation>the three primaries lie on one line</translation>
+    </message>
+    <message>
+        <source>色温不在 1000 K 到 20000 K 之间</source>
+        <translation>the temperature is not from 1000 K to 20000 K</translation>
+    </message>
+    <message>
+        <source>该点就是白点</source>
+        <translation>the point is the white itself</translation>
+    </message>
+    <message>
+        <source>白点在色域之外</source>
+        <translation>the white lies outside the gamut</translation>
+    </message>
+    <message>
+        <source>各模组没有公共色域</source>
+        <translation>no chromaticity lies in the gamut of every module</translation>
+    </message>
+    <message>
+        <source>没有模组</source>
+        <translation>there are no modules</translation>
+    </message>
+    <message>
+        <source>第 %1 行第 %2 列：%3</source>
+        <translation>Line %1, column %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>CModuleModel</name>
+    <message>
+        <source>到全屏均值的 u&apos;v&apos; 距离</source>
+        <translation>Distance from the wall&apos;s mean in u&apos;v&apos;</translation>
+    </message>
+    <message>
+        <source>与均值相差最大的亮度</source>
+        <translation>The luminance farthest from the mean</translation>
+    </message>
+    <message>
+        <source>模组</source>
+        <translation>Module</translation>
+    </message>
+    <message>
+        <source>异常</source>
+        <translation>Odd</translation>
+    </message>
+    <message>
+        <source>红</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>Luminance</translation>
+    </message>
+    <message>
+        <source>颜色、亮度</source>
+        <translation>colour, luminance</translation>
+    </message>
+    <message>
+        <source>颜色</source>
+        <translation>colour</translation>
+    </message>
+</context>
+<context>
     <name>COutputFacts</name>
     <message>
         <source>开</source>
@@ -1494,6 +1644,101 @@ Choose another picture.</translation>
     <message>
         <source>不是完整的地址</source>
         <translation>not a complete address</translation>
+    </message>
+</context>
+<context>
+    <name>CWallPanel</name>
+    <message>
+        <source>导入...</source>
+        <translation>Import...</translation>
+    </message>
+    <message>
+        <source>粘贴</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>从电子表格复制的测量数据，含表头</source>
+        <translation>Measurements copied from a spreadsheet, with their heading</translation>
+    </message>
+    <message>
+        <source>导出...</source>
+        <translation>Export...</translation>
+    </message>
+    <message>
+        <source>清除</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>标准</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>在图上显示</source>
+        <translation>Show on the chart</translation>
+    </message>
+    <message>
+        <source>测量的模组</source>
+        <translation>Measured modules</translation>
+    </message>
+    <message>
+        <source>导入或粘贴各模组的测量数据（CSV）：每个模组一行，例如 module,Rx,Ry,RY,Gx,Gy,GY,Bx,By,BY。</source>
+        <translation>Import or paste the measurements of the modules (CSV): a line each, such as module,Rx,Ry,RY,Gx,Gy,GY,Bx,By,BY.</translation>
+    </message>
+    <message>
+        <source>，相关色温 %1 K，Duv %2</source>
+        <translation>, CCT %1 K, Duv %2</translation>
+    </message>
+    <message>
+        <source>%1 个模组，%2 个异常。平均白点 %3，%4 cd/m²%5。</source>
+        <translation>%1 modules, %2 odd. Mean white %3, %4 cd/m²%5.</translation>
+    </message>
+    <message>
+        <source>没有公共色域：%1。</source>
+        <translation>No common gamut: %1.</translation>
+    </message>
+    <message>
+        <source>校正后共同的白点 %1 最高 %2 cd/m²，受限于模组 %3。</source>
+        <translation>Corrected, all show white %1 at up to %2 cd/m², limited by module %3.</translation>
+    </message>
+    <message>
+        <source>无法显示 %1：%2。</source>
+        <translation>%1 cannot be shown: %2.</translation>
+    </message>
+    <message>
+        <source>%1：覆盖 xy %2%，u&apos;v&apos; %3%；%4% 的颜色超出范围。</source>
+        <translation>%1: covered %2% in xy, %3% in u&apos;v&apos;; %4% of the colours clip.</translation>
+    </message>
+    <message>
+        <source>已导入 %1 个模组</source>
+        <translation>Imported %1 modules</translation>
+    </message>
+    <message>
+        <source>无法读取 %1：%2。请选择别的文件。</source>
+        <translation>%1 cannot be read: %2. Choose another file.</translation>
+    </message>
+    <message>
+        <source>已保存 %1</source>
+        <translation>Saved %1</translation>
+    </message>
+    <message>
+        <source>无法写入 %1：%2。请选择别的位置。</source>
+        <translation>%1 cannot be written: %2. Choose another place.</translation>
+    </message>
+    <message>
+        <source>导入测量数据</source>
+        <translation>Import measurements</translation>
+    </message>
+    <message>
+        <source>测量数据 (*.csv *.tsv *.txt)</source>
+        <translation>Measurements (*.csv *.tsv *.txt)</translation>
+    </message>
+    <message>
+        <source>导出测量数据</source>
+        <translation>Export measurements</translation>
+    </message>
+    <message>
+        <source>测量数据 (*.csv)</source>
+        <translation>Measurements (*.csv)</translation>
     </message>
 </context>
 </TS>

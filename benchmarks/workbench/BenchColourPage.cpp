@@ -3,10 +3,12 @@
 #include "workbench/colour/ChartView.h"
 #include "workbench/colour/ColourPage.h"
 #include "workbench/colour/ReadingsPanel.h"
+#include "workbench/colour/WallPanel.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QMouseEvent>
 
 /// @file
@@ -105,6 +107,25 @@ void ChartAlone(benchmark::State& state)
     }
 }
 
+/// The step over a thousand measured modules.
+void OverModules(benchmark::State& state)
+{
+    CDraggedPage dragged(CColourPage::enReadingsTab);
+    QString strText = QStringLiteral("module,Rx,Ry,RY,Gx,Gy,GY,Bx,By,BY\n");
+    for (int i = 0; i < 1000; ++i)
+        strText += QStringLiteral("%1,%2,0.305,240,%3,0.7,800,0.14,0.055,76\n")
+                       .arg(i)
+                       .arg(0.68 + 0.00001 * (i % 97))
+                       .arg(0.19 + 0.00002 * (i % 89));
+    QGuiApplication::clipboard()->setText(strText);
+    dragged.Page().Wall().Paste();
+    for (auto step : state) {
+        Q_UNUSED(step)
+        dragged.Step();
+    }
+    dragged.Page().Wall().Clear();
+}
+
 } // namespace
 
 int main(int nArguments, char** ppArguments)
@@ -112,6 +133,8 @@ int main(int nArguments, char** ppArguments)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(nArguments, ppArguments);
     benchmark::RegisterBenchmark("drag step with the readings/library", WithReadings)
+        ->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark("drag step over 1,000 modules/library", OverModules)
         ->Unit(benchmark::kMicrosecond);
     benchmark::RegisterBenchmark("calculate the readings/library", Readings)->Unit(benchmark::kMicrosecond);
     benchmark::RegisterBenchmark("drag step of the chart alone/library", ChartAlone)

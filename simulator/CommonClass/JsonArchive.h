@@ -200,6 +200,15 @@ public:
         ReadJson(m_place.Key(strKey), m_object.value(strKey), value, limits...);
     }
 
+    /// A list that is left out where it is empty, so that files from before it was known can be read.
+    template <class TList, class... TLimits>
+    void OptionalField(const char* szKey, TList& list, const TLimits&... limits)
+    {
+        list.clear();
+        if (m_object.contains(QString::fromLatin1(szKey)))
+            Field(szKey, list, limits...);
+    }
+
     /// Refuses keys that no field has asked for: a misspelt key must not pass for a missing one.
     void RefuseUnknownKeys() const;
 
@@ -219,6 +228,13 @@ public:
     void Field(const char* szKey, const TValue& value, const TLimits&...)
     {
         m_object.insert(QString::fromLatin1(szKey), WriteJson(value));
+    }
+
+    template <class TList, class... TLimits>
+    void OptionalField(const char* szKey, const TList& list, const TLimits&... limits)
+    {
+        if (!list.isEmpty())
+            Field(szKey, list, limits...);
     }
 
     QJsonObject Object() const { return m_object; }

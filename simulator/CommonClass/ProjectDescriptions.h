@@ -9,6 +9,8 @@
 
 /// Longest text in a file: a name field holds 64 characters, and an entry two of them.
 constexpr SLength c_textLength = {256};
+/// Longest line of measurements: a name and twelve numbers.
+constexpr SLength c_measurementLength = {1024};
 /// Sides of a resolution or canvas, pixels; the fields of an EDID setting have 16 bits.
 constexpr SRange c_sideRange = {0, 65535};
 /// Frame rates, Hz.
@@ -139,6 +141,7 @@ void Describe(TArchive& archive, SSimulatedProject& project)
     archive.Field("senders", project.listSenders);
     archive.Field("addressing", project.addressing);
     archive.Field("addresses", project.addresses);
+    archive.OptionalField("measurements", project.listMeasurements, c_measurementLength);
 }
 
 #endif // SIMULATOR_COMMONCLASS_PROJECTDESCRIPTIONS_H

@@ -19,6 +19,12 @@ public:
         Append(value);
     }
 
+    template <class TValue, class... TLimits>
+    void OptionalField(const char* szKey, TValue& value, const TLimits&... limits)
+    {
+        Field(szKey, value, limits...);
+    }
+
     QByteArray Take() { return std::move(m_baBytes); }
 
 private:
@@ -122,6 +128,12 @@ public:
     void Field(const char* szKey, TValue& value, const TLimits&... limits)
     {
         m_settings.Field(szKey, value, limits...);
+    }
+
+    template <class TValue, class... TLimits>
+    void OptionalField(const char* szKey, TValue& value, const TLimits&... limits)
+    {
+        m_settings.OptionalField(szKey, value, limits...);
     }
 
     void Field(const char*, std::deque<SSimulatedSender>& listSenders)

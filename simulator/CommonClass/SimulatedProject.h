@@ -111,6 +111,8 @@ struct SSimulatedProject
         listSenders; ///< a deque: records stay where they are while senders are added
     SAddressing addressing;
     SAddressLists addresses;
+    /// Measurements of a wall's modules, the lines of a CSV text with its heading; empty without any.
+    QStringList listMeasurements;
 
     /// The sender with that index, or null.
     COMMONCLASS_EXPORT SSimulatedSender* FindSender(int nSender);

@@ -126,11 +126,20 @@ const std::vector<SLayer>& Layers()
         {L("simulator"), {L("simulator/")}, {L("host/"), L("simulator/")}, false},
         {L("tools"),
          {L("tools/")},
-         {L("SenderModuleDialog/"), L("host/"), L("instruments/"), L("simulator/"), L("tools/")},
+         {L("SenderModuleDialog/"), L("host/"), L("instruments/"), L("reports/"), L("simulator/"),
+          L("tools/")},
+         false},
+        // What the tool and the workbench paint alike.
+        {L("reports"),
+         {L("reports/")},
+         Base() + QStringList{L("reports/"), L("instruments/"), L("SenderModuleDialog/chart/"),
+                              L("SenderModuleDialog/colour/"), L("SenderModuleDialog/geometry/"),
+                              L("host/CommonClass/")},
          false},
         {L("workbench"),
          {L("workbench/")},
-         {L("SenderModuleDialog/"), L("host/"), L("instruments/"), L("simulator/"), L("workbench/")},
+         {L("reports/"), L("SenderModuleDialog/"), L("host/"), L("instruments/"), L("simulator/"),
+          L("workbench/")},
          false},
     };
     return s_vecLayers;
@@ -222,7 +231,7 @@ QStringList SourceFiles()
     const QDir dirRoot(L(SENDER_SOURCE_DIR));
     QStringList listFiles;
     for (const char* szFolder :
-         {"SenderModuleDialog", "host", "instruments", "simulator", "workbench", "tools"}) {
+         {"SenderModuleDialog", "host", "instruments", "reports", "simulator", "workbench", "tools"}) {
         QDirIterator itFile(dirRoot.filePath(L(szFolder)), {L("*.h"), L("*.cpp")}, QDir::Files,
                             QDirIterator::Subdirectories);
         while (itFile.hasNext())
@@ -296,6 +305,8 @@ void TestIncludeArrows::AWrongArrowIsNoticed_data()
                                                      << "\"instruments/edid/Checksum.h\"";
     QTest::newRow("an instrument knows no widget") << "instruments/edid/Checksum.cpp"
                                                    << "<QWidget>";
+    QTest::newRow("a report knows no program") << "reports/WallPainter.cpp"
+                                               << "\"workbench/colour/MeasuredWall.h\"";
     QTest::newRow("an instrument knows no dialog") << "instruments/edid/Checksum.cpp"
                                                    << "\"SenderModuleDialog/edid/EdidLimit.h\"";
     QTest::newRow("the library knows no simulator") << "SenderModuleDialog/edid/EdidSetDlg.cpp"

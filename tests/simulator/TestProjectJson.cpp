@@ -25,6 +25,8 @@ SSimulatedProject FullProject()
         project.addresses.listStored = QStringList{QStringLiteral("10.0.0.7(a(b)c)")};
         project.addresses.listOriginal = QStringList{QStringLiteral("10.0.0.8()")};
         project.addresses.listCurSet = QStringList{QStringLiteral("10.0.0.()")};
+        project.listMeasurements =
+            QStringList{QStringLiteral("module,Rx,Ry,RY"), QStringLiteral("左,0.69,0.3,240")};
     });
     return simulator.Project();
 }
@@ -90,6 +92,7 @@ private Q_SLOTS:
     void AnUnknownKeyIsNamed();
     void TheWholeMustFitTogether_data();
     void TheWholeMustFitTogether();
+    void MeasurementsMayBeLeftOut();
     void TheMessageQuotesTheValueAndWhatIsExpected();
     void ALongValueIsQuotedInPart();
 };
@@ -284,6 +287,18 @@ void TestProjectJson::TheWholeMustFitTogether()
     QFETCH(QJsonValue, value);
     QFETCH(QString, place);
     QCOMPARE(ProblemWith(path, value).strPlace, place);
+}
+
+void TestProjectJson::MeasurementsMayBeLeftOut()
+{
+    QJsonObject object = ProjectToJson(FullProject());
+    QCOMPARE(object.take(QStringLiteral("measurements")).toArray().size(), 2);
+    SFileProblem problem;
+    QVERIFY(ProjectFromJson(object, problem).listMeasurements.isEmpty());
+    QVERIFY(!problem.IsSet());
+    QVERIFY(!ProjectToJson(SSimulatedProject()).contains(QStringLiteral("measurements")));
+    QVERIFY(ProblemWith(QStringLiteral("measurements"), QStringLiteral("text")).IsSet());
+    QVERIFY(ProblemWith(QStringLiteral("measurements[1]"), QString(1025, QLatin1Char('x'))).IsSet());
 }
 
 void TestProjectJson::TheMessageQuotesTheValueAndWhatIsExpected()

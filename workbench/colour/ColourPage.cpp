@@ -5,9 +5,12 @@
 #include "workbench/colour/ChartExport.h"
 #include "workbench/colour/ChartView.h"
 #include "workbench/colour/GroupPanel.h"
+#include "workbench/colour/MeasuredWall.h"
 #include "workbench/colour/PointKeys.h"
 #include "workbench/colour/PointReadout.h"
 #include "workbench/colour/ReadingsPanel.h"
+#include "workbench/colour/WallOverlay.h"
+#include "workbench/colour/WallPanel.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -64,6 +67,7 @@ QWidget* CColourPage::CreateSide()
     m_pTabs->addTab(CreateGroups(), QString());
     m_pReadings = new CReadingsPanel(m_pView->Editor(), this);
     m_pTabs->addTab(m_pReadings, QString());
+    m_pTabs->addTab(CreateWall(), QString());
     connect(m_pGroups, &CGroupPanel::GroupSelected, m_pReadings, &CReadingsPanel::ShowGroup);
     return m_pTabs;
 }
@@ -78,6 +82,16 @@ QWidget* CColourPage::CreateGroups()
     pLayout->addWidget(m_pControls);
     pLayout->addWidget(CreateExports());
     return pGroups;
+}
+
+QWidget* CColourPage::CreateWall()
+{
+    m_pWall = new CMeasuredWall(this);
+    m_pWallPanel = new CWallPanel(*m_pWall, this);
+    m_pWallOverlay = new CWallOverlay(*m_pWall, *m_pView);
+    connect(m_pWallPanel, &CWallPanel::ShownOnChart, m_pWallOverlay, &QWidget::setVisible);
+    connect(m_pWallPanel, &CWallPanel::Reported, this, &CColourPage::Reported);
+    return m_pWallPanel;
 }
 
 void CColourPage::ShowTab(enTab tab)
@@ -122,7 +136,9 @@ void CColourPage::Retranslate()
     m_pTabs->setTabText(enGroupsTab, tr("色彩组"));
     m_pTabs->setTabText(enReadingsTab, tr("读数"));
     m_pGroups->Retranslate();
+    m_pTabs->setTabText(enWallTab, tr("测量"));
     m_pReadings->Retranslate();
+    m_pWallPanel->Retranslate();
     m_pControls->Retranslate();
     m_pView->Chart().setAccessibleName(tr("CIE 1931 色度图"));
     ShowReadout();

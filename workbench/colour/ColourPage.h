@@ -6,14 +6,17 @@
 class CChartControls;
 class CChartView;
 class CGroupPanel;
+class CMeasuredWall;
 class CReadingsPanel;
+class CWallOverlay;
+class CWallPanel;
 class QLabel;
 class QPushButton;
 class QTabWidget;
 
 /// The chromaticity chart with its groups in a table beside it, what it shows and holds, what the selected
 /// group's points are worth, and pictures of it.
-/// The groups are the page's own: no sender has any part in them.
+/// The groups are the page's own: no sender has any part in them. The measured wall is the project's.
 class CColourPage final : public CWorkbenchPage
 {
     Q_OBJECT
@@ -29,11 +32,13 @@ public:
     CGroupPanel& Groups() { return *m_pGroups; }
     CChartControls& Controls() { return *m_pControls; }
     CReadingsPanel& Readings() { return *m_pReadings; }
+    CWallPanel& Wall() { return *m_pWallPanel; }
     /// The tabs beside the chart, in their order.
     enum enTab
     {
         enGroupsTab,
         enReadingsTab,
+        enWallTab,
     };
     void ShowTab(enTab tab);
 
@@ -49,6 +54,7 @@ private:
     QWidget* CreateChart();
     QWidget* CreateSide();
     QWidget* CreateGroups();
+    QWidget* CreateWall();
     QWidget* CreateExports();
     void ChooseFileAndSave(bool bSvg);
     bool ReportSaved(const QString& strFile, const QString& strError);
@@ -59,6 +65,9 @@ private:
     QTabWidget* m_pTabs = nullptr;
     CGroupPanel* m_pGroups = nullptr;
     CReadingsPanel* m_pReadings = nullptr;
+    CMeasuredWall* m_pWall = nullptr;
+    CWallPanel* m_pWallPanel = nullptr;
+    CWallOverlay* m_pWallOverlay = nullptr;
     CChartControls* m_pControls = nullptr;
     QLabel* m_pReadout = nullptr;
     QPushButton* m_pCopy = nullptr;

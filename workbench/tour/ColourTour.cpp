@@ -9,10 +9,12 @@
 #include "workbench/colour/GroupPanel.h"
 #include "workbench/colour/PointKeys.h"
 #include "workbench/colour/RegionOverlay.h"
+#include "workbench/colour/WallPanel.h"
 #include "workbench/tour/PageTours.h"
 #include "workbench/tour/Tour.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -21,6 +23,7 @@
 namespace {
 
 constexpr int c_nDragFrames = 12;
+constexpr int c_nDemoModules = 24;
 
 void SendMouse(QWidget& widget, QEvent::Type type, QPoint pos, Qt::MouseButton button,
                Qt::MouseButtons buttons)
@@ -188,6 +191,38 @@ void TourOfReadings(CTour& tour, CColourPage& page)
     page.ShowTab(CColourPage::enGroupsTab);
 }
 
+/// A wall of 24 modules as a spreadsheet puts it on the clipboard; the blue of one has faded.
+QString DemoWall()
+{
+    QString strText = QStringLiteral("module\tRx\tRy\tRY\tGx\tGy\tGY\tBx\tBy\tBY\n");
+    for (int i = 0; i < c_nDemoModules; ++i) {
+        const int nOffset = i * 7 % 11 - 5;
+        const double dOffset = 0.0006 * nOffset;
+        strText += QStringLiteral("M%1\t%2\t0.305\t240\t%3\t0.7\t800\t0.14\t%4\t%5\n")
+                       .arg(i + 1)
+                       .arg(0.68 + dOffset)
+                       .arg(0.2 - dOffset)
+                       .arg(0.056 + dOffset / 2.0)
+                       .arg(i == c_nDemoModules / 2 ? 60 : 76);
+    }
+    return strText;
+}
+
+void TourOfWall(CTour& tour, CColourPage& page)
+{
+    page.ShowTab(CColourPage::enWallTab);
+    tour.Picture(&page, QStringLiteral("chart-wall-empty"));
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    clipboard.setText(QStringLiteral("module,Rx,Ry,RY,Gx,Gy,GY,Bx,By,BY\n1,0.69,0.3o,240\n"));
+    tour.Check(!page.Wall().Paste(), QStringLiteral("a wrong number was pasted"));
+    tour.Picture(&page, QStringLiteral("chart-wall-problem"));
+    clipboard.setText(DemoWall());
+    tour.Check(page.Wall().Paste(), QStringLiteral("measurements were not pasted"));
+    tour.Picture(&page, QStringLiteral("chart-wall"));
+    page.Wall().Clear();
+    page.ShowTab(CColourPage::enGroupsTab);
+}
+
 void TourOfFiles(CTour& tour, CColourPage& page)
 {
     const QDir folder(tour.Folder());
@@ -215,5 +250,6 @@ void PageTours::Colour(CTour& tour, CMainWindow& window)
     TourOfDrag(tour, page);
     TourOfKeys(tour, page);
     TourOfReadings(tour, page);
+    TourOfWall(tour, page);
     TourOfFiles(tour, page);
 }
