@@ -7,7 +7,7 @@
 #include <type_traits>
 
 /// The nearest value of an integer type. Fractions are cut towards zero, values beyond the range give its
-/// end, and what is no number gives 0: a conversion to an integer is never undefined.
+/// end, and NaN gives 0: a conversion to an integer is never undefined.
 template <class TTo, class TFrom>
 constexpr TTo SaturateTo(TFrom value)
 {
@@ -15,7 +15,7 @@ constexpr TTo SaturateTo(TFrom value)
     using limits = std::numeric_limits<TTo>;
     if constexpr (std::is_floating_point_v<TFrom> && std::is_unsigned_v<TTo> &&
                   limits::digits <= std::numeric_limits<TFrom>::digits) {
-        // Both ends are exact, and what is no number is not above 0: no branch is needed.
+        // Both ends are exact, and NaN is not above 0: no branch is needed.
         return TTo(std::min(TFrom(limits::max()), std::max(TFrom(0), value)));
     } else if constexpr (std::is_floating_point_v<TFrom>) {
         // One above the largest value is a power of two, which floating point holds exactly; the largest
@@ -26,7 +26,7 @@ constexpr TTo SaturateTo(TFrom value)
             return limits::max();
         if (value > TFrom(limits::min()))
             return TTo(value);
-        // What is no number is not in any order.
+        // NaN compares false with everything.
         return value <= TFrom(limits::min()) ? limits::min() : TTo(0);
     } else {
         if (value < 0)

@@ -1,6 +1,14 @@
 #ifndef HOST_KELVAROLABEL_H
 #define HOST_KELVAROLABEL_H
 
+/// What a label event tells: the code, and with it the details that follow.
+enum enLabelEvent
+{
+    enRateDepthChanged = 0xC00,   ///< frame rate and colour depth; details (0, 1, 0)
+    enPictureChanged = 0x24000,   ///< background picture or its switch; details (1, 0, 0)
+    enPictureViewChanged = 0x4000 ///< fit or transparency of the background picture; details (1, 0, 0)
+};
+
 /// The channel through which the library tells the host that a setting changed.
 class IKelvaroLabel
 {
@@ -8,9 +16,8 @@ public:
     virtual ~IKelvaroLabel() = default;
 
     /// Announces a change. The library reads no answer.
-    /// @param nCode what changed: 0xC00 rate and depth, 0x24000 background picture or its switch,
-    ///              0x4000 fit or transparency of the background picture
-    /// @param nA,nB,nC details of the event: (0, 1, 0) with 0xC00 and (1, 0, 0) with the other two
+    /// @param nCode what changed, an `enLabelEvent`
+    /// @param nA,nB,nC details of the event
     virtual void PostLabelEvent(int nCode, int nA, int nB, int nC) = 0;
 };
 

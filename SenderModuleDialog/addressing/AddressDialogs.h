@@ -16,7 +16,7 @@ namespace AddressDialogs {
 bool Confirm(QWidget* pDialog, const IPAddressRules::SPath& path, const QStringList& listTexts,
              const QString& strOldAddress);
 
-/// Whether the host sees an error in an address; asks for no code.
+/// Whether the host sees an error in an address; ignores the code.
 bool HasError(unsigned int nIP);
 
 /// Takes an address into the host's list, without a name.

@@ -52,8 +52,8 @@ struct SRun
         , nThird(Octet(nStart, 1))
     {}
 
-    /// Opens the next /24 where this one is used up. False when the third octet has run out: the pass is
-    /// spent.
+    /// Opens the next /24 when this one is used up.
+    /// @return false when the third octet has run out: the pass stores nothing
     bool Advance()
     {
         if (nLow + nStep < c_nOctetEnd)
@@ -68,7 +68,7 @@ struct SRun
 
 } // namespace
 
-unsigned int FirstFreeAfter(unsigned int nBase, const FHasError& funcHasError)
+unsigned int FirstFreeAfter(unsigned int nBase, const FuncHasError& funcHasError)
 {
     const unsigned int nLast = Octet(nBase, 0);
     unsigned int nDelta = 1;
@@ -102,7 +102,7 @@ void CProposalSearch::StepIntoNetwork()
         m_nIP = WithOctet(m_nIP, 3, c_nPrivateFirst);
 }
 
-std::optional<unsigned int> CProposalSearch::Next(const FHasError& funcHasError)
+std::optional<unsigned int> CProposalSearch::Next(const FuncHasError& funcHasError)
 {
     const int nLimit = std::max(m_nAttempts, c_nAttemptBudget) + 1;
     while (m_nAttempts != nLimit) {
@@ -115,7 +115,7 @@ std::optional<unsigned int> CProposalSearch::Next(const FHasError& funcHasError)
     return std::nullopt;
 }
 
-void AddBatch(unsigned int nStart, int nCount, const FHasError& funcHasError, const FStore& funcStore)
+void AddBatch(unsigned int nStart, int nCount, const FuncHasError& funcHasError, const FuncStore& funcStore)
 {
     SRun run(nStart);
     for (int nDone = 0; nDone < nCount;) {
@@ -132,8 +132,8 @@ void AddBatch(unsigned int nStart, int nCount, const FHasError& funcHasError, co
     }
 }
 
-void AddByHand(unsigned int nStart, int nCount, int nListed, const FHasError& funcHasError,
-               const FStore& funcStore)
+void AddByHand(unsigned int nStart, int nCount, int nListed, const FuncHasError& funcHasError,
+               const FuncStore& funcStore)
 {
     SRun run(nStart);
     // The list's end is looked at after each pass, and so is the count: the first pass always runs.

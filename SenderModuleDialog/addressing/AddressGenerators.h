@@ -5,21 +5,21 @@
 #include <optional>
 
 /// The four runs over addresses of the dialogs: two proposals and two ways of adding many. They resemble one
-/// another and differ in details that hosts rely on; none is to be made like another.
+/// another and differ in details. Do not unify them: hosts rely on each.
 ///
 /// An address value has the first octet in the most significant byte.
 namespace AddressGenerators {
 
 /// Whether the host sees an error in an address.
-using FHasError = std::function<bool(unsigned int nIP)>;
+using FuncHasError = std::function<bool(unsigned int nIP)>;
 /// Takes an address into the host's list.
-using FStore = std::function<void(unsigned int nIP)>;
+using FuncStore = std::function<void(unsigned int nIP)>;
 
 /// The first free address after a base, for processors that are added by hand.
 ///
 /// The base does not move: behind the end of its /24 one address of the next /24 is tried, then the search is
 /// back in the base's own. It has no bound and ends when the host frees an address.
-unsigned int FirstFreeAfter(unsigned int nBase, const FHasError& funcHasError);
+unsigned int FirstFreeAfter(unsigned int nBase, const FuncHasError& funcHasError);
 
 /// Proposes free addresses one after another, for the rows of the address dialog. The budget of failed
 /// candidates is one for all rows: 257 in all, then one more for each further row.
@@ -30,7 +30,7 @@ public:
     explicit CProposalSearch(unsigned int nBase);
 
     /// The next free address, or nothing when the row is given up.
-    std::optional<unsigned int> Next(const FHasError& funcHasError);
+    std::optional<unsigned int> Next(const FuncHasError& funcHasError);
 
 private:
     void StepIntoNetwork();
@@ -46,7 +46,7 @@ private:
 /// are skipped and don't count. At the end of the third octet a pass is spent without storing, and the
 /// octet's overflow goes on into the second octet.
 /// @param nCount how many; 0 or less stores nothing
-void AddBatch(unsigned int nStart, int nCount, const FHasError& funcHasError, const FStore& funcStore);
+void AddBatch(unsigned int nStart, int nCount, const FuncHasError& funcHasError, const FuncStore& funcStore);
 
 /// Adds processors by hand from a start address on.
 ///
@@ -54,8 +54,8 @@ void AddBatch(unsigned int nStart, int nCount, const FHasError& funcHasError, co
 /// run moves on because the host now reports it as used.
 /// @param nCount how many; 0 or less stores nothing
 /// @param nListed number of addresses in the host's list; the run ends when the list would hold 255
-void AddByHand(unsigned int nStart, int nCount, int nListed, const FHasError& funcHasError,
-               const FStore& funcStore);
+void AddByHand(unsigned int nStart, int nCount, int nListed, const FuncHasError& funcHasError,
+               const FuncStore& funcStore);
 
 } // namespace AddressGenerators
 

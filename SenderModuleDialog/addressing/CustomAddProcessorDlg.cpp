@@ -99,8 +99,7 @@ void CCustomAddProcessorDlg::InitCountRow(QGridLayout* pGrid)
         CreateRowCaption(QT_TRANSLATE_NOOP("CCustomDialog", "主控数量"), c_nCountCaptionWidth);
     m_pCountSpinBox = new CCustomSpinBox(0, this);
     m_pCountSpinBox->setFixedSize(DialogFrame::c_sizeSmallField);
-    // The misspelt selector is what hosts' styles are written for: the box keeps the look that it has of its
-    // own.
+    // Misspelt intentionally: hosts write their styles for this selector, and the box keeps its own look.
     DialogFrame::StyleSpinBox(m_pCountSpinBox, "QSpinxBox");
     const bool bIPAddressMode = HostAccess::SenderLogic().IsIPAddressMode();
     m_pCountSpinBox->SetMinMax(1, HostAccess::RuntimeData().GetSenderCountLimit(bIPAddressMode));
@@ -119,8 +118,7 @@ void CCustomAddProcessorDlg::InitPortRow(QGridLayout* pGrid)
     for (const int nPorts : c_arrPortCounts)
         DialogFrame::AddEntry(pMenu, {QString::number(nPorts), nPorts});
     m_pPortComboBox->SetMenu(pMenu, true, true, true);
-    // The text is the current processor's while the count at first is that of processor 0; only OK makes them
-    // one.
+    // The text is the current processor's, and the count is that of processor 0 until OK.
     m_pPortComboBox->setText(QString::number(HostAccess::CurrentSender().nOutputPortCount));
     DialogFrame::NameControl(m_pPortComboBox, "ports", pCaption);
     AddRow(pGrid, c_nPortRow, pCaption, m_pPortComboBox);

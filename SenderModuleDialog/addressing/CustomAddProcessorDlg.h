@@ -21,11 +21,9 @@ public:
     explicit CCustomAddProcessorDlg(QWidget* pParent);
     ~CCustomAddProcessorDlg() override;
 
-    /// The number that the operator asked for; 3 until OK. It stays as asked for where the host's list was
-    /// full.
+    /// The number that the operator asked for; 3 until OK. A full list does not lower it.
     int GetCount() const { return m_nCount; }
-    /// Output ports of each processor; those of processor 0 until OK, and also after it where the row is not
-    /// shown.
+    /// Output ports of each processor: those of processor 0 until OK, and always where the row is hidden.
     int GetPortCount() const { return m_nPortCount; }
 
     /// Proposes the start address: the first one after a local address that the host sees no error in. Does

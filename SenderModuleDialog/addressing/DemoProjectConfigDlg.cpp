@@ -5,6 +5,7 @@
 #include "SenderModuleDialog/HostAccess.h"
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomLabel.h"
+#include "host/TevraData/DemoSenderType.h"
 
 #include <QHBoxLayout>
 #include <QMenu>
@@ -30,15 +31,14 @@ struct SDemoType
     int nSenderType;    ///< value for `CProjectData::SetDemoSenderType`
 };
 
-/// In menu order. The values are in no order, and the last one stands apart from the sender type codes on
-/// purpose.
+/// In menu order.
 constexpr std::array<SDemoType, 6> c_arrTypes = {{
-    {"M6K", 21},
-    {"R16 PRO", 46},
-    {"T4", 16},
-    {"T6", 17},
-    {"T6 PRO", 35},
-    {"T8", 131074},
+    {"M6K", enDemoM6K},
+    {"R16 PRO", enDemoR16Pro},
+    {"T4", enDemoT4},
+    {"T6", enDemoT6},
+    {"T6 PRO", enDemoT6Pro},
+    {"T8", enDemoT8},
 }};
 
 constexpr QSize c_sizeDialog(285, 120);

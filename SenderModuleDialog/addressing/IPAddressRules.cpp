@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/addressing/IPAddressRules.h"
 
 #include "SenderModuleDialog/Constants.h"
+#include "host/TevraData/AddressVerdict.h"
 
 #include <QtGlobal>
 
@@ -24,38 +25,37 @@ constexpr const char* c_szDuplicates = QT_TRANSLATE_NOOP("CCustomDialog", "存�
 
 /// Refusals by priority: of several rows with errors, the first code in this order is told.
 constexpr SCodeText c_arrRefusals[] = {
-    {c_nInUse, QT_TRANSLATE_NOOP("CCustomDialog", "IP地址已被使用。")},
-    {c_nBeginsWithZero, QT_TRANSLATE_NOOP("CCustomDialog", "IP地址不能以0开头。")},
-    {c_nGateway, QT_TRANSLATE_NOOP("CCustomDialog", "IP地址与默认网关相同。")},
-    {c_nBroadcast, QT_TRANSLATE_NOOP("CCustomDialog", "IP地址是广播地址。")},
-    {c_nUnreasonable, c_szUnreasonable},
+    {enAddressInUse, QT_TRANSLATE_NOOP("CCustomDialog", "IP地址已被使用。")},
+    {enAddressStartsWithZero, QT_TRANSLATE_NOOP("CCustomDialog", "IP地址不能以0开头。")},
+    {enAddressOfGateway, QT_TRANSLATE_NOOP("CCustomDialog", "IP地址与默认网关相同。")},
+    {enAddressBroadcast, QT_TRANSLATE_NOOP("CCustomDialog", "IP地址是广播地址。")},
+    {enAddressUnreasonable, c_szUnreasonable},
 };
 
 constexpr unsigned int c_nNetworkMask = 0xFFFFFF00;
 
-/// The outer row comes first and the inner ascends, but whether any two are equal doesn't depend on the
-/// order.
+/// Whether any two texts are equal.
 bool HasDuplicates(const QStringList& listTexts)
 {
     return QStringList(listTexts).removeDuplicates() > 0;
 }
 
-/// The code of one address on this path; 0 when it is free of error.
+/// The code of one address on this path; `enAddressGood` when it is free of error.
 unsigned int CodeOf(const SPath& path, const QString& strText, const QString& strOldAddress,
-                    const FVerdict& funcVerdict)
+                    const FuncVerdict& funcVerdict)
 {
-    unsigned int nCode = 0;
+    unsigned int nCode = enAddressGood;
     const bool bError = funcVerdict(AddressValue(strText), &nCode);
     if (path.bHeedsResult && !bError)
-        return 0;
-    if (path.bKeepsOldAddress && nCode == c_nInUse && strText == strOldAddress)
-        return 0;
-    const bool bKnown =
-        nCode == c_nOwnAddress || std::any_of(std::begin(c_arrRefusals), std::end(c_arrRefusals),
-                                              [nCode](const SCodeText& row) { return row.nCode == nCode; });
+        return enAddressGood;
+    if (path.bKeepsOldAddress && nCode == enAddressInUse && strText == strOldAddress)
+        return enAddressGood;
+    const bool bKnown = nCode == enAddressOfThisComputer ||
+                        std::any_of(std::begin(c_arrRefusals), std::end(c_arrRefusals),
+                                    [nCode](const SCodeText& row) { return row.nCode == nCode; });
     if (bKnown)
         return nCode;
-    return path.bRefusesUnknownCode ? c_nUnreasonable : 0;
+    return path.bRefusesUnknownCode ? enAddressUnreasonable : enAddressGood;
 }
 
 const char* FirstRefusal(const QList<unsigned int>& listCodes)
@@ -71,7 +71,7 @@ unsigned int Reversed(unsigned int nIP)
     return nIP << 24 | (nIP & 0xFF00U) << 8 | (nIP >> 8 & 0xFF00U) | nIP >> 24;
 }
 
-/// Loopback and IPv6 addresses are none that a processor could share a network with.
+/// No processor shares a network with a loopback or IPv6 address.
 bool IsCandidate(const QHostAddress& address)
 {
     return !(address == QHostAddress(QHostAddress::LocalHost)) && address.toIPv4Address() != 0;
@@ -85,7 +85,7 @@ unsigned int LoopbackValue()
 } // namespace
 
 SJudgement Judge(const SPath& path, const QStringList& listTexts, const QString& strOldAddress,
-                 const FVerdict& funcVerdict)
+                 const FuncVerdict& funcVerdict)
 {
     if (path.bRefusesEmptyText && listTexts.contains(QString()))
         return {nullptr, c_szUnreasonable};
@@ -94,7 +94,7 @@ SJudgement Judge(const SPath& path, const QStringList& listTexts, const QString&
     QList<unsigned int> listCodes;
     for (const QString& strText : listTexts)
         listCodes.append(CodeOf(path, strText, strOldAddress, funcVerdict));
-    return {listCodes.contains(c_nOwnAddress) ? c_szOwnAddress : nullptr, FirstRefusal(listCodes)};
+    return {listCodes.contains(enAddressOfThisComputer) ? c_szOwnAddress : nullptr, FirstRefusal(listCodes)};
 }
 
 unsigned int AddressValue(const QString& strText)
@@ -107,9 +107,9 @@ QString AddressText(unsigned int nIP)
     return QHostAddress(nIP).toString();
 }
 
-SNetworks NetworksOf(const QList<unsigned int>& listDetected)
+Networks NetworksOf(const QList<unsigned int>& listDetected)
 {
-    SNetworks networks;
+    Networks networks;
     for (const unsigned int nDetected : listDetected)
         networks.insert(Reversed(nDetected) & c_nNetworkMask);
     return networks;
@@ -121,7 +121,7 @@ unsigned int FirstLocalAddress(const QList<QHostAddress>& listLocal)
     return itFirst == listLocal.cend() ? LoopbackValue() : itFirst->toIPv4Address();
 }
 
-unsigned int LastLocalAddressIn(const SNetworks& networks, const QList<QHostAddress>& listLocal)
+unsigned int LastLocalAddressIn(const Networks& networks, const QList<QHostAddress>& listLocal)
 {
     unsigned int nBase = LoopbackValue();
     for (const QHostAddress& address : listLocal)

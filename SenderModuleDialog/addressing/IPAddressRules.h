@@ -13,32 +13,23 @@
 /// dialogs, and from which address of this computer a proposal starts. Values in, values out: the dialogs
 /// show the result.
 ///
-/// An address value has the first octet in the most significant byte, as `QHostAddress::toIPv4Address` gives
-/// it.
+/// An address value has the first octet in the most significant byte, like `QHostAddress::toIPv4Address`.
 namespace IPAddressRules {
-
-/// Codes of `CConfigData::IsIPHasError`.
-constexpr unsigned int c_nOwnAddress = 0xE0832000; ///< equals an address of this computer
-constexpr unsigned int c_nInUse = 0xE0832001;      ///< already in use
-constexpr unsigned int c_nBeginsWithZero = 0xE0832002;
-constexpr unsigned int c_nGateway = 0xE0832003; ///< equals the default gateway
-constexpr unsigned int c_nBroadcast = 0xE0832004;
-constexpr unsigned int c_nUnreasonable = 0xE0832005;
 
 /// Largest number of addresses in the host's list.
 constexpr int c_nListLimit = 255;
 
 /// The host's verdict: true on error, and then the code in `*pCode` unless it is null.
-using FVerdict = std::function<bool(unsigned int nIP, unsigned int* pCode)>;
+using FuncVerdict = std::function<bool(unsigned int nIP, unsigned int* pCode)>;
 
-/// One of the ways on which an address is validated. The ways differ on purpose.
+/// One of the validation paths of an address. They differ intentionally: hosts rely on each.
 struct SPath
 {
     bool bRefusesEmptyText;   ///< an empty text is unreasonable before the host is asked
     bool bRefusesDuplicates;  ///< equal texts are refused before the host is asked
     bool bKeepsOldAddress;    ///< an address in use is fine when it is the remembered old one
     bool bHeedsResult;        ///< the verdict's result decides; else the code alone is read
-    bool bRefusesUnknownCode; ///< a code outside the table is unreasonable; else it is no error
+    bool bRefusesUnknownCode; ///< a code outside the table is unreasonable; else it is ignored
 };
 
 constexpr SPath c_pathCheckIPAddress = {true, false, false, true, true}; ///< processors added by hand
@@ -46,7 +37,7 @@ constexpr SPath c_pathCustomAdd = {true, false, true, true, true};       ///< st
 constexpr SPath c_pathModify = {true, false, true, true, true};          ///< a changed entry
 constexpr SPath c_pathRows = {false, true, false, false, false};         ///< one address for each processor
 
-/// What the operator is to be told. Texts are source texts in the context `CCustomDialog`.
+/// What the operator is told. Texts are source texts in the context `CCustomDialog`.
 struct SJudgement
 {
     const char* szQuestion = nullptr; ///< asked first; anything but yes fails without a further message
@@ -56,24 +47,24 @@ struct SJudgement
 };
 
 /// Judges the addresses of one confirmation.
-/// @param path the way on which they came
+/// @param path the validation path
 /// @param listTexts the fields' texts as they stand
 /// @param strOldAddress the remembered old address, compared as text; empty when there is none
 /// @param funcVerdict the host's verdict
 SJudgement Judge(const SPath& path, const QStringList& listTexts, const QString& strOldAddress,
-                 const FVerdict& funcVerdict);
+                 const FuncVerdict& funcVerdict);
 
-/// The address value of a field's text; 0 for a text that is no IPv4 address.
+/// The address value of a field's text; 0 for a text that is not an IPv4 address.
 unsigned int AddressValue(const QString& strText);
 
 /// The dotted-decimal text of an address value.
 QString AddressText(unsigned int nIP);
 
 /// Networks of 24 bits, each as the value of its address 0.
-using SNetworks = std::set<unsigned int>;
+using Networks = std::set<unsigned int>;
 
 /// The networks of addresses that were detected, given with the first octet in the low byte.
-SNetworks NetworksOf(const QList<unsigned int>& listDetected);
+Networks NetworksOf(const QList<unsigned int>& listDetected);
 
 /// The address from which a proposal counts when nothing is known of the processors' networks: the first
 /// local address that is IPv4 and not 127.0.0.1, else 127.0.0.1.
@@ -81,7 +72,7 @@ unsigned int FirstLocalAddress(const QList<QHostAddress>& listLocal);
 
 /// The address from which a proposal counts when networks are known: the last local address in one of them,
 /// else 127.0.0.1.
-unsigned int LastLocalAddressIn(const SNetworks& networks, const QList<QHostAddress>& listLocal);
+unsigned int LastLocalAddressIn(const Networks& networks, const QList<QHostAddress>& listLocal);
 
 /// The two parts of a stored entry `address(name)`.
 struct SEntry

@@ -10,9 +10,9 @@ namespace LocalAddresses {
 
 namespace {
 
-FSource& Source()
+FuncSource& Source()
 {
-    static FSource s_funcSource;
+    static FuncSource s_funcSource;
     return s_funcSource;
 }
 
@@ -23,7 +23,7 @@ QList<QHostAddress> All()
     return Source() ? Source()() : QNetworkInterface::allAddresses();
 }
 
-void SetSource(FSource funcSource)
+void SetSource(FuncSource funcSource)
 {
     Source() = std::move(funcSource);
 }

@@ -10,13 +10,13 @@
 namespace LocalAddresses {
 
 /// Where the addresses come from.
-using FSource = std::function<QList<QHostAddress>()>;
+using FuncSource = std::function<QList<QHostAddress>()>;
 
 /// The addresses: those of `QNetworkInterface::allAddresses` unless another source was set.
 QList<QHostAddress> All();
 
 /// Replaces the source, so that a test does not depend on the machine; an empty one restores the system's.
-void SetSource(FSource funcSource);
+void SetSource(FuncSource funcSource);
 
 } // namespace LocalAddresses
 

@@ -255,7 +255,7 @@ bool CSetIPOfflineDlg::DoNumAdd()
     if (!AddressDialogs::Confirm(this, IPAddressRules::c_pathRows, listTexts, QString()))
         return false;
     CConfigData& config = HostAccess::ConfigData();
-    // Rows that the list has no room for are dropped in silence.
+    // Rows that the list has no room for are dropped silently.
     const int nRoom = std::max(IPAddressRules::c_nListLimit - config.GetSpecifiedIPDWORD(nullptr), 0);
     for (const QString& strIP : listTexts.mid(0, nRoom))
         config.AddSpecifiedIP(QHostAddress(strIP).toString(), EnteredName());

@@ -12,8 +12,8 @@ class QGridLayout;
 class QLineEdit;
 
 /// Edits the host's list of processor addresses while no processor is connected: adds a batch of addresses,
-/// sets one address for each of several processors, or modifies one entry. The result is 1 on OK and 0 on
-/// Cancel.
+/// sets one address for each of several processors, or modifies one entry.
+/// The result is 1 on OK and 0 on Cancel.
 class SENDERMODULEDIALOG_EXPORT CSetIPOfflineDlg : public CCustomDialog
 {
     Q_OBJECT

@@ -98,7 +98,7 @@ struct SAnyMode
     }
 };
 
-/// The same for the modes that displays have. Their steps are between 0 and what the fields hold, so plain
+/// The same for common display modes. Their steps are between 0 and what the fields hold, so plain
 /// conversions do: they cut the fraction, which rounds down.
 struct SUsualMode
 {

@@ -4,7 +4,7 @@
 #include "SenderModuleDialog/edid/VideoTiming.h"
 
 /// @file
-/// Blanking calculated in the manner of VESA Coordinated Video Timings 1.1, with the roundings and constants
+/// Blanking calculated like VESA Coordinated Video Timings 1.1, with the roundings and constants
 /// of this product where they differ.
 
 namespace CvtTiming {

@@ -29,7 +29,7 @@ struct SBlank
     int nVertical;   ///< lines
 };
 
-/// A rate that is no finite int is held to its range, where no row is listed.
+/// A rate beyond the range of int is clamped to it; no row is listed there.
 std::optional<SBlank> ListedBlank(int nWidth, int nHeight, float fRate)
 {
     const std::optional<int> id = TimingTable::Find(nWidth, nHeight, SaturateTo<int>(fRate));
@@ -46,7 +46,7 @@ SBlank CalculatedBlank(int nWidth, int nHeight, float fRate, int nStandard)
     return {timing.wHBlank, timing.wVBlank};
 }
 
-/// Whether a frequency can be judged as an int; what cannot is over any budget. False for what is no number.
+/// Whether a frequency can be judged as an int; what cannot is over any budget. False for NaN.
 bool IsWithinInt(float fFrequency)
 {
     constexpr float c_fAboveInt = 2147483648.0F;

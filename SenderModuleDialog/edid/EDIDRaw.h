@@ -51,7 +51,7 @@ public:
     /// These use no byte of the block. Sizes are in pixels and lines, rates in Hz.
     /// @{
 
-    /// Calculates blanking in the manner of VESA CVT 1.1, each step rounded to single precision. The width is
+    /// Calculates blanking like VESA CVT 1.1, each step rounded to single precision. The width is
     /// rounded up to whole cells of 8 pixels, normal blanking has a minimum back porch of 3 lines, and the
     /// rate of an interlaced mode is not doubled: this product's choices where the published formula differs.
     /// A line period of zero or below asks for the most blanking lines that the field holds.
@@ -71,8 +71,8 @@ public:
     /// @param nRate  whole Hz: 59.94 Hz arrives as 59, which no row serves
     void MatchTimingID(int nWidth, int nHeight, int nRate, int* pId) const;
     /// True when the frame is within the budget of 160 MHz. A listed mode is judged with its blanking, any
-    /// other on its active pixels alone: this asymmetry is meant. What is beyond the range of int is over the
-    /// budget.
+    /// other on its active pixels alone: this asymmetry is intentional. A value beyond the range of int is
+    /// over budget.
     bool IsReslutionOk(int nWidth, int nHeight, float fRate) const;
     /// The pixel frequency in Hz, with the blanking of the listed timing or, for other modes, the calculated
     /// one.

@@ -39,8 +39,8 @@ SEdidSetting BasicSetting(QSize size, unsigned char byRate);
 /// The record with all that the dialog holds.
 SEdidSetting FullSetting(const SChoice& choice);
 
-/// The connect-to-computer byte as it is written: the opposite of the check box, while reading takes it as it
-/// is. That is meant.
+/// The connect-to-computer byte that is written: the opposite of the check box. Reading does not invert it.
+/// Intentional: hosts rely on both.
 /// @param bAlways the sender gets a 1 in every case
 unsigned char ConnectByte(bool bChecked, bool bAlways);
 

@@ -37,7 +37,7 @@ bool IsInterface132(int nInterfaceId);
 bool ShowsTimingStandard(int nSenderType);
 /// The option "connect to computer" is shown, on the interfaces 16 to 19.
 bool ShowsConnectPC(int nSenderType);
-/// The record always says that no computer is to be connected, on the interfaces 16 to 19.
+/// The record always says "do not connect a computer", on the interfaces 16 to 19.
 bool AlwaysWritesConnectByte(int nSenderType);
 /// The hardware takes longer than others to store an EDID.
 bool StoresSlowly(int nSenderType);
@@ -70,7 +70,7 @@ std::vector<int> OfferedRates(const SInput& input);
 struct SDepth
 {
     const char* szName;     ///< what the dialog shows as the present depth
-    const char* szMenuText; ///< the menu writes it without a blank, which is meant
+    const char* szMenuText; ///< the menu writes it without a blank: intentional
     unsigned char byFlag;   ///< bit of the format flags
 };
 

@@ -27,7 +27,7 @@ namespace {
 /// Where the interface 132, which has no custom size, opens when its size is not listed.
 constexpr int c_nIndexWithoutCustom = 4;
 
-/// Rates above 50 Hz left out, and not. The numbers are no rows of the rate table.
+/// With and without rates above 50 Hz. The numbers are not rows of the rate table.
 constexpr int c_nLowRateIndexMax = 2;
 constexpr int c_nRateIndexMax = 4;
 
@@ -124,8 +124,7 @@ bool CEdidSetDlg::GetIndexByFrameRate(unsigned char byRate, bool bFractional, in
 
 bool CEdidSetDlg::GetIndexByColorDepth(unsigned char byFlags, int& nIndex)
 {
-    // Into the member and not into the argument: the counterpart of GetColorDepthByIndex, which is as
-    // lopsided.
+    // Stored in the member, not in the argument, intentionally: GetColorDepthByIndex reads the member too.
     Q_UNUSED(nIndex)
     m_nColorDepthIndex = EdidOptions::DepthIndex(byFlags);
     return true;
@@ -157,7 +156,7 @@ bool CEdidSetDlg::GetColorDepthByIndex(int nIndex, unsigned char& byFlags) const
 {
     if (nIndex >= m_listColorDepth.size())
         return false;
-    // The member's depth, not the argument's: that is meant.
+    // The member's depth, not the argument's: intentional.
     return EdidOptions::StoreDepth(m_nColorDepthIndex, byFlags);
 }
 
@@ -242,7 +241,7 @@ void CEdidSetDlg::OnColorFormatComboBoxSelect(int index)
 
 void CEdidSetDlg::OnTimingStandardComboBoxSelect(int index)
 {
-    // Held against the colour formats, of which there are more: that is meant.
+    // Bounded by the number of colour formats, not of timing standards: intentional.
     if (index < 0 || index >= m_listColorFormat.size())
         return;
     m_byTimingStandard = static_cast<unsigned char>(index);

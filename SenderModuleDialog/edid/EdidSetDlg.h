@@ -36,7 +36,7 @@ class SENDERMODULEDIALOG_EXPORT CEdidSetDlg : public CCustomDialog
 
 public:
     /// Reads the current sender, its limits and the present setting. A video processor that has nothing but
-    /// 8 bit gets colour depth 8 in its project record, merely by opening the dialog.
+    /// 8 bit gets colour depth 8 in its project record, as soon as the dialog opens.
     /// @param nInterfaceId video interface, as the host numbers them
     /// @param bLowRateOnly true leaves out all rates above 50 Hz
     CEdidSetDlg(QWidget* pParent, int nInterfaceId, bool bLowRateOnly);
@@ -54,8 +54,7 @@ public:
     bool GetIndexByResolution(QSize size, int& nIndex) const;
     /// @param byRate integer rate, Hz; another than the table's leaves the index alone
     bool GetIndexByFrameRate(unsigned char byRate, bool bFractional, int& nIndex) const;
-    /// Stores the index in the dialog's present depth and not in the argument, and is always true. That is
-    /// meant.
+    /// Stores the index in the dialog's present depth, not in the argument, and is always true: intentional.
     bool GetIndexByColorDepth(unsigned char byFlags, int& nIndex);
     /// Always true: flags without a format are taken as the first one.
     bool GetIndexByColorFormat(unsigned char byFlags, int& nIndex) const;
@@ -63,8 +62,9 @@ public:
     bool GetResolutionByIndex(int nIndex, QSize& size) const;
     /// Clears both results when the index is none of the table's.
     bool GetFrameRateByIndex(int nIndex, unsigned char& byRate, bool& bFractional) const;
-    /// Puts the dialog's present depth into the flags: the index only says by being above the table that
-    /// there is none. That is meant. A present depth outside the table leaves the flags without a depth.
+    /// Puts the dialog's present depth into the flags: the index counts only where it is above the
+    /// table, which gives false. Intentional. A present depth outside the table leaves the flags without a
+    /// depth.
     bool GetColorDepthByIndex(int nIndex, unsigned char& byFlags) const;
     /// Puts a format into the flags, which stay as they are when there is none.
     bool GetColorFormatByIndex(int nIndex, unsigned char& byFlags) const;
@@ -109,8 +109,7 @@ public Q_SLOTS:
     void OnRateComboBoxSelect(QAction* action);
     void OnColorDepthComboBoxSelect(int index);
     void OnColorFormatComboBoxSelect(int index);
-    /// @param index taken while it is below the number of colour formats, not of timing standards. That is
-    /// meant.
+    /// @param index accepted below the number of colour formats, not of timing standards: intentional
     void OnTimingStandardComboBoxSelect(int index);
     void OnOKPushButtonClicked();
     void OnCancelPushButtonClicked();

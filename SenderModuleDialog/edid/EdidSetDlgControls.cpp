@@ -53,8 +53,7 @@ constexpr QSize c_sizeError(240, 52);
 /// still fits into every window.
 constexpr int c_nRowGap = 4;
 
-/// Every control stands in the middle of its row, so that the rows share the height that a window has to
-/// spare.
+/// Every control stands in the middle of its row, so that the rows share the spare height of a window.
 constexpr Qt::Alignment c_alignRow = Qt::AlignVCenter;
 
 constexpr int c_nWidthMax = 32768;
@@ -236,7 +235,7 @@ void CEdidSetDlg::InitDepthMenu()
         support.b10Bit = logic.IsSupport10Bit(nSender);
         support.b12Bit = logic.IsSupport12Bit(nSender);
     }
-    // Written merely by opening the dialog: that is meant.
+    // Written as soon as the dialog opens, intentionally: hosts expect the record to follow the hardware.
     if (EdidOptions::HasOnly8Bit(support))
         HostAccess::CurrentSender().nColorDepth = 8;
 

@@ -30,10 +30,6 @@ enum enAction
     enNumber = 4
 };
 
-// What the host is told: the picture or its switch changed, or only how it is shown.
-constexpr int c_nPictureEvent = 0x24000;
-constexpr int c_nViewEvent = 0x4000;
-
 // Sizes, pixels.
 constexpr QSize c_sizeDialog(330, 135);
 constexpr QSize c_sizeCaption(80, 24);
@@ -217,7 +213,7 @@ void CBackgroundImageDlg::RefreshView(bool bImageChanged)
         dirImages.mkpath(QStringLiteral("."));
     if (QFile::exists(m_strImagePath))
         StorePicture();
-    HostAccess::Label().PostLabelEvent(bImageChanged ? c_nPictureEvent : c_nViewEvent, 1, 0, 0);
+    HostAccess::Label().PostLabelEvent(bImageChanged ? enPictureChanged : enPictureViewChanged, 1, 0, 0);
 }
 
 /// The record is cleared first and filled last: while the picture is not in place the sender has none.

@@ -52,11 +52,11 @@ private:
     CCustomComboBox* m_pFitComboBox = nullptr;
     QSlider* m_pTransparencySlider = nullptr;         ///< per cent
     QDoubleSpinBox* m_pTransparencySpinBox = nullptr; ///< per cent
-    bool m_bRefreshing = false; ///< the controls are being filled: nobody chose anything
-    bool m_bEnable = false;     ///< the picture is switched on
-    QString m_strImagePath;     ///< the chosen or stored picture; empty without one
-    qint32 m_nAlpha = 128;      ///< opacity, 0 to 255
-    qint32 m_nFit = 0;          ///< 0 one to one, 1 stretched
+    bool m_bRefreshing = false;                       ///< the controls are being filled: ignore their signals
+    bool m_bEnable = false;                           ///< the picture is switched on
+    QString m_strImagePath;                           ///< the chosen or stored picture; empty without one
+    qint32 m_nAlpha = 128;                            ///< opacity, 0 to 255
+    qint32 m_nFit = 0;                                ///< 0 one to one, 1 stretched
 };
 
 #endif // SENDERMODULEDIALOG_OUTPUT_BACKGROUNDIMAGEDLG_H

@@ -5,14 +5,14 @@
 #include <QtGlobal>
 
 /// What the background picture dialog decides, over plain values. The operator sees transparency in per cent,
-/// the sender stores opacity. The two conversions are no exact inverses: an opacity that is shown and written
-/// back can fall by one.
+/// the sender stores opacity. The two conversions are not exact inverses: an opacity that is shown and
+/// written back can fall by one.
 namespace BackgroundRules {
 
 constexpr int c_nMaxAlpha = 255;
 constexpr int c_nMaxPercent = 100;
 
-/// The text of the fit "one to one", the same in every language: the choice is told by it.
+/// The text of the fit "one to one", the same in every language: the dialog recognises the choice by it.
 constexpr const char* c_szOneToOne = "1:1";
 
 /// Transparency of an opacity, rounded half away from zero in single precision.

@@ -47,8 +47,8 @@ struct SProblem
 /// @return a problem when either side is below `c_nMinSide`
 std::optional<SProblem> CheckMinimum(QSize size);
 
-/// Holds a canvas against a sender's limits.
-/// @return the last test that fails, in the order width, height, area; the others are not told
+/// Compares a canvas with a sender's limits.
+/// @return the last test that fails, in the order width, height, area; earlier failures are not reported
 std::optional<SProblem> CheckLimit(QSize size, const SCanvasLimit& limit);
 
 /// The size that the dialog opens with, for a sender whose canvas is read from the hardware.

@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/output/DepthRateRules.h"
 
 #include "SenderModuleDialog/Fault.h"
+#include "host/HardwareSupport/OutputLimit.h"
 
 #include <algorithm>
 
@@ -11,28 +12,25 @@ namespace {
 /// The one type of video processor that does not run at 50 Hz.
 constexpr int c_nTypeWithout50Hz = 38;
 
-/// Sender types whose output is held to 2.6 million pixels instead of 8.88 million.
-constexpr std::array<int, 4> c_arrSmallOutputTypes = {16, 24, 31, 63};
-
 /// A limit and its wording.
 struct SLimit
 {
     unsigned int nFlag;
-    const char* szTextSmall; ///< for `c_arrSmallOutputTypes`
+    const char* szTextSmall; ///< for the types with a small output
     const char* szText;      ///< for all other types
 };
 
 /// In the order of their tests.
 constexpr std::array<SLimit, 5> c_arrLimits = {{
-    {0x800, QT_TRANSLATE_NOOP("CCustomDialog", "输出视频区域不能超过260万像素。"),
+    {enLimitOutputArea, QT_TRANSLATE_NOOP("CCustomDialog", "输出视频区域不能超过260万像素。"),
      QT_TRANSLATE_NOOP("CCustomDialog", "输出视频区域不能超过888万像素。")},
-    {0x1000, QT_TRANSLATE_NOOP("CCustomDialog", "DVI1~4的点数和不能超过888万。"),
+    {enLimitDvi1To4, QT_TRANSLATE_NOOP("CCustomDialog", "DVI1~4的点数和不能超过888万。"),
      QT_TRANSLATE_NOOP("CCustomDialog", "DVI1~4的点数和不能超过888万。")},
-    {0x2000, QT_TRANSLATE_NOOP("CCustomDialog", "DVI5~8的点数和不能超过888万。"),
+    {enLimitDvi5To8, QT_TRANSLATE_NOOP("CCustomDialog", "DVI5~8的点数和不能超过888万。"),
      QT_TRANSLATE_NOOP("CCustomDialog", "DVI5~8的点数和不能超过888万。")},
-    {0x8000000, QT_TRANSLATE_NOOP("CCustomDialog", "输出口带载面积不能超过655360。"),
+    {enLimitPortArea, QT_TRANSLATE_NOOP("CCustomDialog", "输出口带载面积不能超过655360。"),
      QT_TRANSLATE_NOOP("CCustomDialog", "输出口带载面积不能超过655360。")},
-    {0x10000000, QT_TRANSLATE_NOOP("CCustomDialog", "EDID的输出面积不能超过260W。"),
+    {enLimitEdidArea, QT_TRANSLATE_NOOP("CCustomDialog", "EDID的输出面积不能超过260W。"),
      QT_TRANSLATE_NOOP("CCustomDialog", "EDID的输出面积不能超过888W。")},
 }};
 
@@ -78,13 +76,11 @@ SDepthOffer OfferDepths(bool bSupport10Bit, bool bSupport12Bit)
 
 const char* LimitMessage(unsigned int nFlags, int nSenderType)
 {
-    const bool bSmall = std::find(c_arrSmallOutputTypes.cbegin(), c_arrSmallOutputTypes.cend(),
-                                  nSenderType) != c_arrSmallOutputTypes.cend();
     const auto itFound = std::find_if(c_arrLimits.cbegin(), c_arrLimits.cend(),
                                       [nFlags](const SLimit& limit) { return (nFlags & limit.nFlag) != 0; });
     if (itFound == c_arrLimits.cend())
         return nullptr;
-    return bSmall ? itFound->szTextSmall : itFound->szText;
+    return IsSmallOutputType(nSenderType) ? itFound->szTextSmall : itFound->szText;
 }
 
 bool IsBelowInput(int nRate, float fInputRate)

@@ -13,8 +13,7 @@ class SENDERMODULEDIALOG_EXPORT CResetCoefDlg : public CCustomDialog
     Q_OBJECT
 
 public:
-    /// @param bCorrection the wording: true for the correction coefficient, false for the seam repair
-    /// coefficient
+    /// @param bCorrection the wording: true for the correction coefficient, false for seam repair
     CResetCoefDlg(bool bCorrection, QWidget* pParent);
     ~CResetCoefDlg() override;
 

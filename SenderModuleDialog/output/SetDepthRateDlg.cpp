@@ -26,9 +26,6 @@ enum enButton
 /// The result of Cancel: in this dialog alone it is not 0.
 constexpr int c_nCancelled = 2;
 
-/// What the host is told after a write.
-constexpr int c_nRateDepthEvent = 0xC00;
-
 // Sizes and places, pixels.
 constexpr QSize c_sizeFirst(348, 100);   ///< before the layout
 constexpr QSize c_sizePlain(348, 130);   ///< without a warning
@@ -160,8 +157,7 @@ void CSetDepthRateDlg::FillDepthMenu(QMenu* pMenu, int nSender)
         const bool bSupport10Bit = logic.IsSupport10Bit(nSender);
         const bool bSupport12Bit = logic.IsSupport12Bit(nSender);
         offer = DepthRateRules::OfferDepths(bSupport10Bit, bSupport12Bit);
-        // A sender without a choice is set to its one depth merely by opening the dialog; the field still
-        // shows the depth that it had.
+        // Opening the dialog sets a sender with one depth to that depth; the field still shows the old one.
         if (!offer.b10Bit)
             HostAccess::CurrentSender().nColorDepth = choice8.nValue;
     }
@@ -300,7 +296,7 @@ void CSetDepthRateDlg::Accept()
         logic.SetOutput50Hz(nSender, m_nFrameRate == DepthRateRules::c_nExemptRate, 0);
     }
     SaveData();
-    HostAccess::Label().PostLabelEvent(c_nRateDepthEvent, 0, 1, 0);
+    HostAccess::Label().PostLabelEvent(enRateDepthChanged, 0, 1, 0);
     done(DialogFrame::enAccepted);
 }
 

@@ -29,8 +29,7 @@ public:
     /// Writes rate and depth as they were last taken from the fields: the depth mode of a video processor
     /// where the hardware's differs, then the sender's record.
     void SaveData();
-    /// Shows the warning with the text it has, or takes it away together with its text. Nothing here takes it
-    /// away.
+    /// Shows the warning with the text it has, or hides it and clears its text. The dialog never hides it.
     void ChangeWndSize(bool bShowError);
     /// Builds the layouts for the window without a warning, in place of those that it has.
     void SetControlRect();

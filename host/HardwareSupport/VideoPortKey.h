@@ -3,8 +3,7 @@
 
 #include <QtGlobal>
 
-/// Names a video port: five 32-bit fields, of which the library fills the interface id and leaves the others
-/// 0.
+/// Names a video port: five 32-bit fields, of which the library fills the interface id; the others stay 0.
 struct SVideoPortKey
 {
     qint32 nReserved0 = 0;

@@ -39,7 +39,7 @@ public:
     /// Highest frame rate that really comes in, Hz; 0 or less when unknown.
     virtual float GetMaxInputFrameRate(int nSender) = 0;
     /// The output limits that the present choice breaks.
-    /// @param pFlags takes the bits 0x800, 0x1000, 0x2000, 0x8000000, 0x10000000
+    /// @param pFlags takes the bits of `enOutputLimitFlag`
     /// @return true when the bits are set
     virtual bool GetOutputLimitFlags(int nSender, unsigned int* pFlags) = 0;
 };

@@ -22,7 +22,7 @@ public:
     /// dots; empty when nothing has been entered.
     QString text() const;
     /// Shows an address given in dotted decimal; an empty text clears the field.
-    /// Octets that are no number are left out, and those above 255 become 255.
+    /// Octets that are not numbers are left out, and those above 255 become 255.
     void setText(const QString& strAddress);
     /// True while the frame shows that the last input was refused.
     bool isRefused() const;

@@ -17,7 +17,7 @@ public:
 
     /// Judges an address.
     /// @param nIP the address
-    /// @param pError may be null; on error takes the code, 0xE0832000 to 0xE0832005. Without an error it must
+    /// @param pError may be null; on error takes the code, an `enAddressVerdict`. Without an error it must
     ///               not end up holding one of these codes
     /// @param bReserved every caller passes false
     /// @return true on error

@@ -21,7 +21,7 @@ public:
     virtual bool GetDemoModeEnable() = 0;
     /// Turns demo mode on or off.
     virtual void SetDemoModeEnable(bool bEnable) = 0;
-    /// Sets the sender type of the demo project: 21, 46, 16, 17, 35 or 131074.
+    /// Sets the sender type of the demo project, an `enDemoSenderType`.
     virtual void SetDemoSenderType(int nType) = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "simulator/CommonClass/ProjectTemplates.h"
 
+#include "host/TevraData/DemoSenderType.h"
 #include "simulator/CommonClass/Catalogue.h"
 
 #include <utility>
@@ -8,7 +9,7 @@ namespace ProjectTemplates {
 
 namespace {
 
-constexpr int c_arrDemoTypes[] = {21, 46, 16, 17, 35, 131074};
+constexpr int c_arrDemoTypes[] = {enDemoM6K, enDemoR16Pro, enDemoT4, enDemoT6, enDemoT6Pro, enDemoT8};
 
 template <class TTypes>
 SSimulatedProject ProjectOf(const TTypes& types)

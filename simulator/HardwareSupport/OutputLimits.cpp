@@ -9,16 +9,12 @@ namespace {
 /// What a sender puts out, pixels: the two sizes of which the dialogs speak.
 constexpr qint64 c_nSmallOutputArea = 2600000;
 constexpr qint64 c_nLargeOutputArea = 8880000;
-/// Sender types with the small output.
-constexpr int c_arrSmallOutputTypes[] = {16, 24, 31, 63};
 /// What one output port drives, pixels.
 constexpr qint64 c_nPortArea = 655360;
 
 qint64 OutputArea(const SSimulatedSender& sender)
 {
-    const bool bSmall = std::count(std::begin(c_arrSmallOutputTypes), std::end(c_arrSmallOutputTypes),
-                                   sender.capability.nType) > 0;
-    return bSmall ? c_nSmallOutputArea : c_nLargeOutputArea;
+    return IsSmallOutputType(sender.capability.nType) ? c_nSmallOutputArea : c_nLargeOutputArea;
 }
 
 qint64 CanvasArea(const SSimulatedSender& sender)

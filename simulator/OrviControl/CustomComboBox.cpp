@@ -96,7 +96,7 @@ void CCustomComboBox::SetItemChecked(int nIndex)
 
 bool CCustomComboBox::event(QEvent* pEvent)
 {
-    // `setMenu` is no virtual operation: the menu is looked after from the moment that it is about to open.
+    // `setMenu` is not virtual: the menu is watched from the moment before it opens.
     if (pEvent->type() == QEvent::MouseButtonPress || pEvent->type() == QEvent::KeyPress) {
         if (menu() != nullptr)
             menu()->installEventFilter(this);

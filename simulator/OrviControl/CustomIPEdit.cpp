@@ -451,7 +451,7 @@ void CCustomIPEdit::keyPressEvent(QKeyEvent* pEvent)
 
 bool CCustomIPEdit::focusNextPrevChild(bool bNext)
 {
-    // Backwards from a later octet the stop before the field is meant, not its own first octet.
+    // Backwards from a later octet the focus goes to the control before the field, not to its first octet.
     if (!bNext && m_pPrivate->nCurrent > 0)
         m_pPrivate->Cell(0).setFocus(Qt::BacktabFocusReason);
     return QWidget::focusNextPrevChild(bNext);

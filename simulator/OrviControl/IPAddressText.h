@@ -22,7 +22,7 @@ constexpr int c_nMaxOctet = 255;
 using Octets = std::array<QString, c_nOctets>;
 
 /// The octet that a text of digits means: leading zeros dropped.
-/// @return nothing when the text is no number from 0 to 255; an empty text stays empty
+/// @return nothing when the text is not a number from 0 to 255; an empty text stays empty
 std::optional<QString> Canonical(const QString& strDigits);
 
 /// True while another digit can still follow: the octet is shorter than three digits, and ten times its value

@@ -3,8 +3,6 @@
 #include "SenderModuleDialog/addressing/LocalAddresses.h"
 #include "host/OrviControl/CustomLabel.h"
 
-#include <QPushButton>
-
 namespace AddressDialogSupport {
 
 CLocalAddressScript::CLocalAddressScript(std::initializer_list<const char*> listAddresses)
@@ -20,14 +18,6 @@ CLocalAddressScript::~CLocalAddressScript()
     LocalAddresses::SetSource({});
 }
 
-QPushButton* Button(const QWidget& dialog, const char* szText)
-{
-    for (QPushButton* pButton : dialog.findChildren<QPushButton*>())
-        if (pButton->text() == QString::fromUtf8(szText))
-            return pButton;
-    return nullptr;
-}
-
 QStringList Captions(const QWidget& dialog)
 {
     QStringList listTexts;
@@ -38,7 +28,13 @@ QStringList Captions(const QWidget& dialog)
 
 QList<CCustomIPEdit*> AddressFields(const QWidget& dialog)
 {
-    return dialog.findChildren<CCustomIPEdit*>();
+    if (auto* pOnly = dialog.findChild<CCustomIPEdit*>(QStringLiteral("address")))
+        return {pOnly};
+    QList<CCustomIPEdit*> listFields;
+    while (auto* pField =
+               dialog.findChild<CCustomIPEdit*>(QStringLiteral("address%1").arg(listFields.size())))
+        listFields.append(pField);
+    return listFields;
 }
 
 QStringList Addresses(const QWidget& dialog)

@@ -7,8 +7,6 @@
 #include <QList>
 #include <QStringList>
 
-class QPushButton;
-
 /// What the tests of the address dialogs share.
 namespace AddressDialogSupport {
 
@@ -22,16 +20,13 @@ public:
     CLocalAddressScript& operator=(const CLocalAddressScript&) = delete;
 };
 
-/// The push button with that text, null when there is none.
-QPushButton* Button(const QWidget& dialog, const char* szText);
-
 /// The texts of the captions in the order of their creation.
 QStringList Captions(const QWidget& dialog);
 
-/// The texts of the address fields in the order of their creation.
+/// The texts of the address fields, row by row.
 QStringList Addresses(const QWidget& dialog);
 
-/// The address fields in the order of their creation.
+/// The address fields, row by row.
 QList<CCustomIPEdit*> AddressFields(const QWidget& dialog);
 
 /// A list of that many entries, far from the addresses that tests use.

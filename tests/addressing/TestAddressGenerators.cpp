@@ -36,12 +36,12 @@ bool AlwaysError(unsigned int)
 }
 
 /// A predicate that knows a few bad addresses.
-FHasError Except(const QStringList& listBad)
+FuncHasError Except(const QStringList& listBad)
 {
     return [listBad](unsigned int nIP) { return listBad.contains(IPAddressRules::AddressText(nIP)); };
 }
 
-std::vector<unsigned int> Batch(unsigned int nStart, int nCount, const FHasError& funcHasError)
+std::vector<unsigned int> Batch(unsigned int nStart, int nCount, const FuncHasError& funcHasError)
 {
     std::vector<unsigned int> vecStored;
     AddBatch(nStart, nCount, funcHasError, [&](unsigned int nIP) { vecStored.push_back(nIP); });
@@ -49,7 +49,7 @@ std::vector<unsigned int> Batch(unsigned int nStart, int nCount, const FHasError
 }
 
 /// A host that reports an address as used as soon as it is stored, beside those that are bad anyway.
-std::vector<unsigned int> ByHand(unsigned int nStart, int nCount, int nListed, const FHasError& funcBad)
+std::vector<unsigned int> ByHand(unsigned int nStart, int nCount, int nListed, const FuncHasError& funcBad)
 {
     std::vector<unsigned int> vecStored;
     QSet<unsigned int> setStored;
@@ -62,7 +62,7 @@ std::vector<unsigned int> ByHand(unsigned int nStart, int nCount, int nListed, c
     return vecStored;
 }
 
-std::vector<unsigned int> Proposals(unsigned int nBase, int nRows, const FHasError& funcHasError)
+std::vector<unsigned int> Proposals(unsigned int nBase, int nRows, const FuncHasError& funcHasError)
 {
     CProposalSearch search(nBase);
     std::vector<unsigned int> vecProposals;
@@ -73,7 +73,7 @@ std::vector<unsigned int> Proposals(unsigned int nBase, int nRows, const FHasErr
 }
 
 /// A predicate that answers by the address alone: the same for both sides of a comparison.
-FHasError RandomPredicate(quint32 nSeed, quint32 nErrorsPerThousand)
+FuncHasError RandomPredicate(quint32 nSeed, quint32 nErrorsPerThousand)
 {
     return [nSeed, nErrorsPerThousand](unsigned int nIP) {
         const quint32 nMixed = (nIP ^ nSeed) * 2654435761U;
@@ -159,8 +159,8 @@ void TestAddressGenerators::ABatchDoesNotAskForItsStartNorForAnAddressThatOpensA
 
 void TestAddressGenerators::ABatchSpendsAPassWhereTheThirdOctetRunsOutAndGoesOnInTheNeighbouringNetwork()
 {
-    // The pass that wraps counts but stores nothing; then 256 in the third octet sets the second octet's low
-    // bit.
+    // The pass that wraps counts but stores nothing; then 256 in the third octet sets the low bit
+    // of the second octet.
     QCOMPARE(Texts(Batch(Value("10.4.255.255"), 4, NoError)),
              (List({"10.4.255.255", "10.5.0.2", "10.5.0.3"})));
 }
@@ -330,7 +330,7 @@ void TestAddressGenerators::ABatchAgreesWithThePlainLoop()
     for (int i = 0; i < 3000; ++i) {
         const unsigned int nStart = RandomAddress(random);
         const int nCount = random.bounded(1, 256);
-        const FHasError funcHasError = RandomPredicate(random.generate(), quint32(random.bounded(900)));
+        const FuncHasError funcHasError = RandomPredicate(random.generate(), quint32(random.bounded(900)));
         QCOMPARE(Texts(Batch(nStart, nCount, funcHasError)),
                  Texts(AddressOracles::Batch(nStart, nCount, funcHasError)));
     }
@@ -343,7 +343,7 @@ void TestAddressGenerators::AddingByHandAgreesWithThePlainLoop()
         const unsigned int nStart = RandomAddress(random);
         const int nCount = random.bounded(1, 256);
         const int nListed = random.bounded(255);
-        const FHasError funcBad = RandomPredicate(random.generate(), quint32(random.bounded(900)));
+        const FuncHasError funcBad = RandomPredicate(random.generate(), quint32(random.bounded(900)));
         QSet<unsigned int> setStored;
         const auto vecExpected = AddressOracles::ByHand(
             nStart, nCount, nListed,
@@ -359,7 +359,7 @@ void TestAddressGenerators::ProposalsAgreeWithThePlainLoop()
     for (int i = 0; i < 2000; ++i) {
         const unsigned int nBase = RandomAddress(random);
         const int nRows = random.bounded(1, 20);
-        const FHasError funcHasError = RandomPredicate(random.generate(), quint32(random.bounded(1001)));
+        const FuncHasError funcHasError = RandomPredicate(random.generate(), quint32(random.bounded(1001)));
         QCOMPARE(Texts(::Proposals(nBase, nRows, funcHasError)),
                  Texts(AddressOracles::Proposals(nBase, nRows, funcHasError)));
     }
@@ -369,7 +369,7 @@ void TestAddressGenerators::AddingByHandStoresNoAddressTwiceWhereTheHostAnswersT
 {
     QRandomGenerator random(4);
     for (int i = 0; i < 500; ++i) {
-        const FHasError funcBad = RandomPredicate(random.generate(), 300);
+        const FuncHasError funcBad = RandomPredicate(random.generate(), 300);
         const std::vector<unsigned int> vecStored = ByHand(RandomAddress(random), 100, 0, funcBad);
         const QSet<unsigned int> setStored(vecStored.cbegin(), vecStored.cend());
         QCOMPARE(setStored.size(), int(vecStored.size()));

@@ -6,6 +6,7 @@
 #include "host/OrviControl/CustomSpinBox.h"
 #include "host/OrviControl/Style.h"
 #include "tests/addressing/AddressDialogSupport.h"
+#include "tests/support/Controls.h"
 #include "tests/support/LayoutText.h"
 #include "tests/support/RecordingHost.h"
 
@@ -57,11 +58,11 @@ void CompareFrame(const QWidget& dialog)
     QVERIFY(pOuter != nullptr);
     QCOMPARE(pOuter->contentsMargins(), QMargins(10, 20, 10, 20));
     QCOMPARE(LayoutText::Box(*pOuter), QStringLiteral("QGridLayout:0 10px:0 QHBoxLayout:0"));
-    const QBoxLayout* pButtons = LayoutText::BoxOf(dialog, Button(dialog, "确定"));
+    const QBoxLayout* pButtons = LayoutText::BoxOf(dialog, &Control<QPushButton>(dialog, "ok"));
     QCOMPARE(LayoutText::Box(*pButtons), QStringLiteral("确定:0 取消:0"));
-    for (const char* szText : {"确定", "取消"}) {
-        QCOMPARE(Button(dialog, szText)->size(), QSize(80, 24));
-        QCOMPARE(Button(dialog, szText)->styleSheet(), ButtonStyle());
+    for (const char* szName : {"ok", "cancel"}) {
+        QCOMPARE(Control<QPushButton>(dialog, szName).size(), QSize(80, 24));
+        QCOMPARE(Control<QPushButton>(dialog, szName).styleSheet(), ButtonStyle());
     }
 }
 
@@ -108,8 +109,8 @@ void TestAddressLayouts::TheDialogOfProcessorsAddedByHand()
     const auto* pGrid = dialog.findChild<QGridLayout*>();
     QCOMPARE(pGrid->contentsMargins(), QMargins(0, 0, 0, 0));
     QCOMPARE(LayoutText::Columns(*pGrid, 5), QStringLiteral("1 0 1 0 1"));
-    QCOMPARE(pGrid->itemAtPosition(0, 3)->widget(), dialog.findChild<CCustomSpinBox*>());
-    QCOMPARE(pGrid->itemAtPosition(1, 3)->widget(), dialog.findChild<CCustomComboBox*>());
+    QCOMPARE(pGrid->itemAtPosition(0, 3)->widget(), &Control<CCustomSpinBox>(dialog, "count"));
+    QCOMPARE(pGrid->itemAtPosition(1, 3)->widget(), &Control<CCustomComboBox>(dialog, "ports"));
     QCOMPARE(pGrid->itemAtPosition(2, 3)->widget(), AddressFields(dialog).first());
 }
 
@@ -135,9 +136,9 @@ void TestAddressLayouts::TheControlsOfProcessorsAddedByHandAreStyled()
 {
     const CRecordingHost host;
     const CCustomAddProcessorDlg dialog(nullptr);
-    QCOMPARE(dialog.findChild<CCustomSpinBox*>()->styleSheet(),
+    QCOMPARE(Control<CCustomSpinBox>(dialog, "count").styleSheet(),
              GetFontStyleSheet(g_doubleSpinBoxStyle, QStringLiteral("QSpinxBox"), 12));
-    QCOMPARE(dialog.findChild<CCustomComboBox*>()->menu()->styleSheet(),
+    QCOMPARE(Control<CCustomComboBox>(dialog, "ports").menu()->styleSheet(),
              GetFontStyleSheet(g_menuStyle, QStringLiteral("QMenu"), 12));
 }
 
@@ -151,7 +152,7 @@ void TestAddressLayouts::TheDemoDialog()
     QCOMPARE(pTypeRow->contentsMargins(), QMargins(0, 0, 0, 0));
     QCOMPARE(pTypeRow->spacing(), 0);
     QCOMPARE(LayoutText::Box(*pTypeRow), QStringLiteral("主控类型:0 M6K:0"));
-    const QBoxLayout* pButtons = LayoutText::BoxOf(dialog, Button(dialog, "确认"));
+    const QBoxLayout* pButtons = LayoutText::BoxOf(dialog, &Control<QPushButton>(dialog, "ok"));
     QCOMPARE(LayoutText::Box(*pButtons), QStringLiteral("~:0 确认:0 ~:0 取消:0 ~:0"));
 }
 
@@ -160,9 +161,9 @@ void TestAddressLayouts::TheControlsOfTheDemoDialogAreStyled()
     const CRecordingHost host;
     const CDemoProjectConfigDlg dialog(nullptr);
     QCOMPARE(dialog.findChild<CCustomLabel*>()->styleSheet(), CaptionStyle());
-    QCOMPARE(Button(dialog, "确认")->styleSheet(), ButtonStyle());
-    QCOMPARE(Button(dialog, "取消")->styleSheet(), ButtonStyle());
-    QCOMPARE(dialog.findChild<CCustomComboBox*>()->menu()->styleSheet(),
+    QCOMPARE(Control<QPushButton>(dialog, "ok").styleSheet(), ButtonStyle());
+    QCOMPARE(Control<QPushButton>(dialog, "cancel").styleSheet(), ButtonStyle());
+    QCOMPARE(Control<CCustomComboBox>(dialog, "type").menu()->styleSheet(),
              GetFontStyleSheet(g_menuStyle, QStringLiteral("QMenu"), 12));
 }
 

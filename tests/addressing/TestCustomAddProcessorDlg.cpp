@@ -2,6 +2,7 @@
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomSpinBox.h"
 #include "tests/addressing/AddressDialogSupport.h"
+#include "tests/support/Controls.h"
 #include "tests/support/DeathTest.h"
 #include "tests/support/ModalAnswers.h"
 #include "tests/support/RecordingHost.h"
@@ -103,7 +104,7 @@ void TestCustomAddProcessorDlg::TheNumberStartsAtThree()
 {
     const CRecordingHost host;
     CCustomAddProcessorDlg dialog(nullptr);
-    const auto* pSpinBox = dialog.findChild<CCustomSpinBox*>();
+    const auto* pSpinBox = &Control<CCustomSpinBox>(dialog, "count");
     QCOMPARE(pSpinBox->size(), QSize(60, 24));
     QCOMPARE(pSpinBox->value(), 3.0);
     QCOMPARE(pSpinBox->minimum(), 1.0);
@@ -116,14 +117,14 @@ void TestCustomAddProcessorDlg::TheNumberIsClampedWhereTheLimitIsLower()
     CRecordingHost host;
     host.runtimeData.nSenderCountLimit = 2;
     const CCustomAddProcessorDlg dialog(nullptr);
-    QCOMPARE(dialog.findChild<CCustomSpinBox*>()->value(), 2.0);
+    QCOMPARE(Control<CCustomSpinBox>(dialog, "count").value(), 2.0);
 }
 
 void TestCustomAddProcessorDlg::TheMisspeltSelectorStays()
 {
     const CRecordingHost host;
     const CCustomAddProcessorDlg dialog(nullptr);
-    QVERIFY(dialog.findChild<CCustomSpinBox*>()->styleSheet().contains(QStringLiteral("QSpinxBox")));
+    QVERIFY(Control<CCustomSpinBox>(dialog, "count").styleSheet().contains(QStringLiteral("QSpinxBox")));
 }
 
 void TestCustomAddProcessorDlg::ThePortMenuOffersNineValues()
@@ -131,10 +132,10 @@ void TestCustomAddProcessorDlg::ThePortMenuOffersNineValues()
     const CRecordingHost host;
     const CCustomAddProcessorDlg dialog(nullptr);
     QStringList listValues;
-    for (const QAction* pAction : dialog.findChild<CCustomComboBox*>()->menu()->actions())
+    for (const QAction* pAction : Control<CCustomComboBox>(dialog, "ports").menu()->actions())
         listValues.append(pAction->text());
     QCOMPARE(listValues, List({"2", "4", "6", "8", "12", "16", "20", "32", "80"}));
-    QCOMPARE(dialog.findChild<CCustomComboBox*>()->size(), QSize(60, 24));
+    QCOMPARE(Control<CCustomComboBox>(dialog, "ports").size(), QSize(60, 24));
 }
 
 void TestCustomAddProcessorDlg::ThePortTextIsTheCurrentProcessorsAndTheCountThatOfProcessorZero()
@@ -144,7 +145,7 @@ void TestCustomAddProcessorDlg::ThePortTextIsTheCurrentProcessorsAndTheCountThat
     host.projectData.sender.nOutputPortCount = 16;
     host.projectData.senderFirst.nOutputPortCount = 8;
     const CCustomAddProcessorDlg dialog(nullptr);
-    QCOMPARE(dialog.findChild<CCustomComboBox*>()->text(), QStringLiteral("16"));
+    QCOMPARE(Control<CCustomComboBox>(dialog, "ports").text(), QStringLiteral("16"));
     QCOMPARE(dialog.GetPortCount(), 8);
 }
 
@@ -152,8 +153,8 @@ void TestCustomAddProcessorDlg::OkTakesTheChosenPorts()
 {
     const CRecordingHost host;
     CCustomAddProcessorDlg dialog(nullptr);
-    dialog.findChild<CCustomComboBox*>()->menu()->actions().at(7)->trigger();
-    QTest::mouseClick(Button(dialog, "确定"), Qt::LeftButton);
+    Control<CCustomComboBox>(dialog, "ports").menu()->actions().at(7)->trigger();
+    QTest::mouseClick(&Control<QPushButton>(dialog, "ok"), Qt::LeftButton);
     QCOMPARE(dialog.GetPortCount(), 32);
     QCOMPARE(dialog.result(), 1);
 }
@@ -234,7 +235,7 @@ void TestCustomAddProcessorDlg::OkStoresTheRunAndSaves()
     UseAddresses(host);
     const CLocalAddressScript local({"10.0.0.253"});
     CCustomAddProcessorDlg dialog(nullptr);
-    QTest::mouseClick(Button(dialog, "确定"), Qt::LeftButton);
+    QTest::mouseClick(&Control<QPushButton>(dialog, "ok"), Qt::LeftButton);
     QCOMPARE(host.record.Only(c_listWrites),
              List({"AddSpecifiedIP(\"10.0.0.254\", \"\")", "AddSpecifiedIP(\"10.0.0.255\", \"\")",
                    "AddSpecifiedIP(\"10.0.1.1\", \"\")", "SpecifiedIPsSave()"}));
@@ -261,11 +262,11 @@ void TestCustomAddProcessorDlg::ARefusalKeepsTheDialogOpenAndTheChoice()
     const CLocalAddressScript local({"10.0.0.5"});
     CCustomAddProcessorDlg dialog(nullptr);
     dialog.show();
-    dialog.findChild<CCustomSpinBox*>()->setValue(9);
+    Control<CCustomSpinBox>(dialog, "count").setValue(9);
     AddressFields(dialog).first()->setText(QString());
     CModalAnswers answers;
     answers.Plan(1);
-    QTest::mouseClick(Button(dialog, "确定"), Qt::LeftButton);
+    QTest::mouseClick(&Control<QPushButton>(dialog, "ok"), Qt::LeftButton);
     QCOMPARE(answers.Texts(), List({"IP地址不合理。"}));
     QVERIFY(dialog.isVisible());
     QCOMPARE(dialog.GetCount(), 9);
@@ -291,7 +292,7 @@ void TestCustomAddProcessorDlg::AListOf253TakesTwoOfFive()
     host.configData.listStored = FilledList(253);
     const CLocalAddressScript local({"10.0.0.5"});
     CCustomAddProcessorDlg dialog(nullptr);
-    dialog.findChild<CCustomSpinBox*>()->setValue(5);
+    Control<CCustomSpinBox>(dialog, "count").setValue(5);
     dialog.ActionSlots(0);
     QCOMPARE(host.configData.listStored.size(), 255);
     QCOMPARE(dialog.GetCount(), 5);
@@ -303,7 +304,7 @@ void TestCustomAddProcessorDlg::CancelWritesNothing()
     UseAddresses(host);
     const CLocalAddressScript local({"10.0.0.5"});
     CCustomAddProcessorDlg dialog(nullptr);
-    QTest::mouseClick(Button(dialog, "取消"), Qt::LeftButton);
+    QTest::mouseClick(&Control<QPushButton>(dialog, "cancel"), Qt::LeftButton);
     QCOMPARE(host.record.Only(c_listWrites), QStringList());
     QCOMPARE(dialog.result(), 0);
 }

@@ -2,6 +2,7 @@
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomLabel.h"
 #include "tests/addressing/AddressDialogSupport.h"
+#include "tests/support/Controls.h"
 #include "tests/support/DeathTest.h"
 #include "tests/support/RecordingHost.h"
 
@@ -45,17 +46,17 @@ void TestDemoProjectConfigDlg::ItLooksAsLaidOut()
     QCOMPARE(dialog.findChild<CCustomLabel*>()->text(), QStringLiteral("主控类型"));
     QCOMPARE(dialog.findChild<CCustomLabel*>()->size(), QSize(90, 24));
     QCOMPARE(int(dialog.findChild<CCustomLabel*>()->alignment()), 132);
-    QCOMPARE(dialog.findChild<CCustomComboBox*>()->size(), QSize(160, 28));
-    QCOMPARE(dialog.findChild<CCustomComboBox*>()->text(), QStringLiteral("M6K"));
-    QCOMPARE(Button(dialog, "确认")->size(), QSize(80, 26));
-    QCOMPARE(Button(dialog, "取消")->size(), QSize(80, 26));
+    QCOMPARE(Control<CCustomComboBox>(dialog, "type").size(), QSize(160, 28));
+    QCOMPARE(Control<CCustomComboBox>(dialog, "type").text(), QStringLiteral("M6K"));
+    QCOMPARE(Control<QPushButton>(dialog, "ok").size(), QSize(80, 26));
+    QCOMPARE(Control<QPushButton>(dialog, "cancel").size(), QSize(80, 26));
 }
 
 void TestDemoProjectConfigDlg::TheMenuOffersTheSixTypesInOrder()
 {
     const CRecordingHost host;
     const CDemoProjectConfigDlg dialog(nullptr);
-    const QMenu* pMenu = dialog.findChild<CCustomComboBox*>()->menu();
+    const QMenu* pMenu = Control<CCustomComboBox>(dialog, "type").menu();
     QStringList listNames;
     for (const QAction* pAction : pMenu->actions())
         listNames.append(pAction->text());
@@ -68,7 +69,7 @@ void TestDemoProjectConfigDlg::OkWithoutTouchingTheMenuTakesTheFirstType()
 {
     CRecordingHost host;
     CDemoProjectConfigDlg dialog(nullptr);
-    QTest::mouseClick(Button(dialog, "确认"), Qt::LeftButton);
+    QTest::mouseClick(&Control<QPushButton>(dialog, "ok"), Qt::LeftButton);
     QCOMPARE(host.record.All(),
              QStringLiteral("SetDemoModeEnable(true)|SetDemoSenderType(21)|ApplyDemoProject()")
                  .split(QLatin1Char('|')));
@@ -95,9 +96,9 @@ void TestDemoProjectConfigDlg::EachTypeReachesTheHostWithItsValue()
     QFETCH(int, value);
     CRecordingHost host;
     CDemoProjectConfigDlg dialog(nullptr);
-    dialog.findChild<CCustomComboBox*>()->menu()->actions().at(index)->trigger();
-    QCOMPARE(dialog.findChild<CCustomComboBox*>()->text(), name);
-    QTest::mouseClick(Button(dialog, "确认"), Qt::LeftButton);
+    Control<CCustomComboBox>(dialog, "type").menu()->actions().at(index)->trigger();
+    QCOMPARE(Control<CCustomComboBox>(dialog, "type").text(), name);
+    QTest::mouseClick(&Control<QPushButton>(dialog, "ok"), Qt::LeftButton);
     QCOMPARE(host.projectData.nDemoSenderType, value);
 }
 
@@ -105,8 +106,8 @@ void TestDemoProjectConfigDlg::CancelWritesNothing()
 {
     CRecordingHost host;
     CDemoProjectConfigDlg dialog(nullptr);
-    dialog.findChild<CCustomComboBox*>()->menu()->actions().at(3)->trigger();
-    QTest::mouseClick(Button(dialog, "取消"), Qt::LeftButton);
+    Control<CCustomComboBox>(dialog, "type").menu()->actions().at(3)->trigger();
+    QTest::mouseClick(&Control<QPushButton>(dialog, "cancel"), Qt::LeftButton);
     QCOMPARE(host.record.All(), QStringList());
     QCOMPARE(dialog.result(), 0);
 }
@@ -124,7 +125,7 @@ void TestDemoProjectConfigDlg::AnIndexOutsideTheTableShowsNoNameAndSetsNoType()
     CRecordingHost host;
     CDemoProjectConfigDlg dialog(nullptr);
     dialog.ControlClicked(0, index);
-    QCOMPARE(dialog.findChild<CCustomComboBox*>()->text(), QString());
+    QCOMPARE(Control<CCustomComboBox>(dialog, "type").text(), QString());
     dialog.ControlClicked(1);
     QCOMPARE(host.record.Only(c_listWrites), List({"SetDemoModeEnable(true)", "ApplyDemoProject()"}));
 }

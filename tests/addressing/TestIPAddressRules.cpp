@@ -316,16 +316,16 @@ void TestIPAddressRules::TheLastLocalAddressInAKnownNetwork()
 {
     QFETCH(QStringList, local);
     QFETCH(QString, expected);
-    const SNetworks networks = {AddressValue(QStringLiteral("192.168.1.0")),
-                                AddressValue(QStringLiteral("172.16.0.0"))};
+    const Networks networks = {AddressValue(QStringLiteral("192.168.1.0")),
+                               AddressValue(QStringLiteral("172.16.0.0"))};
     QCOMPARE(AddressText(LastLocalAddressIn(networks, Addresses(local))), expected);
 }
 
 void TestIPAddressRules::DetectedAddressesHaveTheirFirstOctetInTheLowByte()
 {
-    const SNetworks networks = NetworksOf({0x0901A8C0U, 0x0A01A8C0U, 0x0500000AU});
-    QCOMPARE(networks, (SNetworks{AddressValue(QStringLiteral("192.168.1.0")),
-                                  AddressValue(QStringLiteral("10.0.0.0"))}));
+    const Networks networks = NetworksOf({0x0901A8C0U, 0x0A01A8C0U, 0x0500000AU});
+    QCOMPARE(networks, (Networks{AddressValue(QStringLiteral("192.168.1.0")),
+                                 AddressValue(QStringLiteral("10.0.0.0"))}));
 }
 
 void TestIPAddressRules::AnEntryIsTakenApart_data()

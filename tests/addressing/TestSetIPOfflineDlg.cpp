@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/addressing/SetIPOfflineDlg.h"
 #include "host/OrviControl/CustomSpinBox.h"
 #include "tests/addressing/AddressDialogSupport.h"
+#include "tests/support/Controls.h"
 #include "tests/support/DeathTest.h"
 #include "tests/support/ModalAnswers.h"
 #include "tests/support/RecordingHost.h"
@@ -111,8 +112,8 @@ void TestSetIPOfflineDlg::EachModeHasItsTitleRowsAndSize()
     QTEST(Captions(dialog), "captions");
     QTEST(AddressFields(dialog).size(), "fields");
     QTEST(NameField(dialog) != nullptr, "named");
-    QCOMPARE(Button(dialog, "确定")->size(), QSize(80, 24));
-    QCOMPARE(Button(dialog, "取消")->size(), QSize(80, 24));
+    QCOMPARE(Control<QPushButton>(dialog, "ok").size(), QSize(80, 24));
+    QCOMPARE(Control<QPushButton>(dialog, "cancel").size(), QSize(80, 24));
 }
 
 void TestSetIPOfflineDlg::TheOrdinalsOfTheRowsGoBeyondInt()
@@ -128,7 +129,7 @@ void TestSetIPOfflineDlg::FieldsHaveTheirSizes()
     const CRecordingHost host;
     const CLocalAddressScript local({"10.0.0.5"});
     const CSetIPOfflineDlg dialogBatch(0, c_nBatch, true, false, nullptr);
-    QCOMPARE(dialogBatch.findChild<CCustomSpinBox*>()->size(), QSize(60, 24));
+    QCOMPARE(Control<CCustomSpinBox>(dialogBatch, "count").size(), QSize(60, 24));
     QCOMPARE(AddressFields(dialogBatch).first()->size(), QSize(180, 25));
     const CSetIPOfflineDlg dialogModify(0, 1, false, false, nullptr);
     QCOMPARE(NameField(dialogModify)->size(), QSize(180, 25));
@@ -163,7 +164,7 @@ void TestSetIPOfflineDlg::TheNumberStartsByTheLengthOfTheList()
     host.configData.listStored = FilledList(listed);
     const CLocalAddressScript local({"10.0.0.5"});
     const CSetIPOfflineDlg dialog(0, c_nBatch, true, false, nullptr);
-    const auto* pSpinBox = dialog.findChild<CCustomSpinBox*>();
+    const auto* pSpinBox = &Control<CCustomSpinBox>(dialog, "count");
     QTEST(int(pSpinBox->value()), "expected");
     QTEST(int(pSpinBox->maximum()), "maximum");
     QCOMPARE(int(pSpinBox->minimum()), 1);
@@ -258,8 +259,8 @@ void TestSetIPOfflineDlg::ABatchStoresAndSaves()
     CRecordingHost host;
     const CLocalAddressScript local({"192.168.0.252"});
     CSetIPOfflineDlg dialog(0, c_nBatch, true, false, nullptr);
-    dialog.findChild<CCustomSpinBox*>()->setValue(5);
-    QTest::mouseClick(Button(dialog, "确定"), Qt::LeftButton);
+    Control<CCustomSpinBox>(dialog, "count").setValue(5);
+    QTest::mouseClick(&Control<QPushButton>(dialog, "ok"), Qt::LeftButton);
     QCOMPARE(host.record.Only(c_listWrites),
              List({"AddSpecifiedIP(\"192.168.0.253\", \"\")", "AddSpecifiedIP(\"192.168.0.254\", \"\")",
                    "AddSpecifiedIP(\"192.168.0.255\", \"\")", "AddSpecifiedIP(\"192.168.1.1\", \"\")",
@@ -273,7 +274,7 @@ void TestSetIPOfflineDlg::ABatchSkipsABroadcastAddress()
     host.configData.funcVerdict = [](unsigned int nIP) { return nIP == 0xC0A800FF ? 0xE0832004U : 0U; };
     const CLocalAddressScript local({"192.168.0.252"});
     CSetIPOfflineDlg dialog(0, c_nBatch, true, false, nullptr);
-    dialog.findChild<CCustomSpinBox*>()->setValue(5);
+    Control<CCustomSpinBox>(dialog, "count").setValue(5);
     dialog.ActionSlots(0);
     QCOMPARE(host.configData.listStored,
              List({"192.168.0.253()", "192.168.0.254()", "192.168.1.1()", "192.168.1.2()", "192.168.1.3()"}));
@@ -286,7 +287,7 @@ void TestSetIPOfflineDlg::ABatchThatModifiesMayKeepItsOldAddress()
     host.configData.listStored = List({"10.0.0.8()"});
     const CLocalAddressScript local({"10.0.0.5"});
     CSetIPOfflineDlg dialog(0, c_nBatch, false, false, nullptr);
-    dialog.findChild<CCustomSpinBox*>()->setValue(1);
+    Control<CCustomSpinBox>(dialog, "count").setValue(1);
     CModalAnswers answers;
     QVERIFY(dialog.DoCustomAdd());
     QCOMPARE(answers.Texts(), QStringList());
@@ -310,7 +311,7 @@ void TestSetIPOfflineDlg::ModifyReplacesTheEntryAndDoesNotSave()
     CSetIPOfflineDlg dialog(2, 1, false, original, nullptr);
     AddressFields(dialog).first()->setText(QStringLiteral("10.0.0.77"));
     QTest::keyClicks(NameField(dialog), QStringLiteral("Stage"));
-    QTest::mouseClick(Button(dialog, "确定"), Qt::LeftButton);
+    QTest::mouseClick(&Control<QPushButton>(dialog, "ok"), Qt::LeftButton);
     QCOMPARE(host.record.Only(c_listWrites), QStringList{call});
     QCOMPARE(dialog.result(), 1);
 }
@@ -361,7 +362,7 @@ void TestSetIPOfflineDlg::ARefusedAddressKeepsTheDialogOpenAndItsText()
     AddressFields(dialog).first()->setText(QStringLiteral("10.0.0.99"));
     CModalAnswers answers;
     answers.Plan(1);
-    QTest::mouseClick(Button(dialog, "确定"), Qt::LeftButton);
+    QTest::mouseClick(&Control<QPushButton>(dialog, "ok"), Qt::LeftButton);
     QCOMPARE(answers.Texts(), List({"IP地址与默认网关相同。"}));
     QCOMPARE(answers.Parents().first().data(), &dialog);
     QVERIFY(dialog.isVisible());
@@ -375,7 +376,7 @@ void TestSetIPOfflineDlg::AQuestionAnsweredYesAccepts()
     host.configData.funcVerdict = [](unsigned int nIP) { return nIP == 0x0A000005 ? 0xE0832000U : 0U; };
     const CLocalAddressScript local({"10.0.0.5"});
     CSetIPOfflineDlg dialog(0, c_nBatch, true, false, nullptr);
-    dialog.findChild<CCustomSpinBox*>()->setValue(1);
+    Control<CCustomSpinBox>(dialog, "count").setValue(1);
     AddressFields(dialog).first()->setText(QStringLiteral("10.0.0.5"));
     CModalAnswers answers;
     answers.Plan(2);
@@ -403,7 +404,7 @@ void TestSetIPOfflineDlg::RowsAreStoredInOrderWithTheName()
     const CLocalAddressScript local({"10.0.0.5"});
     CSetIPOfflineDlg dialog(0, 1, true, false, nullptr);
     QTest::keyClicks(NameField(dialog), QStringLiteral("Stage"));
-    QTest::mouseClick(Button(dialog, "确定"), Qt::LeftButton);
+    QTest::mouseClick(&Control<QPushButton>(dialog, "ok"), Qt::LeftButton);
     QCOMPARE(host.record.Only(c_listWrites),
              List({"AddSpecifiedIP(\"10.0.0.6\", \"Stage\")", "SpecifiedIPsSave()"}));
     QCOMPARE(dialog.result(), 1);
@@ -425,7 +426,7 @@ void TestSetIPOfflineDlg::NoRowsSucceedAndSave()
     CRecordingHost host;
     const CLocalAddressScript local({"10.0.0.5"});
     CSetIPOfflineDlg dialog(1, 0, true, false, nullptr);
-    QTest::mouseClick(Button(dialog, "确定"), Qt::LeftButton);
+    QTest::mouseClick(&Control<QPushButton>(dialog, "ok"), Qt::LeftButton);
     QCOMPARE(host.record.Only(c_listWrites), List({"SpecifiedIPsSave()"}));
     QCOMPARE(dialog.result(), 1);
 }
@@ -506,7 +507,7 @@ void TestSetIPOfflineDlg::CancelWritesNothing()
     CRecordingHost host;
     const CLocalAddressScript local({"10.0.0.5"});
     CSetIPOfflineDlg dialog(1, 2, true, false, nullptr);
-    QTest::mouseClick(Button(dialog, "取消"), Qt::LeftButton);
+    QTest::mouseClick(&Control<QPushButton>(dialog, "cancel"), Qt::LeftButton);
     QCOMPARE(host.record.Only(c_listWrites), QStringList());
     QCOMPARE(dialog.result(), 0);
 }

@@ -3,19 +3,19 @@
 
 #include "SenderModuleDialog/edid/EdidEnvironment.h"
 #include "SenderModuleDialog/edid/EdidSetDlg.h"
+#include "host/OrviControl/CustomComboBox.h"
+#include "host/OrviControl/CustomLabel.h"
+#include "host/OrviControl/CustomSpinBox.h"
+#include "tests/support/Controls.h"
 #include "tests/support/RecordingHost.h"
 
+#include <QCheckBox>
 #include <QObject>
+#include <QPushButton>
 
 #include <memory>
 #include <optional>
 #include <vector>
-
-class CCustomComboBox;
-class CCustomLabel;
-class CCustomSpinBox;
-class QCheckBox;
-class QPushButton;
 
 /// A recording host with one 1080p interface, on a machine that never waits. The record also notes the waits
 /// and what the progress bar and the message boxes do, between the host calls.
@@ -52,21 +52,21 @@ public:
         : m_dlg(dlg)
     {}
 
-    CCustomComboBox& Resolution() const { return *m_dlg.m_pResolutionComboBox; }
-    CCustomComboBox& Rate() const { return *m_dlg.m_rowRate.pComboBox; }
-    CCustomComboBox& Depth() const { return *m_dlg.m_rowDepth.pComboBox; }
-    CCustomComboBox& Format() const { return *m_dlg.m_rowFormat.pComboBox; }
-    CCustomComboBox& Standard() const { return *m_dlg.m_rowStandard.pComboBox; }
+    CCustomComboBox& Resolution() const { return Control<CCustomComboBox>(m_dlg, "resolution"); }
+    CCustomComboBox& Rate() const { return Control<CCustomComboBox>(m_dlg, "rate"); }
+    CCustomComboBox& Depth() const { return Control<CCustomComboBox>(m_dlg, "depth"); }
+    CCustomComboBox& Format() const { return Control<CCustomComboBox>(m_dlg, "format"); }
+    CCustomComboBox& Standard() const { return Control<CCustomComboBox>(m_dlg, "standard"); }
     CCustomLabel& FormatLabel() const { return *m_dlg.m_rowFormat.pLabel; }
     CCustomLabel& StandardLabel() const { return *m_dlg.m_rowStandard.pLabel; }
     CCustomLabel& SizeLabel() const { return *m_dlg.m_pSizeLabel; }
     CCustomLabel& TimesLabel() const { return *m_dlg.m_pTimesLabel; }
-    CCustomSpinBox& Width() const { return *m_dlg.m_pWidthSpinBox; }
-    CCustomSpinBox& Height() const { return *m_dlg.m_pHeightSpinBox; }
-    QCheckBox& ConnectPC() const { return *m_dlg.m_pConnectPCCheckBox; }
-    CCustomLabel& Error() const { return *m_dlg.m_pErrorLabel; }
-    QPushButton& OK() const { return *m_dlg.m_pOkButton; }
-    QPushButton& Cancel() const { return *m_dlg.m_pCancelButton; }
+    CCustomSpinBox& Width() const { return Control<CCustomSpinBox>(m_dlg, "width"); }
+    CCustomSpinBox& Height() const { return Control<CCustomSpinBox>(m_dlg, "height"); }
+    QCheckBox& ConnectPC() const { return Control<QCheckBox>(m_dlg, "connectPC"); }
+    CCustomLabel& Error() const { return Control<CCustomLabel>(m_dlg, "error"); }
+    QPushButton& OK() const { return Control<QPushButton>(m_dlg, "ok"); }
+    QPushButton& Cancel() const { return Control<QPushButton>(m_dlg, "cancel"); }
     const QList<QAction*>& ResolutionActions() const { return m_dlg.m_listResolutionActions; }
 
     int& ResolutionIndex() const { return m_dlg.m_nResolutionIndex; }

@@ -3,6 +3,7 @@
 #include "SenderModuleDialog/addressing/SetIPOfflineDlg.h"
 #include "host/OrviControl/CustomIPEdit.h"
 #include "simulator/CommonClass/Simulator.h"
+#include "tests/support/Controls.h"
 #include "tests/support/ModalAnswers.h"
 #include "tests/support/NetworkNamespace.h"
 
@@ -36,7 +37,7 @@ SNetwork Stage()
 
 QString Proposal(const QWidget& dialog)
 {
-    return dialog.findChild<CCustomIPEdit*>()->text();
+    return Control<CCustomIPEdit>(dialog, "address").text();
 }
 
 } // namespace
@@ -131,7 +132,7 @@ void TestAddressDialogsInNetworks::TheDialogsRefuseByTheNetwork()
     const CNetworkNamespace network(wanted.listInterfaces, wanted.listGateways);
     QVERIFY2(network.IsReady(), qPrintable(network.Problem()));
     CSetIPOfflineDlg dialog(0, c_nBatch, true, false, nullptr);
-    dialog.findChild<CCustomIPEdit*>()->setText(address);
+    Control<CCustomIPEdit>(dialog, "address").setText(address);
     CModalAnswers answers;
     answers.Plan(4);
     QVERIFY(!dialog.DoCustomAdd());
@@ -145,7 +146,7 @@ void TestAddressDialogsInNetworks::ABatchSkipsTheBroadcastAddressOfTheNetwork()
     const CNetworkNamespace network(office.listInterfaces, office.listGateways);
     QVERIFY2(network.IsReady(), qPrintable(network.Problem()));
     CSetIPOfflineDlg dialog(0, c_nBatch, true, false, nullptr);
-    dialog.findChild<CCustomIPEdit*>()->setText(QStringLiteral("192.168.7.250"));
+    Control<CCustomIPEdit>(dialog, "address").setText(QStringLiteral("192.168.7.250"));
     QVERIFY(dialog.DoCustomAdd());
     const QStringList listStored = CSimulator::Instance().Project().addresses.listStored;
     QCOMPARE(listStored.size(), 16);

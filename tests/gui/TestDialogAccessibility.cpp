@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The controls of a dialog: what takes the focus and is no part of another control.
+/// The controls of a dialog: what takes the focus and is not part of another control.
 QList<QWidget*> Controls(const QWidget& dialog)
 {
     QList<QWidget*> listControls;

@@ -52,8 +52,7 @@ QStringList CutTexts(const QWidget& window)
 
 } // namespace
 
-/// No dialog can grow, so its texts must fit as they are, in Chinese and in the English that comes with the
-/// library.
+/// No dialog can grow, so its texts must fit as they are, in Chinese and in the library's English.
 class TestDialogTextsFit : public QObject
 {
     Q_OBJECT

@@ -7,6 +7,7 @@
 #include "host/OrviControl/CustomSwitchButton.h"
 #include "host/OrviControl/Style.h"
 #include "tests/output/OutputDialogSupport.h"
+#include "tests/support/Controls.h"
 #include "tests/support/RecordingHost.h"
 
 #include <QDir>
@@ -22,7 +23,6 @@
 /// What the tests of the background picture dialog share.
 namespace BackgroundProbe {
 
-using OutputDialogSupport::Button;
 using OutputDialogSupport::CFileAnswers;
 
 inline const QString c_strPictureEvent = QStringLiteral("PostLabelEvent(0x24000, 1, 0, 0)");
@@ -91,11 +91,11 @@ public:
 class CProbe
 {
 public:
-    CCustomSwitchButton& Switch() const { return *dialog.findChild<CCustomSwitchButton*>(); }
-    QPushButton& Choose() const { return *Button(dialog, "选取图片..."); }
-    CCustomComboBox& Fit() const { return *dialog.findChild<CCustomComboBox*>(); }
-    QSlider& Slider() const { return *dialog.findChild<QSlider*>(); }
-    QDoubleSpinBox& Spin() const { return *dialog.findChild<QDoubleSpinBox*>(); }
+    CCustomSwitchButton& Switch() const { return Control<CCustomSwitchButton>(dialog, "enable"); }
+    QPushButton& Choose() const { return Control<QPushButton>(dialog, "choose"); }
+    CCustomComboBox& Fit() const { return Control<CCustomComboBox>(dialog, "fit"); }
+    QSlider& Slider() const { return Control<QSlider>(dialog, "transparencySlider"); }
+    QDoubleSpinBox& Spin() const { return Control<QDoubleSpinBox>(dialog, "transparency"); }
     /// Enabled state of the four controls behind the switch.
     QVector<bool> Enabled() const
     {

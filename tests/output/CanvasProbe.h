@@ -7,6 +7,7 @@
 #include "host/OrviControl/CustomSpinBox.h"
 #include "host/OrviControl/Style.h"
 #include "tests/output/OutputDialogSupport.h"
+#include "tests/support/Controls.h"
 #include "tests/support/RecordingHost.h"
 
 #include <QMenu>
@@ -16,8 +17,6 @@
 /// What the tests of the canvas dialog share.
 namespace CanvasProbe {
 
-using OutputDialogSupport::Button;
-
 inline const QSize c_sizeValid(300, 125);
 inline const QSize c_sizeError(300, 160);
 
@@ -25,18 +24,12 @@ inline const QSize c_sizeError(300, 160);
 class CProbe
 {
 public:
-    CCustomSpinBox& Width() const { return *dialog.findChildren<CCustomSpinBox*>().at(0); }
-    CCustomSpinBox& Height() const { return *dialog.findChildren<CCustomSpinBox*>().at(1); }
-    CCustomComboBox& Combo() const { return *dialog.findChild<CCustomComboBox*>(); }
-    QPushButton& Ok() const { return *Button(dialog, "确定"); }
-    CCustomLabel& Error() const
-    {
-        for (CCustomLabel* pLabel : dialog.findChildren<CCustomLabel*>()) {
-            if (pLabel->wordWrap())
-                return *pLabel;
-        }
-        qFatal("no error label");
-    }
+    CCustomSpinBox& Width() const { return Control<CCustomSpinBox>(dialog, "width"); }
+    CCustomSpinBox& Height() const { return Control<CCustomSpinBox>(dialog, "height"); }
+    CCustomComboBox& Combo() const { return Control<CCustomComboBox>(dialog, "size"); }
+    QPushButton& Ok() const { return Control<QPushButton>(dialog, "ok"); }
+    QPushButton& Cancel() const { return Control<QPushButton>(dialog, "cancel"); }
+    CCustomLabel& Error() const { return Control<CCustomLabel>(dialog, "error"); }
     QSize Fields() const { return {int(Width().value()), int(Height().value())}; }
     /// The error that shows, empty when none does.
     QString ShownError() const { return Error().isHidden() ? QString() : Error().text(); }

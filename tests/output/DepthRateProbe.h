@@ -6,6 +6,7 @@
 #include "host/OrviControl/CustomLabel.h"
 #include "host/OrviControl/Style.h"
 #include "tests/output/OutputDialogSupport.h"
+#include "tests/support/Controls.h"
 #include "tests/support/RecordingHost.h"
 
 #include <QAction>
@@ -17,7 +18,6 @@
 /// What the tests of the rate and depth dialog share.
 namespace DepthRateProbe {
 
-using OutputDialogSupport::Button;
 using OutputDialogSupport::List;
 
 inline const QSize c_sizePlain(348, 130);
@@ -27,21 +27,13 @@ inline const QSize c_sizeWarning(348, 175);
 class CProbe
 {
 public:
-    CCustomComboBox& Rate() const { return *dialog.findChildren<CCustomComboBox*>().at(0); }
-    CCustomComboBox& Depth() const { return *dialog.findChildren<CCustomComboBox*>().at(1); }
-    QPushButton& Ok() const { return *Button(dialog, "确定"); }
-    QPushButton& Cancel() const { return *Button(dialog, "取消"); }
+    CCustomComboBox& Rate() const { return Control<CCustomComboBox>(dialog, "rate"); }
+    CCustomComboBox& Depth() const { return Control<CCustomComboBox>(dialog, "depth"); }
+    QPushButton& Ok() const { return Control<QPushButton>(dialog, "ok"); }
+    QPushButton& Cancel() const { return Control<QPushButton>(dialog, "cancel"); }
     QWidget& ButtonPanel() const { return *Ok().parentWidget(); }
     QWidget& FieldPanel() const { return *Rate().parentWidget(); }
-    CCustomLabel& Warning() const
-    {
-        const QString strStyle = GetFontStyleSheet(g_labelWarnStyle, QStringLiteral("QLabel"), 12);
-        for (CCustomLabel* pLabel : dialog.findChildren<CCustomLabel*>()) {
-            if (pLabel->styleSheet() == strStyle)
-                return *pLabel;
-        }
-        qFatal("no warning label");
-    }
+    CCustomLabel& Warning() const { return Control<CCustomLabel>(dialog, "warning"); }
     /// Chooses an entry of either menu, as its own signal would.
     void Choose(const char* szText)
     {

@@ -1,6 +1,7 @@
 #include "tests/output/OutputDialogSupport.h"
 
 #include "host/OrviControl/CustomComboBox.h"
+#include "tests/support/Controls.h"
 
 #include <QAction>
 #include <QApplication>
@@ -46,15 +47,6 @@ QStringList List(std::initializer_list<const char*> listTexts)
     return listResult;
 }
 
-QPushButton* Button(const QWidget& dialog, const char* szText)
-{
-    for (QPushButton* pButton : dialog.findChildren<QPushButton*>()) {
-        if (pButton->text() == QString::fromUtf8(szText))
-            return pButton;
-    }
-    return nullptr;
-}
-
 QStringList Entries(const CCustomComboBox& combo)
 {
     QStringList listTexts;
@@ -81,10 +73,11 @@ bool ClickEntry(CCustomComboBox* pCombo, const QString& strText)
     return bClicked;
 }
 
-void ClickInLoop(QDialog* pDialog, const char* szText)
+void ClickInLoop(QDialog* pDialog, const char* szName)
 {
-    QTimer::singleShot(0, pDialog,
-                       [pDialog, szText] { QTest::mouseClick(Button(*pDialog, szText), Qt::LeftButton); });
+    QTimer::singleShot(0, pDialog, [pDialog, szName] {
+        QTest::mouseClick(&Control<QPushButton>(*pDialog, szName), Qt::LeftButton);
+    });
 }
 
 QStringList Slots(const QMetaObject& metaObject)

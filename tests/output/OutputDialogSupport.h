@@ -10,7 +10,6 @@
 class CCustomComboBox;
 class QAction;
 class QDialog;
-class QPushButton;
 class QWidget;
 
 /// What the tests of the output dialogs share.
@@ -19,9 +18,6 @@ namespace OutputDialogSupport {
 /// Texts given as UTF-8 literals.
 QStringList List(std::initializer_list<const char*> listTexts);
 
-/// The push button with that text, null when there is none. Combo boxes are not looked at.
-QPushButton* Button(const QWidget& dialog, const char* szText);
-
 /// The texts of a combo box's menu.
 QStringList Entries(const CCustomComboBox& combo);
 
@@ -29,8 +25,8 @@ QStringList Entries(const CCustomComboBox& combo);
 /// @return false when the menu did not open or has no such entry
 bool ClickEntry(CCustomComboBox* pCombo, const QString& strText);
 
-/// Clicks a button of a dialog as soon as its own event loop runs.
-void ClickInLoop(QDialog* pDialog, const char* szText);
+/// Clicks the button with that object name as soon as the dialog's own event loop runs.
+void ClickInLoop(QDialog* pDialog, const char* szName);
 
 /// The slots of a class with their parameter names: "ButtonClicked(int id)".
 QStringList Slots(const QMetaObject& metaObject);

@@ -3,6 +3,7 @@
 #include "host/OrviControl/Style.h"
 #include "tests/output/CanvasProbe.h"
 #include "tests/output/DepthRateProbe.h"
+#include "tests/support/Controls.h"
 #include "tests/support/LayoutText.h"
 
 #include <QDoubleSpinBox>
@@ -10,8 +11,6 @@
 #include <QLabel>
 #include <QSlider>
 #include <QtTest>
-
-using OutputDialogSupport::Button;
 
 /// Margins, spacings, stretches and styles of the output dialogs: what no picture tells to the pixel.
 class TestOutputLayouts : public QObject
@@ -133,7 +132,7 @@ void TestOutputLayouts::TheSliderOfTheBackgroundDialogHasItsWholeStyle()
         QStringLiteral("QSlider::handle:horizontal:disabled{width: 14px; background: rgb(180, 180, 180); "
                        "margin:-4px 0px -4px 0px; border-radius: 7px;}"),
     };
-    QCOMPARE(dialog.findChild<QSlider*>()->styleSheet(), listRules.join(QString()));
+    QCOMPARE(Control<QSlider>(dialog, "transparencySlider").styleSheet(), listRules.join(QString()));
 }
 
 void TestOutputLayouts::TheCoefficientDialog()
@@ -141,13 +140,13 @@ void TestOutputLayouts::TheCoefficientDialog()
     const CResetCoefDlg dialog(true, nullptr);
     QCOMPARE(Outer(dialog).contentsMargins(), QMargins(10, 10, 10, 10));
     QCOMPARE(LayoutText::Box(Outer(dialog)), QStringLiteral("QHBoxLayout:0 QHBoxLayout:0"));
-    const QBoxLayout* pFields = LayoutText::BoxOf(dialog, dialog.findChild<QDoubleSpinBox*>());
+    const QBoxLayout* pFields = LayoutText::BoxOf(dialog, &Control<QDoubleSpinBox>(dialog, "coefficient"));
     QCOMPARE(pFields->contentsMargins(), c_noMargins);
     QCOMPARE(LayoutText::Box(*pFields), QStringLiteral("~:0 校正系数:0 ~:0 0.000:0 ~:0"));
-    QPushButton* pOk = Button(dialog, "确定");
+    QPushButton* pOk = &Control<QPushButton>(dialog, "ok");
     QCOMPARE(LayoutText::Box(*LayoutText::BoxOf(dialog, pOk)), QStringLiteral("确定:0 取消:0"));
-    for (const char* szText : {"确定", "取消"})
-        QCOMPARE(Button(dialog, szText)->styleSheet(),
+    for (const char* szName : {"ok", "cancel"})
+        QCOMPARE(Control<QPushButton>(dialog, szName).styleSheet(),
                  GetFontStyleSheet(g_pushButtonStyle, QStringLiteral("QPushButton"), 12));
     QCOMPARE(dialog.findChild<QLabel*>()->styleSheet(),
              GetFontStyleSheet(g_labelNoFrameStyle, QStringLiteral("QLabel"), 12));

@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/output/ResetCoefDlg.h"
 #include "host/OrviControl/Style.h"
 #include "tests/output/OutputDialogSupport.h"
+#include "tests/support/Controls.h"
 #include "tests/support/ExactCompare.h"
 
 #include <QDoubleSpinBox>
@@ -14,7 +15,7 @@ namespace {
 
 QDoubleSpinBox& Spin(const CResetCoefDlg& dialog)
 {
-    return *dialog.findChild<QDoubleSpinBox*>();
+    return Control<QDoubleSpinBox>(dialog, "coefficient");
 }
 
 void TypeOver(QDoubleSpinBox& spin, const QString& strText)
@@ -88,8 +89,8 @@ void TestResetCoefDlg::TheWindowAndItsControls()
     QCOMPARE(spin.styleSheet(),
              GetFontStyleSheet(g_doubleSpinBoxStyle, QStringLiteral("QDoubleSpinBox"), 12));
     QCOMPARE(dialog.findChild<QLabel*>()->alignment(), Qt::AlignCenter);
-    for (const char* szText : {"确定", "取消"})
-        QCOMPARE(Button(dialog, szText)->size(), QSize(80, 24));
+    for (const char* szName : {"ok", "cancel"})
+        QCOMPARE(Control<QPushButton>(dialog, szName).size(), QSize(80, 24));
 }
 
 void TestResetCoefDlg::TheControlsLieInTheWindow()
@@ -98,7 +99,8 @@ void TestResetCoefDlg::TheControlsLieInTheWindow()
     dialog.show();
     const QRect rcInside = dialog.rect().marginsRemoved({10, 10, 10, 10});
     for (const QWidget* pControl : std::initializer_list<const QWidget*>{
-             dialog.findChild<QLabel*>(), &Spin(dialog), Button(dialog, "确定"), Button(dialog, "取消")})
+             dialog.findChild<QLabel*>(), &Spin(dialog), &Control<QPushButton>(dialog, "ok"),
+             &Control<QPushButton>(dialog, "cancel")})
         QVERIFY(rcInside.contains(pControl->geometry()));
 }
 
@@ -115,8 +117,8 @@ void TestResetCoefDlg::WithoutSetValueCancelGivesOneAndOkGivesZero_data()
     QTest::addColumn<QByteArray>("szButton");
     QTest::addColumn<int>("nResult");
     QTest::addColumn<float>("fValue");
-    QTest::newRow("Cancel") << QByteArray("取消") << 0 << 1.0F;
-    QTest::newRow("OK") << QByteArray("确定") << 1 << 0.0F;
+    QTest::newRow("Cancel") << QByteArray("cancel") << 0 << 1.0F;
+    QTest::newRow("OK") << QByteArray("ok") << 1 << 0.0F;
 }
 
 void TestResetCoefDlg::WithoutSetValueCancelGivesOneAndOkGivesZero()
@@ -148,7 +150,7 @@ void TestResetCoefDlg::OkGivesTheShownValueInSinglePrecision()
     dialog.SetValue(0.5F);
     QTimer::singleShot(0, &dialog, [&] {
         TypeOver(Spin(dialog), strTyped);
-        QTest::mouseClick(Button(dialog, "确定"), Qt::LeftButton);
+        QTest::mouseClick(&Control<QPushButton>(dialog, "ok"), Qt::LeftButton);
     });
     QCOMPARE(dialog.exec(), 1);
     COMPARE_BITS(dialog.GetValue(), fValue);
@@ -160,7 +162,7 @@ void TestResetCoefDlg::CancelDiscardsTheEdit()
     dialog.SetValue(0.25F);
     QTimer::singleShot(0, &dialog, [&] {
         TypeOver(Spin(dialog), QStringLiteral("0.75"));
-        QTest::mouseClick(Button(dialog, "取消"), Qt::LeftButton);
+        QTest::mouseClick(&Control<QPushButton>(dialog, "cancel"), Qt::LeftButton);
     });
     QCOMPARE(dialog.exec(), 0);
     COMPARE_BITS(dialog.GetValue(), 0.25F);

@@ -89,7 +89,7 @@ void TestSetCanvasDlg::TheControlsLieInTheWindow()
     QTEST(probe.dialog.size(), "sizeWindow");
     const QRect rcInside = probe.dialog.rect().marginsRemoved({25, 10, 25, 10});
     for (const QWidget* pControl : std::initializer_list<const QWidget*>{
-             &probe.Combo(), &probe.Width(), &probe.Height(), &probe.Ok(), Button(probe.dialog, "取消")}) {
+             &probe.Combo(), &probe.Width(), &probe.Height(), &probe.Ok(), &probe.Cancel()}) {
         QCOMPARE(pControl->height(), 26);
         QVERIFY(rcInside.contains(QRect(pControl->mapTo(&probe.dialog, QPoint()), pControl->size())));
     }

@@ -168,7 +168,7 @@ void TestSetCanvasDlgVerdict::OkTakesTheFields()
     host.projectData.sender.sizeCanvas = QSize(800, 600);
     CProbe probe;
     TypeOver(probe.Width(), 1234);
-    ClickInLoop(&probe.dialog, "确定");
+    ClickInLoop(&probe.dialog, "ok");
     QCOMPARE(probe.dialog.exec(), 1);
     QCOMPARE(probe.dialog.GetCanvasSize(), QSize(1234, 600));
 }
@@ -179,7 +179,7 @@ void TestSetCanvasDlgVerdict::CancelKeepsTheOpeningSize()
     host.projectData.sender.sizeCanvas = QSize(32, 600);
     CProbe probe;
     TypeOver(probe.Width(), 1234);
-    ClickInLoop(&probe.dialog, "取消");
+    ClickInLoop(&probe.dialog, "cancel");
     QCOMPARE(probe.dialog.exec(), 0);
     QCOMPARE(probe.dialog.GetCanvasSize(), QSize(32, 600));
 }

@@ -79,7 +79,7 @@ void TestSetDepthRateDlgSaving::OkOnAVideoProcessor()
     probe.Choose(strRate.toLatin1().constData());
     probe.Choose(strDepth.toLatin1().constData());
     host.record.Clear();
-    ClickInLoop(&probe.dialog, "确定");
+    ClickInLoop(&probe.dialog, "ok");
     QCOMPARE(probe.dialog.exec(), 1);
     QTEST(host.record.All(), "listCalls");
     QCOMPARE(Record(host), qMakePair(nRate, nDepth));
@@ -246,7 +246,7 @@ void TestSetDepthRateDlgSaving::CancelGivesTwoAndWritesNothing()
     CProbe probe;
     probe.Choose("120Hz");
     host.record.Clear();
-    ClickInLoop(&probe.dialog, "取消");
+    ClickInLoop(&probe.dialog, "cancel");
     QCOMPARE(probe.dialog.exec(), 2);
     QCOMPARE(host.record.All(), QStringList());
     QCOMPARE(Record(host), qMakePair(30, 16));

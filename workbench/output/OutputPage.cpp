@@ -3,6 +3,7 @@
 #include "SenderModuleDialog/output/BackgroundImageDlg.h"
 #include "SenderModuleDialog/output/SetCanvasDlg.h"
 #include "SenderModuleDialog/output/SetDepthRateDlg.h"
+#include "host/KelvaroLabel.h"
 #include "simulator/CommonClass/Simulator.h"
 #include "workbench/output/CanvasPreview.h"
 #include "workbench/output/CorrectionPanel.h"
@@ -15,9 +16,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-/// The label event that a picture was switched or replaced, not merely shown otherwise.
-constexpr int c_nPictureEvent = 0x24000;
 
 /// A path as it is read by people, which a line may be broken at.
 QString PathText(const QString& strFile)
@@ -165,7 +163,7 @@ SCanvasContent COutputPage::Content(const SSimulatedSender& sender, const SCanva
 /// The record's changes are announced for themselves; a picture can be another one under the same record.
 void COutputPage::LabelEvent(int nCode)
 {
-    if (nCode != c_nPictureEvent)
+    if (nCode != enPictureChanged)
         return;
     m_pictureReader.Forget();
     Refresh();

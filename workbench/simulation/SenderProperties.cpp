@@ -1,5 +1,6 @@
 #include "workbench/simulation/SenderProperties.h"
 
+#include "host/HardwareSupport/OutputLimit.h"
 #include "simulator/CommonClass/SimulatedProject.h"
 
 #include <QCoreApplication>
@@ -158,11 +159,11 @@ const SEditing c_depthModes = Choices({
 const SEditing c_limitFlags = Choices({
     {QT_TRANSLATE_NOOP("CSenderPropertyText", "由工程计算"), c_nComputed},
     {QT_TRANSLATE_NOOP("CSenderPropertyText", "没有超限"), 0},
-    {QT_TRANSLATE_NOOP("CSenderPropertyText", "输出视频区域"), 0x800},
-    {QT_TRANSLATE_NOOP("CSenderPropertyText", "DVI 1 至 4"), 0x1000},
-    {QT_TRANSLATE_NOOP("CSenderPropertyText", "DVI 5 至 8"), 0x2000},
-    {QT_TRANSLATE_NOOP("CSenderPropertyText", "输出口带载面积"), 0x8000000},
-    {QT_TRANSLATE_NOOP("CSenderPropertyText", "EDID 输出面积"), 0x10000000},
+    {QT_TRANSLATE_NOOP("CSenderPropertyText", "输出视频区域"), enLimitOutputArea},
+    {QT_TRANSLATE_NOOP("CSenderPropertyText", "DVI 1 至 4"), enLimitDvi1To4},
+    {QT_TRANSLATE_NOOP("CSenderPropertyText", "DVI 5 至 8"), enLimitDvi5To8},
+    {QT_TRANSLATE_NOOP("CSenderPropertyText", "输出口带载面积"), enLimitPortArea},
+    {QT_TRANSLATE_NOOP("CSenderPropertyText", "EDID 输出面积"), enLimitEdidArea},
     {QT_TRANSLATE_NOOP("CSenderPropertyText", "未知的标志"), 0x1},
 });
 
