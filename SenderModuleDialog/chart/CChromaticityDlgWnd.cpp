@@ -167,7 +167,7 @@ void CChromaticityDlgWnd::ShowCIEStandard(int nGroupIndex, enColorStandard stand
 
 void CChromaticityDlgWnd::CalcCIEStandardValid()
 {
-    // Only the first group in key order is ever compared, whatever its key; that is meant.
+    // Intentional: only the first group in key order is ever compared, whatever its key.
     if (m_nGroupIndex != 0 || m_mapGroups.isEmpty())
         return;
     const SChromaGroupInfo& group = Deref(m_mapGroups.first(), "m_mapGroups.first() != nullptr");

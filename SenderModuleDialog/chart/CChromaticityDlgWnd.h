@@ -27,14 +27,14 @@ class QPainter;
 
 /// The CIE 1931 xy chromaticity diagram with colour groups on it, whose points the operator drags.
 ///
-/// A host constructs the widget and gives it its geometry, calls `SetSize` before the first paint, names the
-/// bitmaps that it will use with `SetWndData` and picks one with `SetWndType` (type -1, the default bitmap,
-/// needs neither), adds groups, and connects `OnPositionChangeSignal` directly. While running it reads and
-/// edits the live groups, calls `ReCalRGB` or `ReCalCMY` after it has written coordinates into one, and
-/// `update()`.
+/// A host constructs the widget and gives it its geometry, calls `SetSize` before the first paint, names
+/// the bitmaps that it will use with `SetWndData` and picks one with `SetWndType` (type -1, the default
+/// bitmap, needs neither), adds groups, and connects `OnPositionChangeSignal` directly. While running it
+/// reads and edits the live groups, calls `ReCalRGB` or `ReCalCMY` after it has written coordinates into
+/// one, and `update()`.
 ///
-/// Everything belongs to the GUI thread, except that the worker started by `StartWndBitmapThread` paints
-/// bitmaps.
+/// Everything belongs to the GUI thread, except that the worker started by `StartWndBitmapThread`
+/// paints bitmaps.
 class SENDERMODULEDIALOG_EXPORT CChromaticityDlgWnd : public QWidget
 {
     Q_OBJECT
@@ -65,7 +65,7 @@ public:
     void ReleaseChromaData();
     /// @}
 
-    /// @name Size and looks
+    /// @name Size and appearance
     /// @{
 
     /// Lays the chart out: margins, scale, and the locus in pixels. Neither resizes the widget nor repaints,
@@ -92,20 +92,20 @@ public:
 
     /// Picks the bitmap to show. No repaint, no check: another type shows the background alone.
     void SetWndType(int nType);
-    /// Stores the size of a type 0 to 4; then, for every value, paints that type's bitmap on the calling
-    /// thread.
+    /// Stores the size of a type 0 to 4; then, for every value, paints that type's bitmap on the
+    /// calling thread.
     /// @param nWidth, nHeight in pixels
     void SetWndData(int nType, int nWidth, int nHeight);
-    /// Stores the size of a type 0 to 4 and paints nothing: for the worker to paint. Any other type does
-    /// nothing.
+    /// Stores the size of a type 0 to 4 and paints nothing: for the worker to paint. Any other type
+    /// does nothing.
     void StoreWndData(int nType, int nWidth, int nHeight);
     /// Reads the stored size of a type 0 to 4. Any other type leaves both arguments untouched.
     void GetWndData(int nType, int& nWidth, int& nHeight);
-    /// Does nothing, and is meant to: who wants the worker calls `StartWndBitmapThread`.
+    /// Does nothing; hosts may call it. To start the worker, call `StartWndBitmapThread`.
     void InitialWndBitMap();
-    /// Paints the bitmap of a type on the calling thread and shows it from then on. The outline is that of
-    /// `SetSize`, the colours and the box are those of the bitmap's own size. Any type but -1 to 4 does
-    /// nothing.
+    /// Paints the bitmap of a type on the calling thread and shows it from then on. The outline is that
+    /// of `SetSize`, the colours and the box are those of the bitmap's own size. Any type but -1 to 4
+    /// does nothing.
     void GetChromaticityBmp(int nType);
     /// Starts painting the types 0 to 4 at their stored sizes in the worker thread, beginning anew if it is
     /// at work, and repaints when it is done. A type painted before shows its old bitmap meanwhile. Called in
@@ -143,19 +143,19 @@ public:
     /// coordinates are xy chromaticities.
     /// @{
 
-    /// Where a segment leaves a closed polygon: on the crossed edge that comes last in list order, a step
-    /// inward.
+    /// Where a segment leaves a closed polygon: on the crossed edge that comes last in list order, a
+    /// step inward.
     /// @return false, with `ptOut` unchanged, for fewer than 3 points or without a crossing
     bool GetCIEIntersection(const QList<CPointEx<float>>& list, CPointEx<float> ptFrom, CPointEx<float> ptTo,
                             CPointEx<float>& ptOut);
-    /// Stops the point under the mouse at a region, seen from its group's white. `point` takes the answer;
-    /// its value plays no part in it, and it stays without one. The name has a slip that is part of the
-    /// interface.
+    /// Stops the point under the mouse at a region, seen from its group's white. `point` takes the
+    /// answer; its value plays no part in it, and it stays without one. The name has a slip that is part
+    /// of the interface.
     void GetFeasibleRegionNearstPoint(QList<CPointEx<float>>& region, CPointEx<float>& point);
     /// The same, seen from the mean of the region's vertices.
     void GetFeasibleRegionNearstPoint2(QList<CPointEx<float>>& region, CPointEx<float>& point);
-    /// Moves a vertex so that the white lies in its triangle, and inside the locus; the result is
-    /// `m_ptNearest`.
+    /// Moves a vertex so that the white lies in its triangle, and inside the locus; the result
+    /// is `m_ptNearest`.
     /// @return false, with `m_ptNearest` unchanged, when the lines to meet are parallel
     bool GetNearestPoint(CPointEx<float> ptWhite, CPointEx<float> ptCur, CPointEx<float> ptA,
                          CPointEx<float> ptB);
@@ -167,11 +167,11 @@ public:
     bool GetWhiteIntersection(SChromaGroupInfo* pGroup, CPointEx<float> ptWhite);
     /// Takes a solved point 0.0001 further along the line that comes from an outside point.
     void AddFloatExcursion(QPointF& point, QPointF ptFrom);
-    /// Makes point `nIndex` of an RGB group legal, after the host wrote it. @return false for an illegal
-    /// white
+    /// Makes point `nIndex` of an RGB group legal, after the host wrote it. @return false for an
+    /// illegal white
     bool ReCalRGB(SChromaGroupInfo* pGroup, int nIndex);
-    /// Makes a CMY group legal. @return false, with the points as they were, if the white is outside the
-    /// locus
+    /// Makes a CMY group legal. @return false, with the points as they were, if the white is outside
+    /// the locus
     bool ReCalCMY(SChromaGroupInfo* pGroup);
     /// Whether the group is legal as it stands, with its point `nIndex` tested against the locus.
     bool IsPointInRegion(SChromaGroupInfo* pGroup, int nIndex);

@@ -132,7 +132,7 @@ QImage CChromaticityDlgWndPrivate::PaintSharp(double dRatio, bool& bAborted)
 
 std::function<void()> CChromaticityDlgWnd::WorkOfWndBitmapThread() const
 {
-    // The work may outlive the chart: whoever is given it later finds nothing to do.
+    // The work may outlive the chart, and does nothing then.
     return [pStore = std::weak_ptr<CChromaBitmapStore>(m_pPrivate->m_pStore)] {
         if (const std::shared_ptr<CChromaBitmapStore> pHeld = pStore.lock())
             pHeld->PaintForWorker();
@@ -196,7 +196,7 @@ void CChromaticityDlgWndPrivate::ReleaseWndBitmapThread()
 
 void CChromaticityDlgWndPrivate::FinishWndBitmapThread()
 {
-    // The news of a run that was stopped for another one comes late: the other one brings its own.
+    // The signal of a run that was stopped for another one arrives late: the other one sends its own.
     if (m_pStore->IsWorkerBusy())
         return;
     m_chart.m_pThread->quit();

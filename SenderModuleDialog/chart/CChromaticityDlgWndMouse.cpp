@@ -75,8 +75,8 @@ void CChromaticityDlgWndPrivate::Drag(QPoint pos)
     const int nPoint = m_chart.m_nHoverPoint;
     bool bSuccessed = false;
     Q_EMIT m_chart.OnPositionChangeSignal(nGroup, nPoint, bSuccessed);
-    // The host may have changed the groups in its answer. For the white the new place stands whatever it
-    // says.
+    // The host may have changed the groups in its answer. For the white the new place stands whatever
+    // it says.
     SChromaGroupInfo* const pGroup = m_chart.m_mapGroups.value(nGroup, nullptr);
     if (!bSuccessed && pGroup != nullptr && IsColourPoint(nPoint))
         GroupPoint(*pGroup, nPoint) = m_chart.QPointFToCPointF(m_chart.m_ptNearest);

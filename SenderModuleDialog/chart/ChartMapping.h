@@ -38,7 +38,7 @@ public:
     /// Height in pixels at which the chromaticity y is 0.
     double Baseline() const { return double(m_nHeight) - double(m_fMarginY); }
 
-    /// Radius in pixels of a dot that may be moved and is not held; the mouse hits as far.
+    /// Radius in pixels of a dot that may be moved and is not held, and of the box that catches it.
     float DotRadius() const { return m_fScale / c_fDotDivisor; }
 
     int Height() const { return m_nHeight; }

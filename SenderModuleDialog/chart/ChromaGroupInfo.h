@@ -52,9 +52,9 @@ inline constexpr int c_nNoColorStandard = -1;
 /// One colour gamut on the chart: three points, a white point and how they are drawn. The coordinates are
 /// CIE 1931 xy chromaticities.
 ///
-/// The three points are the primaries (RGB mode) or the secondary colours (CMY mode), which are the midpoints
-/// of the triangle's edges: cyan between green and blue, magenta between red and blue, yellow between red and
-/// green.
+/// The three points are the primaries (RGB mode) or the secondary colours (CMY mode), which are the
+/// midpoints of the triangle's edges: cyan between green and blue, magenta between red and blue, yellow
+/// between red and green.
 struct SChromaGroupInfo
 {
     int nGroupKey = 0;         ///< the chart writes the key under which it holds the group

@@ -15,8 +15,8 @@ inline constexpr unsigned char g_colorGreen[c_nPaletteSize] = {0, 255, 0, 255, 2
 inline constexpr unsigned char g_colorBlue[c_nPaletteSize] = {0, 0, 255, 0, 255, 42, 255, 0, 226};
 /// @}
 
-/// The place in the palette for the nIndex-th visible group, counted from 0: from the tenth on it starts
-/// anew.
+/// The place in the palette for the nIndex-th visible group, counted from 0: from the tenth on it
+/// starts anew.
 constexpr int PaletteIndex(int nIndex)
 {
     return nIndex % c_nPaletteSize;

@@ -177,7 +177,7 @@ bool CCCT2ColorCoord::TriangAlgCalcRelativeCCT(QPointF xyColorCoord, float* pCCT
     QPointF uv;
     ColorCoordXYtoUV(xyColorCoord, &uv);
     sCIE1931 arrPair[2];
-    // The gate has seen to it that x and y are positive. The smallest doubles may still round to 0 in u and
+    // The gate guarantees that x and y are positive. The smallest doubles may still round to 0 in u and
     // v, which is as good a place to walk from as any, so the public search with its check is left out.
     FindPair(uv, arrPair);
 

@@ -14,16 +14,16 @@ class CNearestRowSearch;
 /// Temperature to chromaticity is the closed formula of the CIE daylight locus (CIE 15). Chromaticity to
 /// temperature is a gate and a table search: the gate is built from a cubic in n = (x - 0.332) / (0.1858 - y)
 /// of the form that McCamy gave (Color Research and Application 17, 1992), and the table holds the daylight
-/// locus in steps of 5 K in CIE 1960 (u, v). The two directions are no inverses by formula: they agree within
-/// the step.
+/// locus in steps of 5 K in CIE 1960 (u, v). The two directions are not exact inverses: they agree
+/// within the step.
 ///
 /// A constructed object is only read by the conversions, so several threads may convert with it at once, as
 /// long as none runs the solving operations (`AreaSolve` and below).
 class SENDERMODULEDIALOG_EXPORT CCCT2ColorCoord
 {
 public:
-    /// Solves the gate and fills the table. Both are the same for every object and are computed for the
-    /// first.
+    /// Solves the gate and fills the table. Both are the same for every object and are computed for
+    /// the first.
     CCCT2ColorCoord();
 
     /// @name Conversions
@@ -37,7 +37,7 @@ public:
     bool isCCTInRange(float fCCT) const;
 
     /// Chromaticity to temperature in kelvin. False outside the gate, and `pCCT` is not written. Inside it
-    /// `pCCT` is written, and the result tells whether the temperature lies in 4000 to 25000. Faults without
+    /// `pCCT` is written, and the result is whether the temperature lies in 4000 to 25000. Faults without
     /// a table.
     bool TriangAlgCalcRelativeCCT(QPointF xyColorCoord, float* pCCT, bool bExact) const;
 
@@ -57,8 +57,8 @@ public:
     /// zeros. Faults unless u and v are positive.
     bool SearchNearestTwoPoint(QPointF uvcolorCoord, sCIE1931* NearTwoColorCoord) const;
 
-    /// Reciprocal temperature in mired at (u, v) between two rows, by the squares of the distances. Faults on
-    /// null.
+    /// Reciprocal temperature in mired at (u, v) between two rows, by the squares of the distances.
+    /// Faults on null.
     float TriangCalUrd(QPointF uvcolorCoord, sCIE1931* NearTwoColorCoord) const;
 
     /// 1000000 / T in single precision: mired of kelvin.

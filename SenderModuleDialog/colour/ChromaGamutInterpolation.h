@@ -10,10 +10,10 @@
 
 /// The outline of the CIE 1931 chromaticity diagram: the region of (x, y) that real colours can reach.
 ///
-/// The outline is the convex hull of the spectral locus of the 2 degree standard observer, with the purple
-/// line as its long edge: 156 points, counter-clockwise from the lowest, which is the 404 nm point. Every
-/// object starts with the same outline; it is computed for the first object and shared until one is written
-/// to.
+/// The outline is the convex hull of the spectral locus of the 2 degree standard observer, with the
+/// purple line as its long edge: 156 points, counter-clockwise from the lowest, which is the 404 nm
+/// point. Every object starts with the same outline; it is computed for the first object and shared until
+/// one is written to.
 ///
 /// Used by one thread at a time.
 class SENDERMODULEDIALOG_EXPORT CChromaGamutInterpolation
@@ -25,7 +25,7 @@ public:
     QVector<QPointF>& GetQPointFData();
 
     /// The outline in single precision. The list is not cleared: every call appends one more complete copy
-    /// behind the earlier ones, and that is meant. A walk over it must bear repeats.
+    /// behind the earlier ones. Intentional: hosts hold the reference. A walk over it must allow for repeats.
     QList<CPointEx<float>>& GetData();
 
     /// Whether a chromaticity lies inside: by the even-odd rule in single precision, and always within 0.0001

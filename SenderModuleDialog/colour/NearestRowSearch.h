@@ -48,22 +48,22 @@ SNearestRow WalkToNearestRow(QPointF uvPoint, const sCIE1931* pRows, int nCount)
 ///
 ///     a - |b| |c_n| / c_t - (m(i) - r(g)).c(i) / c_t > K |w|^2 / c_t.
 ///
-/// Taking the worst row for each of the three quotients and multiplying by min c_t / K leaves four numbers a
-/// block:
+/// Taking the worst row for each of the three quotients and multiplying by min c_t / K leaves four
+/// numbers a block:
 ///
 ///     (min c_t / K) w.t - slope |(min c_t / K) w.n| - |w|^2 > lead.                                    (2)
 ///
-/// All of it is for points within `c_dReach` of the origin, where no distance reaches the walk's start of 10.
-/// There the roundings of (2) itself come to less than 1e-13 in the units of a; `c_dSlack` covers them in the
-/// lead.
+/// All of it is for points within `c_dReach` of the origin, where no distance reaches the walk's start of
+/// 10. There the roundings of (2) itself come to less than 1e-13 in the units of a; `c_dSlack` covers
+/// them in the lead.
 class CNearestRowSearch
 {
 public:
     /// Prepares the search for a table of at least two rows that bends by less than a right angle per block.
     explicit CNearestRowSearch(const QVector<sCIE1931>& vecRows);
 
-    /// Whether this search was made for exactly this table: the same shared data, so nobody has written to
-    /// it.
+    /// Whether this search was made for exactly this table: the same shared data, so nobody has written
+    /// to it.
     bool IsFor(const QVector<sCIE1931>& vecRows) const
     {
         return vecRows.constData() == m_vecRows.constData();

@@ -25,8 +25,8 @@ CPointEx<float> Difference(CPointEx<float> ptA, CPointEx<float> ptB)
     return {ptA.x - ptB.x, ptA.y - ptB.y};
 }
 
-// Whether a point lies on the segment between two others: the way over it is no longer than the way between
-// them.
+// Whether a point lies on the segment between two others: the way over it is no longer than the way
+// between them.
 bool IsOnEdge(CPointEx<float> pt, CPointEx<float> ptA, CPointEx<float> ptB)
 {
     const float fToA = CCalcChromaRatio::CalcDistance(pt, ptA);
@@ -114,8 +114,8 @@ bool CCalcChromaRatio::G_IsPointInPolygon(std::vector<CPointEx<float>>* pVecPoly
 bool CCalcChromaRatio::G_IsPointInPolygon2(CPointEx<float> pt, CPointEx<float>* pPoints, int nCount)
 {
     for (int i = 0; i < nCount; ++i) {
-        // The wrap is that of a triangle, whatever the count is. Below three points the partner may not be
-        // there.
+        // The wrap is that of a triangle, whatever the count is. Below three points the partner may not
+        // be there.
         const int j = (i + 1) % c_nTriangleCorners;
         if (j < nCount && IsOnEdge(pt, pPoints[i], pPoints[j]))
             return true;

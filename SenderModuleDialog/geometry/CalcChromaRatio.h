@@ -43,10 +43,9 @@ public:
 
     /// Whether a point lies in a triangle or on its edge.
     /// @param pPoints the corners
-    /// @param nCount how many; 3 is what it is made for. In a longer polygon the edge test pairs every vertex
-    /// with one of
-    ///        the first three, the test of the inside is right. Nothing beyond the count is read; 0 or less
-    ///        is false.
+    /// @param nCount how many; it is made for 3. In a longer polygon the edge test pairs every vertex with
+    ///        one of the first three, and the test of the inside is right. Nothing beyond the count is read;
+    ///        0 or less gives false.
     static bool G_IsPointInPolygon2(CPointEx<float> pt, CPointEx<float>* pPoints, int nCount);
 
     /// A triangle's area by Heron's formula; 0 where rounding on a thin triangle leaves nothing to take a

@@ -20,9 +20,9 @@ inline constexpr float c_fNoIntersection = 6553600000.0F;
 
 /// The infinite straight line a*x + b*y + c = 0, and tests of segments.
 ///
-/// The coefficients are not normalised. Nothing rejects a line through two equal points (all coefficients 0)
-/// and no division is guarded: a question without an answer gives a named sentinel, false or a non-finite
-/// value.
+/// The coefficients are not normalised. Nothing rejects a line through two equal points (all coefficients
+/// 0) and no division is guarded: a question without an answer gives a named sentinel, false or a
+/// non-finite value.
 class SENDERMODULEDIALOG_EXPORT CLine
 {
 public:
@@ -69,8 +69,8 @@ public:
     /// pair has a large finite slope.
     static float GetSlop(const CPointEx<float>& ptFirst, const CPointEx<float>& ptSecond);
 
-    /// The distance from a point to the line. The 2 in the name means no square: the result is the distance
-    /// itself.
+    /// The distance from a point to the line. The 2 in the name means no square: the result is the
+    /// distance itself.
     float Distance2(CPointEx<float> pt) const;
 
     /// Whether two points lie strictly on one side of the line. A point on the line is on no side.
@@ -100,7 +100,7 @@ public:
 
     /// Where the segments cross.
     /// @param fX, fY take the crossing. When the result is false they are left alone, except that x is stored
-    ///        before y's own determinant is looked at.
+    ///        before y's own determinant is tested.
     /// @return false when `IsCross` is false or a determinant is below `c_fGeometryEpsilon` in size
     static bool GetSegmentCross(CPointEx<float> ptP1, CPointEx<float> ptP2, CPointEx<float> ptQ1,
                                 CPointEx<float> ptQ2, float& fX, float& fY);

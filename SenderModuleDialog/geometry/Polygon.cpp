@@ -33,16 +33,16 @@ float TurnAt(const QPointF& ptPrev, const QPointF& ptCur, const QPointF& ptNext)
     return fDYOut * fDXIn - fDYIn * fDXOut;
 }
 
-// Cross product of the ways from an origin to two points, in double: positive when the first lies to the
-// right.
+// Cross product of the ways from an origin to two points, in double: positive when the first lies to
+// the right.
 double CrossFrom(const QPointF& ptOrigin, const QPointF& ptFirst, const QPointF& ptSecond)
 {
     return (ptFirst.x() - ptOrigin.x()) * (ptSecond.y() - ptOrigin.y()) -
            (ptFirst.y() - ptOrigin.y()) * (ptSecond.x() - ptOrigin.x());
 }
 
-// Whether a point comes before another in the order by angle around the pivot, nearest first within one
-// angle.
+// Whether a point comes before another in the order by angle around the pivot, nearest first within
+// one angle.
 bool IsBefore(const QPointF& ptPivot, const QPointF& pt, const QPointF& ptOther)
 {
     const double dCross = CrossFrom(ptPivot, pt, ptOther);
@@ -109,8 +109,8 @@ bool CPolygon::IsConvex() const
     const int nCount = size();
     if (nCount < 2)
         return true;
-    // Every corner is compared with the first one, not with its neighbour, and vertex 0 is meant to be left
-    // out.
+    // Intentional: every corner is compared with the first one and not with its neighbour, and vertex 0 is
+    // left out.
     const float fReference = TurnAt(at(0), at(1), at(2 % nCount));
     for (int i = 2; i < nCount; ++i) {
         if (fReference * TurnAt(at(i - 1), at(i), at((i + 1) % nCount)) < 0.0F)
@@ -172,8 +172,8 @@ bool CPolygon::GetPointCloser2Concave(QPointF* pPoint) const
         const QPointF& ptA = at(i);
         const QPointF& ptB = at((i + 1) % size());
         const QPointF ptFoot = FootOn(ptA, ptB, pt);
-        // Only x decides whether the foot lies on the edge, on a vertical edge too: regions are cut to this
-        // rule.
+        // Only x decides whether the foot lies on the edge, on a vertical edge too: regions are cut to
+        // this rule.
         if (IsBetween(ptFoot.x(), ptA.x(), ptB.x()))
             funcTake(ptFoot);
     }
@@ -183,8 +183,8 @@ bool CPolygon::GetPointCloser2Concave(QPointF* pPoint) const
 
 QPointF CPolygon::MakePointCloser(QPointF& ptFrom, const QPointF& ptToward)
 {
-    // For a vertical pair the square overflows and the steps are 0: the point stays where it is, and that is
-    // meant.
+    // Intentional: for a vertical pair the square overflows and the steps are 0, so the point stays where
+    // it is.
     const float fSlope = CLine::GetSlop(Narrowed(ptFrom), Narrowed(ptToward));
     const float fDX = c_fNudge / std::sqrt(fSlope * fSlope + 1.0F);
     const float fDY = fSlope * fDX;

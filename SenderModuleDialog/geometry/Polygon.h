@@ -34,8 +34,7 @@ public:
     CPolygon(int nCount);
 
     /// Whether every corner turns the same way as the corner at vertex 1. The corner at vertex 0 is not
-    /// looked at, and a corner at vertex 1 that does not turn at all accepts every other corner. True below 2
-    /// vertices.
+    /// tested, and a straight corner at vertex 1 accepts every other corner. True below 2 vertices.
     bool IsConvex() const;
 
     /// Moves a point that is outside to a place just inside: `GetPointCloser2Convex` for a convex polygon,
@@ -49,9 +48,8 @@ public:
     /// centre. Where that is still outside, the nearer end of that edge is nudged and taken; of two equally
     /// near, the later.
     /// @param pPoint input and output; not null
-    /// @return false when the point is outside and no edge is crossed: there are no vertices, or the segment
-    /// passes
-    ///         exactly through a vertex
+    /// @return false when the point is outside and no edge is crossed: there are no vertices, or the
+    ///         segment passes exactly through a vertex
     bool GetPointCloser2Convex(QPointF* pPoint) const;
 
     /// Moves a point that is outside to the nearest vertex or foot of a perpendicular, nudged toward the

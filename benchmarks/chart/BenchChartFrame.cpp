@@ -93,8 +93,8 @@ double Median(std::vector<double>& vecSeconds)
     return *middle;
 }
 
-/// Median of the plain frames by the median of the warm ones, painted in turns so that both see the same
-/// machine.
+/// Median of the plain frames by the median of the warm ones, painted in turns so that both see the
+/// same machine.
 double TimesPlain(CStage& stage)
 {
     constexpr int c_nRounds = 60;

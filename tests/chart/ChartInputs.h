@@ -10,8 +10,8 @@
 
 #include <random>
 
-/// Points and groups to try the chart with: everyday ones, and those that look for trouble at vertices, on
-/// axes, at equal coordinates and at what is no number. The same seed gives the same row of inputs.
+/// Points and groups to try the chart with: everyday ones, and those that probe vertices, axes, equal
+/// coordinates and NaN. The same seed gives the same row of inputs.
 class CChartInputs
 {
 public:

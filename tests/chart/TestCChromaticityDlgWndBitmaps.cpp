@@ -225,7 +225,7 @@ void TestCChromaticityDlgWndBitmaps::StaticPixelsRefuseWhatTheMemoryHasNoRoomFor
 
 void TestCChromaticityDlgWndBitmaps::StaticPixelsOfAnEarlierCallStayReadable()
 {
-    // The earlier array is dropped, not freed; that is meant. So this test frees it.
+    // Intentional: the earlier array is dropped, not freed. So this test frees it.
     CChromaticityDlgWnd chart(nullptr);
     chart.SetSize(200, 200);
     QPointF pt(0.3, 0.3);

@@ -116,7 +116,7 @@ private:
             return {m_inputs.Whole(-100, c_nSide + 100), m_inputs.Whole(-100, c_nSide + 100)};
         const SChromaGroupInfo& group = m_groups[m_inputs.Whole(0, 2)];
         const QPointF pt = m_chart.Mapping().ToPixel(GroupPointOrOrigin(group, m_inputs.Whole(0, 3)));
-        // Not by QRectF::contains, which takes what is no number for inside.
+        // Not by QRectF::contains, which takes NaN for inside.
         const bool bOnChart = pt.x() >= 0.0 && pt.x() <= c_nSide && pt.y() >= 0.0 && pt.y() <= c_nSide;
         return (bOnChart ? pt.toPoint() : QPoint(5, 5)) +
                QPoint(m_inputs.Whole(-7, 7), m_inputs.Whole(-7, 7));

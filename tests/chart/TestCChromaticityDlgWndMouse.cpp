@@ -9,8 +9,8 @@
 
 using namespace MouseTesting;
 
-/// The chart under the mouse: what is hit, what a drag does, and what the host is asked, by real mouse
-/// events.
+/// The chart under the mouse: what is hit, what a drag does, and what the host is asked, by real
+/// mouse events.
 class TestCChromaticityDlgWndMouse : public QObject
 {
     Q_OBJECT

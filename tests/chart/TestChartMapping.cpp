@@ -260,7 +260,7 @@ void TestChartMapping::RecognisingComparesTheFirstGroupAlone()
 
 void TestChartMapping::RecognisingWithAnotherIndexChangesNothing()
 {
-    // The walk's counter stays 0, so no group is ever the one with another index; that is meant.
+    // The walk's counter stays 0, so no group ever has another index. Intentional.
     CChromaticityDlgWnd chart(nullptr);
     chart.AddChromaGroupByIndex(0, GroupOf(c_arrColourStandards[enStandardNTSC]));
     chart.AddChromaGroupByIndex(1, GroupOf(c_arrColourStandards[enStandardPAL]));

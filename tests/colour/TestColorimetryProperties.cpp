@@ -1,5 +1,5 @@
-// What holds for any input: laws of the conversions and of the inside test, and the same conversions by
-// Little-CMS.
+// What holds for any input: laws of the conversions and of the inside test, and the same conversions
+// by Little-CMS.
 
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"

@@ -209,7 +209,7 @@ void TestCalcChromaRatio::TheAreaIsAFanOfTriangles_data()
         << std::vector<Point>{{0, 0}, {4, 0}, {4, 3}, {0, 3}} << true << 0.5F;
     QTest::newRow("more than the reference is clipped")
         << std::vector<Point>{{0, 0}, {8, 0}, {8, 6}, {0, 6}} << true << 1.0F;
-    QTest::newRow("no number is no ratio") << std::vector<Point>{{0, 0}, {4, 0}, {NAN, 3}} << false << NAN;
+    QTest::newRow("NaN is no ratio") << std::vector<Point>{{0, 0}, {4, 0}, {NAN, 3}} << false << NAN;
 }
 
 void TestCalcChromaRatio::TheAreaIsAFanOfTriangles()
@@ -283,7 +283,7 @@ void TestCalcChromaRatio::DirectionsHaveAQuadrant_data()
     QTest::newRow("right") << Point(1, 0) << 4;
     QTest::newRow("left") << Point(-1, 0) << 3;
     QTest::newRow("straight down") << Point(0, -1) << 3;
-    QTest::newRow("no number") << Point(NAN, NAN) << 3;
+    QTest::newRow("NaN") << Point(NAN, NAN) << 3;
 }
 
 void TestCalcChromaRatio::DirectionsHaveAQuadrant()

@@ -229,7 +229,7 @@ void TestLine::ALineGivesTheOtherCoordinate_data()
         << SSegments{{0, 0.25F}, {1, 0.25F}, {}, {}} << c_fInfinity << 0.25F;
     QTest::newRow("vertical: no y is finite")
         << SSegments{{0.25F, 0}, {0.25F, 1}, {}, {}} << 0.25F << -c_fInfinity;
-    QTest::newRow("two equal points: no number") << SSegments{{0, 0}, {0, 0}, {}, {}} << c_fNaN << c_fNaN;
+    QTest::newRow("two equal points: NaN") << SSegments{{0, 0}, {0, 0}, {}, {}} << c_fNaN << c_fNaN;
 }
 
 void TestLine::ALineGivesTheOtherCoordinate()
@@ -289,7 +289,7 @@ void TestLine::Distance2IsTheDistanceItself_data()
     QTest::newRow("on the other side too") << SSegments{{0, 0}, {1, 0}, {0.5F, -3}, {}} << 3.0F;
     QTest::newRow("on the line") << SSegments{{0, 0}, {1, 1}, {0.5F, 0.5F}, {}} << 0.0F;
     QTest::newRow("not normalised coefficients") << SSegments{{0, 0}, {4, 3}, {4, -3}, {}} << 4.8F;
-    QTest::newRow("a line of two equal points: no number") << SSegments{{1, 1}, {1, 1}, {0, 0}, {}} << c_fNaN;
+    QTest::newRow("a line of two equal points: NaN") << SSegments{{1, 1}, {1, 1}, {0, 0}, {}} << c_fNaN;
     QTest::newRow("the product with y comes first")
         << SSegments{{0.3010262F, 0.507243F}, {0.38586625F, 0.35091048F}, {0.5850741F, 0.5842518F}, {}}
         << 0.28638566F;
@@ -341,7 +341,7 @@ void TestLine::TheFootLiesOnThePerpendicular_data()
     QTest::newRow("on the diagonal") << SSegments{{0, 0}, {1, 1}, {1, 0}, {}} << Point(0.5F, 0.5F);
     QTest::newRow("of a point on the line")
         << SSegments{{0, 0}, {1, 1}, {0.75F, 0.75F}, {}} << Point(0.75F, 0.75F);
-    QTest::newRow("a line of two equal points: no number")
+    QTest::newRow("a line of two equal points: NaN")
         << SSegments{{1, 1}, {1, 1}, {0, 0}, {}} << Point(c_fNaN, c_fNaN);
     QTest::newRow("each product rounds in its order")
         << SSegments{{0.7909169F, 0.26217973F}, {0.46414322F, 0.12314605F}, {0.8132217F, 0.6622896F}, {}}

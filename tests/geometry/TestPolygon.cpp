@@ -112,10 +112,10 @@ void TestPolygon::ConvexityComparesWithTheFirstCorner_data()
     QTest::addColumn<bool>("bExpected");
     QTest::newRow("no vertex") << Points() << true;
     QTest::newRow("one vertex") << Points{{1, 1}} << true;
-    QTest::newRow("two vertices: one corner is looked at") << Points{{0, 0}, {1, 1}} << true;
+    QTest::newRow("two vertices: one corner is tested") << Points{{0, 0}, {1, 1}} << true;
     QTest::newRow("a square") << Square() << true;
     QTest::newRow("a square clockwise") << Points{{0, 1}, {1, 1}, {1, 0}, {0, 0}} << true;
-    QTest::newRow("a dent at vertex 0 is not looked at")
+    QTest::newRow("a dent at vertex 0 is not tested")
         << Points{{2, 1}, {4, 0}, {4, 4}, {0, 4}, {0, 0}} << true;
     QTest::newRow("a dent at vertex 1 is the reference")
         << Points{{0, 0}, {2, 1}, {4, 0}, {4, 4}, {0, 4}} << false;
@@ -252,7 +252,7 @@ void TestPolygon::APointOutsideAConcavePolygonGoesToTheNearestPlace_data()
     QTest::newRow("of equal vertices the earliest")
         << Dart() << QPointF(4, -20) << QPointF(0, 0) << QPointF(4, 2);
     QTest::newRow("of equal feet the earliest") << Bracket() << QPointF(2, 1.5) << QPointF(2, 1) << ptCentre;
-    QTest::newRow("a foot far beyond a vertical edge counts: only x is looked at")
+    QTest::newRow("a foot far beyond a vertical edge counts: only x is tested")
         << Bracket() << QPointF(4.5, 5) << QPointF(4, 5) << ptCentre;
     // The foot's x is the float 0.1, which is a little more than the edge's x.
     const Points vecOffFloat = {{0.1, 0}, {-1, 0}, {-1, 4}, {0.1, 4}};

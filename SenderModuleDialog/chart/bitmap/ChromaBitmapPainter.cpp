@@ -40,8 +40,8 @@ constexpr std::uint32_t c_nOpaque = 0xFF000000U;
 /// Where red, green and blue stand in a pixel.
 constexpr std::array<int, c_nComponents> c_arrShifts = {16, 8, 0};
 
-/// The line that a component grows away from, and how. It holds what `CLine` would compute for each pixel
-/// anew.
+/// The line that a component grows away from, and how. It holds what `CLine` would compute for each
+/// pixel anew.
 struct SGradient
 {
     float fA;
@@ -264,7 +264,7 @@ Stretches MakeStretches(const SGradient& gradient, size_t nComponent)
 template <class TCondition>
 int FirstWhere(int nBegin, int nEnd, double dGuess, const TCondition& condition)
 {
-    // What is no number is held to the range too.
+    // NaN is clamped to the range too.
     int nX = int(std::min(double(nEnd), std::max(double(nBegin), dGuess + 1.0)));
     while (nX > nBegin && condition(nX - 1))
         --nX;
@@ -348,8 +348,8 @@ public:
 private:
     using RowChanges = std::array<SChanges, c_nComponents>;
 
-    /// For all rows in one go: searching between two rows' painting takes the processor several times as
-    /// long.
+    /// For all rows in one go: searching between two rows' painting takes the processor several times
+    /// as long.
     void FindAllChanges(const QRect& rcBox)
     {
         m_vecChanges.resize(size_t(rcBox.height()));

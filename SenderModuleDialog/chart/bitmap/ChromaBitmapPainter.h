@@ -25,8 +25,8 @@ struct SSource
     SSource Scaled(double dRatio) const;
 };
 
-/// The bitmap's own mapping of chromaticities to pixels. It is meant to differ from the chart's: whole
-/// numbers, and a margin that is 10 pixels smaller.
+/// The bitmap's own mapping of chromaticities to pixels. It differs from the chart's on purpose:
+/// whole numbers, and a margin that is 10 pixels smaller.
 struct SMapping
 {
     int nMarginX = 0;
@@ -53,7 +53,7 @@ enInstructions BestInstructions();
 /// Whether this processor has the instruction set.
 bool HasInstructions(enInstructions instructions);
 
-/// Asked at each row of pixels whether to stop there.
+/// Called at each row of pixels: whether to stop there.
 using FuncStop = std::function<bool()>;
 
 /// Paints a bitmap: transparent outside the outline, opaque inside.

@@ -42,8 +42,8 @@ struct SRowPiece
     std::uint32_t nBase;   ///< alpha, and the components that stay; the others 0
 };
 
-/// Paints a piece of a row. It may write more pixels than the piece has, to its right, but none beyond the
-/// width.
+/// Paints a piece of a row. It may write more pixels than the piece has, to its right, but none beyond
+/// the width.
 /// @param pRow the pixels of the row
 /// @param nWidth number of pixels that may be written
 /// @param arrRamps red, green and blue; in the piece no growing component is full

@@ -20,7 +20,7 @@ struct SPlainLane
     static constexpr float c_fQuickFactor = 1.0F;
     static Floats QuickRoot(Floats value) { return SquareRoot(value); }
     static Floats Absolute(Floats value) { return std::fabs(value); }
-    /// The values are far below the range's end; 0 for what is no number.
+    /// The values are far below the range's end; NaN gives 0.
     static Integers Truncate(Floats value) { return value > 0.0F ? std::uint32_t(std::int32_t(value)) : 0; }
     static Integers SetInteger(std::uint32_t nValue) { return nValue; }
     static Integers Or(Integers first, Integers second) { return first | second; }

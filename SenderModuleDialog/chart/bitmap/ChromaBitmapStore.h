@@ -35,7 +35,7 @@ public:
     CLock Lock() { return CLock(m_mutex); }
 
     /// Paints the bitmap of a type, -1 to 4, on the calling thread, and hands it over unless a painting that
-    /// began later was handed over before. The owner's abort shows what there is.
+    /// began later was handed over before. When the owner aborts, the part that is painted by then is shown.
     void Paint(int nType);
     /// What the picture that was handed over last was painted from. Call it under the lock.
     const ChromaBitmap::SSource& Source(int nType) const { return m_arrTypes[Place(nType)].source; }
@@ -44,7 +44,7 @@ public:
     /// it is painting. Does nothing after `Close`.
     void PaintForWorker();
 
-    /// A worker is about to begin: from here on `WaitForBitmap` counts on it.
+    /// A worker is about to begin: from here on `WaitForBitmap` waits for it.
     void AnnounceWorker() { SetAnnounced(true); }
     /// The announced worker never began. Does nothing once a worker has begun.
     void WithdrawWorker() { SetAnnounced(false); }
@@ -54,8 +54,8 @@ public:
     void SetStopWorkers(bool bStop) { m_bStopWorkers = bStop; }
     /// Waits until no worker paints.
     void WaitForWorkers();
-    /// Waits until the bitmap of a type is ready, or nobody is at work who could make it so. Paintings of
-    /// other types do not matter.
+    /// Waits until the bitmap of a type is ready, or no painter is at work that could make it ready.
+    /// Paintings of other types do not matter.
     void WaitForBitmap(int nType, const std::atomic<bool>& bReady);
 
     /// Stops the workers, waits for them, and lets none begin again: the owner may go.

@@ -28,7 +28,7 @@ public:
 
     explicit CCctCurve(const CCCT2ColorCoord& cct);
 
-    /// Follows the mapping that the path and the ticks are asked for.
+    /// Sets the mapping of the path and the ticks.
     void SetMapping(const CChartMapping& mapping);
     const QPainterPath& Path() const { return m_path; }
     const std::array<STick, c_tickTemperatures.size()>& Ticks() const { return m_ticks; }

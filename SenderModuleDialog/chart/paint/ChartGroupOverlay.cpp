@@ -33,7 +33,7 @@ constexpr qreal c_dWhiteDotRim = 3.0;
 constexpr Qt::GlobalColor c_dotColorsRgb[] = {Qt::red, Qt::green, Qt::blue};
 constexpr Qt::GlobalColor c_dotColorsCmy[] = {Qt::cyan, Qt::magenta, Qt::yellow};
 
-/// Legend.
+/// The legend's font, places and lines.
 constexpr float c_fLegendFontDivisor = 50.0F;
 constexpr int c_nLegendFontWeight = 128;
 constexpr int c_nLegendHeightDivisor = 12; // the first row stands so far down the widget
@@ -47,8 +47,8 @@ constexpr qreal c_dLegendLineWidth = 2.0;
 constexpr qreal c_dLegendDash = 2.0;
 constexpr int c_nRedByteMax = 255;
 
-/// The legend's two walks: one measures, one draws. They call the output colour space by two names of the
-/// same length, and that is meant.
+/// The legend's two walks: one measures, one draws. Intentional: they call the output colour
+/// space by two names, which have the same length.
 enum enLegendWalk
 {
     enMeasureWalk,
@@ -73,7 +73,7 @@ bool IsHeld(const SHeldPoint& held, int nKey)
 }
 
 // While a point of the group is held, the other radii keep what they had: together with the factor of fixed
-// points those shrink from paint to paint until the drag ends, and that is meant.
+// points those shrink from paint to paint until the drag ends. Intentional: operators know it.
 void SetRadii(DotRadii& radii, float fRadius, const SHeldPoint& held, int nKey)
 {
     if (!IsHeld(held, nKey))
@@ -160,8 +160,8 @@ void DrawWhiteDisc(QPainter& painter, CPointEx<float> pt, float fOffset, float f
     DrawDisc(painter, QPointF(double(pt.x - fOffset), double(pt.y - fOffset)), SaturateTo<int>(fSize));
 }
 
-// A disc in the group's colour with a white one in it. Its rim is white whether or not the point may be
-// moved.
+// A disc in the group's colour with a white one in it. Its rim is white whether or not the point may
+// be moved.
 void DrawWhiteDot(QPainter& painter, const SChartFrame& frame, const SChromaGroupInfo& group, float fRadius)
 {
     const QPointF ptPixel = frame.mapping.ToPixel(group.ptWhite);
@@ -217,7 +217,7 @@ int WidestNote(ChromaGroups& mapGroups, const QFont& font, SSourcePlace place)
     return nWidest;
 }
 
-// Solid for a red byte of 0 or 255, else dashed: the red byte alone decides, and that is meant.
+// Solid for a red byte of 0 or 255, else dashed. Intentional: the red byte alone decides.
 QPen SamplePen(const SChromaGroupInfo& group)
 {
     QPen pen(ColorOf(group), c_dLegendLineWidth);

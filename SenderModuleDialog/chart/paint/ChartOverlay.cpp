@@ -55,7 +55,8 @@ constexpr int c_nTipsRowFlags = Qt::AlignCenter | Qt::TextDontClip;
 /// Colour temperature in the tips: close to D65 by this part of each coordinate it is 6500 K without a
 /// search. The part is the single-precision number.
 constexpr double c_dNearD65 = double(0.025F);
-/// The temperature is filled up to this width with this character, in front of the digits. Both are meant.
+/// The temperature is filled up to this width with this character, in front of the digits. Intentional:
+/// hosts rely on the text.
 constexpr int c_nTemperatureWidth = 102;
 constexpr QChar c_charTemperatureFill(0x02);
 

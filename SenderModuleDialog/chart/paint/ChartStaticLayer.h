@@ -15,9 +15,9 @@
 
 #include <functional>
 
-/// Keeps the picture of the chart's lowest layers, which stay the same from paint to paint, and copies it
-/// where that gives the very pixels that painting them would give. Where it would not, or might not, it
-/// declines.
+/// Keeps the picture of the chart's lowest layers, which stay the same from paint to paint, and copies
+/// it where that gives the very pixels that painting them would give. Where it would not, or might not,
+/// it declines.
 class CChartStaticLayer
 {
 public:

@@ -31,16 +31,16 @@ CPointEx<float> StepInward(CPointEx<float> pt, CPointEx<float> ptFrom);
 /// step is computed in single precision, and added in double.
 QPointF StepInward(QPointF pt, QPointF ptFrom);
 
-/// Whether the point is one of the triangle's vertices within the tolerance, or inside it by the even-odd
-/// rule.
+/// Whether the point is one of the triangle's vertices within the tolerance, or inside it by the
+/// even-odd rule.
 bool IsInTriangle(CPointEx<float> pt, const SChromaTriangle& triangle);
 
 /// Whether a place lies in the chart's outline or at one of its vertices, all in widget pixels: within the
 /// tolerance of a vertex in x and in y, else by the even-odd rule.
 bool IsInOutline(CPointEx<float> pt, const CPointEx<float>* pOutline, int nCount);
 
-/// Whether the triangle has neither width nor height worth the name: red shares its x, or its y, with both
-/// others.
+/// Whether the triangle has no width or no height: red shares its x, or its y, with
+/// both others.
 bool IsFlat(const SChromaTriangle& triangle);
 
 /// Where a segment crosses a closed polygon: on the crossed edge that comes last in list order, wherever on

@@ -7,8 +7,8 @@
 
 namespace {
 
-// The box that catches a point, edges included. The edges are whole numbers; a point that is no number has a
-// box that catches nothing.
+// The box that catches a point, edges included. The edges are whole numbers; a NaN point has a box that
+// catches nothing.
 struct SHitBox
 {
     float fLeft;

@@ -84,7 +84,7 @@ CPointEx<float> SnappedToVertex(CPointEx<float> ptWhite, const SChromaTriangle& 
     return itVertex == vertices.end() ? ptWhite : *itVertex;
 }
 
-// Where a white dragged to a point is meant to go. The distance is asked first: the colour temperature takes
+// Where a white goes that is dragged to a point. The distance is tested first: the colour temperature takes
 // a search.
 CPointEx<float> SnappedWhite(CPointEx<float> ptWhite, const SWhiteSnap& snap)
 {
@@ -170,8 +170,8 @@ bool CChartSolver::ReCalRGB(SChromaGroupInfo& group, int nPoint, QPointF& ptNear
     if (!IsChromaPoint(nPoint))
         return false;
 
-    // The white is clamped for itself alone: the group keeps it as it is, and the vertices are solved against
-    // that.
+    // The white is clamped for itself alone: the group keeps it as it is, and the vertices are solved
+    // against that.
     const CPointEx<float> ptMoved = WithoutNegatives(GroupPoint(group, nPoint));
     const bool bInLocus = IsInLocus(ptMoved);
     if (nPoint == enWhitePoint) {

@@ -18,7 +18,7 @@ struct SChromaGroupInfo;
 struct SWhiteSnap
 {
     QPointF ptTarget;           ///< chromaticity that it snaps to
-    const CCCT2ColorCoord& cct; ///< tells whether a chromaticity has a colour temperature
+    const CCCT2ColorCoord& cct; ///< decides whether a chromaticity has a colour temperature
 };
 
 /// Keeps groups legal: every point inside the spectral locus, the white inside the triangle of the colour
@@ -26,8 +26,8 @@ struct SWhiteSnap
 /// taken a tiny step inward.
 ///
 /// `ptNearest` of the operations is the chart's channel for solved points: it is written when a solve
-/// succeeds and otherwise left alone, unless an operation says differently. Nothing is allocated by any
-/// operation.
+/// succeeds and otherwise left alone, unless an operation says differently. Nothing is allocated by
+/// any operation.
 class CChartSolver
 {
 public:
@@ -53,9 +53,8 @@ public:
 
     /// Brings a white that left the triangle back onto it.
     /// @param ptNearest holds the white itself when no place on the triangle was found
-    /// @return false for a triangle without width or height, with `ptNearest` left alone, and when no place
-    /// was
-    ///         found
+    /// @return false for a triangle without width or height, with `ptNearest` left alone, and when there is
+    ///         no place on the triangle
     bool GetWhiteIntersection(const SChromaTriangle& triangle, CPointEx<float> ptWhite, QPointF& ptNearest);
 
     /// Makes one point of a group in RGB mode legal. Negative coordinates of the three colour points become 0

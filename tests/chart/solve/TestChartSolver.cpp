@@ -449,8 +449,8 @@ void TestChartSolver::EachWalkOverTheLocusCountsAsAUse()
     const int nOutline = gamut.GetQPointFData().size();
     SChromaGroupInfo group = Srgb();
     QPointF ptNearest;
-    // One use of the drag itself, and none of the solving: the point stays in the locus and the white in the
-    // triangle.
+    // One use of the drag itself, and none of the solving: the point stays in the locus and the white in
+    // the triangle.
     solver.DragPoint(group, enRedPoint, {0.6F, 0.34F}, nullptr, ptNearest);
     // No use: the point is in the locus.
     solver.ReCalRGB(group, enRedPoint, ptNearest);
