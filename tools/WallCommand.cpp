@@ -2,13 +2,17 @@
 
 #include "instruments/colour/MeasurementCsv.h"
 #include "instruments/colour/StandardGamut.h"
+#include "reports/WallReport.h"
 #include "tools/Arguments.h"
 #include "tools/Chromaticity.h"
 #include "tools/Output.h"
 #include "tools/Report.h"
 #include "tools/WallText.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -50,6 +54,19 @@ const SColourStandard& ParseStandard(const QString& strName)
     return *pStandard;
 }
 
+/// The report's own texts are Chinese; the tool speaks English.
+QByteArray EnglishReport(const Modules& modules, const SWallAnalysis& analysis,
+                         const SColourStandard& standard, const QString& strFile)
+{
+    QTranslator arrTranslators[2];
+    const char* const arrNames[] = {":/translations/SenderModuleDialog_en.qm",
+                                    ":/translations/SenderWorkbench_en.qm"};
+    for (int i = 0; i < 2; ++i)
+        if (arrTranslators[i].load(QString::fromLatin1(arrNames[i])))
+            QCoreApplication::installTranslator(&arrTranslators[i]);
+    return WallReport::Pdf(modules, analysis, standard, QFileInfo(strFile).fileName());
+}
+
 void Run(const CArguments& arguments)
 {
     const SColourStandard& standard = ParseStandard(arguments.Value("standard", QStringLiteral("Rec709")));
@@ -61,6 +78,8 @@ void Run(const CArguments& arguments)
     if (!analysis)
         throw CToolError(QStringLiteral("'%1' cannot be analysed: %2")
                              .arg(strFile, QString::fromLatin1(ColourFaultText(analysis.Fault()))));
+    if (arguments.Has("report"))
+        Output::ToFile(arguments.Value("report"), EnglishReport(modules, *analysis, standard, strFile));
     Output::ToStandardOutput(arguments.Has("json") ? WallText::Json(modules, *analysis)
                                                    : WallText::Text(modules, *analysis));
 }
@@ -83,8 +102,9 @@ SSubcommand WallSubcommand()
             {"standard", 0, "NAME", "the standard that the wall is to show; default Rec709"},
             {"white", 0, "WHITE", "its white: x,y, D65, D50, D55, D75, A, E or DCI; default the standard's"},
             {"json", 0, nullptr, "print JSON with every number, each module's matrix among them"},
+            {"report", 0, "FILE.pdf", "write two pages as well: the chart with all modules, and the tables"},
         },
-        enApplication::enCore,
+        enApplication::enWidgets,
         &Run,
     };
 }

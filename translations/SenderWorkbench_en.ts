@@ -1740,5 +1740,132 @@ Choose another picture.</translation>
         <source>测量数据 (*.csv)</source>
         <translation>Measurements (*.csv)</translation>
     </message>
+    <message>
+        <source>报告...</source>
+        <translation>Report...</translation>
+    </message>
+    <message>
+        <source>两页 PDF：色度图和表格</source>
+        <translation>A PDF of two pages: chart and tables</translation>
+    </message>
+    <message>
+        <source>测量的屏幕</source>
+        <translation>Measured wall</translation>
+    </message>
+    <message>
+        <source>保存报告</source>
+        <translation>Save the report</translation>
+    </message>
+    <message>
+        <source>报告 (*.pdf)</source>
+        <translation>Report (*.pdf)</translation>
+    </message>
+</context>
+<context>
+    <name>CWallReport</name>
+    <message>
+        <source>模组 %1 个，异常 %2 个</source>
+        <translation>%1 modules, %2 odd</translation>
+    </message>
+    <message>
+        <source>细线：各模组；虚线：异常的模组；浅色区域：公共色域</source>
+        <translation>Thin lines: modules; dashed: odd modules; light area: common gamut</translation>
+    </message>
+    <message>
+        <source>红</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>绿</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>蓝</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>白</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>平均值</source>
+        <translation>Mean</translation>
+    </message>
+    <message>
+        <source>白点的相关色温</source>
+        <translation>CCT of the white</translation>
+    </message>
+    <message>
+        <source>校正后各模组相同</source>
+        <translation>After correction all modules are alike</translation>
+    </message>
+    <message>
+        <source>没有公共色域，或白点在其外</source>
+        <translation>There is no common gamut, or the white lies outside it</translation>
+    </message>
+    <message>
+        <source>公共色域</source>
+        <translation>Common gamut</translation>
+    </message>
+    <message>
+        <source>白点</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>受限于 %1</source>
+        <translation>limited by %1</translation>
+    </message>
+    <message>
+        <source>覆盖的标准</source>
+        <translation>Standards covered</translation>
+    </message>
+    <message>
+        <source>平均 xy</source>
+        <translation>Mean, xy</translation>
+    </message>
+    <message>
+        <source>平均 u&apos;v&apos;</source>
+        <translation>Mean, u&apos;v&apos;</translation>
+    </message>
+    <message>
+        <source>公共 xy</source>
+        <translation>Common, xy</translation>
+    </message>
+    <message>
+        <source>公共 u&apos;v&apos;</source>
+        <translation>Common, u&apos;v&apos;</translation>
+    </message>
+    <message>
+        <source>从 %1 到驱动值的矩阵（线性光）</source>
+        <translation>Matrix from %1 to drive values (linear light)</translation>
+    </message>
+    <message>
+        <source>白点在色域之外</source>
+        <translation>the white lies outside the gamut</translation>
+    </message>
+    <message>
+        <source>超出范围的颜色</source>
+        <translation>Colours that clip</translation>
+    </message>
+    <message>
+        <source>异常的模组</source>
+        <translation>Odd modules</translation>
+    </message>
+    <message>
+        <source>模组</source>
+        <translation>Module</translation>
+    </message>
+    <message>
+        <source>u&apos;v&apos; 距离</source>
+        <translation>Distance in u&apos;v&apos;</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>Luminance</translation>
+    </message>
+    <message>
+        <source>还有 %1 个</source>
+        <translation>%1 more</translation>
+    </message>
 </context>
 </TS>

@@ -8,7 +8,7 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 update_all() {
     local folder=$1
     update "$folder/SenderModuleDialog_en.ts" zh_CN en SenderModuleDialog simulator/OrviControl
-    update "$folder/SenderWorkbench_en.ts" zh_CN en workbench simulator/HardwareSupport
+    update "$folder/SenderWorkbench_en.ts" zh_CN en workbench reports simulator/HardwareSupport
     update "$folder/SenderSimulator_zh.ts" en zh_CN simulator/CommonClass simulator/TevraData
 }
 

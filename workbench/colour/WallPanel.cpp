@@ -1,6 +1,7 @@
 #include "workbench/colour/WallPanel.h"
 
 #include "SenderModuleDialog/colour/ColourStandards.h"
+#include "reports/WallReport.h"
 #include "workbench/colour/MeasurementProblem.h"
 #include "workbench/colour/ModuleModel.h"
 
@@ -62,7 +63,9 @@ void CWallPanel::CreateButtons()
     m_pImport = new QPushButton(this);
     m_pPaste = new QPushButton(this);
     m_pExport = new QPushButton(this);
+    m_pReport = new QPushButton(this);
     m_pClear = new QPushButton(this);
+    connect(m_pReport, &QPushButton::clicked, this, &CWallPanel::ChooseReport);
     connect(m_pImport, &QPushButton::clicked, this, &CWallPanel::ChooseImport);
     connect(m_pPaste, &QPushButton::clicked, this, &CWallPanel::Paste);
     connect(m_pExport, &QPushButton::clicked, this, &CWallPanel::ChooseExport);
@@ -74,7 +77,7 @@ QWidget* CWallPanel::CreateBar()
     auto* pBar = new QWidget(this);
     auto* pLayout = new QHBoxLayout(pBar);
     pLayout->setContentsMargins(0, 0, 0, 0);
-    for (QPushButton* pButton : {m_pImport, m_pPaste, m_pExport, m_pClear})
+    for (QPushButton* pButton : {m_pImport, m_pPaste, m_pExport, m_pReport, m_pClear})
         pLayout->addWidget(pButton);
     return pBar;
 }
@@ -127,6 +130,8 @@ void CWallPanel::Retranslate()
     m_pPaste->setText(tr("粘贴"));
     m_pPaste->setToolTip(tr("从电子表格复制的测量数据，含表头"));
     m_pExport->setText(tr("导出..."));
+    m_pReport->setText(tr("报告..."));
+    m_pReport->setToolTip(tr("两页 PDF：色度图和表格"));
     m_pClear->setText(tr("清除"));
     m_pStandardCaption->setText(tr("标准"));
     m_pShown->setText(tr("在图上显示"));
@@ -138,6 +143,7 @@ void CWallPanel::Retranslate()
 void CWallPanel::Refresh()
 {
     m_pExport->setEnabled(!m_wall.IsEmpty());
+    m_pReport->setEnabled(bool(m_wall.Analysis()));
     m_pClear->setEnabled(!m_wall.IsEmpty());
     if (m_wall.Analysis())
         m_pSummary->setText(Describe(*m_wall.Analysis()));
@@ -221,8 +227,20 @@ bool CWallPanel::Paste()
 
 bool CWallPanel::ExportFile(const QString& strFile)
 {
+    return Save(strFile, m_wall.Text().toUtf8());
+}
+
+bool CWallPanel::SaveReport(const QString& strFile)
+{
+    if (!m_wall.Analysis())
+        return false;
+    return Save(strFile, WallReport::Pdf(m_wall.GetModules(), *m_wall.Analysis(),
+                                         c_arrColourStandards[m_wall.Standard()], tr("测量的屏幕")));
+}
+
+bool CWallPanel::Save(const QString& strFile, const QByteArray& content)
+{
     QSaveFile file(strFile);
-    const QByteArray content = m_wall.Text().toUtf8();
     const bool bSaved =
         file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
     const QString strName = QDir::toNativeSeparators(strFile);
@@ -242,6 +260,14 @@ void CWallPanel::ChooseImport()
         QFileDialog::getOpenFileName(this, tr("导入测量数据"), QString(), tr("测量数据 (*.csv *.tsv *.txt)"));
     if (!strFile.isEmpty())
         ImportFile(strFile);
+}
+
+void CWallPanel::ChooseReport()
+{
+    const QString strFile =
+        QFileDialog::getSaveFileName(this, tr("保存报告"), QStringLiteral("wall.pdf"), tr("报告 (*.pdf)"));
+    if (!strFile.isEmpty())
+        SaveReport(strFile);
 }
 
 void CWallPanel::ChooseExport()

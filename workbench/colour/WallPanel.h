@@ -29,6 +29,8 @@ public:
     bool ImportFile(const QString& strFile);
     bool Paste();
     bool ExportFile(const QString& strFile);
+    /// Writes the PDF of two pages.
+    bool SaveReport(const QString& strFile);
     void Clear();
     /// @}
 
@@ -53,12 +55,15 @@ private:
     QString DescribeFit(const SWallAnalysis& analysis) const;
     void ChooseImport();
     void ChooseExport();
+    void ChooseReport();
+    bool Save(const QString& strFile, const QByteArray& content);
 
     CMeasuredWall& m_wall;
     CModuleModel* m_pModel = nullptr;
     QPushButton* m_pImport = nullptr;
     QPushButton* m_pPaste = nullptr;
     QPushButton* m_pExport = nullptr;
+    QPushButton* m_pReport = nullptr;
     QPushButton* m_pClear = nullptr;
     QLabel* m_pStandardCaption = nullptr;
     QComboBox* m_pStandard = nullptr;

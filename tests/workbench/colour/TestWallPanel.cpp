@@ -55,6 +55,7 @@ private Q_SLOTS:
     void RowsSortByDistance();
     void AWrongTextLeavesTheModulesAlone();
     void FilesAreImportedAndExported();
+    void AReportIsSaved();
     void AFileThatIsNotThereIsTold();
     void TheProjectKeepsTheMeasurements();
     void UnreadableMeasurementsOfAProjectAreTold();
@@ -121,6 +122,19 @@ void TestWallPanel::FilesAreImportedAndExported()
     QVERIFY(shown.Wall().ImportFile(strFile));
     QCOMPARE(shown.Wall().Model().rowCount(), 7);
     QVERIFY(!shown.Wall().ExportFile(folder.filePath(QStringLiteral("missing/wall.csv"))));
+}
+
+void TestWallPanel::AReportIsSaved()
+{
+    const QTemporaryDir folder;
+    const QString strFile = folder.filePath(QStringLiteral("wall.pdf"));
+    SWallPage shown;
+    QVERIFY(!shown.Wall().SaveReport(strFile));
+    shown.Paste(Wall(20));
+    QVERIFY(shown.Wall().SaveReport(strFile));
+    QFile file(strFile);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("/Count 2"));
 }
 
 void TestWallPanel::AFileThatIsNotThereIsTold()
