@@ -598,10 +598,6 @@
         <translation>Save EDID block</translation>
     </message>
     <message>
-        <source>EDID 块 (*.bin);;所有文件 (*)</source>
-        <translation>EDID blocks (*.bin);;All files (*)</translation>
-    </message>
-    <message>
         <source>已保存 %1</source>
         <translation>Saved %1</translation>
     </message>
@@ -616,6 +612,468 @@
     <message>
         <source>写入失败，%1 的 EDID 没有改变。原因见主机调用记录。</source>
         <translation>The write failed and the EDID of %1 did not change. The journal of host calls says why.</translation>
+    </message>
+    <message>
+        <source>EDID 块 (*.bin);;十六进制文本 (*.hex *.txt);;C 数组 (*.c *.h);;JSON (*.json);;所有文件 (*)</source>
+        <translation>EDID block (*.bin);;Hexadecimal text (*.hex *.txt);;C array (*.c *.h);;JSON (*.json);;All files (*)</translation>
+    </message>
+</context>
+<context>
+    <name>CFindingList</name>
+    <message>
+        <source>错误</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>级别</source>
+        <translation>Severity</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>Byte</translation>
+    </message>
+    <message>
+        <source>问题</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>处理方法</source>
+        <translation>What to do</translation>
+    </message>
+    <message>
+        <source>EDID 检查结果</source>
+        <translation>Findings about the EDID</translation>
+    </message>
+</context>
+<context>
+    <name>CFindingText</name>
+    <message>
+        <source>块不以 00 FF FF FF FF FF FF 00 开头</source>
+        <translation>The block does not begin with 00 FF FF FF FF FF FF 00</translation>
+    </message>
+    <message>
+        <source>写入文件头</source>
+        <translation>Write the header; &apos;fix&apos; does it</translation>
+    </message>
+    <message>
+        <source>厂商编号不代表三个字母</source>
+        <translation>The maker&apos;s number does not stand for three letters</translation>
+    </message>
+    <message>
+        <source>给出由 A 到 Z 的三个字母组成的厂商</source>
+        <translation>Give a maker of three letters A to Z</translation>
+    </message>
+    <message>
+        <source>没有第 %1 周</source>
+        <translation>There is no week %1</translation>
+    </message>
+    <message>
+        <source>给出 1 到 53 的周，或用 0 表示没有</source>
+        <translation>Give a week from 1 to 53, or 0 for none</translation>
+    </message>
+    <message>
+        <source>第 54 周需要 EDID 1.4</source>
+        <translation>Week 54 needs EDID 1.4</translation>
+    </message>
+    <message>
+        <source>型号年份的标记需要 EDID 1.4</source>
+        <translation>The mark of a model year needs EDID 1.4</translation>
+    </message>
+    <message>
+        <source>给出周，或用 0 表示没有</source>
+        <translation>Give a week, or 0 for none</translation>
+    </message>
+    <message>
+        <source>年份 %1 在未来</source>
+        <translation>The year %1 lies in the future</translation>
+    </message>
+    <message>
+        <source>给出显示器的制造年份</source>
+        <translation>Give the year in which the display was made</translation>
+    </message>
+    <message>
+        <source>版本是 %1，而不是 1</source>
+        <translation>The version is %1 and not 1</translation>
+    </message>
+    <message>
+        <source>写入版本 1</source>
+        <translation>Write version 1</translation>
+    </message>
+    <message>
+        <source>颜色深度是保留值</source>
+        <translation>The colour depth has a reserved value</translation>
+    </message>
+    <message>
+        <source>给出 6 到 16 位的深度，或用 0 表示未定义</source>
+        <translation>Give a depth of 6 to 16 bits, or 0 for undefined</translation>
+    </message>
+    <message>
+        <source>接口是保留值 %1</source>
+        <translation>The interface has the reserved value %1</translation>
+    </message>
+    <message>
+        <source>清除视频输入的保留位</source>
+        <translation>Clear the reserved bits of the video input</translation>
+    </message>
+    <message>
+        <source>EDID 1.3 要求第一个详细时序是首选时序</source>
+        <translation>EDID 1.3 requires that the first detailed timing is the preferred one</translation>
+    </message>
+    <message>
+        <source>设置特性的第 1 位</source>
+        <translation>Set bit 1 of the features</translation>
+    </message>
+    <message>
+        <source>sRGB 是默认色彩空间，但色度坐标不同</source>
+        <translation>SRGB is the default colour space, but the chromaticities are others</translation>
+    </message>
+    <message>
+        <source>清除特性的第 2 位，或给出 sRGB 的基色</source>
+        <translation>Clear bit 2 of the features, or give the primaries of sRGB</translation>
+    </message>
+    <message>
+        <source>未使用的标准时序写成了 %1，而不是 01 01</source>
+        <translation>An unused standard timing is written as %1 and not as 01 01</translation>
+    </message>
+    <message>
+        <source>写入 01 01</source>
+        <translation>Write 01 01</translation>
+    </message>
+    <message>
+        <source>第一个描述符不是详细时序</source>
+        <translation>The first descriptor is no detailed timing</translation>
+    </message>
+    <message>
+        <source>把首选时序放在第一个描述符</source>
+        <translation>Put the preferred timing into the first descriptor</translation>
+    </message>
+    <message>
+        <source>EDID 1.0 没有显示描述符</source>
+        <translation>EDID 1.0 has no display descriptors</translation>
+    </message>
+    <message>
+        <source>写入修订 3 或 4</source>
+        <translation>Write revision 3 or 4</translation>
+    </message>
+    <message>
+        <source>显示描述符的字节 %1 是 %2，而不是 0</source>
+        <translation>Byte %1 of a display descriptor is %2 and not 0</translation>
+    </message>
+    <message>
+        <source>写入 0</source>
+        <translation>Write 0</translation>
+    </message>
+    <message>
+        <source>描述符的标记 %1 是保留的</source>
+        <translation>The descriptor&apos;s tag %1 is reserved</translation>
+    </message>
+    <message>
+        <source>使用标准中的标记，未使用的描述符用 10</source>
+        <translation>Use a tag of the standard, or 10 for an unused descriptor</translation>
+    </message>
+    <message>
+        <source>详细时序排在显示描述符之后</source>
+        <translation>A detailed timing stands behind a display descriptor</translation>
+    </message>
+    <message>
+        <source>把详细时序放在前面</source>
+        <translation>Put the detailed timings first</translation>
+    </message>
+    <message>
+        <source>像素时钟低于 10 MHz</source>
+        <translation>The pixel clock is below 10 MHz</translation>
+    </message>
+    <message>
+        <source>给出时序的时钟</source>
+        <translation>Give the clock of the timing</translation>
+    </message>
+    <message>
+        <source>时序的某一部分为 0</source>
+        <translation>A part of the timing is 0</translation>
+    </message>
+    <message>
+        <source>给出两个方向的有效尺寸、消隐、前沿和同步</source>
+        <translation>Give active size, blanking, front porch and sync of both directions</translation>
+    </message>
+    <message>
+        <source>水平后沿没有剩余</source>
+        <translation>Nothing is left for the horizontal back porch</translation>
+    </message>
+    <message>
+        <source>使水平消隐长于前沿、同步和边框之和</source>
+        <translation>Make the horizontal blanking longer than front porch, sync and borders</translation>
+    </message>
+    <message>
+        <source>垂直后沿没有剩余</source>
+        <translation>Nothing is left for the vertical back porch</translation>
+    </message>
+    <message>
+        <source>使垂直消隐长于前沿、同步和边框之和</source>
+        <translation>Make the vertical blanking longer than front porch, sync and borders</translation>
+    </message>
+    <message>
+        <source>时序没有给出图像尺寸，但显示器有尺寸</source>
+        <translation>The timing gives no image size, but the display has one</translation>
+    </message>
+    <message>
+        <source>以毫米给出图像尺寸</source>
+        <translation>Give the image size in millimetres</translation>
+    </message>
+    <message>
+        <source>时序的图像尺寸与显示器的尺寸不同</source>
+        <translation>The image size of the timing is not that of the display</translation>
+    </message>
+    <message>
+        <source>在两处给出相同的尺寸</source>
+        <translation>Give the same size in both places</translation>
+    </message>
+    <message>
+        <source>时序给出了图像尺寸，但显示器没有尺寸</source>
+        <translation>A timing gives an image size, but the display has none</translation>
+    </message>
+    <message>
+        <source>以厘米给出显示器的尺寸</source>
+        <translation>Give the size of the display in centimetres</translation>
+    </message>
+    <message>
+        <source>时序有边框</source>
+        <translation>The timing has borders</translation>
+    </message>
+    <message>
+        <source>两个边框都写 0</source>
+        <translation>Write 0 for both borders</translation>
+    </message>
+    <message>
+        <source>文本为空</source>
+        <translation>The text is empty</translation>
+    </message>
+    <message>
+        <source>写入文本，或改为未使用的描述符</source>
+        <translation>Write a text, or make the descriptor an unused one</translation>
+    </message>
+    <message>
+        <source>文本含有字节 %1，它不是可打印字符</source>
+        <translation>The text holds the byte %1, which is no printable character</translation>
+    </message>
+    <message>
+        <source>使用可打印的 ASCII 字符</source>
+        <translation>Use printable ASCII characters</translation>
+    </message>
+    <message>
+        <source>文本以空格结尾</source>
+        <translation>The text ends in blanks</translation>
+    </message>
+    <message>
+        <source>用 0A 结束文本，其后填空格</source>
+        <translation>End the text with 0A; blanks follow behind it</translation>
+    </message>
+    <message>
+        <source>文本结束之后不全是空格</source>
+        <translation>What follows the end of the text is not all blanks</translation>
+    </message>
+    <message>
+        <source>在 0A 之后用 20 填满描述符</source>
+        <translation>Fill the descriptor with 20 behind the 0A</translation>
+    </message>
+    <message>
+        <source>块中没有显示器名称</source>
+        <translation>The block has no name of the display</translation>
+    </message>
+    <message>
+        <source>添加一个名称描述符</source>
+        <translation>Add a descriptor with the name</translation>
+    </message>
+    <message>
+        <source>未使用的描述符不全为零</source>
+        <translation>An unused descriptor is not all zeros</translation>
+    </message>
+    <message>
+        <source>写入零</source>
+        <translation>Write zeros</translation>
+    </message>
+    <message>
+        <source>既定时序 III 需要 EDID 1.4</source>
+        <translation>Established timings III need EDID 1.4</translation>
+    </message>
+    <message>
+        <source>写入修订 4，或删除该描述符</source>
+        <translation>Write revision 4, or remove the descriptor</translation>
+    </message>
+    <message>
+        <source>CVT 代码需要 EDID 1.4</source>
+        <translation>CVT codes need EDID 1.4</translation>
+    </message>
+    <message>
+        <source>CVT 代码的版本是 %1，而不是 1</source>
+        <translation>The version of the CVT codes is %1 and not 1</translation>
+    </message>
+    <message>
+        <source>写入 1</source>
+        <translation>Write 1</translation>
+    </message>
+    <message>
+        <source>CVT 代码含有保留值</source>
+        <translation>A CVT code has a reserved value</translation>
+    </message>
+    <message>
+        <source>清除保留位，并给出行数</source>
+        <translation>Clear the reserved bits, and give a number of lines</translation>
+    </message>
+    <message>
+        <source>CVT 代码不支持任何帧率</source>
+        <translation>A CVT code supports no rate</translation>
+    </message>
+    <message>
+        <source>设置五个帧率之一</source>
+        <translation>Set one of the five rates</translation>
+    </message>
+    <message>
+        <source>CVT 代码的首选帧率不受支持</source>
+        <translation>The preferred rate of a CVT code is not supported</translation>
+    </message>
+    <message>
+        <source>选择受支持的帧率</source>
+        <translation>Prefer a rate that is supported</translation>
+    </message>
+    <message>
+        <source>块中没有范围限制</source>
+        <translation>The block has no range limits</translation>
+    </message>
+    <message>
+        <source>添加一个范围限制描述符</source>
+        <translation>Add a descriptor with the range limits</translation>
+    </message>
+    <message>
+        <source>最低垂直频率高于最高垂直频率</source>
+        <translation>The lowest vertical rate is above the highest</translation>
+    </message>
+    <message>
+        <source>先写较低的频率</source>
+        <translation>Give the lower rate first</translation>
+    </message>
+    <message>
+        <source>最低水平频率高于最高水平频率</source>
+        <translation>The lowest horizontal rate is above the highest</translation>
+    </message>
+    <message>
+        <source>EDID 1.4 的范围限制没有给出最高时钟</source>
+        <translation>The range limits of EDID 1.4 give no highest clock</translation>
+    </message>
+    <message>
+        <source>以 10 MHz 为单位给出最高时钟</source>
+        <translation>Give the highest clock in steps of 10 MHz</translation>
+    </message>
+    <message>
+        <source>公式 %1 是保留的</source>
+        <translation>The formula %1 is reserved</translation>
+    </message>
+    <message>
+        <source>EDID 1.4 中用 1 表示没有公式，更早用 0</source>
+        <translation>Use 1 for no formula in EDID 1.4, 0 before</translation>
+    </message>
+    <message>
+        <source>公式 %1 需要 EDID 1.4</source>
+        <translation>The formula %1 needs EDID 1.4</translation>
+    </message>
+    <message>
+        <source>写入 0，或修订 4</source>
+        <translation>Write 0, or revision 4</translation>
+    </message>
+    <message>
+        <source>公式要求显示器频率连续</source>
+        <translation>A formula needs a display of continuous frequency</translation>
+    </message>
+    <message>
+        <source>写入 1 表示只有范围限制，或设置特性的第 0 位</source>
+        <translation>Write 1 for range limits alone, or set bit 0 of the features</translation>
+    </message>
+    <message>
+        <source>范围限制的末尾不是公式要求的字节</source>
+        <translation>The range limits end in other bytes than the formula asks for</translation>
+    </message>
+    <message>
+        <source>写入 0A 和六个 20，第二曲线的数值之前写 00</source>
+        <translation>Write 0A and six times 20, or 00 before the numbers of a secondary curve</translation>
+    </message>
+    <message>
+        <source>CVT 限制的保留位被设置</source>
+        <translation>Reserved bits of the CVT limits are set</translation>
+    </message>
+    <message>
+        <source>清除字节 14 和 15 的第 2 到 0 位，以及字节 16 的第 3 到 0 位</source>
+        <translation>Clear bits 2 to 0 of bytes 14 and 15, and bits 3 to 0 of byte 16</translation>
+    </message>
+    <message>
+        <source>块中有一个时序超出范围限制</source>
+        <translation>A timing of the block lies outside the range limits</translation>
+    </message>
+    <message>
+        <source>放宽限制</source>
+        <translation>Widen the limits; &apos;auto&apos; finds them</translation>
+    </message>
+    <message>
+        <source>块中有一个模式超出范围限制</source>
+        <translation>A timing of the block lies outside the range limits</translation>
+    </message>
+    <message>
+        <source>放宽限制，或去掉该模式</source>
+        <translation>Widen the limits; &apos;auto&apos; finds them</translation>
+    </message>
+    <message>
+        <source>块声明有 %1 个扩展块，实际有 %2 个</source>
+        <translation>The block announces %1 extension blocks, but there are %2</translation>
+    </message>
+    <message>
+        <source>写入扩展块的数目</source>
+        <translation>Write the number of blocks; &apos;fix&apos; does it</translation>
+    </message>
+    <message>
+        <source>校验和是 %1，应为 %2</source>
+        <translation>The checksum is %1 and should be %2</translation>
+    </message>
+    <message>
+        <source>写入校验和</source>
+        <translation>Write the checksum; &apos;fix&apos; does it</translation>
+    </message>
+    <message>
+        <source>扩展块的标记 %1 未知</source>
+        <translation>The extension&apos;s tag %1 is not known</translation>
+    </message>
+    <message>
+        <source>检查字节是否完整</source>
+        <translation>See whether the bytes are whole</translation>
+    </message>
+    <message>
+        <source>扩展块的详细时序从字节 %1 开始，那里不可能有</source>
+        <translation>The detailed timings of the extension begin at byte %1, where none can be</translation>
+    </message>
+    <message>
+        <source>给出 0，或 4 到 127 的字节</source>
+        <translation>Give 0, or a byte from 4 to 127</translation>
+    </message>
+    <message>
+        <source>数据块超出了详细时序之前的空间</source>
+        <translation>A data block is longer than the room before the detailed timings</translation>
+    </message>
+    <message>
+        <source>更正它的长度</source>
+        <translation>Correct its length</translation>
+    </message>
+    <message>
+        <source>%1 字节的数据段放不进它的块</source>
+        <translation>The section of %1 bytes does not fit its block</translation>
+    </message>
+    <message>
+        <source>一个块的数据段最多有 121 个字节</source>
+        <translation>A section of one block has at most 121 bytes</translation>
+    </message>
+    <message>
+        <source>数据段的校验和是 %1，应为 %2</source>
+        <translation>The checksum of the section is %1 and should be %2</translation>
     </message>
 </context>
 <context>

@@ -107,7 +107,11 @@ const SRule& RuleOf(enRule rule)
 
 QString WrongText(const SFinding& finding)
 {
-    QString strText = QString::fromLatin1(RuleOf(finding.rule).szWrong);
+    return WithNumbers(QString::fromLatin1(RuleOf(finding.rule).szWrong), finding);
+}
+
+QString WithNumbers(QString strText, const SFinding& finding)
+{
     return strText.replace(QLatin1String("%1"), FirstText(finding))
         .replace(QLatin1String("%2"), SecondText(finding));
 }

@@ -99,6 +99,8 @@ struct SFinding
     qint32 nSecond;
 };
 
+/// Puts a finding's numbers into a text that holds `%1` and `%2`.
+QString WithNumbers(QString strText, const SFinding& finding);
 /// What is wrong, with its numbers.
 QString WrongText(const SFinding& finding);
 /// What to do.

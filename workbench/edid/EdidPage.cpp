@@ -1,14 +1,17 @@
 #include "workbench/edid/EdidPage.h"
 
 #include "SenderModuleDialog/edid/EdidSetDlg.h"
+#include "instruments/edid/Writing.h"
 #include "simulator/CommonClass/Simulator.h"
 #include "workbench/ModeText.h"
 #include "workbench/edid/EdidMemoryUpdater.h"
+#include "workbench/edid/FindingList.h"
 #include "workbench/edid/HexView.h"
 
 #include <QCheckBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -17,6 +20,8 @@
 #include <QSplitter>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <numeric>
 
 namespace {
 
@@ -41,6 +46,17 @@ QString ChangeText(bool bFirst, int nChanged)
     return CEdidPage::tr("EDID 存储器更改了 %1 个字节（以颜色标出）。").arg(nChanged);
 }
 
+/// The form that a file's suffix names.
+QByteArray FormFor(const QString& strFile, const QByteArray& edid)
+{
+    const QString strSuffix = QFileInfo(strFile).suffix().toLower();
+    if (strSuffix == QLatin1String("hex") || strSuffix == QLatin1String("txt"))
+        return Edid::HexForm(edid);
+    if (strSuffix == QLatin1String("c") || strSuffix == QLatin1String("h"))
+        return Edid::CForm(edid, QStringLiteral("EDID"));
+    return strSuffix == QLatin1String("json") ? Edid::JsonForm(edid) : edid;
+}
+
 QString ModeLine(const SSimulatedInput& input)
 {
     return input.setting ? ModeText::Of(*input.setting) : CEdidPage::tr("没有设置：对话框以默认值打开");
@@ -57,6 +73,10 @@ CEdidPage::CEdidPage(QWidget* pParent)
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(CreateHead());
     pLayout->addWidget(CreateMemoryView(), 1);
+    m_pFindings = new CFindingList(this);
+    m_pFindings->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    pLayout->addWidget(m_pFindings);
+    connect(m_pFindings, &CFindingList::FindingChosen, this, &CEdidPage::MarkBytes);
     pLayout->addWidget(m_pChange);
     connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectChanged, this,
             &CEdidPage::Refresh);
@@ -125,6 +145,7 @@ void CEdidPage::Retranslate()
     m_pSave->setText(tr("保存块..."));
     m_pFields->setHeaderLabels({tr("字段"), tr("值")});
     m_pBytes->setAccessibleName(tr("EDID 字节"));
+    m_pFindings->Retranslate();
     Refresh();
 }
 
@@ -157,6 +178,7 @@ void CEdidPage::ShowBlock(const QByteArray& block)
 {
     m_pBytes->SetBytes(block);
     ShowFields(block);
+    m_pFindings->ShowFindingsOf(block);
 }
 
 void CEdidPage::ShowFields(const QByteArray& block)
@@ -200,6 +222,13 @@ void CEdidPage::MarkSelectedField()
     m_pBytes->SetMarked(bField ? m_vecFields.at(nField).vecBytes : QVector<int>());
 }
 
+void CEdidPage::MarkBytes(int nOffset, int nSize)
+{
+    QVector<int> vecOffsets(nSize);
+    std::iota(vecOffsets.begin(), vecOffsets.end(), nOffset);
+    m_pBytes->SetMarked(vecOffsets);
+}
+
 void CEdidPage::SelectFieldOfByte(int nOffset)
 {
     for (QTreeWidgetItemIterator it(m_pFields); *it != nullptr; ++it) {
@@ -232,8 +261,10 @@ void CEdidPage::EditEdid()
 
 void CEdidPage::ChooseFileAndSave()
 {
-    const QString strFile = QFileDialog::getSaveFileName(this, tr("保存 EDID 块"), QStringLiteral("edid.bin"),
-                                                         tr("EDID 块 (*.bin);;所有文件 (*)"));
+    const QString strFile =
+        QFileDialog::getSaveFileName(this, tr("保存 EDID 块"), QStringLiteral("edid.bin"),
+                                     tr("EDID 块 (*.bin);;十六进制文本 (*.hex *.txt);;C 数组 (*.c *.h);;"
+                                        "JSON (*.json);;所有文件 (*)"));
     if (!strFile.isEmpty())
         SaveBlock(strFile);
 }
@@ -242,8 +273,9 @@ bool CEdidPage::SaveBlock(const QString& strFile)
 {
     const SSimulatedInput* pInput = Input();
     QSaveFile file(strFile);
+    const QByteArray content = pInput == nullptr ? QByteArray() : FormFor(strFile, pInput->baEdid);
     const bool bSaved = pInput != nullptr && file.open(QIODevice::WriteOnly) &&
-                        file.write(pInput->baEdid) == pInput->baEdid.size() && file.commit();
+                        file.write(content) == content.size() && file.commit();
     const QString strName = QDir::toNativeSeparators(strFile);
     if (bSaved)
         Q_EMIT Reported(tr("已保存 %1").arg(strName));

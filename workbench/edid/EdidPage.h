@@ -5,6 +5,7 @@
 #include "workbench/edid/EdidFields.h"
 
 class CEdidMemoryUpdater;
+class CFindingList;
 class CHexView;
 class QCheckBox;
 class QLabel;
@@ -13,7 +14,7 @@ class QTreeWidget;
 struct SSimulatedInput;
 
 /// The EDID of the selected input: the mode in force, the memory as decoded fields beside its bytes, the
-/// dialog that changes it, and what the last change did.
+/// dialog that changes it, what is wrong with it, and what the last change did.
 class CEdidPage : public CWorkbenchPage
 {
     Q_OBJECT
@@ -29,7 +30,8 @@ public:
     const SSimulatedInput* Input() const;
     /// Opens the EDID dialog for the input that is shown, and reports how the write ended.
     void EditEdid();
-    /// Saves the block that is shown.
+    /// Saves the block that is shown, in the form that the suffix names: `.hex` and `.txt` hexadecimal text,
+    /// `.c` and `.h` an array of C, `.json` JSON, and binary for any other.
     /// @return false when the file could not be written; the status line tells why
     bool SaveBlock(const QString& strFile);
 
@@ -43,6 +45,7 @@ private:
     void ShowChange(const QByteArray& blockBefore, const QByteArray& blockAfter);
     void MarkSelectedField();
     void SelectFieldOfByte(int nOffset);
+    void MarkBytes(int nOffset, int nSize);
 
     SSelection m_selection;
     QVector<SEdidField> m_vecFields;
@@ -55,6 +58,7 @@ private:
     QPushButton* m_pSave = nullptr;
     QTreeWidget* m_pFields = nullptr;
     CHexView* m_pBytes = nullptr;
+    CFindingList* m_pFindings = nullptr;
 };
 
 #endif // WORKBENCH_EDID_EDIDPAGE_H

@@ -1,0 +1,36 @@
+#ifndef WORKBENCH_EDID_FINDINGLIST_H
+#define WORKBENCH_EDID_FINDINGLIST_H
+
+#include "instruments/edid/Rules.h"
+
+#include <QTreeWidget>
+
+/// What is wrong with the bytes that are shown, a row each: severity, place, what is wrong, what to do. The
+/// row that is chosen, by a click or the arrow keys, names its bytes.
+class CFindingList : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CFindingList(QWidget* pParent = nullptr);
+
+    /// Judges the bytes; none, and there are no findings.
+    void ShowFindingsOf(const QByteArray& edid);
+    /// The findings in the order of the rows.
+    const std::vector<Edid::SFinding>& Findings() const { return m_vecFindings; }
+    /// Takes the texts of the current language.
+    void Retranslate();
+
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// The operator chose a finding at these bytes.
+    void FindingChosen(int nOffset, int nSize);
+
+private:
+    void FillRows();
+
+    std::vector<Edid::SFinding> m_vecFindings;
+};
+
+#endif // WORKBENCH_EDID_FINDINGLIST_H
