@@ -185,6 +185,12 @@ std::vector<int> OfferedRates(const SInput& input)
     return vecIndices;
 }
 
+QString DepthName(int nIndex)
+{
+    return IsIndexOf(c_arrDepths, nIndex) ? QString::fromLatin1(c_arrDepths[std::size_t(nIndex)].szName)
+                                          : QString();
+}
+
 int DepthIndex(unsigned char byFlags)
 {
     return IndexOfSetBit(c_arrDepths, byFlags);
@@ -213,6 +219,19 @@ int OfferedDepthCount(const SDepthSupport& support, const SInput& input)
 bool HasOnly8Bit(const SDepthSupport& support)
 {
     return support.bVideoProcessor && !support.b10Bit && !support.b12Bit;
+}
+
+QString FormatName(int nIndex)
+{
+    return IsIndexOf(c_arrFormats, nIndex) ? QString::fromLatin1(c_arrFormats[std::size_t(nIndex)].szName)
+                                           : QString();
+}
+
+QString TimingStandardName(int nIndex)
+{
+    return IsIndexOf(c_arrTimingStandards, nIndex)
+               ? QString::fromLatin1(c_arrTimingStandards[std::size_t(nIndex)])
+               : QString();
 }
 
 int FormatIndex(unsigned char byFlags)

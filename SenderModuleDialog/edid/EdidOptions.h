@@ -1,6 +1,8 @@
 #ifndef SENDERMODULEDIALOG_EDID_EDIDOPTIONS_H
 #define SENDERMODULEDIALOG_EDID_EDIDOPTIONS_H
 
+#include <QString>
+
 #include <array>
 #include <optional>
 #include <vector>
@@ -88,6 +90,8 @@ struct SDepthSupport
     bool b12Bit = false;
 };
 
+/// The name of a depth; empty outside the table.
+QString DepthName(int nIndex);
 /// The index of the first depth whose bit is set, 0 when none is.
 int DepthIndex(unsigned char byFlags);
 /// Puts a depth into the flags in place of the one there. Outside the table it returns false and leaves the
@@ -114,6 +118,8 @@ constexpr std::array<SFormat, 4> c_arrFormats = {{
     {"YCBCR 4:4:0", 0x80},
 }};
 
+/// The name of a format; empty outside the table.
+QString FormatName(int nIndex);
 /// The index of the first format whose bit is set, 0 when none is.
 int FormatIndex(unsigned char byFlags);
 /// Puts a format into the flags in place of the one there. Outside the table it returns false and leaves the
@@ -123,6 +129,9 @@ bool StoreFormat(int nIndex, unsigned char& byFlags);
 
 /// Timing standards (VESA CVT), by the index that the record holds: with reduced blanking, and without.
 constexpr std::array<const char*, 2> c_arrTimingStandards = {"CVT_RB", "CVT"};
+
+/// The name of a timing standard; empty outside the table.
+QString TimingStandardName(int nIndex);
 
 } // namespace EdidOptions
 

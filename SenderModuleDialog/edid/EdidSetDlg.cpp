@@ -6,10 +6,10 @@
 #include "SenderModuleDialog/Saturate.h"
 #include "SenderModuleDialog/edid/EdidEnvironment.h"
 #include "SenderModuleDialog/edid/EdidLimit.h"
+#include "SenderModuleDialog/edid/EdidModel.h"
 #include "SenderModuleDialog/edid/EdidOptions.h"
 #include "SenderModuleDialog/edid/EdidWindow.h"
 #include "host/HardwareSupport/EdidSetting.h"
-#include "host/HardwareSupport/SenderEdidLimitData.h"
 #include "host/HardwareSupport/VideoPortKey.h"
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomLabel.h"
@@ -23,9 +23,6 @@
 #include <QPushButton>
 
 namespace {
-
-/// Where the interface 132, which has no custom size, opens when its size is not listed.
-constexpr int c_nIndexWithoutCustom = 4;
 
 /// With and without rates above 50 Hz. The numbers are not rows of the rate table.
 constexpr int c_nLowRateIndexMax = 2;
@@ -49,24 +46,21 @@ SEdidSetting DefaultSetting()
 
 CEdidSetDlg::CEdidSetDlg(QWidget* pParent, int nInterfaceId, bool bLowRateOnly)
     : CCustomDialog(pParent, false)
-    , m_bLowRateOnly(bLowRateOnly)
-    , m_nInterfaceId(nInterfaceId)
-    , m_pEdidLimit(std::make_unique<CSenderEdidLimitData>())
+    , m_pModel(std::make_unique<SEdidModel>(nInterfaceId, bLowRateOnly))
 {
     const int nSender = HostAccess::CurrentSenderIndex();
-    m_nSenderType = HostAccess::SenderLogic().GetSenderType(nSender);
-    FillNameLists();
+    m_pModel->nSenderType = HostAccess::SenderLogic().GetSenderType(nSender);
     CVideoSourceLogic& logic = HostAccess::VideoSourceLogic();
-    logic.GetEdidLimit(nSender, m_nInterfaceId, m_pEdidLimit.get());
+    logic.GetEdidLimit(nSender, nInterfaceId, &m_pModel->limit);
 
     SVideoPortKey key;
-    key.nInterfaceId = m_nInterfaceId;
+    key.nInterfaceId = nInterfaceId;
     setWindowTitle(logic.GetVideoPortName(nSender, &key, 0) + QStringLiteral(" - ") +
                    CCustomDialog::tr("EDID设置"));
     SEdidSetting setting;
     if (!logic.GetEdidSetting(nSender, &key, &setting))
         setting = DefaultSetting();
-    ReadSetting(setting);
+    m_pModel->Read(setting);
 
     InitControl();
     InitComboBox();
@@ -76,42 +70,14 @@ CEdidSetDlg::CEdidSetDlg(QWidget* pParent, int nInterfaceId, bool bLowRateOnly)
 
 CEdidSetDlg::~CEdidSetDlg() = default;
 
-void CEdidSetDlg::FillNameLists()
-{
-    for (const EdidOptions::SDepth& depth : EdidOptions::c_arrDepths)
-        m_listColorDepth.append(QString::fromLatin1(depth.szName));
-    for (const EdidOptions::SFormat& format : EdidOptions::c_arrFormats)
-        m_listColorFormat.append(QString::fromLatin1(format.szName));
-    for (const char* szName : EdidOptions::c_arrTimingStandards)
-        m_listTimingStandard.append(QString::fromLatin1(szName));
-}
-
-void CEdidSetDlg::ReadSetting(const SEdidSetting& setting)
-{
-    m_sizeCustom = QSize(setting.wWidth, setting.wHeight);
-    m_byRate = setting.byRate;
-    m_byFormatFlags = setting.byFormatFlags;
-    m_byTimingStandard = setting.byTimingStandard;
-    m_bConnectPC = setting.byConnectPC;
-
-    if (!GetIndexByResolution(m_sizeCustom, m_nResolutionIndex) &&
-        EdidOptions::IsInterface132(m_nInterfaceId))
-        m_nResolutionIndex = c_nIndexWithoutCustom;
-    m_nRateIndex = EdidOptions::c_nDefaultRateIndex;
-    GetIndexByFrameRate(m_byRate, setting.byFractional != 0, m_nRateIndex);
-    GetIndexByColorDepth(m_byFormatFlags, m_nColorDepthIndex);
-    GetIndexByColorFormat(m_byFormatFlags, m_nColorFormatIndex);
-}
-
 bool CEdidSetDlg::IsSetSuccessed() const
 {
-    return m_bSetSuccessed;
+    return m_pModel->bSetSuccessed;
 }
 
 bool CEdidSetDlg::GetIndexByResolution(QSize size, int& nIndex) const
 {
-    // Not found is -1, so the place plus one is 0 then: the custom size.
-    nIndex = m_pEdidLimit->listResolution.indexOf(size) + 1;
+    nIndex = m_pModel->ResolutionIndexOf(size);
     return nIndex != 0;
 }
 
@@ -126,7 +92,7 @@ bool CEdidSetDlg::GetIndexByColorDepth(unsigned char byFlags, int& nIndex)
 {
     // Stored in the member, not in the argument, intentionally: GetColorDepthByIndex reads the member too.
     Q_UNUSED(nIndex)
-    m_nColorDepthIndex = EdidOptions::DepthIndex(byFlags);
+    m_pModel->nDepthIndex = EdidOptions::DepthIndex(byFlags);
     return true;
 }
 
@@ -138,10 +104,9 @@ bool CEdidSetDlg::GetIndexByColorFormat(unsigned char byFlags, int& nIndex) cons
 
 bool CEdidSetDlg::GetResolutionByIndex(int nIndex, QSize& size) const
 {
-    if (nIndex < 0 || nIndex > m_pEdidLimit->listResolution.size())
-        return false;
-    size = nIndex == 0 ? m_sizeCustom : m_pEdidLimit->listResolution.at(nIndex - 1);
-    return true;
+    const std::optional<QSize> found = m_pModel->ResolutionAt(nIndex);
+    size = found.value_or(size);
+    return found.has_value();
 }
 
 bool CEdidSetDlg::GetFrameRateByIndex(int nIndex, unsigned char& byRate, bool& bFractional) const
@@ -154,10 +119,10 @@ bool CEdidSetDlg::GetFrameRateByIndex(int nIndex, unsigned char& byRate, bool& b
 
 bool CEdidSetDlg::GetColorDepthByIndex(int nIndex, unsigned char& byFlags) const
 {
-    if (nIndex >= m_listColorDepth.size())
+    if (nIndex >= int(EdidOptions::c_arrDepths.size()))
         return false;
     // The member's depth, not the argument's: intentional.
-    return EdidOptions::StoreDepth(m_nColorDepthIndex, byFlags);
+    return EdidOptions::StoreDepth(m_pModel->nDepthIndex, byFlags);
 }
 
 bool CEdidSetDlg::GetColorFormatByIndex(int nIndex, unsigned char& byFlags) const
@@ -167,33 +132,34 @@ bool CEdidSetDlg::GetColorFormatByIndex(int nIndex, unsigned char& byFlags) cons
 
 bool CEdidSetDlg::IsShowConnectPC() const
 {
-    return EdidOptions::ShowsConnectPC(m_nSenderType) && EdidOptions::IsInterface16To19(m_nInterfaceId);
+    return EdidOptions::ShowsConnectPC(m_pModel->nSenderType) &&
+           EdidOptions::IsInterface16To19(m_pModel->nInterfaceId);
 }
 
 bool CEdidSetDlg::IsSenderConnectPC() const
 {
-    return EdidOptions::IsInterface16To19(m_nInterfaceId) &&
-           EdidOptions::AlwaysWritesConnectByte(m_nSenderType);
+    return EdidOptions::IsInterface16To19(m_pModel->nInterfaceId) &&
+           EdidOptions::AlwaysWritesConnectByte(m_pModel->nSenderType);
 }
 
 int CEdidSetDlg::GetRateIndexMax() const
 {
-    return m_bLowRateOnly ? c_nLowRateIndexMax : c_nRateIndexMax;
+    return m_pModel->bLowRateOnly ? c_nLowRateIndexMax : c_nRateIndexMax;
 }
 
 int CEdidSetDlg::GetMaxAreaByRate() const
 {
-    return EdidLimit::MaxAreaByRate(m_pEdidLimit->nMaxArea, m_nRateIndex);
+    return EdidLimit::MaxAreaByRate(m_pModel->limit.nMaxArea, m_pModel->nRateIndex);
 }
 
 void CEdidSetDlg::OnWidthSpinBoxValueChanged()
 {
-    HoldToLimit(m_pWidthSpinBox, m_pEdidLimit->nMaxWidth);
+    HoldToLimit(m_pWidthSpinBox, m_pModel->limit.nMaxWidth);
 }
 
 void CEdidSetDlg::OnHeightSpinBoxValueChanged()
 {
-    HoldToLimit(m_pHeightSpinBox, m_pEdidLimit->nMaxHeight);
+    HoldToLimit(m_pHeightSpinBox, m_pModel->limit.nMaxHeight);
 }
 
 void CEdidSetDlg::HoldToLimit(CCustomSpinBox* pSpinBox, int nMaximum)
@@ -210,7 +176,7 @@ void CEdidSetDlg::OnResolutionComboBoxSelect(int index)
 {
     if (index < 0)
         return;
-    m_nResolutionIndex = index;
+    m_pModel->nResolutionIndex = index;
     RefreshWindow();
 }
 
@@ -219,32 +185,32 @@ void CEdidSetDlg::OnRateComboBoxSelect(QAction* action)
     const int nIndex = Deref(action, "action != nullptr").data().toInt();
     if (nIndex < 0)
         return;
-    m_nRateIndex = nIndex;
+    m_pModel->nRateIndex = nIndex;
     RefreshWindow();
 }
 
 void CEdidSetDlg::OnColorDepthComboBoxSelect(int index)
 {
-    if (index < 0 || index >= m_listColorDepth.size())
+    if (index < 0 || index >= int(EdidOptions::c_arrDepths.size()))
         return;
-    m_nColorDepthIndex = index;
+    m_pModel->nDepthIndex = index;
     RefreshWindow();
 }
 
 void CEdidSetDlg::OnColorFormatComboBoxSelect(int index)
 {
-    if (index < 0 || index >= m_listColorFormat.size())
+    if (index < 0 || index >= int(EdidOptions::c_arrFormats.size()))
         return;
-    m_nColorFormatIndex = index;
+    m_pModel->nFormatIndex = index;
     RefreshWindow();
 }
 
 void CEdidSetDlg::OnTimingStandardComboBoxSelect(int index)
 {
     // Bounded by the number of colour formats, not of timing standards: intentional.
-    if (index < 0 || index >= m_listColorFormat.size())
+    if (index < 0 || index >= int(EdidOptions::c_arrFormats.size()))
         return;
-    m_byTimingStandard = static_cast<unsigned char>(index);
+    m_pModel->byTimingStandard = static_cast<unsigned char>(index);
     RefreshWindow();
 }
 
@@ -267,7 +233,7 @@ void CEdidSetDlg::RefreshWindow()
 
 QString CEdidSetDlg::ResolutionText(QSize size) const
 {
-    if (m_nResolutionIndex == 0)
+    if (m_pModel->nResolutionIndex == 0)
         return CCustomDialog::tr("自定义：%1×%2").arg(size.width()).arg(size.height());
     QString strText = QStringLiteral("%1×%2").arg(size.width()).arg(size.height());
     if (size != QApplication::desktop()->size())
@@ -278,14 +244,14 @@ QString CEdidSetDlg::ResolutionText(QSize size) const
 void CEdidSetDlg::RefreshResolution()
 {
     QSize size;
-    if (!GetResolutionByIndex(m_nResolutionIndex, size))
+    if (!GetResolutionByIndex(m_pModel->nResolutionIndex, size))
         return;
-    const bool bCustom = m_nResolutionIndex == 0;
+    const bool bCustom = m_pModel->nResolutionIndex == 0;
     m_pResolutionComboBox->setText(ResolutionText(size));
     if (!bCustom)
         ClearError();
-    DialogFrame::CheckEntry(m_listResolutionActions, m_nResolutionIndex);
-    m_byShowCustomSize = bCustom ? 1 : 0;
+    DialogFrame::CheckEntry(m_listResolutionActions, m_pModel->nResolutionIndex);
+    m_pModel->rows.bCustomSize = bCustom;
     for (QWidget* pWidget : {static_cast<QWidget*>(m_pSizeLabel), static_cast<QWidget*>(m_pWidthSpinBox),
                              static_cast<QWidget*>(m_pTimesLabel), static_cast<QWidget*>(m_pHeightSpinBox)})
         pWidget->setVisible(bCustom);
@@ -293,57 +259,44 @@ void CEdidSetDlg::RefreshResolution()
 
 void CEdidSetDlg::RefreshFrameRate()
 {
-    m_byShowFrameRate = 1;
-    if (const EdidOptions::SRate* pRate = EdidOptions::RateAt(m_nRateIndex))
-        m_rowRate.pComboBox->setText(QString::fromLatin1(pRate->szText));
-    DialogFrame::CheckEntry(m_pRateMenu->actions(), m_nRateIndex);
-    m_rowRate.SetVisible(true);
+    m_rowRate.Show(m_pModel->RateRow());
+    m_pModel->rows.bFrameRate = true;
 }
 
 void CEdidSetDlg::RefreshColorDepth()
 {
-    m_rowDepth.pComboBox->setText(m_listColorDepth.value(m_nColorDepthIndex));
-    m_rowDepth.pComboBox->SetItemChecked(m_nColorDepthIndex);
+    m_rowDepth.pComboBox->setText(EdidOptions::DepthName(m_pModel->nDepthIndex));
+    m_rowDepth.pComboBox->SetItemChecked(m_pModel->nDepthIndex);
 }
 
 void CEdidSetDlg::RefreshColorFormat()
 {
-    m_rowFormat.pComboBox->setText(m_listColorFormat.value(m_nColorFormatIndex));
-    DialogFrame::CheckEntry(m_pFormatMenu->actions(), m_nColorFormatIndex);
-    // The format is kept and written as it was read: the operator does not see it.
-    m_rowFormat.SetVisible(false);
+    m_rowFormat.Show(m_pModel->FormatRow());
 }
 
 void CEdidSetDlg::RefreshEdidStandard()
 {
-    m_byShowTimingStandard = EdidOptions::ShowsTimingStandard(m_nSenderType) ? 1 : 0;
-    m_rowStandard.pComboBox->setText(m_listTimingStandard.value(m_byTimingStandard));
-    DialogFrame::CheckEntry(m_pStandardMenu->actions(), m_byTimingStandard);
-    m_rowStandard.SetVisible(m_byShowTimingStandard != 0);
+    const SEdidRow row = m_pModel->StandardRow();
+    m_rowStandard.Show(row);
+    m_pModel->rows.bTimingStandard = row.bVisible;
 }
 
 void CEdidSetDlg::RefreshConnectPC()
 {
-    m_byShowConnectPC = IsShowConnectPC() ? 1 : 0;
-    m_pConnectPCCheckBox->setCheckState(m_bConnectPC == 1 ? Qt::Checked : Qt::Unchecked);
-    m_pConnectPCCheckBox->setVisible(m_byShowConnectPC != 0);
+    m_pModel->rows.bConnectPC = IsShowConnectPC();
+    m_pConnectPCCheckBox->setCheckState(m_pModel->byConnectPC == 1 ? Qt::Checked : Qt::Unchecked);
+    m_pConnectPCCheckBox->setVisible(m_pModel->rows.bConnectPC);
 }
 
-QSize CEdidSetDlg::JudgedSize() const
+QSize CEdidSetDlg::TypedSize() const
 {
-    const QSize sizeTyped(m_pWidthSpinBox->text().toInt(), m_pHeightSpinBox->text().toInt());
-    if (m_nResolutionIndex == 0)
-        return sizeTyped;
-    // An index beyond the list has no entry to judge, so what is typed stays.
-    return m_pEdidLimit->listResolution.value(m_nResolutionIndex - 1, sizeTyped);
+    return {m_pWidthSpinBox->text().toInt(), m_pHeightSpinBox->text().toInt()};
 }
 
 void CEdidSetDlg::RefreshErrorInfo()
 {
-    const QSize size = JudgedSize();
-    const int nLimit = m_pEdidLimit->bLimitByPixelClock
-                           ? EdidLimit::PixelClockMHz(size, m_nRateIndex, m_byTimingStandard)
-                           : GetMaxAreaByRate();
+    const QSize size = m_pModel->JudgedSize(TypedSize());
+    const int nLimit = m_pModel->LimitOf(size);
     QString strVerdict;
     HostAccess::VideoSourceLogic().CheckEdidLimit(size.width(), size.height(), nLimit, &strVerdict);
     ShowVerdict(strVerdict);
@@ -352,7 +305,7 @@ void CEdidSetDlg::RefreshErrorInfo()
 void CEdidSetDlg::ClearError()
 {
     DialogFrame::ShowWrapped(m_pErrorLabel, QString(), c_nErrorLines);
-    m_byShowError = 0;
+    m_pModel->rows.bError = false;
     m_pErrorLabel->hide();
     m_pOkButton->setEnabled(true);
 }
@@ -364,17 +317,15 @@ void CEdidSetDlg::ShowVerdict(const QString& strVerdict)
         return;
     }
     DialogFrame::ShowWrapped(m_pErrorLabel, strVerdict, c_nErrorLines);
-    m_byShowError = 1;
+    m_pModel->rows.bError = true;
     m_pErrorLabel->show();
     m_pOkButton->setEnabled(EdidLimit::IsNotice(strVerdict));
 }
 
 void CEdidSetDlg::RefreshSize()
 {
-    const EdidWindow::SShownRows rows = {m_byShowConnectPC != 0, m_byShowTimingStandard != 0,
-                                         m_byShowError != 0, m_byShowFrameRate != 0, m_byShowCustomSize != 0};
     const SEdidEnvironment& environment = EdidEnvironment();
     const bool bKeepsCustomRow =
         EdidWindow::KeepsCustomRow(environment.funcProductType(), environment.funcProductVersion());
-    DialogFrame::FixSize(this, EdidWindow::Size(rows, bKeepsCustomRow));
+    DialogFrame::FixSize(this, EdidWindow::Size(m_pModel->rows, bKeepsCustomRow));
 }

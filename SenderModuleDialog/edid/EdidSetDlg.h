@@ -7,7 +7,6 @@
 #include <QList>
 #include <QSize>
 #include <QString>
-#include <QStringList>
 
 #include <memory>
 
@@ -20,7 +19,8 @@ class QCheckBox;
 class QGridLayout;
 class QMenu;
 class QPushButton;
-struct CSenderEdidLimitData;
+struct SEdidModel;
+struct SEdidRow;
 struct SEdidSetting;
 
 /// The modal dialog in which the operator sets the EDID that one video interface of the current sender shows
@@ -123,11 +123,8 @@ private:
         CCustomLabel* pLabel = nullptr;
         CCustomComboBox* pComboBox = nullptr;
 
-        void SetVisible(bool bVisible) const;
+        void Show(const SEdidRow& row) const;
     };
-
-    void FillNameLists();
-    void ReadSetting(const SEdidSetting& setting);
 
     QGridLayout* CreateGrid();
     CCustomComboBox* CreateComboBox();
@@ -141,14 +138,13 @@ private:
     void InitDepthMenu();
     void InitFormatMenu();
     void InitStandardMenu();
-    QMenu* CreateNameMenu(const QStringList& listNames);
     QAction* AddResolution(QMenu* pMenu, int nIndex, const QString& strText);
     QString PresetText(QSize size) const;
 
     void HoldToLimit(CCustomSpinBox* pSpinBox, int nMaximum);
     QString ResolutionText(QSize size) const;
     void RefreshSize();
-    QSize JudgedSize() const;
+    QSize TypedSize() const;
     void ClearError();
     void ShowVerdict(const QString& strVerdict);
 
@@ -161,36 +157,7 @@ private:
     CCustomProgressbar* CreateProgressbar();
     void WaitBehind(CCustomProgressbar* pProgressbar, unsigned int nDeviceWait);
 
-    const bool m_bLowRateOnly;
-    const int m_nInterfaceId;
-    int m_nSenderType = 0;
-
-    // The setting that the dialog opened with.
-    QSize m_sizeCustom = QSize(-1, -1);
-    unsigned char m_byRate = 60;
-    unsigned char m_byFormatFlags = 0; ///< bits 1 to 3 colour depth, bits 4 to 7 colour format
-    unsigned char m_byTimingStandard = 0;
-    unsigned char m_bConnectPC = 0;
-
-    // The model: each handler changes one of these and refreshes the window.
-    int m_nResolutionIndex = 0; ///< 0 custom, n entry n - 1 of the resolution list
-    int m_nRateIndex = 0;
-    int m_nColorDepthIndex = 0;
-    int m_nColorFormatIndex = 0;
-
-    QStringList m_listColorDepth;
-    QStringList m_listColorFormat;
-    QStringList m_listTimingStandard;
-
-    bool m_bSetSuccessed = false;
-    std::unique_ptr<CSenderEdidLimitData> m_pEdidLimit;
-
-    // Rows that are shown.
-    unsigned char m_byShowConnectPC = 1;
-    unsigned char m_byShowTimingStandard = 1;
-    unsigned char m_byShowError = 1;
-    unsigned char m_byShowFrameRate = 1;
-    unsigned char m_byShowCustomSize = 1;
+    const std::unique_ptr<SEdidModel> m_pModel;
 
     CCustomComboBox* m_pResolutionComboBox = nullptr;
     CCustomLabel* m_pSizeLabel = nullptr;
@@ -207,9 +174,6 @@ private:
     QPushButton* m_pCancelButton = nullptr;
 
     QList<QAction*> m_listResolutionActions; ///< the custom action too where the menu lacks it
-    QMenu* m_pRateMenu = nullptr;
-    QMenu* m_pFormatMenu = nullptr;
-    QMenu* m_pStandardMenu = nullptr;
 };
 
 #endif // SENDERMODULEDIALOG_EDID_EDIDSETDLG_H

@@ -6,6 +6,7 @@
 #include "SenderModuleDialog/Saturate.h"
 #include "SenderModuleDialog/edid/EdidCommit.h"
 #include "SenderModuleDialog/edid/EdidEnvironment.h"
+#include "SenderModuleDialog/edid/EdidModel.h"
 #include "SenderModuleDialog/edid/EdidSetDlg.h"
 #include "host/OrviControl/CustomProgressbar.h"
 #include "host/OrviControl/CustomSpinBox.h"
@@ -34,7 +35,7 @@ bool CEdidSetDlg::Commit()
     QSize size;
     unsigned char byRate = 0;
     bool bFractional = false;
-    if (!ChosenSize(size) || !GetFrameRateByIndex(m_nRateIndex, byRate, bFractional))
+    if (!ChosenSize(size) || !GetFrameRateByIndex(m_pModel->nRateIndex, byRate, bFractional))
         return false;
     const int nSender = HostAccess::CurrentSenderIndex();
     if (HostAccess::SenderLogic().IsExtendedEdidSupported())
@@ -47,13 +48,13 @@ void CEdidSetDlg::CommitBasic(int nSender, QSize size, unsigned char byRate)
 {
     CVideoSourceLogic& logic = HostAccess::VideoSourceLogic();
     const SEdidSetting setting = EdidCommit::BasicSetting(size, byRate);
-    const bool bWritten = logic.SetEdidSetting(nSender, m_nInterfaceId, &setting) == 0;
+    const bool bWritten = logic.SetEdidSetting(nSender, m_pModel->nInterfaceId, &setting) == 0;
     // The wait runs its whole length even when the write has failed: the failure shows afterwards.
     CCustomProgressbar* pProgressbar = CreateProgressbar();
     WaitBehind(pProgressbar, EdidCommit::c_nDeviceWait);
     if (bWritten) {
         HostAccess::SenderLogic().AfterEdidWritten(nSender);
-        logic.ApplyBasicEdid(nSender, size.width(), size.height(), &m_bSetSuccessed);
+        logic.ApplyBasicEdid(nSender, size.width(), size.height(), &m_pModel->bSetSuccessed);
     }
     pProgressbar->CloseProgress();
     if (!bWritten)
@@ -64,14 +65,14 @@ void CEdidSetDlg::CommitBasic(int nSender, QSize size, unsigned char byRate)
 bool CEdidSetDlg::CommitFull(int nSender, QSize size)
 {
     // A depth that is stored stays stored even when the format then ends the commit.
-    if (!GetColorDepthByIndex(m_nColorDepthIndex, m_byFormatFlags) ||
-        !GetColorFormatByIndex(m_nColorFormatIndex, m_byFormatFlags))
+    if (!GetColorDepthByIndex(m_pModel->nDepthIndex, m_pModel->byFormatFlags) ||
+        !GetColorFormatByIndex(m_pModel->nFormatIndex, m_pModel->byFormatFlags))
         return false;
     EdidCommit::SChoice choice;
     choice.size = size;
-    GetFrameRateByIndex(m_nRateIndex, choice.byRate, choice.bFractional);
-    choice.byFormatFlags = m_byFormatFlags;
-    choice.byTimingStandard = m_byTimingStandard;
+    GetFrameRateByIndex(m_pModel->nRateIndex, choice.byRate, choice.bFractional);
+    choice.byFormatFlags = m_pModel->byFormatFlags;
+    choice.byTimingStandard = m_pModel->byTimingStandard;
     choice.byConnectPC =
         EdidCommit::ConnectByte(m_pConnectPCCheckBox->checkState() == Qt::Checked, IsSenderConnectPC());
     WriteFull(nSender, EdidCommit::FullSetting(choice));
@@ -81,7 +82,7 @@ bool CEdidSetDlg::CommitFull(int nSender, QSize size)
 void CEdidSetDlg::WriteFull(int nSender, const SEdidSetting& setting)
 {
     CVideoSourceLogic& logic = HostAccess::VideoSourceLogic();
-    if (logic.SetEdidSetting(nSender, m_nInterfaceId, &setting) != 0) {
+    if (logic.SetEdidSetting(nSender, m_pModel->nInterfaceId, &setting) != 0) {
         ShowSaveFailed();
         done(DialogFrame::enAccepted);
         return;
@@ -96,8 +97,8 @@ void CEdidSetDlg::WriteFull(int nSender, const SEdidSetting& setting)
 
 bool CEdidSetDlg::ChosenSize(QSize& size) const
 {
-    if (m_nResolutionIndex != 0)
-        return GetResolutionByIndex(m_nResolutionIndex, size);
+    if (m_pModel->nResolutionIndex != 0)
+        return GetResolutionByIndex(m_pModel->nResolutionIndex, size);
     size = QSize(SaturateTo<int>(m_pWidthSpinBox->value()), SaturateTo<int>(m_pHeightSpinBox->value()));
     return true;
 }

@@ -3,9 +3,9 @@
 #include "SenderModuleDialog/Constants.h"
 #include "SenderModuleDialog/DialogFrame.h"
 #include "SenderModuleDialog/HostAccess.h"
+#include "SenderModuleDialog/edid/EdidModel.h"
 #include "SenderModuleDialog/edid/EdidOptions.h"
 #include "SenderModuleDialog/edid/EdidSetDlg.h"
-#include "host/HardwareSupport/SenderEdidLimitData.h"
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomLabel.h"
 #include "host/OrviControl/CustomSpinBox.h"
@@ -61,10 +61,13 @@ constexpr int c_nHeightMax = 16384;
 
 } // namespace
 
-void CEdidSetDlg::SChoiceRow::SetVisible(bool bVisible) const
+void CEdidSetDlg::SChoiceRow::Show(const SEdidRow& row) const
 {
-    pLabel->setVisible(bVisible);
-    pComboBox->setVisible(bVisible);
+    if (row.text)
+        pComboBox->setText(*row.text);
+    DialogFrame::CheckEntry(pComboBox->menu()->actions(), row.nChecked);
+    pLabel->setVisible(row.bVisible);
+    pComboBox->setVisible(row.bVisible);
 }
 
 void CEdidSetDlg::InitControl()
@@ -114,9 +117,9 @@ void CEdidSetDlg::InitSizeRow(QGridLayout* pGrid)
         return pSpinBox;
     };
     m_pSizeLabel = DialogFrame::CreateCaption(this, CCustomDialog::tr("分辨率"), Qt::AlignCenter);
-    m_pWidthSpinBox = CreateSpinBox(c_nWidthMax, m_sizeCustom.width());
+    m_pWidthSpinBox = CreateSpinBox(c_nWidthMax, m_pModel->sizeCustom.width());
     m_pTimesLabel = DialogFrame::CreateCaption(this, QStringLiteral("×"), Qt::AlignCenter);
-    m_pHeightSpinBox = CreateSpinBox(c_nHeightMax, m_sizeCustom.height());
+    m_pHeightSpinBox = CreateSpinBox(c_nHeightMax, m_pModel->sizeCustom.height());
     DialogFrame::NameControl(m_pWidthSpinBox, "width", m_pSizeLabel);
     DialogFrame::NameControl(m_pHeightSpinBox, "height", m_pTimesLabel);
     m_pWidthSpinBox->setAccessibleName(CCustomDialog::tr("宽"));
@@ -177,18 +180,18 @@ void CEdidSetDlg::InitComboBox()
 
 void CEdidSetDlg::InitResolutionMenu()
 {
-    const QList<QSize>& listResolution = m_pEdidLimit->listResolution;
+    const QList<QSize>& listResolution = m_pModel->limit.listResolution;
     QMenu* pMenu = DialogFrame::CreateMenu(this, {});
     // The interface 132 does not offer the custom size, yet the action is there and works.
-    const bool bOffersCustom = !EdidOptions::IsInterface132(m_nInterfaceId);
+    const bool bOffersCustom = !EdidOptions::IsInterface132(m_pModel->nInterfaceId);
     QAction* pCustom = AddResolution(bOffersCustom ? pMenu : nullptr, 0, CCustomDialog::tr("自定义"));
-    if (m_nResolutionIndex > listResolution.size())
+    if (m_pModel->nResolutionIndex > listResolution.size())
         return;
     for (int i = 0; i < listResolution.size(); ++i) {
         QAction* pAction = AddResolution(pMenu, i + 1, PresetText(listResolution.at(i)));
-        pAction->setChecked(listResolution.at(i) == m_sizeCustom);
+        pAction->setChecked(listResolution.at(i) == m_pModel->sizeCustom);
     }
-    pCustom->setChecked(m_nResolutionIndex == 0);
+    pCustom->setChecked(m_pModel->nResolutionIndex == 0);
     m_pResolutionComboBox->SetMenu(pMenu, false, true, true);
 }
 
@@ -216,13 +219,12 @@ QString CEdidSetDlg::PresetText(QSize size) const
 void CEdidSetDlg::InitRateMenu()
 {
     const bool bExtendedEdid = HostAccess::SenderLogic().IsExtendedEdidSupported();
-    m_pRateMenu = DialogFrame::CreateMenu(this, {});
-    for (const int nIndex :
-         EdidOptions::OfferedRates({m_nSenderType, m_nInterfaceId, m_bLowRateOnly, bExtendedEdid}))
-        DialogFrame::AddEntry(m_pRateMenu,
-                              {QString::fromLatin1(EdidOptions::RateAt(nIndex)->szText), nIndex});
-    m_rowRate.pComboBox->SetMenu(m_pRateMenu, false, true, true);
-    connect(m_pRateMenu, &QMenu::triggered, this, &CEdidSetDlg::OnRateComboBoxSelect);
+    QMenu* pMenu = DialogFrame::CreateMenu(this, {});
+    for (const int nIndex : EdidOptions::OfferedRates(
+             {m_pModel->nSenderType, m_pModel->nInterfaceId, m_pModel->bLowRateOnly, bExtendedEdid}))
+        DialogFrame::AddEntry(pMenu, {QString::fromLatin1(EdidOptions::RateAt(nIndex)->szText), nIndex});
+    m_rowRate.pComboBox->SetMenu(pMenu, false, true, true);
+    connect(pMenu, &QMenu::triggered, this, &CEdidSetDlg::OnRateComboBoxSelect);
 }
 
 void CEdidSetDlg::InitDepthMenu()
@@ -240,8 +242,8 @@ void CEdidSetDlg::InitDepthMenu()
         HostAccess::CurrentSender().nColorDepth = 8;
 
     QMenu* pMenu = DialogFrame::CreateMenu(this, {});
-    const int nDepths =
-        EdidOptions::OfferedDepthCount(support, {m_nSenderType, m_nInterfaceId, m_bLowRateOnly, false});
+    const int nDepths = EdidOptions::OfferedDepthCount(
+        support, {m_pModel->nSenderType, m_pModel->nInterfaceId, m_pModel->bLowRateOnly, false});
     for (int i = 0; i < nDepths; ++i)
         DialogFrame::AddEntry(pMenu,
                               {QString::fromLatin1(EdidOptions::c_arrDepths[std::size_t(i)].szMenuText), i});
@@ -250,26 +252,22 @@ void CEdidSetDlg::InitDepthMenu()
 
 void CEdidSetDlg::InitFormatMenu()
 {
-    m_pFormatMenu = CreateNameMenu(m_listColorFormat);
-    m_rowFormat.pComboBox->SetMenu(m_pFormatMenu, false, true, true);
-    connect(m_pFormatMenu, &QMenu::triggered, this,
+    QMenu* pMenu = DialogFrame::CreateMenu(this, {});
+    for (int i = 0; i < int(EdidOptions::c_arrFormats.size()); ++i)
+        DialogFrame::AddEntry(pMenu, {EdidOptions::FormatName(i), i});
+    m_rowFormat.pComboBox->SetMenu(pMenu, false, true, true);
+    connect(pMenu, &QMenu::triggered, this,
             [this](QAction* pAction) { OnColorFormatComboBoxSelect(pAction->data().toInt()); });
 }
 
 void CEdidSetDlg::InitStandardMenu()
 {
-    m_pStandardMenu = CreateNameMenu(m_listTimingStandard);
-    m_rowStandard.pComboBox->SetMenu(m_pStandardMenu, false, true, true);
-    connect(m_pStandardMenu, &QMenu::triggered, this,
-            [this](QAction* pAction) { OnTimingStandardComboBoxSelect(pAction->data().toInt()); });
-}
-
-QMenu* CEdidSetDlg::CreateNameMenu(const QStringList& listNames)
-{
     QMenu* pMenu = DialogFrame::CreateMenu(this, {});
-    for (int i = 0; i < listNames.size(); ++i)
-        DialogFrame::AddEntry(pMenu, {listNames.at(i), i});
-    return pMenu;
+    for (int i = 0; i < int(EdidOptions::c_arrTimingStandards.size()); ++i)
+        DialogFrame::AddEntry(pMenu, {EdidOptions::TimingStandardName(i), i});
+    m_rowStandard.pComboBox->SetMenu(pMenu, false, true, true);
+    connect(pMenu, &QMenu::triggered, this,
+            [this](QAction* pAction) { OnTimingStandardComboBoxSelect(pAction->data().toInt()); });
 }
 
 void CEdidSetDlg::InitControlConnect()
@@ -277,7 +275,7 @@ void CEdidSetDlg::InitControlConnect()
     connect(m_rowDepth.pComboBox, &CCustomComboBox::Activated, this,
             &CEdidSetDlg::OnColorDepthComboBoxSelect);
     connect(m_pConnectPCCheckBox, &QCheckBox::clicked, this,
-            [this] { m_bConnectPC = m_bConnectPC == 1 ? 0 : 1; });
+            [this] { m_pModel->byConnectPC = m_pModel->byConnectPC == 1 ? 0 : 1; });
     connect(m_pWidthSpinBox, &QDoubleSpinBox::textChanged, this, &CEdidSetDlg::OnWidthSpinBoxValueChanged);
     connect(m_pHeightSpinBox, &QDoubleSpinBox::textChanged, this, &CEdidSetDlg::OnHeightSpinBoxValueChanged);
     connect(m_pOkButton, &QPushButton::clicked, this, &CEdidSetDlg::OnOKPushButtonClicked);

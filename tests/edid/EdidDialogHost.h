@@ -2,6 +2,7 @@
 #define TESTS_EDID_EDIDDIALOGHOST_H
 
 #include "SenderModuleDialog/edid/EdidEnvironment.h"
+#include "SenderModuleDialog/edid/EdidModel.h"
 #include "SenderModuleDialog/edid/EdidSetDlg.h"
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomLabel.h"
@@ -69,13 +70,13 @@ public:
     QPushButton& Cancel() const { return Control<QPushButton>(m_dlg, "cancel"); }
     const QList<QAction*>& ResolutionActions() const { return m_dlg.m_listResolutionActions; }
 
-    int& ResolutionIndex() const { return m_dlg.m_nResolutionIndex; }
-    int& RateIndex() const { return m_dlg.m_nRateIndex; }
-    int& DepthIndex() const { return m_dlg.m_nColorDepthIndex; }
-    int& FormatIndex() const { return m_dlg.m_nColorFormatIndex; }
-    unsigned char& FormatFlags() const { return m_dlg.m_byFormatFlags; }
-    unsigned char& TimingStandard() const { return m_dlg.m_byTimingStandard; }
-    unsigned char& ConnectByte() const { return m_dlg.m_bConnectPC; }
+    int& ResolutionIndex() const { return m_dlg.m_pModel->nResolutionIndex; }
+    int& RateIndex() const { return m_dlg.m_pModel->nRateIndex; }
+    int& DepthIndex() const { return m_dlg.m_pModel->nDepthIndex; }
+    int& FormatIndex() const { return m_dlg.m_pModel->nFormatIndex; }
+    unsigned char& FormatFlags() const { return m_dlg.m_pModel->byFormatFlags; }
+    unsigned char& TimingStandard() const { return m_dlg.m_pModel->byTimingStandard; }
+    unsigned char& ConnectByte() const { return m_dlg.m_pModel->byConnectPC; }
 
 private:
     CEdidSetDlg& m_dlg;
