@@ -4,6 +4,7 @@
 #include "instruments/edid/DisplayIdLayout.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace Edid {
@@ -23,11 +24,6 @@ int Get1(const quint8* pTiming, int nRow)
     return int(Get(pTiming, c_layoutTypeI[nRow])) + 1;
 }
 
-void Put1(quint8* pTiming, int nRow, int nValue)
-{
-    Put(pTiming, c_layoutTypeI[nRow], nValue - 1);
-}
-
 int Get0(const quint8* pDescriptor, int nRow)
 {
     return int(Get(pDescriptor, c_layoutDetailed[nRow]));
@@ -45,13 +41,56 @@ struct SPart
     qint64 nValue;
 };
 
-/// Whether every value fits its row, less what the row adds.
-template <std::size_t c_nCount>
-bool Fits(const SLayout& layout, const SPart (&arrParts)[c_nCount], int nLowest)
+/// The numbers of a timing in the nine rows that both forms have, in the order of the rows named.
+using Parts = std::array<SPart, 9>;
+
+Parts PartsOf(const SModeTiming& timing, const std::array<int, 9>& arrRows, int nFields)
 {
-    return std::all_of(std::begin(arrParts), std::end(arrParts), [&](const SPart& part) {
+    const SAxis& horizontal = timing.horizontal;
+    const SAxis& vertical = timing.vertical;
+    const qint64 arrValues[] = {timing.nClock / c_nClockUnit,
+                                horizontal.nActive,
+                                horizontal.Blank(),
+                                horizontal.nFront,
+                                horizontal.nSync,
+                                vertical.nActive / nFields,
+                                vertical.Blank(),
+                                vertical.nFront,
+                                vertical.nSync};
+    Parts parts = {};
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        parts[i] = {arrRows[i], arrValues[i]};
+    return parts;
+}
+
+Parts DetailedParts(const SModeTiming& timing)
+{
+    return PartsOf(timing,
+                   {enClock, enHActive, enHBlank, enHFront, enHSync, enVActive, enVBlank, enVFront, enVSync},
+                   FieldsOf(timing));
+}
+
+Parts TypeIParts(const SModeTiming& timing)
+{
+    return PartsOf(timing,
+                   {enTypeIClock, enTypeIHActive, enTypeIHBlank, enTypeIHFront, enTypeIHSync, enTypeIVActive,
+                    enTypeIVBlank, enTypeIVFront, enTypeIVSync},
+                   1);
+}
+
+/// Whether every value fits its row, which holds what it is above the lowest.
+bool Fits(const SLayout& layout, const Parts& parts, int nLowest)
+{
+    return std::all_of(parts.begin(), parts.end(), [&](const SPart& part) {
         return part.nValue >= nLowest && part.nValue - nLowest <= layout[part.nRow].MaxRaw();
     });
+}
+
+template <class TParts>
+void PutAll(quint8* pRecord, const SLayout& layout, const TParts& parts, int nLowest)
+{
+    for (const SPart& part : parts)
+        Put(pRecord, layout[part.nRow], part.nValue - nLowest);
 }
 
 struct SRatio
@@ -104,46 +143,22 @@ SModeTiming ReadDetailed(const quint8* pDescriptor)
 
 bool FitsDetailed(const SModeTiming& timing)
 {
-    const SAxis& horizontal = timing.horizontal;
-    const SAxis& vertical = timing.vertical;
-    const SPart arrParts[] = {
-        {enClock, timing.nClock / c_nClockUnit},
-        {enHActive, horizontal.nActive},
-        {enHBlank, horizontal.Blank()},
-        {enHFront, horizontal.nFront},
-        {enHSync, horizontal.nSync},
-        {enVActive, vertical.nActive / FieldsOf(timing)},
-        {enVBlank, vertical.Blank()},
-        {enVFront, vertical.nFront},
-        {enVSync, vertical.nSync},
-    };
-    return timing.nClock >= c_nClockUnit && Fits(c_layoutDetailed, arrParts, 0);
+    return timing.nClock >= c_nClockUnit && Fits(c_layoutDetailed, DetailedParts(timing), 0);
 }
 
 void WriteDetailed(quint8* pDescriptor, const SModeTiming& timing, int nWidthMm, int nHeightMm)
 {
     std::fill_n(pDescriptor, c_nDescriptorSize, quint8(0));
-    const SAxis& horizontal = timing.horizontal;
-    const SAxis& vertical = timing.vertical;
-    const SPart arrParts[] = {
-        {enClock, timing.nClock / c_nClockUnit},
-        {enHActive, horizontal.nActive},
-        {enHBlank, horizontal.Blank()},
-        {enHFront, horizontal.nFront},
-        {enHSync, horizontal.nSync},
-        {enHPolarity, horizontal.bPositive},
-        {enVActive, vertical.nActive / FieldsOf(timing)},
-        {enVBlank, vertical.Blank()},
-        {enVFront, vertical.nFront},
-        {enVSync, vertical.nSync},
-        {enVPolarity, vertical.bPositive},
+    PutAll(pDescriptor, c_layoutDetailed, DetailedParts(timing), 0);
+    const SPart arrOthers[] = {
+        {enHPolarity, timing.horizontal.bPositive},
+        {enVPolarity, timing.vertical.bPositive},
         {enWidthMm, nWidthMm},
         {enHeightMm, nHeightMm},
         {enInterlacedRow, timing.bInterlaced},
         {enSyncType, c_nDigitalSeparate},
     };
-    for (const SPart& part : arrParts)
-        Put(pDescriptor, c_layoutDetailed[part.nRow], part.nValue);
+    PutAll(pDescriptor, c_layoutDetailed, arrOthers, 0);
 }
 
 SModeTiming ReadTypeI(const quint8* pTiming)
@@ -165,45 +180,21 @@ SModeTiming ReadTypeI(const quint8* pTiming)
 
 bool FitsTypeI(const SModeTiming& timing)
 {
-    const SAxis& horizontal = timing.horizontal;
-    const SAxis& vertical = timing.vertical;
-    const SPart arrParts[] = {
-        {enTypeIClock, timing.nClock / c_nClockUnit},
-        {enTypeIHActive, horizontal.nActive},
-        {enTypeIHBlank, horizontal.Blank()},
-        {enTypeIHFront, horizontal.nFront},
-        {enTypeIHSync, horizontal.nSync},
-        {enTypeIVActive, vertical.nActive},
-        {enTypeIVBlank, vertical.Blank()},
-        {enTypeIVFront, vertical.nFront},
-        {enTypeIVSync, vertical.nSync},
-    };
-    return Fits(c_layoutTypeI, arrParts, 1);
+    return Fits(c_layoutTypeI, TypeIParts(timing), 1);
 }
 
 void WriteTypeI(quint8* pTiming, const SModeTiming& timing)
 {
     std::fill_n(pTiming, c_nTypeISize, quint8(0));
-    const SAxis& horizontal = timing.horizontal;
-    const SAxis& vertical = timing.vertical;
-    Put1(pTiming, enTypeIClock, int(timing.nClock / c_nClockUnit));
-    Put1(pTiming, enTypeIHActive, horizontal.nActive);
-    Put1(pTiming, enTypeIHBlank, horizontal.Blank());
-    Put1(pTiming, enTypeIHFront, horizontal.nFront);
-    Put1(pTiming, enTypeIHSync, horizontal.nSync);
-    Put1(pTiming, enTypeIVActive, vertical.nActive);
-    Put1(pTiming, enTypeIVBlank, vertical.Blank());
-    Put1(pTiming, enTypeIVFront, vertical.nFront);
-    Put1(pTiming, enTypeIVSync, vertical.nSync);
+    PutAll(pTiming, c_layoutTypeI, TypeIParts(timing), 1);
     const SPart arrFlags[] = {
         {enTypeIPreferred, 1},
         {enTypeIInterlaced, timing.bInterlaced},
         {enTypeIAspect, AspectCode(timing)},
-        {enTypeIHPositive, horizontal.bPositive},
-        {enTypeIVPositive, vertical.bPositive},
+        {enTypeIHPositive, timing.horizontal.bPositive},
+        {enTypeIVPositive, timing.vertical.bPositive},
     };
-    for (const SPart& flag : arrFlags)
-        Put(pTiming, c_layoutTypeI[flag.nRow], flag.nValue);
+    PutAll(pTiming, c_layoutTypeI, arrFlags, 0);
 }
 
 } // namespace Edid
