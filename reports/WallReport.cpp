@@ -224,7 +224,8 @@ QByteArray WallReport::Pdf(const Modules& modules, const SWallAnalysis& analysis
     CPage first(painter, nWidth);
     first.Title(strTitle);
     painter.save();
-    painter.translate((nWidth - c_nChartSide) / 2, first.Y());
+    const int nIndent = (nWidth - c_nChartSide) / 2;
+    painter.translate(nIndent, first.Y());
     PaintChart(painter, modules, analysis, standard);
     painter.restore();
     first.Skip(c_nChartSide);

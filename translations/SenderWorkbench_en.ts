@@ -226,6 +226,18 @@
         <source>测量</source>
         <translation>Measured</translation>
     </message>
+    <message>
+        <source>u&apos;v&apos; 图</source>
+        <translation>u&apos;v&apos; diagram</translation>
+    </message>
+    <message>
+        <source>显示 CIE 1976 u&apos;v&apos; 图；在 xy 图上拖动点</source>
+        <translation>Shows the CIE 1976 u&apos;v&apos; diagram; points are dragged on the xy chart</translation>
+    </message>
+    <message>
+        <source>CIE 1976 u&apos;v&apos; 图</source>
+        <translation>CIE 1976 u&apos;v&apos; diagram</translation>
+    </message>
 </context>
 <context>
     <name>CCorrectionPanel</name>
@@ -1470,7 +1482,7 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
     </message>
     <message>
         <source>颜色、亮度</source>
-        <translation>colour, luminance</translation>
+        <translation>both</translation>
     </message>
     <message>
         <source>颜色</source>
@@ -1819,6 +1831,10 @@ Choose another picture.</translation>
     <message>
         <source>%1，色温 %2 K</source>
         <translation>%1, colour temperature %2 K</translation>
+    </message>
+    <message>
+        <source>波长 %1 nm</source>
+        <translation>wavelength %1 nm</translation>
     </message>
 </context>
 <context>

@@ -4,12 +4,13 @@
 #include "workbench/colour/ChartControls.h"
 #include "workbench/colour/ChartExport.h"
 #include "workbench/colour/ChartView.h"
+#include "workbench/colour/DiagramOverlay.h"
 #include "workbench/colour/GroupPanel.h"
 #include "workbench/colour/MeasuredWall.h"
 #include "workbench/colour/PointKeys.h"
 #include "workbench/colour/PointReadout.h"
 #include "workbench/colour/ReadingsPanel.h"
-#include "workbench/colour/WallOverlay.h"
+#include "workbench/colour/UcsView.h"
 #include "workbench/colour/WallPanel.h"
 
 #include <QClipboard>
@@ -20,6 +21,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -55,8 +57,16 @@ QWidget* CColourPage::CreateChart()
     auto* pChart = new QWidget(this);
     auto* pLayout = new QVBoxLayout(pChart);
     pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(m_pView, 1);
-    pLayout->addWidget(m_pReadout);
+    m_pDiagrams = new QStackedWidget(pChart);
+    m_pDiagrams->addWidget(m_pView);
+    m_pUcsShown = new QPushButton(pChart);
+    m_pUcsShown->setCheckable(true);
+    connect(m_pUcsShown, &QPushButton::toggled, this, &CColourPage::ShowUcs);
+    auto* pFoot = new QHBoxLayout;
+    pFoot->addWidget(m_pReadout, 1);
+    pFoot->addWidget(m_pUcsShown);
+    pLayout->addWidget(m_pDiagrams, 1);
+    pLayout->addLayout(pFoot);
     return pChart;
 }
 
@@ -88,10 +98,19 @@ QWidget* CColourPage::CreateWall()
 {
     m_pWall = new CMeasuredWall(this);
     m_pWallPanel = new CWallPanel(*m_pWall, this);
-    m_pWallOverlay = new CWallOverlay(*m_pWall, *m_pView);
-    connect(m_pWallPanel, &CWallPanel::ShownOnChart, m_pWallOverlay, &QWidget::setVisible);
+    m_pDiagramOverlay = new CDiagramOverlay(*m_pWall, *m_pView);
+    connect(m_pWallPanel, &CWallPanel::ShownOnChart, m_pDiagramOverlay, &CDiagramOverlay::SetWallShown);
+    m_pUcs = new CUcsView(m_pView->Editor(), *m_pWall, this);
+    m_pDiagrams->addWidget(m_pUcs);
+    connect(m_pWallPanel, &CWallPanel::ShownOnChart, m_pUcs, &CUcsView::SetWallShown);
     connect(m_pWallPanel, &CWallPanel::Reported, this, &CColourPage::Reported);
     return m_pWallPanel;
+}
+
+void CColourPage::ShowUcs(bool bShown)
+{
+    m_pUcsShown->setChecked(bShown);
+    m_pDiagrams->setCurrentWidget(bShown ? static_cast<QWidget*>(m_pUcs) : m_pView);
 }
 
 void CColourPage::ShowTab(enTab tab)
@@ -133,6 +152,9 @@ void CColourPage::ShowSelection(const SSelection& selection)
 
 void CColourPage::Retranslate()
 {
+    m_pUcsShown->setText(tr("u'v' 图"));
+    m_pUcsShown->setToolTip(tr("显示 CIE 1976 u'v' 图；在 xy 图上拖动点"));
+    m_pUcs->setAccessibleName(tr("CIE 1976 u'v' 图"));
     m_pTabs->setTabText(enGroupsTab, tr("色彩组"));
     m_pTabs->setTabText(enReadingsTab, tr("读数"));
     m_pGroups->Retranslate();

@@ -8,10 +8,12 @@ class CChartView;
 class CGroupPanel;
 class CMeasuredWall;
 class CReadingsPanel;
-class CWallOverlay;
+class CUcsView;
+class CDiagramOverlay;
 class CWallPanel;
 class QLabel;
 class QPushButton;
+class QStackedWidget;
 class QTabWidget;
 
 /// The chromaticity chart with its groups in a table beside it, what it shows and holds, what the selected
@@ -41,6 +43,8 @@ public:
         enWallTab,
     };
     void ShowTab(enTab tab);
+    /// Shows the CIE 1976 (u', v') diagram in the place of the chart, or the chart again.
+    void ShowUcs(bool bShown);
 
     /// @name Pictures of the chart
     /// @return false when the file could not be written; the status line tells why
@@ -67,8 +71,11 @@ private:
     CReadingsPanel* m_pReadings = nullptr;
     CMeasuredWall* m_pWall = nullptr;
     CWallPanel* m_pWallPanel = nullptr;
-    CWallOverlay* m_pWallOverlay = nullptr;
+    CDiagramOverlay* m_pDiagramOverlay = nullptr;
     CChartControls* m_pControls = nullptr;
+    QStackedWidget* m_pDiagrams = nullptr;
+    CUcsView* m_pUcs = nullptr;
+    QPushButton* m_pUcsShown = nullptr;
     QLabel* m_pReadout = nullptr;
     QPushButton* m_pCopy = nullptr;
     QPushButton* m_pPng = nullptr;

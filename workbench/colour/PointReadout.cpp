@@ -4,12 +4,16 @@
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
+#include "instruments/colour/SpectralWavelength.h"
 #include "workbench/colour/ColourGroups.h"
 #include "workbench/colour/GroupModel.h"
 
 #include <QCoreApplication>
 
 namespace {
+
+/// In (x, y): nearer to the spectral locus the cursor is on a wavelength.
+constexpr double c_dNearOutline = 0.012;
 
 /// Texts of the line below the chart.
 class CReadoutText
@@ -22,6 +26,12 @@ public:
         const QString arrRgb[c_nChromaPointCount] = {tr("红"), tr("绿"), tr("蓝"), tr("白")};
         const QString arrCmy[c_nChromaPointCount] = {tr("青"), tr("品红"), tr("黄"), tr("白")};
         return group.bRgbMode ? arrRgb[nPoint] : arrCmy[nPoint];
+    }
+
+    static QString AtWavelength(const QString& strPlace, double dWavelength)
+    {
+        const QString strWavelength = tr("波长 %1 nm").arg(dWavelength, 0, 'f', 0);
+        return strPlace.isEmpty() ? strWavelength : QStringLiteral("%1 · %2").arg(strPlace, strWavelength);
     }
 
     static QString OfWhite(const QString& strPlace, float fTemperature)
@@ -62,5 +72,8 @@ QString PointReadout::Of(const CChromaticityDlgWnd& chart)
     if (pGroup != nullptr && IsChromaPoint(chart.m_nHoverPoint))
         return Describe(chart, *pGroup, chart.m_nHoverPoint);
     const QPointF pt = chart.Mapping().ToChromaticity(chart.m_ptMouse);
-    return chart.m_pGamut->IsPointInCIEPolygon(pt) ? PlaceText(pt) : QString();
+    const QString strPlace = chart.m_pGamut->IsPointInCIEPolygon(pt) ? PlaceText(pt) : QString();
+    const auto nearest = SpectralWavelength::NearestTo({pt.x(), pt.y()});
+    return nearest.dDistance > c_dNearOutline ? strPlace
+                                              : CReadoutText::AtWavelength(strPlace, nearest.dWavelength);
 }

@@ -118,10 +118,8 @@ void CWallPanel::CreateTable()
     m_pTable->verticalHeader()->hide();
     m_pTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + c_nRowMargin);
     QHeaderView* const pHeader = m_pTable->horizontalHeader();
-    pHeader->setSectionResizeMode(QHeaderView::Stretch);
-    for (const int nColumn :
-         {int(CModuleModel::enName), int(CModuleModel::enOdd), int(CModuleModel::enLuminance)})
-        pHeader->setSectionResizeMode(nColumn, QHeaderView::ResizeToContents);
+    pHeader->setSectionResizeMode(QHeaderView::ResizeToContents);
+    pHeader->setSectionResizeMode(CModuleModel::enOdd, QHeaderView::Stretch);
 }
 
 void CWallPanel::Retranslate()

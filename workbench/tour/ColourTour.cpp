@@ -219,6 +219,9 @@ void TourOfWall(CTour& tour, CColourPage& page)
     clipboard.setText(DemoWall());
     tour.Check(page.Wall().Paste(), QStringLiteral("measurements were not pasted"));
     tour.Picture(&page, QStringLiteral("chart-wall"));
+    page.ShowUcs(true);
+    tour.Picture(&page, QStringLiteral("chart-ucs"));
+    page.ShowUcs(false);
     tour.Check(page.Wall().SaveReport(QDir(tour.Folder()).filePath(QStringLiteral("wall.pdf"))),
                QStringLiteral("no report was saved"));
     page.Wall().Clear();

@@ -2,6 +2,7 @@
 #include "workbench/colour/GroupModel.h"
 #include "workbench/colour/GroupPanel.h"
 #include "workbench/colour/PointReadout.h"
+#include "workbench/colour/UcsView.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -54,6 +55,8 @@ private Q_SLOTS:
     void GroupsCanBeAddedAfterAllWereRemoved();
     void WhiteSnapsWhileItIsTold();
     void TheReadoutNamesThePointUnderTheMouse();
+    void TheReadoutNamesTheWavelengthNearTheOutline();
+    void TheUcsDiagramShowsTheSameGroups();
     void APictureIsCopied();
     void FilesHoldTheChart();
     void AFileThatCannotBeWrittenIsTold();
@@ -287,6 +290,37 @@ void TestColourPage::TheReadoutNamesThePointUnderTheMouse()
     QVERIFY(PointReadout::Of(shown.Chart()).startsWith(QStringLiteral("x, y = 0.2")));
     shown.Move({0.7F, 0.7F});
     QVERIFY(PointReadout::Of(shown.Chart()).isEmpty());
+}
+
+void TestColourPage::TheReadoutNamesTheWavelengthNearTheOutline()
+{
+    SShownColourPage shown;
+    shown.Move({0.0743F, 0.8338F});
+    QVERIFY(PointReadout::Of(shown.Chart()).contains(QStringLiteral("520 nm")));
+    // Just outside there is no chromaticity to tell, but still the wavelength.
+    shown.Move({0.0720F, 0.8430F});
+    QVERIFY(PointReadout::Of(shown.Chart()).contains(QStringLiteral(" nm")));
+    shown.Move({0.3F, 0.3F});
+    QVERIFY(!PointReadout::Of(shown.Chart()).contains(QStringLiteral(" nm")));
+}
+
+void TestColourPage::TheUcsDiagramShowsTheSameGroups()
+{
+    SShownColourPage shown;
+    auto* pUcs = shown.page.findChild<CUcsView*>();
+    QVERIFY(!pUcs->isVisible());
+    shown.page.ShowUcs(true);
+    QVERIFY(pUcs->isVisible());
+    QVERIFY(!shown.View().isVisible());
+    // Equal energy lies where 4/19 and 9/19 are on the axes: a fixed place of the diagram.
+    const QPointF ptWhite = pUcs->PixelOf({1.0 / 3.0, 1.0 / 3.0});
+    const QPointF ptRed = pUcs->PixelOf({0.64, 0.33});
+    QVERIFY(ptRed.x() > ptWhite.x() && ptRed.y() < ptWhite.y());
+    const QImage before = pUcs->grab().toImage();
+    shown.page.Groups().ApplyStandard(enStandardSRGB);
+    QVERIFY(pUcs->grab().toImage() != before);
+    shown.page.ShowUcs(false);
+    QVERIFY(shown.View().isVisible());
 }
 
 void TestColourPage::APictureIsCopied()

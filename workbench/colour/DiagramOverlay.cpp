@@ -1,15 +1,16 @@
-#include "workbench/colour/WallOverlay.h"
+#include "workbench/colour/DiagramOverlay.h"
 
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "reports/WallPainter.h"
 #include "workbench/colour/ChartView.h"
 #include "workbench/colour/MeasuredWall.h"
 #include "workbench/colour/RegionOverlay.h"
+#include "workbench/colour/WavelengthMarks.h"
 
 #include <QEvent>
 #include <QPainter>
 
-CWallOverlay::CWallOverlay(const CMeasuredWall& wall, CChartView& view)
+CDiagramOverlay::CDiagramOverlay(const CMeasuredWall& wall, CChartView& view)
     : QWidget(&view)
     , m_wall(wall)
     , m_view(view)
@@ -25,28 +26,37 @@ CWallOverlay::CWallOverlay(const CMeasuredWall& wall, CChartView& view)
     });
 }
 
-bool CWallOverlay::eventFilter(QObject* pWatched, QEvent* pEvent)
+void CDiagramOverlay::SetWallShown(bool bShown)
+{
+    m_bWallShown = bShown;
+    m_mapping.reset();
+    update();
+}
+
+bool CDiagramOverlay::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     if (pEvent->type() == QEvent::Resize || pEvent->type() == QEvent::Move)
         setGeometry(m_view.Chart().geometry());
     return QWidget::eventFilter(pWatched, pEvent);
 }
 
-QPixmap CWallOverlay::Paint(const CChartMapping& mapping) const
+QPixmap CDiagramOverlay::Paint(const CChartMapping& mapping) const
 {
     QPixmap picture((QSizeF(size()) * devicePixelRatioF()).toSize());
     picture.setDevicePixelRatio(devicePixelRatioF());
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
-    WallPainter::Paint(painter, m_wall.GetModules(), *m_wall.Analysis(),
-                       [&mapping](SChromaticity xy) { return mapping.ToPixel(QPointF(xy.dX, xy.dY)); });
+    const WallPainter::Mapping toPixel = [&mapping](SChromaticity xy) {
+        return mapping.ToPixel(QPointF(xy.dX, xy.dY));
+    };
+    WavelengthMarks::Paint(painter, toPixel);
+    if (m_bWallShown && m_wall.Analysis())
+        WallPainter::Paint(painter, m_wall.GetModules(), *m_wall.Analysis(), toPixel);
     return picture;
 }
 
-void CWallOverlay::paintEvent(QPaintEvent* /*pEvent*/)
+void CDiagramOverlay::paintEvent(QPaintEvent* /*pEvent*/)
 {
-    if (!m_wall.Analysis())
-        return;
     const CChartMapping mapping = m_view.Chart().Mapping();
     const bool bKept = m_mapping && *m_mapping == mapping &&
                        m_picture.size() == (QSizeF(size()) * devicePixelRatioF()).toSize();
