@@ -29,7 +29,7 @@ void CheckFixed(QByteArray edid)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSize)
 {
     constexpr int c_nHead = 1 + c_nValueSize;
-    if (nSize < std::size_t(c_nHead + Edid::c_nBlockSize))
+    if (nSize < std::size_t(c_nHead) + std::size_t(Edid::c_nBlockSize))
         return 0;
     const int nBlocks = qMin((int(nSize) - c_nHead) / Edid::c_nBlockSize, 3);
     const QByteArray before(reinterpret_cast<const char*>(pData) + c_nHead, nBlocks * Edid::c_nBlockSize);
