@@ -1478,7 +1478,7 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
     </message>
     <message>
         <source>亮度</source>
-        <translation>Luminance</translation>
+        <translation>luminance</translation>
     </message>
     <message>
         <source>颜色、亮度</source>

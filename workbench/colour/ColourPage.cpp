@@ -27,7 +27,7 @@
 
 namespace {
 
-constexpr int c_nSideWidth = 412; ///< pixels: two groups with their captions
+constexpr int c_nSideWidth = 430; ///< pixels: two groups with their captions, or the table of modules
 
 } // namespace
 

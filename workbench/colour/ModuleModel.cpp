@@ -68,8 +68,8 @@ QVariant CModuleModel::headerData(int nSection, Qt::Orientation orientation, int
         return tr("与均值相差最大的亮度");
     if (nRole != Qt::DisplayRole)
         return {};
-    return QStringList{tr("模组"), tr("异常"), tr("红"), tr("绿"), tr("蓝"), tr("白"), tr("亮度")}.value(
-        nSection);
+    return QStringList{tr("模组"), tr("异常"), tr("红"), tr("绿"), tr("蓝"), tr("白"), QStringLiteral("ΔY")}
+        .value(nSection);
 }
 
 QString CModuleModel::Text(int nRow, int nColumn) const
