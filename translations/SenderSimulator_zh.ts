@@ -211,5 +211,13 @@
         <source>failed %1</source>
         <translation>失败 %1</translation>
     </message>
+    <message>
+        <source>the key %1 is given twice.</source>
+        <translation>键 %1 出现了两次。</translation>
+    </message>
+    <message>
+        <source>the groups 512 and 768 must both be there or both be missing.</source>
+        <translation>组 512 和 768 必须同时存在或同时缺少。</translation>
+    </message>
 </context>
 </TS>

@@ -200,13 +200,14 @@ public:
         ReadJson(m_place.Key(strKey), m_object.value(strKey), value, limits...);
     }
 
-    /// A list that is left out where it is empty, so that files from before it was known can be read.
-    template <class TList, class... TLimits>
-    void OptionalField(const char* szKey, TList& list, const TLimits&... limits)
+    /// A value that is left out where it is empty, so that files from before it was known can be read.
+    template <class TValue, class... TLimits>
+    void OptionalField(const char* szKey, TValue& value, const TLimits&... limits)
     {
-        list.clear();
+        value = TValue();
+        m_listKnown.append(QString::fromLatin1(szKey));
         if (m_object.contains(QString::fromLatin1(szKey)))
-            Field(szKey, list, limits...);
+            Field(szKey, value, limits...);
     }
 
     /// Refuses keys that no field has asked for: a misspelt key must not pass for a missing one.
@@ -230,16 +231,23 @@ public:
         m_object.insert(QString::fromLatin1(szKey), WriteJson(value));
     }
 
-    template <class TList, class... TLimits>
-    void OptionalField(const char* szKey, const TList& list, const TLimits&... limits)
+    template <class TValue, class... TLimits>
+    void OptionalField(const char* szKey, const TValue& value, const TLimits&... limits)
     {
-        if (!list.isEmpty())
-            Field(szKey, list, limits...);
+        if (!IsAbsent(value))
+            Field(szKey, value, limits...);
     }
 
     QJsonObject Object() const { return m_object; }
 
 private:
+    static bool IsAbsent(const QStringList& list) { return list.isEmpty(); }
+    template <class TValue>
+    static bool IsAbsent(const std::optional<TValue>& optional)
+    {
+        return !optional.has_value();
+    }
+
     QJsonObject m_object;
 };
 

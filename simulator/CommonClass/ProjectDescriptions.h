@@ -131,6 +131,52 @@ void Describe(TArchive& archive, SAddressLists& lists)
     archive.Field("currentSet", lists.listCurSet, c_textLength);
 }
 
+/// Coordinates of a chromaticity.
+constexpr SRange c_chromaticityRange = {0, 1};
+
+template <class TArchive>
+void Describe(TArchive& archive, SProjectPoint& point)
+{
+    archive.Field("x", point.fX, c_chromaticityRange);
+    archive.Field("y", point.fY, c_chromaticityRange);
+}
+
+template <class TArchive>
+void Describe(TArchive& archive, SProjectColourPoint& point)
+{
+    archive.Field("place", point.place);
+    archive.Field("movable", point.bMovable);
+    archive.Field("dotShown", point.bDotShown);
+}
+
+template <class TArchive>
+void Describe(TArchive& archive, SProjectColourGroup& group)
+{
+    archive.Field("key", group.nKey, SRange{0, std::numeric_limits<int>::max()});
+    archive.Field("name", group.strName, c_textLength);
+    archive.Field("rgb", group.bRgb);
+    archive.Field("red", group.red);
+    archive.Field("green", group.green);
+    archive.Field("blue", group.blue);
+    archive.Field("white", group.white);
+    archive.Field("visible", group.bVisible);
+    archive.Field("noteShown", group.bNoteShown);
+    archive.Field("ownColour", group.bOwnColour);
+    archive.Field("lineRed", group.byRed);
+    archive.Field("lineGreen", group.byGreen);
+    archive.Field("lineBlue", group.byBlue);
+    archive.Field("penStyle", group.nPenStyle, SRange{0, 5});
+    archive.Field("penWidth", group.fPenWidth, SRange{0, 100});
+}
+
+template <class TArchive>
+void Describe(TArchive& archive, SProjectColour& colour)
+{
+    archive.Field("groups", colour.listGroups);
+    archive.Field("region", colour.listRegion);
+    archive.Field("regionOn", colour.bRegionOn);
+}
+
 template <class TArchive>
 void Describe(TArchive& archive, SSimulatedProject& project)
 {
@@ -142,6 +188,7 @@ void Describe(TArchive& archive, SSimulatedProject& project)
     archive.Field("addressing", project.addressing);
     archive.Field("addresses", project.addresses);
     archive.OptionalField("measurements", project.listMeasurements, c_measurementLength);
+    archive.OptionalField("colour", project.colour);
 }
 
 #endif // SIMULATOR_COMMONCLASS_PROJECTDESCRIPTIONS_H

@@ -77,6 +77,22 @@ void CheckDetected(const QStringList& listDetected, const SJsonPlace& place)
     }
 }
 
+/// The chart's coverage is calculated from two groups: with one of them missing there is nothing to compare.
+void CheckColour(const SProjectColour& colour, const SJsonPlace& place)
+{
+    const SJsonPlace placeGroups = place.Key(QStringLiteral("colour")).Key(QStringLiteral("groups"));
+    RequireUnique(placeGroups, colour.listGroups, &SProjectColourGroup::nKey,
+                  CSimulatorText::tr("the key %1 is given twice."));
+    constexpr int c_arrPair[] = {0x200, 0x300};
+    const auto Count = [&colour](int nKey) {
+        return std::count_if(colour.listGroups.cbegin(), colour.listGroups.cend(),
+                             [nKey](const SProjectColourGroup& group) { return group.nKey == nKey; });
+    };
+    if (Count(c_arrPair[0]) != Count(c_arrPair[1]))
+        placeGroups.Refuse(
+            CSimulatorText::tr("the groups 512 and 768 must both be there or both be missing."));
+}
+
 template <class TSender>
 auto FindInputOf(TSender& sender, int nInterfaceId) -> decltype(&sender.listInputs.front())
 {
@@ -132,6 +148,8 @@ SSimulatedProject ProjectFromJson(const QJsonObject& object, SFileProblem& probl
     CheckCurrentSender(project, place);
     CheckAddressLists(project.addresses, place);
     CheckDetected(project.addressing.listDetected, place);
+    if (project.colour)
+        CheckColour(*project.colour, place);
     return project;
 }
 

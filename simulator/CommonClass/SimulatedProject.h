@@ -11,6 +11,7 @@
 
 #include <QByteArray>
 #include <QJsonObject>
+#include <QList>
 #include <QStringList>
 
 #include <deque>
@@ -100,6 +101,49 @@ struct SAddressLists
     QStringList listCurSet;   ///< the copy that is being set
 };
 
+/// A chromaticity, CIE 1931 xy.
+struct SProjectPoint
+{
+    float fX = 0;
+    float fY = 0;
+};
+
+/// A point of a colour group.
+struct SProjectColourPoint
+{
+    SProjectPoint place;
+    bool bMovable = false;
+    bool bDotShown = true;
+};
+
+/// A colour group of the chromaticity chart, as the chart keeps it.
+struct SProjectColourGroup
+{
+    int nKey = 0;
+    QString strName;
+    bool bRgb = true; ///< primaries; else secondary colours
+    SProjectColourPoint red;
+    SProjectColourPoint green;
+    SProjectColourPoint blue;
+    SProjectColourPoint white;
+    bool bVisible = true;
+    bool bNoteShown = true;
+    bool bOwnColour = false; ///< else the chart's palette gives the colour of the lines
+    quint8 byRed = 0;        ///< colour of the lines
+    quint8 byGreen = 0;
+    quint8 byBlue = 0;
+    int nPenStyle = 0; ///< `Qt::PenStyle`
+    float fPenWidth = 1;
+};
+
+/// What the operator made of the chromaticity chart.
+struct SProjectColour
+{
+    QList<SProjectColourGroup> listGroups;
+    QList<SProjectPoint> listRegion; ///< vertices of the feasible region
+    bool bRegionOn = false;          ///< dragged points are held in the region
+};
+
 /// The project.
 struct SSimulatedProject
 {
@@ -113,6 +157,7 @@ struct SSimulatedProject
     SAddressLists addresses;
     /// Measurements of a wall's modules, the lines of a CSV text with its heading; empty without any.
     QStringList listMeasurements;
+    std::optional<SProjectColour> colour; ///< empty: the chart is as it starts
 
     /// The sender with that index, or null.
     COMMONCLASS_EXPORT SSimulatedSender* FindSender(int nSender);

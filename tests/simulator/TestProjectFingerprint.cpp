@@ -18,6 +18,9 @@ SSimulatedProject FullProject()
     sender.listInputs.resize(1);
     sender.listInputs.front().setting = SEdidSetting();
     sender.listInputs.front().baEdid = QByteArray(c_nEdidBlockSize, '\x5a');
+    SProjectColour& colour = project.colour.emplace();
+    colour.listGroups.append(SProjectColourGroup());
+    colour.listRegion.append(SProjectPoint());
     project.addressing.nAddedSenderCount = 3;
     project.addressing.listDetected = QStringList{QStringLiteral("192.168.1.20")};
     project.addresses.listStored = project.addresses.listOriginal = project.addresses.listCurSet =

@@ -38,6 +38,7 @@ CChartControls::CChartControls(CChartView& view, QWidget* pParent)
     connect(pOverlay, &CRegionOverlay::DrawingEnded, this, &CChartControls::Refresh);
     connect(pOverlay, &CRegionOverlay::RegionDrawn, this,
             [this] { Q_EMIT Reported(tr("拖动的点现在留在区域内。")); });
+    connect(pOverlay, &CRegionOverlay::RegionDrawn, this, &CChartControls::RegionChanged);
     Retranslate();
 }
 
@@ -168,6 +169,7 @@ void CChartControls::SetRegionOn(bool bOn)
     m_view.Region().SetOn(bOn);
     m_view.Overlay().update();
     Refresh();
+    Q_EMIT RegionChanged();
 }
 
 void CChartControls::DrawRegion()

@@ -33,6 +33,8 @@ public:
     /// @}
 
 Q_SIGNALS:
+    /// The feasible region is another one, or was switched on or off.
+    void RegionChanged();
     /// One line for the status bar.
     void Reported(const QString& strText);
 

@@ -9,6 +9,7 @@
 #include "workbench/colour/MeasuredWall.h"
 #include "workbench/colour/PointKeys.h"
 #include "workbench/colour/PointReadout.h"
+#include "workbench/colour/ProjectColours.h"
 #include "workbench/colour/ReadingsPanel.h"
 #include "workbench/colour/UcsView.h"
 #include "workbench/colour/WallPanel.h"
@@ -48,7 +49,11 @@ CColourPage::CColourPage(QWidget* pParent)
     connect(m_pControls, &CChartControls::Reported, this, &CColourPage::Reported);
     connect(m_pView, &CChartView::MouseMoved, this, &CColourPage::ShowReadout);
     connect(&m_pView->Keys(), &CPointKeys::Told, m_pReadout, &QLabel::setText);
-    StartAnew();
+    m_pProject = new CProjectColours(*m_pView, this);
+    connect(m_pControls, &CChartControls::RegionChanged, m_pProject, &CProjectColours::Store);
+    connect(m_pProject, &CProjectColours::Loaded, m_pControls, &CChartControls::Retranslate);
+    m_pProject->Load();
+    m_pGroups->SelectKey(enScreenColorSpace);
     Retranslate();
 }
 
@@ -132,12 +137,6 @@ QWidget* CColourPage::CreateExports()
     connect(m_pPng, &QPushButton::clicked, this, [this] { ChooseFileAndSave(false); });
     connect(m_pSvg, &QPushButton::clicked, this, [this] { ChooseFileAndSave(true); });
     return pExports;
-}
-
-void CColourPage::StartAnew()
-{
-    m_pGroups->AddCoveragePair();
-    m_pView->Editor().Steps().clear();
 }
 
 QString CColourPage::Title() const

@@ -7,6 +7,7 @@ class CChartControls;
 class CChartView;
 class CGroupPanel;
 class CMeasuredWall;
+class CProjectColours;
 class CReadingsPanel;
 class CUcsView;
 class CDiagramOverlay;
@@ -18,7 +19,7 @@ class QTabWidget;
 
 /// The chromaticity chart with its groups in a table beside it, what it shows and holds, what the selected
 /// group's points are worth, and pictures of it.
-/// The groups are the page's own: no sender has any part in them. The measured wall is the project's.
+/// The groups and the measured wall belong to the project: no sender has any part in them.
 class CColourPage final : public CWorkbenchPage
 {
     Q_OBJECT
@@ -62,7 +63,6 @@ private:
     QWidget* CreateExports();
     void ChooseFileAndSave(bool bSvg);
     bool ReportSaved(const QString& strFile, const QString& strError);
-    void StartAnew();
     void ShowReadout();
 
     CChartView* m_pView = nullptr;
@@ -76,6 +76,7 @@ private:
     QStackedWidget* m_pDiagrams = nullptr;
     CUcsView* m_pUcs = nullptr;
     QPushButton* m_pUcsShown = nullptr;
+    CProjectColours* m_pProject = nullptr;
     QLabel* m_pReadout = nullptr;
     QPushButton* m_pCopy = nullptr;
     QPushButton* m_pPng = nullptr;

@@ -1,3 +1,4 @@
+#include "simulator/CommonClass/Simulator.h"
 #include "tests/workbench/colour/ShownColourPage.h"
 #include "workbench/colour/GroupModel.h"
 #include "workbench/colour/GroupPanel.h"
@@ -36,6 +37,7 @@ class TestColourPage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
     void ItStartsWithBothSpaces();
     void AResizeLaysTheChartOutAndPaintsItsBitmap_data();
     void AResizeLaysTheChartOutAndPaintsItsBitmap();
@@ -62,6 +64,12 @@ private Q_SLOTS:
     void AFileThatCannotBeWrittenIsTold();
     void AnExportLeavesTheChartAsItWas();
 };
+
+/// The groups belong to the project, which outlives a page.
+void TestColourPage::init()
+{
+    CSimulator::Instance().Document().NewProject();
+}
 
 void TestColourPage::ItStartsWithBothSpaces()
 {

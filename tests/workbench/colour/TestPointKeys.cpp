@@ -1,5 +1,6 @@
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
+#include "simulator/CommonClass/Simulator.h"
 #include "tests/workbench/colour/ShownColourPage.h"
 #include "workbench/colour/PointKeys.h"
 
@@ -37,6 +38,7 @@ class TestPointKeys : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
     void AnArrowMovesThePoint_data();
     void AnArrowMovesThePoint();
     void TabGoesFromPointToPointAndOut();
@@ -51,6 +53,12 @@ private Q_SLOTS:
     void ScreenReadersAreTold();
     void WithoutPointsArrowsDoNothing();
 };
+
+/// The groups belong to the project, which outlives a page.
+void TestPointKeys::init()
+{
+    CSimulator::Instance().Document().NewProject();
+}
 
 void TestPointKeys::AnArrowMovesThePoint_data()
 {

@@ -1,3 +1,4 @@
+#include "simulator/CommonClass/Simulator.h"
 #include "tests/workbench/colour/ShownColourPage.h"
 #include "workbench/colour/GroupPanel.h"
 #include "workbench/colour/ReadingsModels.h"
@@ -24,6 +25,7 @@ class TestReadingsPanel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
     void ReadingsOfAStandardAreTheKnownOnes();
     void CmyModeTellsOfTheSameTriangle();
     void ImpossiblePointsLeaveCellsEmpty();
@@ -33,6 +35,12 @@ private Q_SLOTS:
     void BehindAnotherTabItRests();
     void WithoutAGroupItIsEmpty();
 };
+
+/// The groups belong to the project, which outlives a page.
+void TestReadingsPanel::init()
+{
+    CSimulator::Instance().Document().NewProject();
+}
 
 void TestReadingsPanel::ReadingsOfAStandardAreTheKnownOnes()
 {

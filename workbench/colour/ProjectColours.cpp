@@ -1,0 +1,160 @@
+#include "workbench/colour/ProjectColours.h"
+
+#include "simulator/CommonClass/Simulator.h"
+#include "workbench/colour/ChartView.h"
+#include "workbench/colour/RegionOverlay.h"
+
+#include <QScopedValueRollback>
+
+namespace {
+
+/// A point of the project beside that of a group, with what is said of it.
+struct SPointPair
+{
+    SProjectColourPoint SProjectColourGroup::*pStored;
+    CPointEx<float> SChromaGroupInfo::*pPlace;
+    bool SChromaGroupInfo::*pMovable;
+    bool SChromaGroupInfo::*pDotShown;
+};
+
+constexpr SPointPair c_arrPoints[] = {
+    {&SProjectColourGroup::red, &SChromaGroupInfo::ptRed, &SChromaGroupInfo::bMoveRed,
+     &SChromaGroupInfo::bShowRedDot},
+    {&SProjectColourGroup::green, &SChromaGroupInfo::ptGreen, &SChromaGroupInfo::bMoveGreen,
+     &SChromaGroupInfo::bShowGreenDot},
+    {&SProjectColourGroup::blue, &SChromaGroupInfo::ptBlue, &SChromaGroupInfo::bMoveBlue,
+     &SChromaGroupInfo::bShowBlueDot},
+    {&SProjectColourGroup::white, &SChromaGroupInfo::ptWhite, &SChromaGroupInfo::bMoveWhite,
+     &SChromaGroupInfo::bShowWhiteDot},
+};
+
+SProjectColourGroup Stored(int nKey, const SChromaGroupInfo& group)
+{
+    SProjectColourGroup stored;
+    stored.nKey = nKey;
+    stored.strName = group.strName;
+    stored.bRgb = group.bRgbMode;
+    for (const SPointPair& pair : c_arrPoints) {
+        const CPointEx<float> place = group.*pair.pPlace;
+        stored.*pair.pStored = {{place.x, place.y}, group.*pair.pMovable, group.*pair.pDotShown};
+    }
+    stored.bVisible = group.bVisible;
+    stored.bNoteShown = group.bShowNote;
+    stored.bOwnColour = group.bOwnColor;
+    // A colour of the palette is the chart's to choose on each paint.
+    if (group.bOwnColor) {
+        stored.byRed = group.nColorR;
+        stored.byGreen = group.nColorG;
+        stored.byBlue = group.nColorB;
+    }
+    stored.nPenStyle = group.nPenStyle;
+    stored.fPenWidth = group.fPenWidth;
+    return stored;
+}
+
+SChromaGroupInfo Group(const SProjectColourGroup& stored)
+{
+    SChromaGroupInfo group;
+    group.nGroupKey = stored.nKey;
+    group.strName = stored.strName;
+    group.bRgbMode = stored.bRgb;
+    for (const SPointPair& pair : c_arrPoints) {
+        const SProjectColourPoint& point = stored.*pair.pStored;
+        group.*pair.pPlace = {point.place.fX, point.place.fY};
+        group.*pair.pMovable = point.bMovable;
+        group.*pair.pDotShown = point.bDotShown;
+    }
+    group.bVisible = stored.bVisible;
+    group.bShowNote = stored.bNoteShown;
+    group.bOwnColor = stored.bOwnColour;
+    group.nColorR = stored.byRed;
+    group.nColorG = stored.byGreen;
+    group.nColorB = stored.byBlue;
+    group.nPenStyle = stored.nPenStyle;
+    group.fPenWidth = stored.fPenWidth;
+    return group;
+}
+
+/// The groups that a chart starts with.
+ColourGroups::Groups FirstGroups()
+{
+    return {{enOutputColorSpace, ColourGroups::OutputSpace()},
+            {enScreenColorSpace, ColourGroups::ScreenSpace()}};
+}
+
+ColourGroups::Groups GroupsOf(const SProjectColour& colour)
+{
+    ColourGroups::Groups groups;
+    for (const SProjectColourGroup& stored : colour.listGroups)
+        groups.insert(stored.nKey, Group(stored));
+    return groups;
+}
+
+QPolygonF RegionOf(const SProjectColour& colour)
+{
+    QPolygonF region;
+    for (const SProjectPoint& point : colour.listRegion)
+        region.append({double(point.fX), double(point.fY)});
+    return region;
+}
+
+} // namespace
+
+CProjectColours::CProjectColours(CChartView& view, QObject* pParent)
+    : QObject(pParent)
+    , m_view(view)
+{
+    connect(&m_view.Editor(), &CChartEditor::Changed, this, &CProjectColours::Store);
+    connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectReplaced, this,
+            &CProjectColours::Load);
+}
+
+void CProjectColours::Load()
+{
+    const QScopedValueRollback<bool> loading(m_bLoading, true);
+    const std::optional<SProjectColour>& colour = CSimulator::Instance().Project().colour;
+    m_bInProject = colour.has_value();
+    m_groupsLoaded = m_bInProject ? GroupsOf(*colour) : FirstGroups();
+    m_regionLoaded = m_bInProject ? RegionOf(*colour) : QPolygonF();
+    m_bRegionOnLoaded = m_bInProject && colour->bRegionOn;
+    // The steps are those of the project that was shown before.
+    m_view.Editor().EndDrag();
+    m_view.Editor().Steps().clear();
+    ColourGroups::Restore(m_view.Chart(), m_groupsLoaded);
+    m_view.Region().SetPolygon(m_regionLoaded);
+    m_view.Region().SetOn(m_bRegionOnLoaded);
+    m_view.Overlay().update();
+    Q_EMIT m_view.Editor().Changed();
+    Q_EMIT Loaded();
+}
+
+bool CProjectColours::IsAsLoaded() const
+{
+    return ColourGroups::AreSame(ColourGroups::Take(m_view.Chart()), m_groupsLoaded) &&
+           m_view.Region().Polygon() == m_regionLoaded && m_view.Region().IsOn() == m_bRegionOnLoaded;
+}
+
+SProjectColour CProjectColours::Present() const
+{
+    SProjectColour colour;
+    const ColourGroups::Groups groups = ColourGroups::Take(m_view.Chart());
+    for (auto it = groups.cbegin(); it != groups.cend(); ++it)
+        colour.listGroups.append(Stored(it.key(), it.value()));
+    for (const QPointF& pt : m_view.Region().Polygon())
+        colour.listRegion.append({float(pt.x()), float(pt.y())});
+    colour.bRegionOn = m_view.Region().IsOn();
+    return colour;
+}
+
+void CProjectColours::Store()
+{
+    // A drag is one change, when it has ended.
+    if (m_bLoading || m_view.Editor().IsDragging())
+        return;
+    CSimulator::Instance().Document().Change([this](SSimulatedProject& project) {
+        if (IsAsLoaded() && !m_bInProject)
+            project.colour.reset();
+        else
+            project.colour = Present();
+    });
+}
