@@ -7,6 +7,10 @@
 
 #include <algorithm>
 
+/// How far the chart's axes reach, in units of chromaticity.
+inline constexpr double c_dChartAxisSpanX = 0.8;
+inline constexpr double c_dChartAxisSpanY = 0.9;
+
 /// The chart's mapping between chromaticities and widget pixels, both directions. The chart's y axis points
 /// up and the widget's down; x runs from 0 to 0.8 and y from 0 to 0.9. Everything that is painted over the
 /// bitmap, hit or dragged goes through it, in double precision from the chart's single-precision scale and
@@ -57,9 +61,6 @@ private:
     /// Margins: a part of the side, and pixels on top of it so that a small chart has room for its labels.
     static constexpr float c_fMarginDivisor = 30.0F;
     static constexpr float c_fMarginPixels = 10.0F;
-    /// How far the axes reach, in units of chromaticity.
-    static constexpr float c_fAxisSpanX = 0.8F;
-    static constexpr float c_fAxisSpanY = 0.9F;
     /// A dot's radius is the scale over this.
     static constexpr float c_fDotDivisor = 100.0F;
 
@@ -79,8 +80,8 @@ CChartMapping CChartMapping::ForSize(int nWidth, int nHeight)
 {
     const float fMarginX = Margin(nWidth);
     const float fMarginY = Margin(nHeight);
-    const float fScale =
-        std::min(ScaleOfSide(nWidth, fMarginX, c_fAxisSpanX), ScaleOfSide(nHeight, fMarginY, c_fAxisSpanY));
+    const float fScale = std::min(ScaleOfSide(nWidth, fMarginX, float(c_dChartAxisSpanX)),
+                                  ScaleOfSide(nHeight, fMarginY, float(c_dChartAxisSpanY)));
     return {nHeight, fMarginX, fMarginY, fScale};
 }
 

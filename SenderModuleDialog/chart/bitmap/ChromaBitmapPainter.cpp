@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/chart/bitmap/ChromaBitmapPainter.h"
 
 #include "SenderModuleDialog/Saturate.h"
+#include "SenderModuleDialog/chart/ChartMapping.h"
 #include "SenderModuleDialog/chart/bitmap/ChromaBitmapRow.h"
 #include "SenderModuleDialog/chart/bitmap/ChromaOutlineSpans.h"
 
@@ -22,10 +23,6 @@ using Point = CPointEx<float>;
 
 /// The bitmap's margin is this part of its side.
 constexpr int c_nMarginDivisor = 30;
-
-/// How far the axes reach, in units of chromaticity.
-constexpr double c_dAxisSpanX = 0.8;
-constexpr double c_dAxisSpanY = 0.9;
 
 /// The chromaticity from which the components are full is (1/3, 1/3).
 constexpr double c_dCentreDivisor = 3.0;
@@ -477,8 +474,8 @@ SMapping SMapping::ForSize(int nWidth, int nHeight)
     mapping.nMarginX = nWidth / c_nMarginDivisor;
     mapping.nMarginY = nHeight / c_nMarginDivisor;
     mapping.nScale =
-        SaturateTo<int>(std::min((double(nWidth) - 2.0 * double(mapping.nMarginX)) / c_dAxisSpanX,
-                                 (double(nHeight) - 2.0 * double(mapping.nMarginY)) / c_dAxisSpanY));
+        SaturateTo<int>(std::min((double(nWidth) - 2.0 * double(mapping.nMarginX)) / c_dChartAxisSpanX,
+                                 (double(nHeight) - 2.0 * double(mapping.nMarginY)) / c_dChartAxisSpanY));
     mapping.nHeight = nHeight;
     return mapping;
 }

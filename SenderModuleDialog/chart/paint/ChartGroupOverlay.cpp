@@ -35,9 +35,7 @@ constexpr Qt::GlobalColor c_dotColorsCmy[] = {Qt::cyan, Qt::magenta, Qt::yellow}
 
 /// The legend's font, places and lines.
 constexpr float c_fLegendFontDivisor = 50.0F;
-constexpr int c_nLegendFontWeight = 128;
 constexpr int c_nLegendHeightDivisor = 12; // the first row stands so far down the widget
-constexpr double c_dLegendAxisSpan = 0.8;  // rows end at the right end of the x axis
 constexpr double c_dLegendIndent = 30.0;   // pixels, as the four below; all are multiplied by the text ratio
 constexpr double c_dLegendTextX = 20.0;
 constexpr double c_dLegendTextY = 5.0;
@@ -271,12 +269,12 @@ void DrawLegend(QPainter& painter, const SChartFrame& frame, ChromaGroups& mapGr
                 int nWidgetHeight, SSourcePlace place)
 {
     const int nFontSize = SaturateTo<int>(frame.mapping.Scale() / c_fLegendFontDivisor);
-    const QFont font(frame.strFontFamily, nFontSize, c_nLegendFontWeight, false);
+    const QFont font(frame.strFontFamily, nFontSize, ChartOverlay::c_nFontWeight, false);
     painter.setFont(font);
 
     const double dRatio = double(fTextRatio);
     const int nWidest = WidestNote(mapGroups, font, place);
-    const double dX = c_dLegendAxisSpan * double(frame.mapping.Scale()) + double(frame.mapping.MarginX()) -
+    const double dX = c_dChartAxisSpanX * double(frame.mapping.Scale()) + double(frame.mapping.MarginX()) -
                       nWidest - c_dLegendIndent * dRatio;
     const int nFirstRow = (nWidgetHeight - 1) / c_nLegendHeightDivisor;
     double dY = nFirstRow;

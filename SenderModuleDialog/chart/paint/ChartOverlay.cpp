@@ -14,8 +14,7 @@
 
 namespace {
 
-/// Weight of the chart's own fonts, and of the labels of the colour temperatures: below 0 stands for normal.
-constexpr int c_nFontWeight = 128;
+/// Weight of the labels of the colour temperatures: below 0 stands for normal.
 constexpr int c_nCctFontWeight = -1;
 
 /// A font's point size is the scale over one of these.
@@ -31,8 +30,6 @@ constexpr qreal c_dBorderWidth = 2.0;
 constexpr int c_nHorizontalLines = 10;
 constexpr int c_nVerticalLines = 9;
 constexpr double c_dLinesPerUnit = 10.0;
-constexpr double c_dAxisSpanX = 0.8;
-constexpr double c_dAxisSpanY = 0.9;
 constexpr int c_nGridFontPixels = 10;
 constexpr int c_nGridLabelAlpha = 120;
 constexpr int c_nWhiteByte = 255;
@@ -80,7 +77,7 @@ int FontSize(const CChartMapping& mapping, float fDivisor)
 
 QFont ChartFont(const QString& strFamily, int nPointSize)
 {
-    return QFont(strFamily, nPointSize, c_nFontWeight, false);
+    return QFont(strFamily, nPointSize, ChartOverlay::c_nFontWeight, false);
 }
 
 void DrawGridLine(QPainter& painter, const QPen& penLine, const QLineF& line)
@@ -131,7 +128,7 @@ void DrawGrid(QPainter& painter, const SChartFrame& frame, int nGridAlpha)
     const double dBaseline = frame.mapping.Baseline();
     for (int i = 0; i < c_nHorizontalLines; ++i) {
         const double dY = dBaseline - dScale * i / c_dLinesPerUnit;
-        DrawGridLine(painter, penLine, QLineF(dLeft, dY, dLeft + c_dAxisSpanX * dScale, dY));
+        DrawGridLine(painter, penLine, QLineF(dLeft, dY, dLeft + c_dChartAxisSpanX * dScale, dY));
         const QPointF ptLabel(dLeft - dScale / c_dLabelLeftDivisor,
                               dY - dScale / c_dLabelShiftDivisor + c_dLabelDrop);
         DrawGridLabel(painter, penLabel, ptLabel, i);
@@ -139,7 +136,7 @@ void DrawGrid(QPainter& painter, const SChartFrame& frame, int nGridAlpha)
     const double dLabelY = double(frame.mapping.Height()) - 0.5 * double(frame.mapping.MarginY());
     for (int i = 0; i < c_nVerticalLines; ++i) {
         const double dX = dLeft + dScale * i / c_dLinesPerUnit;
-        DrawGridLine(painter, penLine, QLineF(dX, dBaseline, dX, dBaseline - c_dAxisSpanY * dScale));
+        DrawGridLine(painter, penLine, QLineF(dX, dBaseline, dX, dBaseline - c_dChartAxisSpanY * dScale));
         DrawGridLabel(painter, penLabel, QPointF(dX - dScale / c_dLabelShiftDivisor, dLabelY), i);
     }
 }

@@ -19,6 +19,9 @@ class QPainter;
 /// forerunner. Chart positions are widget pixels by the mapping, computed in double precision.
 namespace ChartOverlay {
 
+/// Weight of the fonts of tips, legend and standard.
+inline constexpr int c_nFontWeight = 128;
+
 /// What most layers need of the chart.
 struct SChartFrame
 {
