@@ -37,7 +37,7 @@ struct SPainterState
     }
 };
 
-/// A chart that is on a screen with twice as many device pixels as pixels.
+/// A chart that is on a screen with three device pixels per pixel.
 class CSharpChart : public CChromaticityDlgWnd
 {
 public:
@@ -49,9 +49,9 @@ protected:
     int metric(PaintDeviceMetric metric) const override
     {
         if (metric == PdmDevicePixelRatio)
-            return 2;
+            return 3;
         if (metric == PdmDevicePixelRatioScaled)
-            return int(2 * devicePixelRatioFScale());
+            return int(3 * devicePixelRatioFScale());
         return CChromaticityDlgWnd::metric(metric);
     }
 };
@@ -311,7 +311,7 @@ void TestCChromaticityDlgWndDraw::ARedirectedWidgetTakesTheRatioOfThePicture()
     CSharpChart chart;
     chart.resize(c_sizeChart);
     chart.SetSize(c_sizeChart.width(), c_sizeChart.height());
-    QCOMPARE(chart.devicePixelRatioF(), 2.0);
+    QCOMPARE(chart.devicePixelRatioF(), 3.0);
     const QImage canvas = Canvas(QImage::Format_ARGB32_Premultiplied);
     QImage rendered = canvas;
     chart.render(&rendered, QPoint(), QRegion(), QWidget::RenderFlags());
