@@ -1,5 +1,8 @@
 #include "host/OrviControl/CustomSpinBox.h"
 
+#include <QApplication>
+#include <QLineEdit>
+#include <QWheelEvent>
 #include <QtTest>
 
 class TestCustomSpinBox : public QObject
@@ -11,6 +14,7 @@ private Q_SLOTS:
     void SetMinMaxIncludesBothEnds();
     void KeysChangeTheValueWithinTheRange();
     void AClickOnTheArrowsSteps();
+    void TheWheelStepsWithTheFocusOnly();
 };
 
 void TestCustomSpinBox::TheFirstArgumentIsTheNumberOfDecimals()
@@ -54,6 +58,38 @@ void TestCustomSpinBox::AClickOnTheArrowsSteps()
     QCOMPARE(int(box.value()), 6);
     QTest::mouseClick(&box, Qt::LeftButton, Qt::NoModifier, QPoint(72, 18));
     QCOMPARE(int(box.value()), 5);
+}
+
+namespace {
+
+/// Turns the wheel over a widget by one step.
+/// @return true when the widget took it
+bool TurnWheel(QWidget& widget)
+{
+    QWheelEvent event(QPointF(5, 5), widget.mapToGlobal(QPointF(5, 5).toPoint()), QPoint(), QPoint(0, 120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &event);
+    return event.isAccepted();
+}
+
+} // namespace
+
+void TestCustomSpinBox::TheWheelStepsWithTheFocusOnly()
+{
+    QWidget window;
+    CCustomSpinBox box(0, &window);
+    box.setValue(32);
+    QLineEdit other(&window);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    other.setFocus();
+    QVERIFY(!TurnWheel(box));
+    QVERIFY(!box.hasFocus());
+    QCOMPARE(box.value(), 32.0);
+    box.setFocus();
+    QVERIFY(TurnWheel(box));
+    QCOMPARE(box.value(), 33.0);
 }
 
 QTEST_MAIN(TestCustomSpinBox)
