@@ -17,6 +17,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSettings>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -69,6 +70,8 @@ CMainWindow::CMainWindow(CLanguage& language, QSettings& settings)
         statusBar()->showMessage(strText, c_nStatusTime);
     };
     connect(m_pTree, &CSenderTree::SelectionMoved, this, &CMainWindow::SelectionMoved);
+    const auto* pRemove = new QShortcut(QKeySequence::Delete, m_pTree, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(pRemove, &QShortcut::activated, this, &CMainWindow::RemoveSelectedSender);
     connect(m_pProject, &CProjectActions::Reported, this, funcReport);
     for (CWorkbenchPage* pPage : m_vecPages) {
         connect(pPage, &CWorkbenchPage::Reported, this, funcReport);
@@ -103,6 +106,9 @@ void CMainWindow::AddPage(CWorkbenchPage* pPage)
 {
     m_vecPages.push_back(pPage);
     m_pTabs->addTab(pPage, pPage->Title());
+    // Ctrl+1 shows the first page.
+    const auto* pShortcut = new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_0 + int(m_vecPages.size())), this);
+    connect(pShortcut, &QShortcut::activated, this, [this, pPage] { ShowPage(pPage); });
 }
 
 void CMainWindow::ShowPage(CWorkbenchPage* pPage)
@@ -131,7 +137,8 @@ void CMainWindow::BuildProjectMenu()
     connect(pRecent, &QMenu::aboutToShow, this, [this, pRecent] { FillRecentFiles(pRecent); });
     pMenu->addSeparator();
     pMenu->addAction(tr("保存"), m_pProject, &CProjectActions::Save, QKeySequence::Save);
-    pMenu->addAction(tr("另存为..."), m_pProject, &CProjectActions::ChooseAndSave, QKeySequence::SaveAs);
+    pMenu->addAction(tr("另存为..."), m_pProject, &CProjectActions::ChooseAndSave,
+                     Qt::CTRL + Qt::SHIFT + Qt::Key_S);
     pMenu->addSeparator();
     pMenu->addAction(tr("退出"), this, &QWidget::close, QKeySequence::Quit);
 }

@@ -5,6 +5,7 @@
 #include <QCommandLineParser>
 #include <QStyleFactory>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -13,7 +14,7 @@ namespace {
 constexpr int c_nUsageError = 2; ///< exit status of a wrong call
 
 /// Reads the command line; ends the program on --help and on a wrong call.
-SWorkbenchOptions ReadOptions(const QApplication& application)
+SWorkbenchOptions ReadOptions(const QCoreApplication& application)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -49,16 +50,34 @@ SWorkbenchOptions ReadOptions(const QApplication& application)
     return {parser.positionalArguments().value(0), parser.value(tourOption), parser.value(languageOption)};
 }
 
+/// What a program says about itself needs no display.
+bool AsksAboutProgram(int nArguments, char** ppArguments)
+{
+    const QStringList listQuestions = {QStringLiteral("-h"), QStringLiteral("--help"),
+                                       QStringLiteral("--help-all"), QStringLiteral("-v"),
+                                       QStringLiteral("--version")};
+    return std::any_of(ppArguments + 1, ppArguments + nArguments, [&listQuestions](const char* szArgument) {
+        return listQuestions.contains(QString::fromLocal8Bit(szArgument));
+    });
+}
+
+void NameProgram()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("sender-workbench"));
+    QCoreApplication::setOrganizationName(QStringLiteral("SenderModuleDialog"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(SENDER_VERSION));
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
+    NameProgram();
+    if (AsksAboutProgram(argc, argv))
+        ReadOptions(QCoreApplication(argc, argv));
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("sender-workbench"));
-    QApplication::setOrganizationName(QStringLiteral("SenderModuleDialog"));
-    QApplication::setApplicationVersion(QStringLiteral(SENDER_VERSION));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(Theme::Palette());
     QApplication::setFont(Theme::Font());

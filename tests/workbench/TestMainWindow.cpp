@@ -106,6 +106,8 @@ private Q_SLOTS:
     void AWriteIsReportedAsItEnded();
     void TabGoesFromTheTreeToTabsPageAndJournal_data();
     void TabGoesFromTheTreeToTabsPageAndJournal();
+    void ControlAndADigitShowAPage();
+    void DeleteInTheTreeRemovesTheSender();
     void TheTabBarShowsItsFocus();
     void ChoosingAByteMarksItsField();
     void TheJournalShowsAndFiltersCalls();
@@ -363,6 +365,28 @@ void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal()
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
     QCOMPARE(listParts.join(QLatin1Char(' ')), QStringLiteral("tree tabs page journal"));
+}
+
+void TestMainWindow::ControlAndADigitShowAPage()
+{
+    CWorkbenchFixture workbench;
+    Activate(workbench.window);
+    const auto* pTabs = workbench.window.findChild<CPageTabs*>();
+    for (int i = int(workbench.window.Pages().size()) - 1; i >= 0; --i) {
+        QTest::keyClick(&workbench.window, Qt::Key(Qt::Key_1 + i), Qt::ControlModifier);
+        QCOMPARE(pTabs->currentIndex(), i);
+    }
+}
+
+void TestMainWindow::DeleteInTheTreeRemovesTheSender()
+{
+    CWorkbenchFixture workbench;
+    Activate(workbench.window);
+    const std::size_t nBefore = CSimulator::Instance().Project().listSenders.size();
+    workbench.window.Tree().Select({1, -1});
+    workbench.window.Tree().setFocus();
+    QTest::keyClick(&workbench.window.Tree(), Qt::Key_Delete);
+    QCOMPARE(CSimulator::Instance().Project().listSenders.size(), nBefore - 1);
 }
 
 void TestMainWindow::TheTabBarShowsItsFocus()
