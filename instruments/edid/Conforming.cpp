@@ -113,7 +113,8 @@ void WriteEstablished(Block& block, const SModeTiming& wanted)
 
 quint8* Descriptor(Block& block, int nIndex)
 {
-    return block.data() + c_nDescriptorOffset + nIndex * c_nDescriptorSize;
+    const int nOffset = c_nDescriptorOffset + nIndex * c_nDescriptorSize;
+    return block.data() + nOffset;
 }
 
 void WriteDescriptors(Block& block, const SConformRequest& request, const SModeTiming& first,

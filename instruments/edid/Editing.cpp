@@ -40,7 +40,8 @@ bool IsFrom14(const quint8* pBlock)
 
 quint8* Descriptor(quint8* pBlock, int nIndex)
 {
-    return pBlock + c_nDescriptorOffset + nIndex * c_nDescriptorSize;
+    const int nOffset = c_nDescriptorOffset + nIndex * c_nDescriptorSize;
+    return pBlock + nOffset;
 }
 
 /// The descriptor with a tag, else an unused one; null when every one is taken.
@@ -152,8 +153,8 @@ QString SetSize(quint8* pBlock, const QString& strValue)
     Put(pBlock, c_layoutBase[enHeightCm], int(pair.dSecond));
     quint8* pFirst = Descriptor(pBlock, 0);
     if (IsDetailed(pFirst)) {
-        Put(pFirst, c_layoutDetailed[enWidthMm], int(pair.dFirst) * c_nMmPerCm);
-        Put(pFirst, c_layoutDetailed[enHeightMm], int(pair.dSecond) * c_nMmPerCm);
+        Put(pFirst, c_layoutDetailed[enWidthMm], qint64(pair.dFirst) * c_nMmPerCm);
+        Put(pFirst, c_layoutDetailed[enHeightMm], qint64(pair.dSecond) * c_nMmPerCm);
     }
     return {};
 }
@@ -172,7 +173,7 @@ QString SetGamma(quint8* pBlock, const QString& strValue)
 
 QString SetText(quint8* pBlock, quint8 byTag, const QString& strValue)
 {
-    const QString strError = TextError(strValue);
+    QString strError = TextError(strValue);
     if (!strError.isEmpty())
         return strError;
     quint8* pDescriptor = FindDescriptor(pBlock, byTag);
@@ -370,7 +371,7 @@ QString SetValue(QByteArray& edid, const QString& strKey, const QString& strValu
     }
     quint8* pBlock = BytesOf(edid);
     const bool bRight = HasRightChecksum(pBlock);
-    const QString strError = pEditor->pSet(pBlock, strValue);
+    QString strError = pEditor->pSet(pBlock, strValue);
     if (bRight)
         PutChecksum(edid, 0);
     return strError;
@@ -380,14 +381,13 @@ void Fix(QByteArray& edid)
 {
     constexpr int c_nMostExtensions = 255;
     quint8* pBytes = BytesOf(edid);
-    const int nBlocks = edid.size() / c_nBlockSize;
+    const int nExtensions = edid.size() / c_nBlockSize - 1;
     std::copy(std::begin(c_arrHeader), std::end(c_arrHeader), pBytes);
-    Put(pBytes, c_layoutBase[enExtensionCount], std::min(nBlocks - 1, c_nMostExtensions));
-    for (int i = 0; i < nBlocks; ++i) {
-        quint8* pBlock = pBytes + i * c_nBlockSize;
-        if (i > 0)
-            FixSection(pBlock);
-        PutChecksum(edid, i * c_nBlockSize);
+    Put(pBytes, c_layoutBase[enExtensionCount], std::min(nExtensions, c_nMostExtensions));
+    for (int nBlock = 0; nBlock + c_nBlockSize <= edid.size(); nBlock += c_nBlockSize) {
+        if (nBlock > 0)
+            FixSection(pBytes + nBlock);
+        PutChecksum(edid, nBlock);
     }
 }
 
