@@ -1,6 +1,7 @@
 #include "workbench/ProjectActions.h"
 
 #include "simulator/CommonClass/Simulator.h"
+#include "workbench/SaveDialog.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -83,7 +84,7 @@ bool CProjectActions::Save()
 bool CProjectActions::ChooseAndSave()
 {
     const QString strFile =
-        QFileDialog::getSaveFileName(m_pWindow, tr("保存工程"), QStringLiteral("project.json"), FileFilter());
+        SaveDialog::Ask(m_pWindow, tr("保存工程"), QStringLiteral("project.json"), FileFilter());
     return !strFile.isEmpty() && SaveAs(strFile);
 }
 

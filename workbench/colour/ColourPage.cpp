@@ -1,6 +1,7 @@
 #include "workbench/colour/ColourPage.h"
 
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "workbench/SaveDialog.h"
 #include "workbench/colour/ChartControls.h"
 #include "workbench/colour/ChartExport.h"
 #include "workbench/colour/ChartView.h"
@@ -16,7 +17,6 @@
 
 #include <QClipboard>
 #include <QDir>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -186,10 +186,8 @@ void CColourPage::CopyPicture()
 void CColourPage::ChooseFileAndSave(bool bSvg)
 {
     const QString strFile =
-        bSvg ? QFileDialog::getSaveFileName(this, tr("导出 SVG"), QStringLiteral("chart.svg"),
-                                            tr("SVG 图形 (*.svg)"))
-             : QFileDialog::getSaveFileName(this, tr("导出 PNG"), QStringLiteral("chart.png"),
-                                            tr("PNG 图片 (*.png)"));
+        bSvg ? SaveDialog::Ask(this, tr("导出 SVG"), QStringLiteral("chart.svg"), tr("SVG 图形 (*.svg)"))
+             : SaveDialog::Ask(this, tr("导出 PNG"), QStringLiteral("chart.png"), tr("PNG 图片 (*.png)"));
     if (strFile.isEmpty())
         return;
     if (bSvg)

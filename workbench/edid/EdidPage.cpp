@@ -4,13 +4,13 @@
 #include "instruments/edid/Writing.h"
 #include "simulator/CommonClass/Simulator.h"
 #include "workbench/ModeText.h"
+#include "workbench/SaveDialog.h"
 #include "workbench/edid/EdidMemoryUpdater.h"
 #include "workbench/edid/FindingList.h"
 #include "workbench/edid/HexView.h"
 
 #include <QCheckBox>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -262,9 +262,9 @@ void CEdidPage::EditEdid()
 void CEdidPage::ChooseFileAndSave()
 {
     const QString strFile =
-        QFileDialog::getSaveFileName(this, tr("保存 EDID 块"), QStringLiteral("edid.bin"),
-                                     tr("EDID 块 (*.bin);;十六进制文本 (*.hex *.txt);;C 数组 (*.c *.h);;"
-                                        "JSON (*.json);;所有文件 (*)"));
+        SaveDialog::Ask(this, tr("保存 EDID 块"), QStringLiteral("edid.bin"),
+                        tr("EDID 块 (*.bin);;十六进制文本 (*.hex *.txt);;C 数组 (*.c *.h);;"
+                           "JSON (*.json);;所有文件 (*)"));
     if (!strFile.isEmpty())
         SaveBlock(strFile);
 }
