@@ -1,12 +1,17 @@
 #include "tests/support/NetworkNamespace.h"
 
+#include <QDeadlineTimer>
 #include <QProcess>
+#include <QThread>
 
 #include <cerrno>
 #include <cstring>
 
 #include <fcntl.h>
+#include <net/if.h>
 #include <sched.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 namespace {
@@ -15,6 +20,14 @@ QString SystemProblem(const char* szCall)
 {
     return QStringLiteral("%1: %2").arg(QString::fromLatin1(szCall),
                                         QString::fromLocal8Bit(std::strerror(errno)));
+}
+
+/// Whether the kernel has seen the interface's carrier.
+bool HasCarrier(int nSocket, const QString& strName)
+{
+    ifreq request = {};
+    qstrncpy(request.ifr_name, strName.toLatin1().constData(), sizeof request.ifr_name);
+    return ioctl(nSocket, SIOCGIFFLAGS, &request) == 0 && (request.ifr_flags & IFF_RUNNING) != 0;
 }
 
 } // namespace
@@ -60,6 +73,24 @@ void CNetworkNamespace::AddInterface(const STestInterface& testInterface)
     }
     Run(QStringLiteral("link set %1 up").arg(testInterface.strName));
     Run(QStringLiteral("link set %1-far up").arg(testInterface.strName));
+    WaitForCarrier(testInterface.strName);
+}
+
+void CNetworkNamespace::WaitForCarrier(const QString& strName)
+{
+    if (!IsReady())
+        return;
+    constexpr int c_nPatience = 10000; // milliseconds
+    const int nSocket = socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    const QDeadlineTimer deadline(c_nPatience);
+    while (!HasCarrier(nSocket, strName)) {
+        if (deadline.hasExpired()) {
+            m_strProblem = QStringLiteral("%1 got no carrier").arg(strName);
+            break;
+        }
+        QThread::yieldCurrentThread();
+    }
+    close(nSocket);
 }
 
 void CNetworkNamespace::Run(const QString& strCommand)

@@ -47,6 +47,8 @@ public:
 
 private:
     void AddInterface(const STestInterface& testInterface);
+    /// The kernel notices a carrier in its own time, and until then the interface does not count as up.
+    void WaitForCarrier(const QString& strName);
     /// Runs `ip` with arguments separated by blanks, unless something went wrong before.
     void Run(const QString& strCommand);
 
