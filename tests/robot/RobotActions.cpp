@@ -1,6 +1,7 @@
 #include "tests/robot/RobotActions.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QFileDialog>
 #include <QPointer>
@@ -60,6 +61,13 @@ QPoint SomePoint(CDice& dice, const QWidget& widget)
     return {dice.Below(widget.width()), dice.Below(widget.height())};
 }
 
+/// Sends an event as the window system does: Qt hands only such events on to the parents of a widget.
+void Deliver(QWidget& widget, QEvent& event)
+{
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(&widget, &event);
+}
+
 QWidget* FocusOf(QWidget& window)
 {
     return window.focusWidget() != nullptr ? window.focusWidget() : &window;
@@ -82,7 +90,7 @@ void OpenContextMenu(CDice& dice, QWidget& window)
     QWidget* const pWidget = SomeWidget(dice, window);
     const QPoint pos = SomePoint(dice, *pWidget);
     QContextMenuEvent event(QContextMenuEvent::Mouse, pos, pWidget->mapToGlobal(pos));
-    QCoreApplication::sendEvent(pWidget, &event);
+    Deliver(*pWidget, event);
 }
 
 void Drag(CDice& dice, QWidget& window)
@@ -94,7 +102,7 @@ void Drag(CDice& dice, QWidget& window)
         const QPoint pos = SomePoint(dice, *pWidget);
         QMouseEvent event(QEvent::MouseMove, pos, pWidget->mapToGlobal(pos), Qt::NoButton, Qt::LeftButton,
                           Qt::NoModifier);
-        QCoreApplication::sendEvent(pWidget, &event);
+        Deliver(*pWidget, event);
     }
     if (pWidget != nullptr)
         QTest::mouseRelease(pWidget, Qt::LeftButton, Qt::NoModifier, SomePoint(dice, *pWidget));
@@ -113,7 +121,7 @@ void Wheel(CDice& dice, QWidget& window)
     const QPoint delta(0, dice.OnceIn(2) ? c_nWheelNotch : -c_nWheelNotch);
     QWheelEvent event(pos, pWidget->mapToGlobal(pos), QPoint(), delta, Qt::NoButton, Modifiers(dice),
                       Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(pWidget, &event);
+    Deliver(*pWidget, event);
 }
 
 void Type(CDice& dice, QWidget& window)

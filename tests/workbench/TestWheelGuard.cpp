@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -45,7 +46,9 @@ void TurnWheelOver(QWidget* pWidget)
     const QPointF pos = pWidget->rect().center();
     QWheelEvent event(pos, pWidget->mapToGlobal(pos.toPoint()), QPoint(), QPoint(0, -120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(pWidget, &event);
+    // Qt hands only events of the window system on to the parent.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(pWidget, &event);
 }
 
 } // namespace
@@ -77,11 +80,7 @@ void TestWheelGuard::AFieldWithoutFocusLeavesTheWheelToThePage()
     fields.area.setFocus();
     TurnWheelOver(fields.Fields().at(field));
     QCOMPARE(fields.Values(), listBefore);
-    // An event that is taken and not accepted goes on to the parent, which scrolls.
-    QWheelEvent event(QPointF(), QPointF(), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QVERIFY(fields.guard.eventFilter(fields.Fields().at(field), &event));
-    QVERIFY(!event.isAccepted());
+    QVERIFY(fields.area.verticalScrollBar()->value() > 0);
 }
 
 void TestWheelGuard::AFieldWithFocusTakesTheWheel()
