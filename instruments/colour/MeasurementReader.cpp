@@ -211,10 +211,7 @@ SMeasurements MeasurementCsv::Read(const QByteArray& content)
 {
     if (const auto strText = CsvLines::Decode(content))
         return Read(*strText);
-    SMeasurements measurements;
-    measurements.error =
-        SMeasurementError{enMeasurementFault::enNotText, 0, 0, QString(), enColourFault::enNone};
-    return measurements;
+    return {{}, {}, SMeasurementError{enMeasurementFault::enNotText, 0, 0, QString(), enColourFault::enNone}};
 }
 
 SMeasurements MeasurementCsv::Read(const QString& strText)
