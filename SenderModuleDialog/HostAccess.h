@@ -63,6 +63,12 @@ inline CSender& CurrentSender(SSourcePlace place = SSourcePlace::Here())
     return Deref(ProjectData(place).GetCurrentSender(), "GetCurrentSender() != nullptr", place);
 }
 
+/// Where the host keeps the background picture of the sender that is being edited.
+inline QString CurrentPicturePath(SSourcePlace place = SSourcePlace::Here())
+{
+    return ConstantData(place).GetSenderBKImgName(CurrentSenderIndex(place), true);
+}
+
 } // namespace HostAccess
 
 #endif // SENDERMODULEDIALOG_HOSTACCESS_H

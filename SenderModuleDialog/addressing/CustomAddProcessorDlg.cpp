@@ -142,40 +142,10 @@ void CCustomAddProcessorDlg::GetInitialIP(QString& strIP)
     strIP = IPAddressRules::AddressText(AddressGenerators::FirstFreeAfter(nBase, AddressDialogs::HasError));
 }
 
-bool CCustomAddProcessorDlg::CheckIPAddress()
-{
-    const QString strIP = Deref(m_pIPEdit, "m_pIPEdit != nullptr").text();
-    return AddressDialogs::Confirm(this, IPAddressRules::c_pathCheckIPAddress, {strIP}, QString());
-}
-
 void CCustomAddProcessorDlg::ActionSlots(int nID)
 {
     if (nID == DialogFrame::enOk)
         Accept();
     else if (nID == DialogFrame::enCancel)
         DialogFrame::Finish(this, DialogFrame::enCancelled);
-}
-
-void CCustomAddProcessorDlg::Accept()
-{
-    m_nCount = int(m_pCountSpinBox->value());
-    if (m_pPortComboBox != nullptr)
-        m_nPortCount = m_pPortComboBox->text().toInt();
-    if (m_bUseIP) {
-        if (!CheckIPAddress())
-            return;
-        StoreAddresses();
-    }
-    DialogFrame::Finish(this, DialogFrame::enAccepted);
-}
-
-void CCustomAddProcessorDlg::StoreAddresses()
-{
-    CConfigData& config = HostAccess::ConfigData();
-    const int nListed = config.GetSpecifiedIPDWORD(nullptr);
-    const unsigned int nStart = IPAddressRules::AddressValue(m_pIPEdit->text());
-    if (nListed < IPAddressRules::c_nListLimit)
-        AddressGenerators::AddByHand(nStart, m_nCount, nListed, AddressDialogs::HasError,
-                                     AddressDialogs::Store);
-    config.SpecifiedIPsSave();
 }

@@ -2,17 +2,14 @@
 
 #include "SenderModuleDialog/Constants.h"
 #include "SenderModuleDialog/DialogFrame.h"
-#include "SenderModuleDialog/HostAccess.h"
+#include "SenderModuleDialog/addressing/DemoProjectRules.h"
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomLabel.h"
-#include "host/TevraData/DemoSenderType.h"
 
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-#include <array>
 
 namespace {
 
@@ -24,40 +21,10 @@ enum enControl
     enCancelButton = 2
 };
 
-/// A processor type that can be demonstrated.
-struct SDemoType
-{
-    const char* szName; ///< shown as it stands in every language
-    int nSenderType;    ///< value for `CProjectData::SetDemoSenderType`
-};
-
-/// In menu order.
-constexpr std::array<SDemoType, 6> c_arrTypes = {{
-    {"M6K", enDemoM6K},
-    {"R16 PRO", enDemoR16Pro},
-    {"T4", enDemoT4},
-    {"T6", enDemoT6},
-    {"T6 PRO", enDemoT6Pro},
-    {"T8", enDemoT8},
-}};
-
 constexpr QSize c_sizeDialog(285, 120);
 constexpr QSize c_sizeLabel(90, 24);
 constexpr QSize c_sizeComboBox(160, 28);
 constexpr QSize c_sizeButton(80, 26);
-
-/// The type with that index, null outside the table.
-const SDemoType* TypeAt(int nIndex)
-{
-    const bool bInside = nIndex >= 0 && nIndex < int(c_arrTypes.size());
-    return bInside ? &c_arrTypes[std::size_t(nIndex)] : nullptr;
-}
-
-QString NameAt(int nIndex)
-{
-    const SDemoType* pType = TypeAt(nIndex);
-    return pType == nullptr ? QString() : QString::fromLatin1(pType->szName);
-}
 
 } // namespace
 
@@ -77,15 +44,15 @@ void CDemoProjectConfigDlg::InitControl()
 {
     m_pTypeLabel = DialogFrame::CreateLabel(this, CCustomDialog::tr("主控类型"));
     m_pTypeComboBox = new CCustomComboBox(this);
-    m_pTypeComboBox->setText(NameAt(m_nTypeIndex));
+    m_pTypeComboBox->setText(DemoProjectRules::NameAt(m_nTypeIndex));
     const auto buttons = DialogFrame::SOkCancel::Create(this, QT_TRANSLATE_NOOP("CCustomDialog", "确认"));
     m_pOkButton = buttons.pOk;
     m_pCancelButton = buttons.pCancel;
     DialogFrame::NameControl(m_pTypeComboBox, "type", m_pTypeLabel);
 
     auto* pMenu = new QMenu(this);
-    for (int i = 0; i < int(c_arrTypes.size()); ++i) {
-        const QAction* pAction = DialogFrame::AddEntry(pMenu, {NameAt(i), i});
+    for (int i = 0; i < int(DemoProjectRules::c_arrTypes.size()); ++i) {
+        const QAction* pAction = DialogFrame::AddEntry(pMenu, {DemoProjectRules::NameAt(i), i});
         connect(pAction, &QAction::triggered, this, [this, i] { ControlClicked(enTypePicked, i); });
     }
     DialogFrame::StyleMenu(pMenu);
@@ -147,14 +114,5 @@ void CDemoProjectConfigDlg::ControlClicked(int id, int sub)
 void CDemoProjectConfigDlg::PickType(int nIndex)
 {
     m_nTypeIndex = nIndex;
-    m_pTypeComboBox->setText(NameAt(nIndex));
-}
-
-void CDemoProjectConfigDlg::OpenDemoProject()
-{
-    HostAccess::ProjectData().SetDemoModeEnable(true);
-    if (const SDemoType* pType = TypeAt(m_nTypeIndex))
-        HostAccess::ProjectData().SetDemoSenderType(pType->nSenderType);
-    HostAccess::SenderLogic().ApplyDemoProject();
-    DialogFrame::Finish(this, DialogFrame::enAccepted);
+    m_pTypeComboBox->setText(DemoProjectRules::NameAt(nIndex));
 }

@@ -9,7 +9,6 @@
 #include "host/OrviControl/CustomSwitchButton.h"
 
 #include <QAction>
-#include <QDir>
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QFileDialog>
@@ -60,12 +59,6 @@ constexpr const char* c_szSliderStyle =
     "14px; "
     "background: rgb(180, 180, 180); margin:-4px 0px -4px 0px; border-radius: 7px;}";
 
-/// The sender's place for its picture.
-QString StoredPicture()
-{
-    return HostAccess::ConstantData().GetSenderBKImgName(HostAccess::CurrentSenderIndex(), true);
-}
-
 } // namespace
 
 CBackgroundImageDlg::CBackgroundImageDlg(QWidget* pParent)
@@ -77,7 +70,7 @@ CBackgroundImageDlg::CBackgroundImageDlg(QWidget* pParent)
     m_nAlpha = sender.BkImageAlpha;
     m_bEnable = sender.BkImageEnable;
     m_nFit = sender.BkImageFit;
-    m_strImagePath = StoredPicture();
+    m_strImagePath = HostAccess::CurrentPicturePath();
     if (!QFile::exists(m_strImagePath))
         m_strImagePath.clear();
     InitControl();
@@ -201,37 +194,6 @@ void CBackgroundImageDlg::EnableControls()
     for (QWidget* pControl : std::initializer_list<QWidget*>{m_pChooseButton, m_pFitComboBox,
                                                              m_pTransparencySlider, m_pTransparencySpinBox})
         pControl->setEnabled(bOpen);
-}
-
-/// Saves and announces. The host is told also when there was nothing to save.
-void CBackgroundImageDlg::RefreshView(bool bImageChanged)
-{
-    if (m_bRefreshing)
-        return;
-    const QDir dirImages(HostAccess::ConstantData().GetBKImagePath());
-    if (!dirImages.exists())
-        dirImages.mkpath(QStringLiteral("."));
-    if (QFile::exists(m_strImagePath))
-        StorePicture();
-    HostAccess::Label().PostLabelEvent(bImageChanged ? enPictureChanged : enPictureViewChanged, 1, 0, 0);
-}
-
-/// The record is cleared first and filled last: while the picture is not in place the sender has none.
-void CBackgroundImageDlg::StorePicture()
-{
-    const QString strStored = StoredPicture();
-    CSender& sender = HostAccess::CurrentSender();
-    sender.BkImageAlpha = 0;
-    sender.BkImageEnable = false;
-    sender.BkImageFit = 0;
-    if (!BackgroundRules::IsSameFile(m_strImagePath, strStored)) {
-        QFile::remove(strStored);
-        if (!QFile::copy(m_strImagePath, strStored))
-            return;
-    }
-    sender.BkImageAlpha = BackgroundRules::AlphaByte(m_nAlpha);
-    sender.BkImageEnable = m_bEnable;
-    sender.BkImageFit = m_nFit != 0 ? 1 : 0;
 }
 
 void CBackgroundImageDlg::ActionSlots(int nID)
