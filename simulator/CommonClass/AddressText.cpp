@@ -22,7 +22,7 @@ std::optional<unsigned int> AddressValue(const QString& strAddress)
     for (const QString& strOctet : listOctets) {
         bool bNumber = false;
         const unsigned int nOctet = strOctet.toUInt(&bNumber);
-        // The conversion would also take signs and blanks.
+        // The conversion would also accept signs and blanks.
         if (!bNumber || nOctet > c_nLargestOctet || !strOctet.at(0).isDigit())
             return std::nullopt;
         nAddress = nAddress << 8 | nOctet;

@@ -20,14 +20,14 @@ COMMONCLASS_EXPORT std::optional<unsigned int> AddressValue(const QString& strAd
 /// A list entry.
 COMMONCLASS_EXPORT QString AddressEntry(const QString& strAddress, const QString& strName);
 
-/// The address of a list entry: what stands before the first "(".
+/// The address of a list entry: the text before the first "(".
 COMMONCLASS_EXPORT QString EntryAddress(const QString& strEntry);
 
-/// The name of a list entry: what stands between the first "(" and the closing ")".
+/// The name of a list entry: the text between the first "(" and the closing ")".
 COMMONCLASS_EXPORT QString EntryName(const QString& strEntry);
 
-/// The entry as it is shown: an empty name becomes "IP" and the last octet, 192.168.1.17() is
-/// 192.168.1.17(IP17).
+/// The entry as displayed: an empty name becomes "IP" and the last octet, so
+/// 192.168.1.17() becomes 192.168.1.17(IP17).
 COMMONCLASS_EXPORT QString EntryWithName(const QString& strEntry);
 
 #endif // SIMULATOR_COMMONCLASS_ADDRESSTEXT_H

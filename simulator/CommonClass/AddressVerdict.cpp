@@ -5,7 +5,7 @@
 namespace {
 
 constexpr unsigned int c_nLimitedBroadcast = 0xFFFFFFFF;
-/// First address of 224.0.0.0/4, multicast (RFC 5771); behind it lies 240.0.0.0/4, reserved (RFC 1112).
+/// First address of 224.0.0.0/4, multicast (RFC 5771); 240.0.0.0/4 above it is reserved (RFC 1112).
 constexpr unsigned int c_nFirstNoHost = 0xE0000000;
 /// Networks of one or two addresses have neither network nor broadcast address (RFC 3021).
 constexpr unsigned int c_nSmallestHostPart = 3;
@@ -18,7 +18,7 @@ bool HasHosts(const SLocalAddress& local)
 
 bool IsBroadcastOf(const SLocalAddress& local, unsigned int nAddress)
 {
-    // An interface of a single address may state that address itself.
+    // An interface with a single address may report that address as its own broadcast address.
     const bool bStated =
         local.nBroadcast != 0 && local.nBroadcast != local.nAddress && nAddress == local.nBroadcast;
     return bStated || (HasHosts(local) && nAddress == (local.nAddress | ~local.nNetmask));

@@ -7,8 +7,8 @@
 
 #include <QSet>
 
-/// Judges an address. Where several verdicts hold, the one that forbids the address comes before the question
-/// about this computer's own address.
+/// Checks an address. Where several verdicts apply, one that forbids the address takes precedence over the
+/// question about this computer's own address.
 /// @param setUsed addresses of the list
 COMMONCLASS_EXPORT enAddressVerdict AddressVerdict(unsigned int nAddress, const QSet<unsigned int>& setUsed,
                                                    const SNetworkFacts& facts);

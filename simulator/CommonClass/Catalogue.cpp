@@ -9,8 +9,8 @@
 
 #include <algorithm>
 
-// What the catalogue file holds. Limits, sets of inputs and families have names, so that each is written
-// once.
+// The contents of the catalogue file. Limits, sets of inputs and families have names, so each is
+// written only once.
 struct SCatalogueLimit
 {
     QString strName;
@@ -121,7 +121,7 @@ namespace {
 
 const QSize c_sizeFactory = QSize(1920, 1080);
 
-/// The setting that a factory-new input holds: 1920 x 1080 at 60 Hz, 8 bit, RGB.
+/// The setting of a factory-new input: 1920 x 1080 at 60 Hz, 8 bit, RGB.
 SEdidSetting FactorySetting()
 {
     SEdidSetting setting;
@@ -132,7 +132,7 @@ SEdidSetting FactorySetting()
     return setting;
 }
 
-/// The element with that name; refuses a name that is not there.
+/// The element with that name; an unknown name is an error.
 template <class TElement>
 TElement Named(const QList<TElement>& list, const QString& strName, const SJsonPlace& place)
 {

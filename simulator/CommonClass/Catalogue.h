@@ -9,12 +9,12 @@
 #include <map>
 #include <optional>
 
-/// The senders that the simulator knows: every sender type that the dialogs tell apart, with believable
+/// The senders that the simulator knows: every sender type that the dialogs distinguish, with realistic
 /// capabilities and inputs. Read from a resource; see catalogue.json.
 class COMMONCLASS_EXPORT CCatalogue
 {
 public:
-    /// The catalogue that is built in.
+    /// The built-in catalogue.
     static const CCatalogue& Instance();
 
     /// Reads a catalogue. On a problem the result is empty.

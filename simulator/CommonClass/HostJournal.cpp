@@ -9,7 +9,7 @@
 
 namespace {
 
-/// When the journal is full, this share of it goes at once: views hear of one removal instead of thousands.
+/// A full journal drops this share of its entries at once: views receive one removal instead of thousands.
 constexpr int c_nDropDivisor = 16;
 
 const char* const c_arrCategoryNames[] = {

@@ -19,15 +19,15 @@ enum enJournalCategory
 /// One host call.
 struct COMMONCLASS_EXPORT SJournalEntry
 {
-    qint64 nNumber = 0;    ///< running number, from 1; goes on after a clear
+    qint64 nNumber = 0;    ///< running number, from 1; continues after a clear
     qint64 nTimeStamp = 0; ///< start of the call, ms since 1970-01-01 UTC
     double dDuration = 0;  ///< ms
     enJournalCategory category = enJournalRead;
     QString strObject;         ///< class of the host object, such as `CSenderLogic`
     QString strOperation;      ///< such as `GetSenderType`
-    QStringList listArguments; ///< as text, as they stand after the call: out-arguments show what came back
+    QStringList listArguments; ///< as text, after the call: out-arguments show the values returned
     QString strResult;         ///< empty for an operation without a result
-    bool bFailed = false;      ///< a write that did not take
+    bool bFailed = false;      ///< a write that had no effect
 
     /// The call as the tests write it: `SetOutput50Hz(0, true, 0)`.
     QString CallText() const;
@@ -35,7 +35,7 @@ struct COMMONCLASS_EXPORT SJournalEntry
     QString LineText() const;
 };
 
-/// Every host call in order, as a table model. Memory is bounded: the oldest entries go first.
+/// Every host call in order, as a table model. Memory is bounded: the oldest entries are dropped first.
 class COMMONCLASS_EXPORT CHostJournal : public QAbstractTableModel
 {
     Q_OBJECT
@@ -61,7 +61,7 @@ public:
         enRoleFailed                   ///< `SJournalEntry::bFailed`
     };
 
-    /// Number of entries that are kept when nothing else is set: hours of clicking.
+    /// Default number of entries kept: hours of clicking.
     static constexpr int c_nDefaultCapacity = 20000;
 
     explicit CHostJournal(QObject* pParent = nullptr);
@@ -69,9 +69,9 @@ public:
 
     /// Adds an entry and gives it its number.
     void Append(SJournalEntry entry);
-    /// Marks the entry that was added last as a write that did not take.
+    /// Marks the last entry as a write that had no effect.
     void MarkLastFailed();
-    /// Forgets all entries; the running number goes on.
+    /// Removes all entries; the running number continues.
     void Clear();
     /// Sets how many entries are kept, at least 1.
     void SetCapacity(int nCapacity);

@@ -17,7 +17,7 @@ struct SCanvasLimit;
 struct SEdidSetting;
 struct SVideoPortKey;
 
-/// How arguments and results of host calls read in the journal.
+/// How the journal formats arguments and results of host calls.
 namespace JournalText {
 
 COMMONCLASS_EXPORT QString Of(bool bValue);
@@ -39,7 +39,7 @@ COMMONCLASS_EXPORT QString Of(const SCanvasLimit* pLimit);
 COMMONCLASS_EXPORT QString Of(const SEdidSetting* pSetting);
 COMMONCLASS_EXPORT QString Of(const SVideoPortKey* pKey);
 
-/// A table of addresses that an operation fills: its content shows in the result's count alone.
+/// A table of addresses that an operation fills: only the count in the result is shown.
 struct STable
 {
     unsigned int* pTable;
@@ -50,7 +50,7 @@ inline QString Of(const STable& table)
     return table.pTable == nullptr ? QStringLiteral("null") : QStringLiteral("table");
 }
 
-/// A code that reads better in hexadecimal.
+/// A code that is easier to read in hexadecimal.
 struct SHexCode
 {
     int nCode;
@@ -60,8 +60,8 @@ COMMONCLASS_EXPORT QString Of(const SHexCode& code);
 
 } // namespace JournalText
 
-/// Base of the journalling front of one host interface. Each operation of the front is one line: it hands the
-/// call on to the object behind it and notes call, duration and result.
+/// Base of the journalling front of one host interface. Each operation of the front is one line: it forwards
+/// the call to the object behind it and records call, duration and result.
 template <class TInterface>
 class CJournalledFront : public TInterface
 {
@@ -95,7 +95,7 @@ protected:
         }
     }
 
-    /// Marks the call that was just made as a write that did not take.
+    /// Marks the latest call as a write that had no effect.
     void MarkFailed() { m_journal.MarkLastFailed(); }
 
 private:

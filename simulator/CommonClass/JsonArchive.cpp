@@ -8,12 +8,13 @@
 
 namespace {
 
-/// Largest length of a value that is quoted in a message.
+/// Longest value quoted in a message.
 constexpr int c_nQuotedLength = 60;
 
 QString Quoted(const QJsonValue& value)
 {
-    // A document holds arrays and objects alone, so the value stands in an array whose brackets are cut off.
+    // A document holds only arrays and objects, so the value is wrapped in an array and
+    // the brackets removed.
     const QByteArray baArray = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     const QString strValue = QString::fromUtf8(baArray.mid(1, baArray.size() - 2));
     return strValue.size() <= c_nQuotedLength ? strValue

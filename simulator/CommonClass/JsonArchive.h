@@ -36,13 +36,13 @@ struct SRange
     qint64 nMax;
 };
 
-/// The length that a text or a block of bytes must have at most, or exactly.
+/// The maximum or exact length of a text or a block of bytes.
 struct SLength
 {
     int nMax;
 };
 
-/// Where a value stands, and the problem that reading may meet. The first problem stays.
+/// The path of a value, and the first problem met while reading. Later problems do not replace it.
 struct SJsonPlace
 {
     QString strPath;
@@ -114,7 +114,7 @@ void ReadJson(const SJsonPlace& place, const QJsonValue& value, std::deque<TElem
     ReadJsonArray(place, value, elements, limits...);
 }
 
-/// What may be absent is null.
+/// An absent optional value is null.
 template <class TValue, class... TLimits>
 void ReadJson(const SJsonPlace& place, const QJsonValue& value, std::optional<TValue>& optional,
               const TLimits&... limits)
@@ -181,7 +181,7 @@ QJsonValue WriteJson(const std::optional<TValue>& optional)
 }
 /// @}
 
-/// Reads the fields of one object, and knows afterwards which of its keys nobody asked for.
+/// Reads the fields of one object, and afterwards knows which of its keys were not read.
 class CJsonReader
 {
 public:
@@ -200,7 +200,7 @@ public:
         ReadJson(m_place.Key(strKey), m_object.value(strKey), value, limits...);
     }
 
-    /// A value that is left out where it is empty, so that files from before it was known can be read.
+    /// A value that is omitted when empty, so that files written before it existed remain readable.
     template <class TValue, class... TLimits>
     void OptionalField(const char* szKey, TValue& value, const TLimits&... limits)
     {
@@ -210,7 +210,7 @@ public:
             Field(szKey, value, limits...);
     }
 
-    /// Refuses keys that no field has asked for: a misspelt key must not pass for a missing one.
+    /// Rejects keys that no field has read: a misspelt key must not be mistaken for a missing one.
     void RefuseUnknownKeys() const;
 
 private:
@@ -221,7 +221,7 @@ private:
     QStringList m_listKnown;
 };
 
-/// Writes the fields of one object. The limits are the reader's business.
+/// Writes the fields of one object. Only the reader checks the limits.
 class CJsonWriter
 {
 public:

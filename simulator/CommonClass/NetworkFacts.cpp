@@ -38,7 +38,7 @@ std::optional<unsigned int> DefaultGateway(const QByteArray& baLine)
     const unsigned int nMask = Hexadecimal(listColumns.at(c_nColumnMask), bGood);
     if (!bGood || nDestination != 0 || nMask != 0 || (nFlags & c_nFlagGateway) == 0)
         return std::nullopt;
-    // The kernel prints the four bytes of the address as if they were a number of this machine.
+    // The kernel prints the four bytes of the address as an integer in the byte order of this machine.
     return qFromBigEndian(nGateway);
 }
 

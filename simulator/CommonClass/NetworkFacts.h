@@ -13,24 +13,24 @@ struct SLocalAddress
 {
     unsigned int nAddress = 0;
     unsigned int nNetmask = 0;
-    unsigned int nBroadcast = 0; ///< as the interface states it; 0: it states none
+    unsigned int nBroadcast = 0; ///< as the interface reports it; 0: none
 };
 
-/// What the rules for processor addresses need to know of this computer's network.
+/// The facts about this computer's network that the rules for processor addresses need.
 struct SNetworkFacts
 {
     QList<SLocalAddress> listLocal;
     QList<unsigned int> listGateways; ///< default gateways
 };
 
-/// Gives the network facts; asked anew on each `CConfigData::UpdateErrorIPList`.
+/// Returns the network facts; called on each `CConfigData::UpdateErrorIPList`.
 using FuncNetworkFacts = std::function<SNetworkFacts()>;
 
 /// The facts of the machine: its interfaces, and the default routes of the kernel's routing table.
 COMMONCLASS_EXPORT SNetworkFacts MachineNetworkFacts();
 
 /// The gateways of the default routes in a routing table in the form of /proc/net/route. Lines that are not
-/// in that form are passed over.
+/// in that form are skipped.
 COMMONCLASS_EXPORT QList<unsigned int> DefaultGateways(const QByteArray& baRoutingTable);
 
 #endif // SIMULATOR_COMMONCLASS_NETWORKFACTS_H

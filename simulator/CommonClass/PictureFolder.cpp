@@ -22,7 +22,7 @@ QFileInfoList PicturesIn(const QString& strFolder)
                                : QDir(strFolder).entryInfoList({QStringLiteral("sender-*")}, QDir::Files);
 }
 
-/// Makes the pictures of one folder those of another.
+/// Replaces the pictures of one folder by those of another.
 bool TakePicturesAlong(const QString& strFrom, const QString& strTo)
 {
     if (strFrom == strTo)

@@ -17,13 +17,13 @@ public:
     CPictureFolder();
     ~CPictureFolder();
 
-    /// Another project takes the place: its pictures are beside its file. Temporary ones are deleted.
+    /// Switches to another project, whose pictures are beside its file. Temporary ones are deleted.
     /// @param strFile the project's file; empty for a project without one
     void Replace(const QString& strFile);
-    /// The project goes to another file, and its pictures with it. Pictures beside that file belong to the
+    /// Moves the project and its pictures to another file. Pictures beside that file belong to the
     /// project that was overwritten, and are deleted.
-    /// @param problem takes what went wrong when not all pictures could be copied
-    /// @return false then
+    /// @param problem receives the error when not all pictures could be copied
+    /// @return false when not all pictures could be copied
     bool MoveTo(const QString& strFile, SFileProblem& problem);
     /// The folder's path; creates the temporary one.
     QString Path();

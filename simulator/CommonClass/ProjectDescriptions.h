@@ -7,7 +7,7 @@
 /// @file
 /// The fields of the project's records: key, value and limits, for reading and writing alike.
 
-/// Longest text in a file: a name field holds 64 characters, and an entry two of them.
+/// Longest text in a file: a name field holds 64 characters, and an entry has two such fields.
 constexpr SLength c_textLength = {256};
 /// Longest line of measurements: a name and twelve numbers.
 constexpr SLength c_measurementLength = {1024};
@@ -17,7 +17,7 @@ constexpr SRange c_sideRange = {0, 65535};
 constexpr SRange c_rateRange = {0, 1000};
 /// Longest delay of a write, ms.
 constexpr SRange c_delayRange = {0, 60000};
-/// Integers that JSON numbers hold exactly.
+/// Integers that JSON numbers represent exactly.
 constexpr SRange c_exactRange = {-9007199254740991, 9007199254740991};
 
 template <class TArchive>

@@ -224,7 +224,7 @@ QString CProjectDocument::PictureFolder()
 
 QString CProjectDocument::PictureName(int nSender) const
 {
-    // No extension: the picture keeps the format of the file that it was copied from.
+    // No extension: the picture keeps the format of its source file.
     const SSimulatedSender* pSender = m_project.FindSender(nSender);
     return QStringLiteral("sender-%1").arg(pSender == nullptr ? 0 : pSender->nId);
 }

@@ -12,7 +12,7 @@
 
 #include <functional>
 
-/// The project of the simulated host: its values, what changed in them, and the file that they are kept in.
+/// The project of the simulated host: its values, their changes, and the file that stores them.
 class COMMONCLASS_EXPORT CProjectDocument : public QObject
 {
     Q_OBJECT
@@ -24,47 +24,48 @@ public:
     /// @name Values
     /// @{
     const SSimulatedProject& Project() const { return m_project; }
-    /// Changes the project by a function and announces it. This is how settings, limits, misbehaviour and
-    /// whatever else the project holds are set:
+    /// Changes the project by a function and announces it. Use it to set settings, limits, faults and
+    /// everything else in the project:
     ///
     ///     document.Change([](SSimulatedProject& project) {
     ///         project.listSenders[0].faults.nEdidWriteResult = 5;
     ///     });
     void Change(const std::function<void(SSimulatedProject& project)>& funcChange);
-    /// The project, to be changed now or in place later: changes are looked for when control is back in the
-    /// event loop, so that a run of many small writes is compared once.
+    /// The project, to be changed now or in place later: changes are detected when control returns to the
+    /// event loop, so many small writes are compared only once.
     SSimulatedProject& Edit();
-    /// The dialogs write sender records in place. Finds such changes and announces them; runs by itself when
-    /// control is back in the event loop after a record was handed out.
+    /// The dialogs write sender records in place. Finds such changes and announces them; runs automatically
+    /// when control returns to the event loop after a record was handed out.
     void NoticeChanges();
-    /// True when the project differs from its file, or was changed since it was started. Which sender is the
-    /// current one does not count.
+    /// True when the project differs from its file, or has changed since it was started. The choice of the
+    /// current sender does not count.
     bool IsModified();
     /// @}
 
     /// @name Starting a project
     /// @{
-    /// Starts a project with the six senders that a demo project can be made of.
+    /// Starts a project with the six sender types of a demo project.
     void NewProject();
     /// Starts a project with one sender of each type of the catalogue.
     void NewCatalogueProject();
     /// Starts a project without senders.
     void NewEmptyProject();
-    /// Starts a project with one sender of a type, in demo mode. How processors are addressed stays.
-    /// @return false for a type that the catalogue does not know; nothing is changed then
+    /// Starts a project with one sender of a type, in demo mode. The addressing stays
+    /// as it is.
+    /// @return false for a type that is not in the catalogue; nothing changes then
     bool NewDemoProject(int nType);
     /// @}
 
     /// @name Senders
     /// @{
     /// Adds a factory-new sender as the last one.
-    /// @return its index; -1 for a type that the catalogue does not know, and when the ids are used up
+    /// @return its index; -1 for a type that is not in the catalogue, and when the ids are used up
     int AddSender(int nType, const QString& strName = QString());
-    /// Adds factory-new senders with that number of output ports, announced as one change.
-    /// @return how many were added: none of a type that the catalogue does not know, fewer when the ids are
-    /// used up
+    /// Adds factory-new senders with the given number of output ports, announced as one change.
+    /// @return the number added: 0 for a type that is not in the catalogue, fewer than requested when the ids
+    /// are used up
     int AddSenders(int nType, int nCount, int nOutputPorts);
-    /// Removes a sender; the current one stays current where it can.
+    /// Removes a sender; the current sender stays current where possible.
     void RemoveSender(int nSender);
     /// Makes a sender the one that the dialogs edit. An index without a sender is ignored.
     void SetCurrentSender(int nSender);
@@ -74,7 +75,7 @@ public:
 
     /// @name The file
     /// @{
-    /// Path of the project file; empty while the project was never saved.
+    /// Path of the project file; empty until the project is first saved.
     QString FilePath() const { return m_strFile; }
     /// Opens a project. On a problem the present project stays.
     bool Open(const QString& strFile, SFileProblem& problem);
@@ -83,10 +84,10 @@ public:
     /// Saves to a file, which becomes the project's, and takes the background pictures along. Pictures that
     /// could not be copied are reported by `OnProblem`.
     bool SaveAs(const QString& strFile, SFileProblem& problem);
-    /// Makes the address lists permanent, and nothing else of what was changed. A project without a file
+    /// Makes the address lists permanent, but no other change. A project without a file
     /// keeps them until it is saved.
     bool SaveAddresses(SFileProblem& problem);
-    /// The broken file that the last save has kept beside the new one; empty when there was none.
+    /// The unreadable file that the last save kept beside the new one; empty when there was none.
     QString KeptFile() const { return m_strKept; }
     /// Folder of the background pictures.
     QString PictureFolder();
@@ -97,9 +98,9 @@ public:
     /// @}
 
 Q_SIGNALS:
-    /// Anything in the project changed; announced once for each change, whatever it holds.
+    /// The project changed; announced once for each change, however much it covers.
     void OnProjectChanged(const SProjectChange& change);
-    /// Another project took its place; what was known of senders and inputs is void.
+    /// Another project replaced this one; anything remembered about senders and inputs is invalid.
     void OnProjectReplaced();
     /// `IsModified` changed.
     void OnModifiedChanged(bool bModified);
@@ -117,7 +118,7 @@ private:
 
     SSimulatedProject m_project;
     CSender m_senderNone;
-    QJsonObject m_jsonSaved; ///< the project as it is in its file, or as it was started
+    QJsonObject m_jsonSaved; ///< the project as stored in its file, or as it was started
     SProjectFingerprint m_fingerprintSaved;
     SProjectFingerprint m_fingerprintNoticed; ///< the project as it was last announced
     bool m_bModified = false;

@@ -23,7 +23,7 @@ const QString c_strFormatKey = QStringLiteral("format");
 const QString c_strVersionKey = QStringLiteral("version");
 const QString c_strProjectKey = QStringLiteral("project");
 
-/// A larger file is no project; it is not read into memory.
+/// A larger file cannot be a project and is not read into memory.
 constexpr qint64 c_nLargestFile = qint64(64) * 1024 * 1024;
 
 void Refuse(SFileProblem& problem, const QString& strWhat, const QString& strAdvice)
@@ -45,7 +45,7 @@ QString AdviceDisk()
                               "another place.");
 }
 
-/// Reading a pipe or a device could wait for ever; a name without a file is left to the caller.
+/// Reading a pipe or a device could block forever; the caller handles a missing file.
 bool RequireRegularFile(const QString& strFile, SFileProblem& problem)
 {
     const QFileInfo info(strFile);
@@ -114,8 +114,8 @@ bool CheckHeaderKeys(const QJsonObject& object, SFileProblem& problem)
     return true;
 }
 
-/// Names `project.json` as `project.broken-20261121-143005.json`; a running number follows where that is
-/// taken.
+/// Names `project.json` as `project.broken-20261121-143005.json`; a running number follows when that
+/// name is taken.
 QString NameForKept(const QString& strFile)
 {
     const QFileInfo info(strFile);
@@ -148,8 +148,8 @@ bool KeepBroken(const QString& strFile, QString& strKept, SFileProblem& problem)
     return false;
 }
 
-/// Start of the names that a save uses beside the file until it is whole. It names the file, so that what a
-/// killed save left behind cannot be taken for a file of the operator's.
+/// Prefix of the temporary files that a save uses beside the file. It contains the file's name, so that
+/// leftovers of a killed save cannot be mistaken for the operator's files.
 QString UnfinishedPrefix(const QFileInfo& info)
 {
     return QStringLiteral(".%1.saving-").arg(info.fileName());
@@ -160,7 +160,7 @@ bool IsRunning(qint64 nProcess)
     return kill(pid_t(nProcess), 0) == 0 || errno == EPERM;
 }
 
-/// Removes what killed saves of this file left behind; a save that another process has under way stays.
+/// Removes leftovers of killed saves of this file, but not the files of a save running in another process.
 void RemoveUnfinished(const QFileInfo& info)
 {
     const QString strPrefix = UnfinishedPrefix(info);
@@ -175,14 +175,14 @@ void RemoveUnfinished(const QFileInfo& info)
     }
 }
 
-/// A link stays a link: what it points to is replaced.
+/// A link stays a link: its target is replaced.
 QFileInfo Target(const QString& strFile)
 {
     const QFileInfo info(strFile);
     return info.exists() ? QFileInfo(info.canonicalFilePath()) : info;
 }
 
-/// Puts a whole file in the place of another in one step.
+/// Replaces one file by another in a single step.
 bool MoveOver(const QString& strFrom, const QFileInfo& infoTo)
 {
     if (infoTo.exists())
@@ -191,7 +191,7 @@ bool MoveOver(const QString& strFrom, const QFileInfo& infoTo)
                        QFile::encodeName(infoTo.absoluteFilePath()).constData()) == 0;
 }
 
-/// What stood in the way of the last step, or nothing.
+/// Why the last step failed, or nothing.
 QString WriteWhole(const QFileInfo& info, const QByteArray& baContent)
 {
     if (info.exists() && !info.isWritable())

@@ -92,7 +92,8 @@ private:
     template <class TRecord, std::enable_if_t<std::is_class_v<TRecord>, int> = 0>
     void Append(const TRecord& record)
     {
-        // One description serves reading too, so it takes the record by reference; this archive only reads.
+        // Reading uses the same description, so it takes a reference; this archive does
+        // not modify it.
         Describe(*this, const_cast<TRecord&>(record)); // NOLINT(cppcoreguidelines-pro-type-const-cast)
     }
 
@@ -107,7 +108,7 @@ QByteArray BytesOf(TRecord& record)
     return bytes.Take();
 }
 
-/// Keeps senders, address lists and the current sender apart from the rest.
+/// Keeps senders, address lists and the current sender separate from the rest.
 class CProjectParts
 {
 public:

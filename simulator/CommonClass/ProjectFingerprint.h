@@ -9,24 +9,25 @@
 
 #include <vector>
 
-/// What differs between two states of a project, so that a view redraws that and nothing else.
+/// The differences between two states of a project, so that a view redraws only what changed.
 struct COMMONCLASS_EXPORT SProjectChange
 {
     QSet<int> setSenderIds;      ///< ids of the senders that were added or whose values changed
     bool bSenderList = false;    ///< senders were added, removed or moved
     bool bAddresses = false;     ///< the address lists changed
     bool bSettings = false;      ///< anything else in the file changed
-    bool bCurrentSender = false; ///< another sender is edited; its place in the file is no matter of saving
+    bool bCurrentSender = false; ///< another sender is edited; this alone is no reason to save
 
     bool IsEmpty() const;
-    /// Whether the file would be worth saving.
+    /// True when there is something to save.
     bool ConcernsFile() const;
 };
 
 Q_DECLARE_METATYPE(SProjectChange)
 
-/// The values of a project as bytes, part by part: equal bytes are equal values. The bytes come from the same
-/// descriptions as the project file at a fraction of its time, so a project can be compared on every change.
+/// The values of a project as bytes, part by part: equal bytes are equal values. The bytes come
+/// from the same descriptions as the project file in a fraction of the time, so every change
+/// can be compared.
 struct SProjectFingerprint
 {
     struct SSender
@@ -43,7 +44,7 @@ struct SProjectFingerprint
 
 COMMONCLASS_EXPORT SProjectFingerprint FingerprintOf(const SSimulatedProject& project);
 
-/// What changed from one state to the next.
+/// The differences between one state and the next.
 COMMONCLASS_EXPORT SProjectChange Difference(const SProjectFingerprint& before,
                                              const SProjectFingerprint& after);
 

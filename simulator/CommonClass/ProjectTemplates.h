@@ -5,10 +5,10 @@
 
 #include <QList>
 
-/// The projects that one can start with, as values.
+/// The projects offered as a starting point, as values.
 namespace ProjectTemplates {
 
-/// The six sender types that a demo project can be made of, in the order of the demo dialog's menu.
+/// The six sender types of a demo project, in the order of the demo dialog's menu.
 SSimulatedProject Demo();
 /// One sender of each type of the catalogue.
 SSimulatedProject Catalogue();
@@ -17,7 +17,7 @@ SSimulatedProject OneSender(int nType);
 
 /// Adds a factory-new sender as the last one.
 /// @param strName its name; empty for the model's
-/// @return its index; -1 for a type that the catalogue does not know, and when the ids are used up
+/// @return its index; -1 for a type that is not in the catalogue, and when the ids are used up
 int AddSender(SSimulatedProject& project, int nType, const QString& strName);
 
 } // namespace ProjectTemplates

@@ -30,13 +30,13 @@ enAddressVerdict CSimulatedAddresses::Judge(unsigned int nAddress)
 const QSet<unsigned int>& CSimulatedAddresses::Used()
 {
     const SAddressLists& lists = m_document.Project().addresses;
-    // Lists that share their data are equal at once, so this costs nothing while they stay as they are.
+    // Lists that share their data compare equal immediately, so this costs nothing while they are unchanged.
     if (lists.listStored == m_listUsedStored && lists.listCurSet == m_listUsedCurSet)
         return m_setUsed;
     m_listUsedStored = lists.listStored;
     m_listUsedCurSet = lists.listCurSet;
     m_setUsed.clear();
-    // An address is taken by the list that is in force and by the one that is to follow it.
+    // An address is in use if it is in the list in force or in the one being set.
     for (const QStringList* pList : {&m_listUsedStored, &m_listUsedCurSet}) {
         for (const QString& strEntry : *pList)
             m_setUsed.insert(AddressValue(EntryAddress(strEntry)).value_or(0));

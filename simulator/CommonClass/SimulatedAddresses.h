@@ -10,23 +10,23 @@
 
 class CProjectDocument;
 
-/// The address lists of the project, and the verdicts on addresses by these lists and the network.
+/// The address lists of the project, and the verdicts on addresses based on these lists and the network.
 class COMMONCLASS_EXPORT CSimulatedAddresses
 {
 public:
     explicit CSimulatedAddresses(CProjectDocument& document);
 
-    /// Where the network facts come from. The default asks the machine. Refreshes the facts.
+    /// Sets the source of the network facts and refreshes them. The default queries the machine.
     void SetNetworkFacts(FuncNetworkFacts funcFacts);
-    /// Asks for the network facts again.
+    /// Refreshes the network facts.
     void RefreshNetworkFacts();
     const SNetworkFacts& NetworkFacts() const { return m_facts; }
 
-    /// Judges an address as the dialogs have it judged.
+    /// Checks an address as the dialogs do.
     enAddressVerdict Judge(unsigned int nAddress);
     /// Removes an entry from all three address lists.
     void Remove(int nIndex);
-    /// Takes the list that is being set into force, or throws its changes away.
+    /// Applies the list being set, or discards its changes.
     void ApplyCurrentSet();
     void RevertCurrentSet();
 

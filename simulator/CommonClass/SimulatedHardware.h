@@ -10,7 +10,7 @@
 
 class CProjectDocument;
 
-/// What the simulated senders do as devices: they take time to write, and keep an EDID memory per input.
+/// The simulated senders as devices: writes take time, and each input has an EDID memory.
 class COMMONCLASS_EXPORT CSimulatedHardware : public QObject
 {
     Q_OBJECT
@@ -23,13 +23,13 @@ public:
     /// @param baEdid 128 bytes, or nothing to empty the memory
     /// @return false when sender or input does not exist or the block has another length
     bool SetEdidMemory(int nSender, int nInterfaceId, const QByteArray& baEdid);
-    /// How a slow sender's delay is spent; tests put something faster in its place.
+    /// How to wait for a slow sender; tests substitute something faster.
     void SetSleep(std::function<void(int nMilliseconds)> funcSleep);
-    /// Spends the write delay of a sender.
+    /// Waits for the write delay of a sender.
     void SpendWriteDelay(int nSender);
 
 Q_SIGNALS:
-    /// A setting was written to an input and took: its EDID memory is due for a new block.
+    /// A setting was successfully written to an input: its EDID memory needs a new block.
     void OnEdidWritten(int nSender, int nInterfaceId);
 
 private:

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Refuses the second of two elements with the same key.
+/// Rejects the second of two elements with the same key.
 template <class TContainer, class TKey>
 void RequireUnique(const SJsonPlace& place, const TContainer& container, TKey key, const QString& strWhat)
 {
@@ -77,7 +77,7 @@ void CheckDetected(const QStringList& listDetected, const SJsonPlace& place)
     }
 }
 
-/// The chart's coverage is calculated from two groups: with one of them missing there is nothing to compare.
+/// The chart calculates coverage from two groups; with one of them missing there is nothing to compare.
 void CheckColour(const SProjectColour& colour, const SJsonPlace& place)
 {
     const SJsonPlace placeGroups = place.Key(QStringLiteral("colour")).Key(QStringLiteral("groups"));

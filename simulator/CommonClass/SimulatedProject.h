@@ -18,23 +18,23 @@
 #include <optional>
 
 /// @file
-/// Everything that the simulated host keeps, as plain values.
+/// All state of the simulated host, as plain values.
 
-/// Largest id of a sender. Ids are never given twice; a project that has used this one takes no more senders.
+/// Largest id of a sender. Ids are never reused; a project that has used this id accepts no more senders.
 constexpr int c_nLastSenderId = 1000000000;
 
-/// A video input: what it can take, and what it holds.
+/// A video input: its limits and its contents.
 struct SSimulatedInput
 {
     int nInterfaceId = 0;
     QString strName;
     CSenderEdidLimitData limit;
-    /// Largest pixel clock, MHz; judged where `limit.bLimitByPixelClock` is set.
+    /// Largest pixel clock, MHz; checked when `limit.bLimitByPixelClock` is set.
     int nMaxPixelClock = 0;
 
     /// The setting in force; empty: the input has none, and the EDID dialog opens with its own defaults.
     std::optional<SEdidSetting> setting;
-    /// The EDID memory: the 128 bytes that a computer reads, or empty.
+    /// The EDID memory: the 128 bytes read by a computer, or empty.
     QByteArray baEdid;
 };
 
@@ -46,17 +46,17 @@ struct SSenderCapability
     bool bVideoProcessor = true;
     bool bSupport10Bit = false;
     bool bSupport12Bit = false;
-    bool bExtendedEdid = false;       ///< it takes the full EDID record
+    bool bExtendedEdid = false;       ///< it accepts the full EDID record
     bool bCanvasFromHardware = false; ///< its canvas is read from the hardware
     bool bExtensionBlock = false;     ///< it can present modes that need an EDID extension block
     SCanvasLimit canvasLimit;
 };
 
-/// How a sender misbehaves, so that a person can provoke every message.
+/// How a sender misbehaves, so that an operator can provoke every message.
 struct SSenderFaults
 {
-    qint64 nEdidWriteResult = 0;  ///< what `SetEdidSetting` gives; 0 is success
-    bool bBasicEdidFails = false; ///< `ApplyBasicEdid` says that the write did not take
+    qint64 nEdidWriteResult = 0;  ///< result of `SetEdidSetting`; 0 is success
+    bool bBasicEdidFails = false; ///< `ApplyBasicEdid` reports that the write failed
     int nWriteDelay = 0;          ///< ms that every write to the hardware takes
 };
 
@@ -90,7 +90,7 @@ struct SAddressing
     std::optional<int> nAddedSenderCount; ///< empty: the number of senders in the project
     int nCountLimitByIP = 255;            ///< largest number of processors when they are addressed by IP
     int nCountLimitOtherwise = 20;        ///< largest number of processors when they are not
-    QStringList listDetected;             ///< addresses that the network search has found, dotted decimal
+    QStringList listDetected;             ///< addresses found by the network search, dotted decimal
 };
 
 /// The lists of processor addresses: entries `address(name)`. All three have the same length.

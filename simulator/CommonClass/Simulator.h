@@ -32,13 +32,13 @@ class COMMONCLASS_EXPORT CSimulator : public QObject
 public:
     static CSimulator& Instance();
 
-    /// What `SenderModuleDialogInit` is to be given.
+    /// The argument for `SenderModuleDialogInit`.
     IKelvaroLabel* Label();
     /// Every host call in order, as a table model.
     CHostJournal& Journal() { return m_journal; }
     /// The project and its file.
     CProjectDocument& Document() { return m_document; }
-    /// The project's addresses and what the network says of them.
+    /// The project's addresses and their verdicts.
     CSimulatedAddresses& Addresses() { return m_addresses; }
     /// The senders as devices.
     CSimulatedHardware& Hardware() { return m_hardware; }

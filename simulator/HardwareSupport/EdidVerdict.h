@@ -6,8 +6,8 @@
 struct SSenderCapability;
 struct SSimulatedInput;
 
-/// Judges a size against what an input can take; the text is the verdict for the operator, empty when the
-/// size is valid. A size that is valid but needs an EDID extension block earns a notice.
+/// Checks a size against the limits of an input; the text is the verdict for the operator, empty when the
+/// size is valid. A valid size that needs an EDID extension block gives a notice.
 /// @param nLimit largest area in pixels, or the pixel clock of the mode in MHz where the input is limited by
 /// it;
 ///               a clock of 0 is unknown and is not judged

@@ -1,4 +1,4 @@
-// The logic objects that the library hands on without calling them.
+// The logic objects that the library passes on without calling them.
 #include "host/HardwareSupport/AdvancedSoftEdgeLogic.h"
 #include "host/HardwareSupport/CaliSoftEdgeLogic.h"
 #include "host/HardwareSupport/ColorBrightLogic.h"

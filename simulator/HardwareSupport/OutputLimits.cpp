@@ -6,7 +6,7 @@
 
 namespace {
 
-/// What a sender puts out, pixels: the two sizes of which the dialogs speak.
+/// Output sizes of a sender, pixels: the two that the dialogs mention.
 constexpr qint64 c_nSmallOutputArea = 2600000;
 constexpr qint64 c_nLargeOutputArea = 8880000;
 /// What one output port drives, pixels.

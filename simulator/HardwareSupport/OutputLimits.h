@@ -5,8 +5,8 @@
 
 struct SSimulatedSender;
 
-/// The flags that the sender was told to report, or else those that its canvas, ports and input settings
-/// earn.
+/// The flags that the sender is configured to report, or else those computed from its canvas, ports
+/// and input settings.
 unsigned int OutputLimitFlags(const SSimulatedSender& sender);
 
 #endif // SIMULATOR_HARDWARESUPPORT_OUTPUTLIMITS_H

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Entries of the table that the caller brings.
+/// Entries of the table that the caller provides.
 constexpr int c_nDetectedTableLength = 255;
 
 /// `ApplyDemoProject` does not know the sender type that was set.
@@ -25,13 +25,13 @@ public:
     bool IsSupport10Bit(int nSender) override { return Capability(nSender).bSupport10Bit; }
     bool IsSupport12Bit(int nSender) override { return Capability(nSender).bSupport12Bit; }
 
-    /// The interface asks for no sender: the answer is the current one's.
+    /// The interface names no sender, so the answer is that of the current sender.
     bool IsExtendedEdidSupported() override
     {
         return Capability(m_simulator.Project().nCurSender).bExtendedEdid;
     }
 
-    /// Nothing is left to do: the write has taken by now.
+    /// Nothing to do: the write has already taken effect.
     void AfterEdidWritten(int /*nSender*/) override {}
 
     bool IsSupportCanvasSize(int nSender) override { return Capability(nSender).bCanvasFromHardware; }
@@ -67,7 +67,7 @@ public:
 private:
     const SAddressing& Addressing() const { return m_simulator.Project().addressing; }
 
-    /// The sender with that index, or one that can do nothing.
+    /// The sender with that index, or one without any capability.
     const SSimulatedSender& Sender(int nSender) const
     {
         static const SSimulatedSender s_none;
@@ -93,7 +93,7 @@ int CSimulatedSenderLogic::GetDetectedIPList(unsigned int* pList)
 {
     const QStringList& listDetected = Addressing().listDetected;
     const int nCount = std::min(listDetected.size(), c_nDetectedTableLength);
-    // The search speaks the network's byte order: the first octet stands in the low byte.
+    // The search uses network byte order: the first octet is in the low byte.
     for (int nIndex = 0; nIndex < nCount; ++nIndex)
         pList[nIndex] = qbswap(AddressValue(listDetected.at(nIndex)).value_or(0));
     return nCount;

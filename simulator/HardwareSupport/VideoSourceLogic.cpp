@@ -13,13 +13,13 @@
 
 namespace {
 
-/// What `SetEdidSetting` gives for an input that does not exist.
+/// Result of `SetEdidSetting` for an input that does not exist.
 constexpr qint64 c_nNoSuchInput = -1;
 
 /// Format flags of an input that never had a full record: 8 bit, RGB.
 constexpr quint8 c_byDefaultFormat = 0x12;
 
-/// A setting that was sent and waits for the end of the write.
+/// A setting that was sent and takes effect at the end of the write.
 struct SPendingWrite
 {
     int nSender = 0;
@@ -27,14 +27,14 @@ struct SPendingWrite
     SEdidSetting setting;
 };
 
-/// What a full record leaves in force: it carries the connect-to-computer choice as its opposite.
+/// The setting in force after a full record, which carries the connect-to-computer choice inverted.
 SEdidSetting FullSetting(SEdidSetting setting)
 {
     setting.byConnectPC = setting.byConnectPC == 0 ? 1 : 0;
     return setting;
 }
 
-/// What a basic record leaves in force: it carries size and rate alone, the rest stays as it was.
+/// The setting in force after a basic record, which carries only size and rate; the rest stays unchanged.
 SEdidSetting BasicSetting(const SEdidSetting& written, std::optional<SEdidSetting> present)
 {
     SEdidSetting setting = present.value_or(SEdidSetting());
@@ -92,7 +92,7 @@ private:
 
 void CSimulatedVideoSourceLogic::GetEdidLimit(int nSender, int nInterfaceId, CSenderEdidLimitData* pLimit)
 {
-    // The verdicts that follow name no input: they concern the one whose limits were fetched last.
+    // The verdicts that follow name no input: they apply to the one whose limits were fetched last.
     m_nJudgedSender = nSender;
     m_nJudgedInterface = nInterfaceId;
     const SSimulatedInput* pInput = Input(nSender, nInterfaceId);

@@ -5,14 +5,14 @@
 
 class CCustomComboBox;
 
-/// What assistive tools are told of a combo box: its name and its value. A push button would tell its text
-/// as its name, and a box that is named for its caption would then tell no value.
+/// The name and value of a combo box for assistive tools. A push button reports its text as its name, so a
+/// box named after its caption would otherwise report no value.
 class CComboBoxAccessible : public QAccessibleWidget
 {
 public:
     explicit CComboBoxAccessible(CCustomComboBox* pComboBox);
 
-    /// From now on each combo box has such an interface. Further calls do nothing.
+    /// Gives every combo box such an interface. Further calls do nothing.
     static void Install();
 
     QString text(QAccessible::Text text) const override;

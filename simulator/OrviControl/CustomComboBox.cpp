@@ -39,7 +39,7 @@ const QString& ComboStyle()
 class CCustomComboBox::CPrivate
 {
 public:
-    QPointer<QMenu> pMenu; ///< what `SetMenu` gave
+    QPointer<QMenu> pMenu; ///< the menu passed to `SetMenu`
     bool bMarkChosen = false;
     bool bShowText = false;
 };

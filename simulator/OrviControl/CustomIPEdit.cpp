@@ -18,7 +18,7 @@
 
 namespace {
 
-/// Width that a dot takes between two octets, and the frame around them, pixels.
+/// Width of a dot between two octets and of the frame around them, pixels.
 constexpr int c_nDotWidth = 6;
 constexpr int c_nFrame = 2;
 
@@ -33,7 +33,7 @@ constexpr int c_nLast = IPAddressText::c_nOctets - 1;
 class CCustomIPEdit::CPrivate
 {
 public:
-    /// Where the cursor stands in an octet that it comes to.
+    /// Where the cursor is placed in an octet that it enters.
     enum enCursor
     {
         enAtStart,
@@ -58,8 +58,9 @@ public:
 
     CCustomIPEdit* pEdit;
     std::array<COctetEdit*, IPAddressText::c_nOctets> arrCells{};
-    int nCurrent = 0;          ///< the octet that has the focus or had it last
-    bool bDotExpected = false; ///< the cursor went on by itself: the dot that follows is the one just passed
+    int nCurrent = 0; ///< the octet that has the focus or had it last
+    bool bDotExpected =
+        false; ///< the cursor advanced automatically: the dot typed next is the one just passed
     bool bAllSelected = false;
     bool bRefused = false;
     bool bForwarding = false; ///< a key that came to the field itself is on its way to the current octet
@@ -93,7 +94,7 @@ CCustomIPEdit::CPrivate::CPrivate(CCustomIPEdit* pOwner)
         arrCells.at(std::size_t(i)) = pCell;
         pCell->setAccessibleName(CCustomDialog::tr("第 %1 段").arg(i + 1));
         pCell->setStyleSheet(GetFontStyleSheet(strStyle, QStringLiteral("QLineEdit"), Theme::c_nFontSize));
-        // Tab passes the field as one control: only its first octet is a stop.
+        // Tab treats the field as one control: only its first octet is a tab stop.
         pCell->setFocusPolicy(i == 0 ? Qt::StrongFocus : Qt::ClickFocus);
         ConnectCell(i);
     }
@@ -138,7 +139,7 @@ IPAddressText::Octets CCustomIPEdit::CPrivate::Octets() const
     return arrOctets;
 }
 
-/// All octets change before anyone hears of it.
+/// All octets change before any signal is sent.
 void CCustomIPEdit::CPrivate::SetOctets(const IPAddressText::Octets& arrOctets)
 {
     for (int i = 0; i < IPAddressText::c_nOctets; ++i) {
@@ -217,7 +218,7 @@ bool CCustomIPEdit::CPrivate::HandleClipboardKey(QKeyEvent* pEvent)
         EnterText(QApplication::clipboard()->text());
         return true;
     }
-    // Part of an octet is copied by the octet itself; otherwise it is the address.
+    // The octet itself copies a selected part; otherwise the whole address is copied.
     const bool bPart = Current().hasSelectedText() && Current().selectedText() != Current().text();
     if (bPart)
         return false;
@@ -276,8 +277,8 @@ bool CCustomIPEdit::CPrivate::HandleErase(int nKey)
     return false;
 }
 
-/// Typed, pasted and committed text alike. A single character acts as a key; longer text is an address, or
-/// the part of one from the current octet on, and is taken whole or not at all.
+/// Handles typed, pasted and committed text alike. A single character acts as a key; longer text is an
+/// address, or part of one from the current octet on, and is accepted whole or not at all.
 void CCustomIPEdit::CPrivate::EnterText(const QString& strText)
 {
     if (strText.size() == 1) {
@@ -318,7 +319,7 @@ void CCustomIPEdit::CPrivate::TypeDigit(QChar ch)
         strText.remove(nPlace, cell.selectedText().size());
     }
     const bool bAtEnd = nPlace == strText.size();
-    // Chinese input methods also give wide digits.
+    // Chinese input methods also produce full-width digits.
     strText.insert(nPlace, ch.digitValue() < 0 ? ch : QChar(u'0' + char16_t(ch.digitValue())));
     const auto strOctet = IPAddressText::Canonical(strText);
     if (!strOctet) {
@@ -407,7 +408,7 @@ CCustomIPEdit::CCustomIPEdit(QWidget* pParent)
 
 CCustomIPEdit::~CCustomIPEdit()
 {
-    // The octets report the loss of their focus while the children are deleted.
+    // The octets still report loss of focus while the children are deleted.
     for (COctetEdit* pCell : m_pPrivate->arrCells)
         pCell->disconnect(this);
 }
@@ -439,7 +440,7 @@ QSize CCustomIPEdit::minimumSizeHint() const
 
 void CCustomIPEdit::keyPressEvent(QKeyEvent* pEvent)
 {
-    // A key that no octet wants comes back here from the octet, and goes on to the dialog.
+    // A key that the octet ignores returns here and goes on to the dialog.
     if (m_pPrivate->bForwarding) {
         QWidget::keyPressEvent(pEvent);
         return;

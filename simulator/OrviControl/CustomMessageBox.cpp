@@ -17,12 +17,12 @@
 
 namespace {
 
-/// Width of a message's text, pixels: short texts keep the window readable, long ones wrap. A word that is
-/// longer still widens the window up to the screen.
+/// Width of a message's text, pixels: short texts keep the window readable, long ones wrap. A longer word
+/// widens the window up to the size of the screen.
 constexpr int c_nMinTextWidth = 180;
 constexpr int c_nMaxTextWidth = 380;
 
-/// Part of the screen's width that a message may take, per cent.
+/// Maximum width of a message, per cent of the screen's width.
 constexpr int c_nScreenShare = 80;
 
 constexpr int c_nIconSize = 32;
@@ -36,7 +36,7 @@ struct SButtonText
     const char* szText;
 };
 
-/// In the order in which they stand in the row.
+/// In the order of the row.
 constexpr std::array<SButtonText, 4> c_arrButtons = {{
     {CCustomMessageBox::Ok, QT_TRANSLATE_NOOP("CCustomDialog", "确定")},
     {CCustomMessageBox::Yes, QT_TRANSLATE_NOOP("CCustomDialog", "是")},
@@ -58,7 +58,7 @@ QLabel* CreateIcon(QWidget* pParent, const char* szName)
     return pIcon;
 }
 
-/// The size that shows all of a text.
+/// The size that fits the whole text.
 QSize TextSize(const QLabel& label, const QString& strText)
 {
     const QFontMetrics metrics = label.fontMetrics();
@@ -71,7 +71,7 @@ QSize TextSize(const QLabel& label, const QString& strText)
 QLabel* CreateText(QWidget* pParent, const QString& strText)
 {
     auto* pLabel = new QLabel(pParent);
-    // A name or a path in a message is never markup.
+    // Names and paths in a message must not be read as markup.
     pLabel->setTextFormat(Qt::PlainText);
     pLabel->setText(strText);
     pLabel->setWordWrap(true);
@@ -128,7 +128,7 @@ QPushButton* CCustomMessageBox::CreateButton(StandardButton button, const char* 
         m_pressedButton = button;
         accept();
     });
-    // Without a default among them the last button starts with the focus: the one that declines.
+    // Without a default button the last one starts with the focus: it is the one that declines.
     const bool bFocusIsSet =
         focusWidget() != nullptr && qobject_cast<QPushButton*>(focusWidget())->isDefault();
     if (!bFocusIsSet)

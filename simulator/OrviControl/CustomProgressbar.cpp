@@ -60,14 +60,14 @@ void CCustomProgressbar::SetProgressValue(int nValue)
 {
     if (!isVisible())
         show();
-    // The caller's thread is the only one that can paint. A modal progress dialog processes events here, and
-    // input is modal to it alone, so nothing that is processed can start the caller's work again.
+    // Only the caller's thread can paint, so a modal progress dialog processes events here. Only this dialog
+    // receives input, so no processed event can start the caller's work again.
     setValue(nValue);
 }
 
 void CCustomProgressbar::CloseProgress()
 {
-    // Clicks that are still waiting belong to the time of the progress: they must not meet the dialog below.
+    // Pending clicks were made during the progress: they must not reach the dialog below.
     if (isVisible())
         QCoreApplication::processEvents();
     reset();
@@ -81,7 +81,7 @@ SProgressOwnerRecord& CCustomProgressbar::GetProgressOwnerRecord()
 
 void CCustomProgressbar::keyPressEvent(QKeyEvent* pEvent)
 {
-    // Esc would hide the dialog while the work goes on.
+    // Esc would hide the dialog while the work continues.
     if (m_bCancelable)
         QProgressDialog::keyPressEvent(pEvent);
     else

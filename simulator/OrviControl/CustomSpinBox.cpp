@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Leaves the wheel to what scrolls while the field does not have the focus.
+/// Passes the wheel to the scroll area while the field does not have the focus.
 class CWheelFilter : public QObject
 {
 public:

@@ -14,7 +14,7 @@ constexpr QSize c_sizeSwitch(44, 22);
 constexpr qreal c_fRing = 1.5;
 constexpr qreal c_fKnobGap = 2.0;
 
-/// A colour between two, as the knob is between its places.
+/// A colour between two, by the position of the knob.
 QColor Mix(QRgb rgbFrom, QRgb rgbTo, qreal fPosition)
 {
     const auto Channel = [fPosition](int nFrom, int nTo) {
@@ -38,7 +38,7 @@ class CCustomSwitchButton::CPrivate
 public:
     QVariantAnimation animation;
     bool bAnimated = Theme::AreAnimationsOn();
-    bool bSlideNext = true; ///< the change of state under way may slide
+    bool bSlideNext = true; ///< the current change of state may slide
     qreal fPosition = 0.0;  ///< of the knob, 0 off to 1 on
 };
 

@@ -8,7 +8,7 @@ namespace IPAddressText {
 
 namespace {
 
-/// Digits that a pasted octet may have at most: enough for leading zeros, short enough for an int.
+/// Maximum digits of a pasted octet: enough for leading zeros, short enough for an int.
 constexpr int c_nMaxParsedDigits = 9;
 
 bool IsAsciiDigit(QChar ch)
@@ -25,7 +25,7 @@ int DigitsValue(const QString& strDigits)
     return strDigits.toInt();
 }
 
-/// An octet that a program set.
+/// An octet set by a program.
 QString Clamped(const QString& strPart)
 {
     const int nValue = DigitsValue(strPart.trimmed());

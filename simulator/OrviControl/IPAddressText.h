@@ -6,8 +6,8 @@
 #include <array>
 #include <optional>
 
-/// What the address editor decides about texts. An octet is its decimal text without leading zeros, or empty
-/// while nothing has been entered.
+/// The text rules of the address editor. An octet is its decimal text without leading zeros, or empty while
+/// nothing has been entered.
 namespace IPAddressText {
 
 /// Octets of an address.
@@ -21,7 +21,7 @@ constexpr int c_nMaxOctet = 255;
 
 using Octets = std::array<QString, c_nOctets>;
 
-/// The octet that a text of digits means: leading zeros dropped.
+/// The octet for a text of digits, without leading zeros.
 /// @return nothing when the text is not a number from 0 to 255; an empty text stays empty
 std::optional<QString> Canonical(const QString& strDigits);
 
@@ -41,7 +41,7 @@ Octets Split(const QString& strAddress);
 /// @return nothing unless it is one to four octets from 0 to 255 with separators between them
 std::optional<Octets> Parse(const QString& strPasted);
 
-/// Number of octets before the first missing one at the end.
+/// Number of octets up to the last one that is present.
 int CountGiven(const Octets& arrOctets);
 
 /// Dotted text, with missing octets left out between the dots; empty when all are missing.

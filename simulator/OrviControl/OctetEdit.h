@@ -3,8 +3,8 @@
 
 #include <QLineEdit>
 
-/// One cell of the address editor. It hands every key, committed text and clipboard action to its owner
-/// first: the owner alone knows the neighbours.
+/// One cell of the address editor. It passes every key, committed text and clipboard action to its owner
+/// first: only the owner knows the neighbours.
 class COctetEdit : public QLineEdit
 {
     Q_OBJECT
@@ -20,9 +20,9 @@ Q_SIGNALS:
     /// A key was pressed.
     /// @param pHandled set to true by the owner: the cell then does nothing itself
     void KeyPressed(QKeyEvent* pEvent, bool* pHandled);
-    /// Text came from an input method or the mouse.
+    /// An input method or the mouse entered text.
     void TextEntered(const QString& strText);
-    /// The operator asked for the context menu, at this global place.
+    /// The operator asked for the context menu, at this global position.
     void MenuRequested(const QPoint& ptGlobal);
     void FocusChanged();
     void MousePressed();

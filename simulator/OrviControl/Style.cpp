@@ -94,8 +94,8 @@ QString ChooseFamily()
     return itFound == listCandidates.cend() ? strSystem : *itFound;
 }
 
-/// Gives a family a fallback in which control characters are empty and have no width. Texts of the library
-/// hold them as fill characters, and no common font has glyphs for them: they would show as boxes.
+/// Gives a family a fallback in which control characters are empty and have no width. Library texts use them
+/// as fill characters, and common fonts have no glyphs for them, so they would appear as boxes.
 void HideControlCharacters(const QString& strFamily)
 {
     QFile file(QStringLiteral(":/OrviControl/fonts/control-characters.ttf"));

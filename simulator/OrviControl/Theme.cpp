@@ -12,7 +12,7 @@ namespace Theme {
 
 namespace {
 
-/// A colour by the name that it has in style texts.
+/// A colour by its name in style texts.
 struct SNamedColour
 {
     const char* szName;

@@ -10,15 +10,15 @@
 
 class QWidget;
 
-/// The host's look in one place: colours, metrics, font, and the resolving of colour names in style texts.
+/// The host's appearance in one place: colours, metrics, font, and the lookup of colour names in style texts.
 namespace Theme {
 
 /// @name Colours
-/// A dark look around the entry fields' white on rgb(31,31,31).
+/// A dark theme around the entry fields' white on rgb(31,31,31).
 /// @{
 constexpr QRgb c_rgbWindow = qRgb(45, 45, 45);        ///< dialogs
 constexpr QRgb c_rgbField = qRgb(31, 31, 31);         ///< entry fields and menus
-constexpr QRgb c_rgbFieldDisabled = qRgb(40, 40, 40); ///< entry fields that take no input
+constexpr QRgb c_rgbFieldDisabled = qRgb(40, 40, 40); ///< entry fields that accept no input
 constexpr QRgb c_rgbEdge = qRgb(7, 7, 7);             ///< frames of fields and buttons
 constexpr QRgb c_rgbText = qRgb(255, 255, 255);       ///< all texts
 constexpr QRgb c_rgbTextDisabled = qRgb(120, 120, 120);
@@ -26,7 +26,7 @@ constexpr QRgb c_rgbButton = qRgb(70, 70, 70);
 constexpr QRgb c_rgbButtonHover = qRgb(85, 85, 85);
 constexpr QRgb c_rgbButtonPressed = qRgb(50, 50, 50);
 constexpr QRgb c_rgbButtonDisabled = qRgb(55, 55, 55);
-constexpr QRgb c_rgbAccent = qRgb(74, 144, 226); ///< focus, selection, what is switched on
+constexpr QRgb c_rgbAccent = qRgb(74, 144, 226); ///< focus, selection, switches that are on
 constexpr QRgb c_rgbWarning = qRgb(255, 120, 90);
 constexpr QRgb c_rgbTrackOff = qRgb(100, 100, 100); ///< a switch that is off
 /// @}
@@ -37,7 +37,7 @@ constexpr int c_nFontSize = 12;
 /// Corner radius of fields and buttons, pixels.
 constexpr int c_nRadius = 4;
 
-/// Time that a sliding knob takes, milliseconds.
+/// Duration of the knob's slide, milliseconds.
 constexpr int c_nSlideDuration = 120;
 
 /// The colours for widgets that no style sheet reaches.
@@ -46,13 +46,13 @@ ORVICONTROL_EXPORT QPalette Palette();
 /// The host's font at the size of the controls.
 ORVICONTROL_EXPORT QFont Font();
 
-/// Gives a window and what is in it the colours and the font.
+/// Applies the colours and the font to a window and its contents.
 void Apply(QWidget* pWindow);
 
 /// Replaces colour names such as `@field@` in a style text.
 QString Resolve(const char* szStyle);
 
-/// False when the environment variable ORVICONTROL_ANIMATIONS is 0, or when the desktop wants none.
+/// False when the environment variable ORVICONTROL_ANIMATIONS is 0, or when the desktop disables animations.
 bool AreAnimationsOn();
 
 } // namespace Theme

@@ -12,7 +12,7 @@ public:
     bool IsIPHasError(unsigned int nIP, unsigned int* pError, bool /*bReserved*/) override
     {
         const enAddressVerdict verdict = m_simulator.Addresses().Judge(nIP);
-        // A caller may read the code without looking at the result, so a good address clears it.
+        // A caller may read the code without checking the result, so a valid address clears it.
         if (pError != nullptr)
             *pError = verdict;
         return verdict != enAddressGood;

@@ -179,8 +179,8 @@ void TestCatalogue::InputsLimitedByAreaAndByPixelClockAreThere()
 
 void TestCatalogue::AFixedInputHasLongAndShortLists()
 {
-    // A size outside the list opens at entry 4 of the fixed input, so a list below four entries is a case of
-    // its own.
+    // A size outside the list opens at entry 4 of the fixed input, so a list below four entries
+    // is tested separately.
     QSet<bool> setKinds;
     for (const int nType : CCatalogue::Instance().Types()) {
         const SSimulatedSender sender = *CCatalogue::Instance().NewSender(nType);
