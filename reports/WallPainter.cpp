@@ -11,7 +11,7 @@ const QColor c_clrModule(20, 20, 20, 90);
 const QColor c_clrOdd(200, 0, 80, 220);
 const QColor c_clrCommon(0, 0, 0);
 const QColor c_clrCommonFill(255, 255, 255, 60);
-constexpr double c_dModuleWidth = 0.7; ///< pixels: of a thousand triangles each is still seen
+constexpr double c_dModuleWidth = 0.7; ///< pixels: each of a thousand triangles stays visible
 constexpr double c_dOddWidth = 1.4;
 constexpr double c_dCommonWidth = 1.6;
 

@@ -9,8 +9,8 @@
 /// A measured wall on two pages: the chart with all modules, and the tables.
 namespace WallReport {
 
-/// The PDF file. The texts are in the language of the installed translators. An application with a display,
-/// be it offscreen, must be there.
+/// The PDF file. The texts are in the language of the installed translators. Requires a QGuiApplication; the
+/// offscreen platform is enough.
 /// @param standard what the analysis was made for
 /// @param strTitle what the wall is called, for example the name of its file
 QByteArray Pdf(const Modules& modules, const SWallAnalysis& analysis, const SColourStandard& standard,

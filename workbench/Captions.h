@@ -5,14 +5,14 @@
 
 #include <vector>
 
-/// The texts of a widget's controls, put anew into each language.
+/// The texts of a widget's controls, set again when the language changes.
 class CCaptions
 {
 public:
     /// @param szContext translation context of the texts: the class that owns the controls
     explicit CCaptions(const char* szContext);
 
-    /// Notes that a property of a control holds a text.
+    /// Registers a property of a control that holds a text.
     /// @param szText source text
     void Add(QWidget* pWidget, const char* szProperty, const char* szText);
     /// Puts all texts into the current language.

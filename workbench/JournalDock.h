@@ -20,9 +20,9 @@ public:
 
     /// Puts all texts into the current language.
     void Retranslate();
-    /// The calls that are shown, one a line.
+    /// The calls shown, one per line.
     QString ShownLines() const;
-    /// Shows only calls that hold the text.
+    /// Shows only calls that contain the text.
     void SetFilterText(const QString& strText);
 
 private:

@@ -22,7 +22,7 @@ void CJournalFilter::SetReadsShown(bool bShown)
 
 QVariant CJournalFilter::data(const QModelIndex& index, int nRole) const
 {
-    // Light enough to be read on both row colours of the dark theme.
+    // Light enough to read on both row colours of the dark theme.
     constexpr QRgb c_clrFailed = qRgb(255, 138, 128);
     if (nRole == Qt::ForegroundRole &&
         QSortFilterProxyModel::data(index, CHostJournal::enRoleFailed).toBool())

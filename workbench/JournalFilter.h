@@ -3,8 +3,8 @@
 
 #include <QSortFilterProxyModel>
 
-/// Passes the calls of the journal that hold a text, and leaves out those that only ask the host when told
-/// to.
+/// Passes the calls that contain a text, and optionally leaves out those that only read
+/// from the host.
 class CJournalFilter : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     void SetText(const QString& strText);
     void SetReadsShown(bool bShown);
 
-    /// Rows of writes that did not take have a colour of their own.
+    /// Rows of failed writes have their own colour.
     QVariant data(const QModelIndex& index, int nRole) const override;
 
 protected:

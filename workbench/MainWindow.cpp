@@ -57,7 +57,7 @@ CMainWindow::CMainWindow(CLanguage& language, QSettings& settings)
     pSplitter->setSizes({c_nTreeWidth, c_sizeFirst.width() - c_nTreeWidth});
     setCentralWidget(pSplitter);
     AddPages();
-    // The keyboard goes from tree to tabs, page and journal: the order in which they are made.
+    // Tab goes from tree to tabs, page and journal: the order in which they are created.
     m_pJournal = new CJournalDock(this);
     addDockWidget(Qt::BottomDockWidgetArea, m_pJournal);
     new CWheelGuard(this);
@@ -86,8 +86,8 @@ CMainWindow::CMainWindow(CLanguage& language, QSettings& settings)
     connect(&simulator.Document(), &CProjectDocument::OnProblem, this,
             [this](const SFileProblem& problem) { QMessageBox::warning(this, tr("工程"), problem.Text()); });
     ShowTitle();
-    // A project that was there before the window is shown from its current sender on, like one that is
-    // opened.
+    // A project loaded before the window is shown starts at its current sender, like one
+    // that is opened.
     m_pTree->Select({simulator.Project().nCurSender, -1});
 }
 
@@ -118,7 +118,7 @@ void CMainWindow::ShowPage(CWorkbenchPage* pPage)
 
 void CMainWindow::BuildMenus()
 {
-    // Menus are built anew when the language changes: an action's text is set where the action is made.
+    // Menus are rebuilt when the language changes: an action's text is set where the action is made.
     menuBar()->clear();
     BuildProjectMenu();
     BuildSenderMenu();

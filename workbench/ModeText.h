@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// How a video mode reads.
+/// How a video mode is written.
 namespace ModeText {
 
 /// The frame rate of a setting, Hz: the integer rate, divided by 1.001 when it is fractional.

@@ -3,8 +3,8 @@
 
 #include <QTabWidget>
 
-/// The tabs of the pages. The tab bar frames its current tab while it has the keyboard: the style's own mark
-/// cannot be seen on a dark theme.
+/// The tabs of the pages. The tab bar frames its current tab while it has the focus: the style's own mark is
+/// invisible on a dark theme.
 class CPageTabs : public QTabWidget
 {
     Q_OBJECT

@@ -10,8 +10,8 @@
 class QSettings;
 class QWidget;
 
-/// Opens, saves and starts projects on behalf of a window: asks before unsaved changes are lost, tells what
-/// went wrong, and remembers the files that were used last.
+/// Opens, saves and starts projects on behalf of a window: asks before unsaved changes are lost, reports what
+/// went wrong, and remembers the recent files.
 class CProjectActions : public QObject
 {
     Q_OBJECT
@@ -35,10 +35,10 @@ public:
 
     /// Saves to a file without asking for one.
     bool SaveAs(const QString& strFile);
-    /// Asks what is to become of unsaved changes.
+    /// Asks what to do with unsaved changes.
     /// @return false when the operator wants to stay
     bool MayLeave();
-    /// Opens the project that was open last; starts a new one when there is none.
+    /// Opens the last project; starts a new one when there is none.
     void OpenLast();
 
     CRecentFiles& RecentFiles() { return m_recentFiles; }

@@ -5,7 +5,7 @@
 
 class QSettings;
 
-/// The project files that were used last, latest first, kept in the program's settings.
+/// The recent project files, latest first, stored in the program's settings.
 class CRecentFiles
 {
 public:
@@ -14,9 +14,9 @@ public:
     explicit CRecentFiles(QSettings& settings);
 
     QStringList List() const;
-    /// Puts a file at the head.
+    /// Moves a file to the front.
     void Note(const QString& strFile);
-    /// Forgets a file that could not be opened.
+    /// Removes a file that could not be opened.
     void Forget(const QString& strFile);
 
 private:

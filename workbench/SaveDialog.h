@@ -11,8 +11,8 @@ namespace SaveDialog {
 /// The extension that a filter such as "PNG (*.png)" stands for, without the dot; empty for one of all files.
 QString SuffixOf(const QString& strFilter);
 
-/// Asks for a file. A name without an extension gets that of the chosen filter before the question whether a
-/// file may be overwritten.
+/// Asks for a file. A name without an extension gets that of the chosen filter before the question about
+/// overwriting a file.
 /// @param strName name that is proposed
 /// @param strFilters filters as in `QFileDialog`
 /// @return empty when the operator cancelled

@@ -30,7 +30,7 @@ int SenderId(const QTreeWidgetItem* pItem)
     return pItem->data(enName, enIdRole).toInt();
 }
 
-/// What a person should know of a sender at a glance.
+/// What the operator should see of a sender at a glance.
 QString SenderState(const SSimulatedSender& sender)
 {
     QStringList listStates;
@@ -86,7 +86,7 @@ void ShowSender(QTreeWidgetItem* pItem, const SSimulatedSender& sender)
         ShowInput(pItem->child(i), sender.listInputs[std::size_t(i)]);
 }
 
-/// An item that is filled before a view sees it: filled in the view, each text would be measured and painted.
+/// An item is filled before a view sees it: otherwise the view would measure and paint each text.
 QTreeWidgetItem* NewSender(const SSimulatedSender& sender)
 {
     auto* pItem = new QTreeWidgetItem;
@@ -189,7 +189,7 @@ void CSenderTree::TakeList()
         if (!setIds.contains(SenderId(topLevelItem(i))))
             delete takeTopLevelItem(i);
     InsertMissing();
-    // The sender that follows a removed one has its index, so the selection moves on to that.
+    // The sender after a removed one takes over its index, so the selection moves to it.
     if (!bSelectedStays)
         Select({std::min(nSelected, topLevelItemCount() - 1), -1});
 }
@@ -222,7 +222,7 @@ void CSenderTree::FitAllColumns()
         resizeColumnToContents(nColumn);
 }
 
-/// Columns grow with what changes and stay as wide as the operator made them otherwise.
+/// Columns grow with their contents and otherwise keep the width that the operator set.
 void CSenderTree::FitColumns(const QTreeWidgetItem* pSender)
 {
     const auto Fit = [this](const QModelIndex& index, int nIndentation) {

@@ -7,8 +7,8 @@
 
 struct SProjectChange;
 
-/// The senders of the simulated project with their inputs: name, type code or interface id, state. It takes
-/// over what changed and leaves the other rows alone.
+/// The senders of the simulated project with their inputs: name, type code or interface id, state. It updates
+/// what changed and leaves the other rows alone.
 class CSenderTree : public QTreeWidget
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     explicit CSenderTree(QWidget* pParent = nullptr);
 
     SSelection Selection() const;
-    /// Selects a sender or input; a selection that is not there selects the first sender.
+    /// Selects a sender or input; if it does not exist, selects the first sender.
     void Select(const SSelection& selection);
     /// Puts all texts into the current language.
     void Retranslate();

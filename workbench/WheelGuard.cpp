@@ -42,7 +42,7 @@ bool CWheelGuard::eventFilter(QObject* pWatched, QEvent* pEvent)
     }
     if (pField->hasFocus())
         return false;
-    // Not accepted, the event goes on to the parent, which scrolls.
+    // An event that is not accepted goes on to the parent, which scrolls.
     pEvent->ignore();
     return true;
 }

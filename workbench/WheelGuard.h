@@ -4,8 +4,8 @@
 #include <QObject>
 
 /// Keeps the mouse wheel from changing fields that the operator only scrolls past: a field without the focus
-/// leaves the wheel to the page that it stands on, and the wheel gives no field the focus. It guards every
-/// window of the program for as long as it lives.
+/// leaves the wheel to its page, and the wheel never gives a field the focus. It guards every window of the
+/// program as long as it exists.
 class CWheelGuard : public QObject
 {
     Q_OBJECT

@@ -25,7 +25,7 @@ enLanguage LanguageOf(const SWorkbenchOptions& options, const QSettings& setting
     return CLanguage::ForLocale(strCode.isEmpty() ? QLocale::system().name() : strCode);
 }
 
-/// What the tour leaves beside its pictures: the project as it was saved and opened again, and a block.
+/// What the tour writes beside its pictures: the project, saved and reopened, and an EDID block.
 void LeaveFiles(CTour& tour, CMainWindow& window)
 {
     const QString strFile = QDir(tour.Folder()).filePath(QStringLiteral("project.json"));
@@ -37,7 +37,7 @@ void LeaveFiles(CTour& tour, CMainWindow& window)
 
 QtMessageHandler s_pMessageHandler = nullptr;
 
-/// Leaves out what the plugin without a screen remarks on every window that it shows.
+/// Suppresses the warning that the offscreen plugin prints for every window it shows.
 void PassMessage(QtMsgType type, const QMessageLogContext& context, const QString& strText)
 {
     if (!strText.startsWith(QLatin1String("This plugin does not support")))
@@ -76,7 +76,7 @@ int RunTour(const SWorkbenchOptions& options)
     qputenv("ORVICONTROL_ANIMATIONS", "0");
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     s_pMessageHandler = qInstallMessageHandler(PassMessage);
-    // A tour neither reads nor writes what the operator's workbench remembers.
+    // A tour neither reads nor writes the operator's settings.
     CTour tour(options.strTourFolder);
     QSettings settings(QDir(options.strTourFolder).filePath(QStringLiteral("settings.ini")),
                        QSettings::IniFormat);

@@ -48,8 +48,8 @@ void PrintColorimetry()
 
 } // namespace
 
-/// How much of one gamut another covers, and what else the calculation offers. It needs no window and no
-/// host.
+/// How much of one gamut another covers, and the library's other calculations. It needs no
+/// window or host.
 int main()
 {
     PrintGeometry();

@@ -58,9 +58,8 @@ public:
 
     CCustomIPEdit* pEdit;
     std::array<COctetEdit*, IPAddressText::c_nOctets> arrCells{};
-    int nCurrent = 0; ///< the octet that has the focus or had it last
-    bool bDotExpected =
-        false; ///< the cursor advanced automatically: the dot typed next is the one just passed
+    int nCurrent = 0;          ///< the octet that has the focus or had it last
+    bool bDotExpected = false; ///< the cursor advanced by itself: a dot typed next is the one just passed
     bool bAllSelected = false;
     bool bRefused = false;
     bool bForwarding = false; ///< a key that came to the field itself is on its way to the current octet

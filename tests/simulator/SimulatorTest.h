@@ -19,7 +19,7 @@ inline SNetworkFacts TestNetwork()
 }
 
 /// Puts the one simulator of the process into a known state: the test network, a project without senders, an
-/// empty journal, no waiting, and nothing in the person's own folders.
+/// empty journal, no waiting, and no file in the user's own folders.
 inline CSimulator& FreshSimulator()
 {
     QStandardPaths::setTestModeEnabled(true);

@@ -321,7 +321,7 @@ void TestProjectFile::AnIdThatLeavesNoRoomIsRefused()
 
 void TestProjectFile::WhatAKilledSaveLeftIsRemovedByTheNext()
 {
-    // A process id beyond the kernel's limit is nobody's.
+    // No process has an id beyond the kernel's limit.
     for (const char* szName : {".a.json.saving-999999999", ".a.json.saving-999999999.AbCdEf"})
         QVERIFY(WriteBytes(Path(szName), "half a pro"));
     SFileProblem problem;

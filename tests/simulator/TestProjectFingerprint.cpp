@@ -108,7 +108,7 @@ void TestProjectFingerprint::EachValueCounts()
     const SSimulatedProject before = FullProject();
     SFileProblem problem;
     SSimulatedProject after = ProjectFromJson(changed, problem);
-    // Rules across values, such as ids above the last, are no matter here.
+    // Rules across values, such as ids above the last, are irrelevant here.
     if (problem.IsSet())
         QVERIFY2(!problem.strWhat.contains(QStringLiteral("but must be")), qPrintable(problem.Text()));
     QVERIFY(!Difference(FingerprintOf(before), FingerprintOf(after)).IsEmpty());

@@ -10,8 +10,8 @@
 #include <functional>
 #include <utility>
 
-/// Operates the next dialog that opens, from its own event loop. A dialog that is left open is closed: a
-/// check that fails must not leave the test waiting.
+/// Operates the next dialog that opens, from its own event loop. Closes a dialog that is left open: a failing
+/// check must not leave the test waiting.
 class CDialogOperator : public QObject
 {
 public:

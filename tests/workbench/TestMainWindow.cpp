@@ -22,7 +22,7 @@
 
 namespace {
 
-/// A workbench with settings of its own.
+/// A workbench with separate settings.
 class CWorkbenchFixture
 {
 public:

@@ -3,8 +3,8 @@
 
 #include <QAbstractTableModel>
 
-/// The processor addresses of the simulated project: address, name as it is shown, and what became of the
-/// entry.
+/// The processor addresses of the simulated project: address, displayed name, and the state
+/// of the entry.
 class CAddressListModel : public QAbstractTableModel
 {
     Q_OBJECT

@@ -21,9 +21,8 @@ class CAddressPage : public CWorkbenchPage
     Q_OBJECT
 
 public:
-    /// @param funcMayLeave asks what is to become of unsaved changes before the demo project takes the
-    /// project's place;
-    ///                     false when the operator wants to stay
+    /// @param funcMayLeave asks about unsaved changes before the demo project replaces the current one;
+    /// false when the operator wants to keep that project
     explicit CAddressPage(std::function<bool()> funcMayLeave, QWidget* pParent = nullptr);
     ~CAddressPage() override;
 
@@ -46,7 +45,7 @@ public:
     void SelectRow(int nRow);
     /// Puts an address into the check field.
     void CheckAddress(const QString& strAddress);
-    /// What is said of the address in the check field.
+    /// The verdict on the address in the check field.
     QString ShownVerdict() const;
 
 private:

@@ -27,7 +27,8 @@ constexpr int c_nListLimit = 255;
 /// The one detect strategy by which processors are found by address.
 constexpr int c_nAddressStrategy = 2;
 
-/// The base of the dialog's search: the first IPv4 address of this computer other than 127.0.0.1, else that.
+/// The base of the dialog's search: this computer's first IPv4 address, 127.0.0.1 only if it
+/// has no other.
 unsigned int Base()
 {
     const QHostAddress addressLocal(QHostAddress::LocalHost);

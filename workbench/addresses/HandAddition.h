@@ -4,13 +4,13 @@
 #include <QList>
 #include <QString>
 
-/// Whether the dialog that adds processors by hand can be opened. Its search for a first free address runs
-/// until it finds one, so the workbench looks before it opens the dialog.
+/// Whether the dialog that adds processors by hand can be opened. Its search for a first free address does
+/// not end until it finds one, so the workbench checks before it opens the dialog.
 namespace HandAddition {
 
-/// The addresses that the dialog's search tries from a base address on, each once: what is left of the base's
-/// own /24, and the one of the next /24 that it visits at each wrap. Values have the first octet in the most
-/// significant byte.
+/// The addresses that the dialog's search tries from a base address on, each once: the rest of the base's own
+/// /24, and the one address of the next /24 that it visits at each wrap. The first octet is in the most
+/// significant byte of a value.
 QList<unsigned int> Candidates(unsigned int nBase);
 
 /// Why the dialog cannot be opened and what to do, in the current language; empty when it can.

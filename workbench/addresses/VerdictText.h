@@ -8,10 +8,10 @@
 /// Why an address is refused, in words.
 namespace VerdictText {
 
-/// What speaks against an address, in the current language.
+/// Why an address is refused, in the current language.
 QString Of(enAddressVerdict verdict);
 
-/// The same for a text as it stands in an address field; a text that is no address says so.
+/// The same for the text of an address field; reports a text that is not an address.
 QString OfText(const QString& strAddress);
 
 } // namespace VerdictText

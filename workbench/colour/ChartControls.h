@@ -9,7 +9,8 @@ class QLabel;
 class QPushButton;
 class QSlider;
 
-/// How the chart looks and what holds its points: tips, snapping, standard's name, background, grid, region.
+/// The appearance of the chart and the constraints on its points: tips, snapping, standard's name,
+/// background, grid, region.
 class CChartControls : public QWidget
 {
     Q_OBJECT
@@ -33,7 +34,7 @@ public:
     /// @}
 
 Q_SIGNALS:
-    /// The feasible region is another one, or was switched on or off.
+    /// The feasible region was replaced, or switched on or off.
     void RegionChanged();
     /// One line for the status bar.
     void Reported(const QString& strText);

@@ -18,7 +18,7 @@ CChartEditor::CChartEditor(CChromaticityDlgWnd& chart, QObject* pParent)
 
 CChartEditor::~CChartEditor()
 {
-    // The steps are dropped last and would tell so, when the chart may be gone.
+    // The undo stack is destroyed last and would emit signals when the chart may be gone.
     m_steps.disconnect(this);
 }
 
@@ -42,7 +42,7 @@ void CChartEditor::Push(const QString& strText, const ColourGroups::Groups& grou
 
 void CChartEditor::BeginDrag()
 {
-    // A drag whose end was never told, since its window went away, ends here.
+    // A drag whose end was never reported, because its window closed, ends here.
     EndDrag();
     m_groupsBeforeDrag = ColourGroups::Take(m_chart);
 }

@@ -9,7 +9,7 @@
 #include <functional>
 #include <optional>
 
-/// Changes the groups of a chart in steps that can be undone. A drag is one step, however far it went.
+/// Changes the groups of a chart in undoable steps. A drag is one step, however long.
 class CChartEditor : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     QUndoStack& Steps() { return m_steps; }
 
     /// Runs a change on the live groups as one step.
-    /// @param funcChange returns false to have everything as it was
+    /// @param funcChange returns false to restore everything
     /// @return what the change returned
     bool Change(const QString& strText, const std::function<bool()>& funcChange);
 
@@ -39,7 +39,7 @@ public:
     /// @}
 
 Q_SIGNALS:
-    /// The groups changed, or the steps that can be undone.
+    /// The groups or the undoable steps changed.
     void Changed();
 
 private:

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Paints a chart of its own that shows the same: the one on the screen follows the mouse.
+/// Paints a separate chart with the same contents: the one on the screen follows the mouse.
 void Paint(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, QPainter& painter)
 {
     CChromaticityDlgWnd copy(nullptr);
@@ -64,7 +64,7 @@ QString ChartExport::SaveSvg(const CChromaticityDlgWnd& chart, const CFeasibleRe
     generator.setOutputDevice(&buffer);
     generator.setSize(size);
     generator.setViewBox(QRect(QPoint(0, 0), size));
-    // Fonts have sizes in points: they are to be as large as on the screen.
+    // Font sizes are in points: fonts must be as large as on the screen.
     generator.setResolution(chart.logicalDpiY());
     QPainter painter(&generator);
     Paint(chart, region, painter);

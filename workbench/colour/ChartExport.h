@@ -8,8 +8,8 @@
 
 class CChromaticityDlgWnd;
 
-/// Pictures of a chart as it stands, with the region and the standard's name over it, but without what hangs
-/// on the mouse: no cross hair, no tips, no enlarged dot.
+/// Pictures of a chart as it stands, with the region and the standard's name over it, but without what
+/// follows the mouse: no cross hair, no tips, no enlarged dot.
 namespace ChartExport {
 
 /// A picture in the chart's size.

@@ -107,10 +107,10 @@ void CChartView::Answer(int nGroup, int nPoint, bool& bSuccessed)
 {
     bSuccessed = m_region.Answer(*m_pChart, nGroup, nPoint, m_ptBefore);
     SChromaGroupInfo* pGroup = m_pChart->GetChromaGroupByIndex(nGroup);
-    // The chart holds the dragged point in the locus; in CMY mode the triangle's vertices are others.
+    // The chart keeps the dragged point inside the locus; in CMY mode the triangle has different vertices.
     if (bSuccessed && pGroup != nullptr && !pGroup->bRgbMode)
         m_pChart->ReCalCMY(pGroup);
-    // The point has its final place only after the answer was read.
+    // The point reaches its final place only after the answer is read.
     QMetaObject::invokeMethod(m_pEditor, &CChartEditor::Changed, Qt::QueuedConnection);
 }
 
@@ -128,7 +128,7 @@ void CChartView::MovePoint(int nGroup, int nPoint, QPointF offset)
         return;
     m_ptBefore = GroupPoint(*pGroup, nPoint);
     const QPointF ptTarget = QPointF(double(m_ptBefore.x), double(m_ptBefore.y)) + offset;
-    // The chart moves the point that it knows to be under the mouse.
+    // The chart moves the point that it has recorded as under the mouse.
     const int nHoverPoint = m_pChart->m_nHoverPoint;
     m_pChart->m_nHoverPoint = nPoint;
     m_pChart->CalcCurrentPoint(m_pChart->Mapping().ToPixel(ptTarget), pGroup);
@@ -162,7 +162,7 @@ void CChartView::PreferStandard(enColorStandard standard)
 
 void CChartView::AskForStandard()
 {
-    // The chart only ever names its first group, which it asks for by the index 0.
+    // The chart names only its first group, which it requests by index 0.
     m_pChart->ShowCIEStandard(0, m_standard, m_bStandardShown);
     m_pChart->update();
 }

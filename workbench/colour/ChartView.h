@@ -12,9 +12,9 @@ class CRegionOverlay;
 /// The chart at the size of this widget, with what the workbench shows over it. It answers the chart's
 /// question whether a dragged point may keep its place, and makes each drag one step of the editor.
 ///
-/// A new size lays the chart out at once; the worker paints the bitmap for it, and the chart repaints when it
-/// is there. On screens with several device pixels for one of the widget's the chart paints all in device
-/// pixels.
+/// A new size lays the chart out at once; the worker paints the bitmap for it, and the chart repaints
+/// when it is ready. On screens with several device pixels per widget pixel, the chart paints everything
+/// in device pixels.
 class CChartView : public QWidget
 {
     Q_OBJECT
@@ -28,16 +28,16 @@ public:
     CRegionOverlay& Overlay() { return *m_pOverlay; }
     CPointKeys& Keys() { return *m_pKeys; }
 
-    /// Moves a point by an offset as a step of a drag does: it stays a real colour, in the feasible region
-    /// while that is on, and the group stays legal. The drag is begun by the editor and ended by `EndDrag`.
+    /// Moves a point by an offset like a step of a drag: it stays a real colour, inside the feasible region
+    /// while that is on, and the group stays valid. The editor begins the drag and `EndDrag` ends it.
     void MovePoint(int nGroup, int nPoint, QPointF offset);
-    /// Ends a drag: it is one step that can be undone.
+    /// Ends a drag, which is one undoable step.
     void EndDrag();
 
-    /// Names the standard of the first group, or no longer. A drag does not end it.
+    /// Shows or hides the name of the first group's standard. A drag does not hide it.
     void SetStandardShown(bool bShown);
     bool IsStandardShown() const { return m_bStandardShown; }
-    /// Of two standards with the same points, names this one.
+    /// Chooses which of two standards with the same points is named.
     void PreferStandard(enColorStandard standard);
 
     /// The widget pixel of a chromaticity.
@@ -51,7 +51,7 @@ public:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 Q_SIGNALS:
-    /// The mouse moved over the chart, and the chart has taken note of it.
+    /// The mouse moved over the chart, and the chart has handled it.
     void MouseMoved();
 
 protected:
@@ -69,7 +69,7 @@ private:
     CFeasibleRegion m_region;
     CRegionOverlay* m_pOverlay = nullptr;
     CPointKeys* m_pKeys = nullptr;
-    CPointEx<float> m_ptBefore; ///< where the dragged point was before the present move
+    CPointEx<float> m_ptBefore; ///< position of the dragged point before the current move
     enColorStandard m_standard = enStandardSRGB;
     bool m_bStandardShown = false;
 };

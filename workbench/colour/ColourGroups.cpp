@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int c_nCoordinateDigits = 4; ///< as many as the chart's own tips show
+constexpr int c_nCoordinateDigits = 4; ///< as in the chart's own tips
 constexpr float c_fLineWidth = 2.0F;   ///< pixels; wide enough to stand out against the bright bitmap
 
 struct SColour
@@ -21,12 +21,13 @@ struct SColour
     unsigned char nB;
 };
 
-/// The lines of the two colour spaces, to be seen on the bright bitmap and in the legend on the dark
+/// Line colours of the two colour spaces, visible on the bright bitmap and in the legend on the dark
 /// background. A red byte of 0 or 255 gives a solid sample in the legend.
 constexpr SColour c_clrOutput = {255, 255, 255};
 constexpr SColour c_clrScreen = {0, 70, 255};
 
-/// The midpoint of an edge. It takes the opposite vertex too, which plays no part, to pair with `Vertex`.
+/// The midpoint of an edge. The unused opposite vertex gives it the
+/// signature of `Vertex`.
 CPointEx<float> Middle(CPointEx<float> ptA, CPointEx<float> ptB, CPointEx<float> /*ptOpposite*/)
 {
     return {(ptA.x + ptB.x) / 2.0F, (ptA.y + ptB.y) / 2.0F};
@@ -184,7 +185,7 @@ bool ColourGroups::MakeLegal(CChromaticityDlgWnd& chart, SChromaGroupInfo& group
 
 std::optional<int> ColourGroups::Coverage(CChromaticityDlgWnd& chart)
 {
-    // To ask with a key missing would leave an empty entry in the chart.
+    // A query with an unknown key would leave an empty entry in the chart.
     if (!chart.m_mapGroups.contains(enOutputColorSpace) || !chart.m_mapGroups.contains(enScreenColorSpace))
         return std::nullopt;
     const int nRatio = chart.CalcRatio();

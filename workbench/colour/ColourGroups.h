@@ -18,11 +18,11 @@ using Groups = QMap<int, SChromaGroupInfo>;
 /// Copies of a chart's groups.
 Groups Take(const CChromaticityDlgWnd& chart);
 
-/// Makes a chart's groups equal to the copies. Groups that stay are edited in place, so that pointers to them
-/// hold.
+/// Makes a chart's groups equal to the copies. Remaining groups are edited in place, so pointers to
+/// them stay valid.
 void Restore(CChromaticityDlgWnd& chart, const Groups& groups);
 
-/// Whether two sets of groups are the same to the operator. A colour that the palette gives does not count.
+/// Whether two sets of groups look the same to the operator. Colours from the palette are ignored.
 bool AreSame(const Groups& first, const Groups& second);
 
 /// Whether the key is that of the output or of the screen colour space.
@@ -31,8 +31,8 @@ bool IsCoverageKey(int nKey);
 /// The smallest key that is free.
 int FreeKey(const CChromaticityDlgWnd& chart);
 
-/// The same gamut in RGB or CMY mode: the colour points become the triangle's vertices, or the midpoints of
-/// its edges.
+/// The same gamut in RGB or CMY mode: the colour points become the vertices of the triangle or the midpoints
+/// of its edges.
 void SetMode(SChromaGroupInfo& group, bool bRgb);
 
 /// Gives a group the points of a standard, in the group's mode, and its label as name.
@@ -47,12 +47,12 @@ SChromaGroupInfo OutputSpace();
 SChromaGroupInfo ScreenSpace();
 /// @}
 
-/// Makes a live group legal after its point `nPoint` was written.
-/// @return false when it cannot be: its white is no colour
+/// Makes a live group valid after its point `nPoint` was written.
+/// @return false when that is impossible: its white is not a colour
 bool MakeLegal(CChromaticityDlgWnd& chart, SChromaGroupInfo& group, int nPoint);
 
-/// How much of the output colour space the screen covers, in whole percent; nothing unless both are there and
-/// visible.
+/// How much of the output colour space the screen covers, in whole percent; empty unless both exist
+/// and are visible.
 std::optional<int> Coverage(CChromaticityDlgWnd& chart);
 
 /// "0.3127, 0.3290".

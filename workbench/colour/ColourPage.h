@@ -17,9 +17,9 @@ class QPushButton;
 class QStackedWidget;
 class QTabWidget;
 
-/// The chromaticity chart with its groups in a table beside it, what it shows and holds, what the selected
-/// group's points are worth, and pictures of it.
-/// The groups and the measured wall belong to the project: no sender has any part in them.
+/// The chromaticity chart with its groups in a table beside it, its settings, the readings of the selected
+/// group, and picture export. The groups and the measured wall belong to the project: they do not depend
+/// on any sender.
 class CColourPage final : public CWorkbenchPage
 {
     Q_OBJECT
@@ -44,11 +44,11 @@ public:
         enWallTab,
     };
     void ShowTab(enTab tab);
-    /// Shows the CIE 1976 (u', v') diagram in the place of the chart, or the chart again.
+    /// Shows the CIE 1976 (u', v') diagram instead of the chart, or the chart again.
     void ShowUcs(bool bShown);
 
     /// @name Pictures of the chart
-    /// @return false when the file could not be written; the status line tells why
+    /// @return false when the file could not be written; the status line says why
     /// @{
     void CopyPicture();
     bool SavePng(const QString& strFile);

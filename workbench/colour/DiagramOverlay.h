@@ -12,8 +12,8 @@ class CChartView;
 class CMeasuredWall;
 
 /// Lies over the chart and shows wavelengths along the outline, every module of the measured wall as a thin
-/// triangle, and their common gamut. The picture is kept until the wall or the chart's layout changes, so a
-/// drag costs one copy however many modules there are.
+/// triangle, and their common gamut. The picture is cached until the wall or the chart's layout changes, so a
+/// drag costs one copy, however many modules there are.
 class CDiagramOverlay : public QWidget
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ private:
     CChartView& m_view;
     bool m_bWallShown = true;
     QPixmap m_picture;
-    std::optional<CChartMapping> m_mapping; ///< that the picture is painted with; none: it is to be painted
+    std::optional<CChartMapping> m_mapping; ///< mapping of the cached picture; none: it must be painted
 };
 
 #endif // WORKBENCH_COLOUR_DIAGRAMOVERLAY_H

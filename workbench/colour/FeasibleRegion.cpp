@@ -25,7 +25,7 @@ bool CFeasibleRegion::Answer(CChromaticityDlgWnd& chart, int nGroup, int nPoint,
                              CPointEx<float> ptBefore) const
 {
     SChromaGroupInfo* pGroup = chart.GetChromaGroupByIndex(nGroup);
-    // The chart keeps a white where it is, whatever the answer.
+    // The chart keeps a white point in place, whatever the answer.
     if (pGroup == nullptr || !IsColourPoint(nPoint) || Allows(GroupPoint(*pGroup, nPoint)))
         return true;
     QList<CPointEx<float>> listVertices = Vertices(m_polygon);

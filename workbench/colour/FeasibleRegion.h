@@ -8,7 +8,7 @@
 
 class CChromaticityDlgWnd;
 
-/// A polygon of chromaticities that dragged colour points are held in while it is switched on.
+/// A polygon of chromaticities that confines dragged colour points while it is switched on.
 class CFeasibleRegion
 {
 public:
@@ -22,12 +22,12 @@ public:
     void SetOn(bool bOn) { m_bOn = bOn; }
     bool IsOn() const { return m_bOn; }
 
-    /// Whether a point may stand where it is: inside, or nothing holds it.
+    /// Whether a point is allowed: it lies inside, or the region is off.
     bool Allows(CPointEx<float> point) const;
 
-    /// The answer to a chart whose point was dragged. A colour point outside the region is to fall back to
-    /// its border, or stay at `ptBefore` where the border is not met on the way from the white; the chart is
-    /// told.
+    /// The answer to a chart whose point was dragged. A colour point outside the region moves to its
+    /// border, or stays at `ptBefore` when the line from the white does not cross the border; the
+    /// chart is notified.
     /// @return whether the point may keep its new position
     bool Answer(CChromaticityDlgWnd& chart, int nGroup, int nPoint, CPointEx<float> ptBefore) const;
 

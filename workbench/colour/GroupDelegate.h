@@ -3,7 +3,7 @@
 
 #include <QStyledItemDelegate>
 
-/// Edits the groups: the mode by a choice of two, everything else as text.
+/// Edits the groups: the mode by a choice of two values, everything else as text.
 class CGroupDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// What the tick of a row stands for; null for rows without one.
+/// The field behind a row's check box; null for rows without one.
 bool SChromaGroupInfo::*TickOf(int nRow)
 {
     static constexpr bool SChromaGroupInfo::*c_arrTicks[CGroupModel::enRowCount] = {
@@ -219,7 +219,7 @@ bool CGroupModel::SetPoint(int nPoint, SChromaGroupInfo& group, const QString& s
             tr("“%1”不是色度坐标。请输入 0 到 1 之间的两个数，例如 0.3127, 0.3290。").arg(strText));
         return false;
     }
-    // What was not changed keeps the digits that are not shown.
+    // An unchanged coordinate keeps the digits that are not shown.
     if (ColourGroups::PointText(GroupPoint(group, nPoint)) == ColourGroups::PointText(*point))
         return true;
     GroupPoint(group, nPoint) = *point;

@@ -6,10 +6,10 @@
 class CChartEditor;
 struct SChromaGroupInfo;
 
-/// The chart's live groups, one a column, with what can be set of them in rows. Edits go through the editor.
+/// The chart's live groups, one per column, with their settings in rows. Edits go through the editor.
 ///
-/// A point's cell holds its chromaticity, and a tick while it may be dragged. A colour's tick stands for a
-/// colour of the group's own.
+/// A point's cell holds its chromaticity, checked while the point may be dragged. A checked colour cell means
+/// that the group has its own colour.
 class CGroupModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -47,11 +47,11 @@ public:
 
     /// Names of the rows in the current language.
     static QString RowName(int nRow);
-    /// The group's name as the legend shows it.
+    /// The group's name as shown in the legend.
     static QString GroupName(const SChromaGroupInfo& group);
 
 Q_SIGNALS:
-    /// An edit was turned down: why.
+    /// An edit was rejected, with the reason.
     void Refused(const QString& strText);
 
 private:

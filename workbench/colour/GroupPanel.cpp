@@ -80,7 +80,7 @@ void CGroupPanel::CreateSteps()
     m_pRedo = new QAction(this);
     m_pRedo->setShortcut(QKeySequence::Redo);
     connect(m_pRedo, &QAction::triggered, &m_editor, &CChartEditor::Redo);
-    // The page that the panel lies on takes the keys too: the chart has the focus after a drag.
+    // The page that contains the panel handles the keys too: the chart has the focus after a drag.
     QWidget* pScope = parentWidget() == nullptr ? this : parentWidget();
     for (QAction* pAction : {m_pUndo, m_pRedo}) {
         pAction->setShortcutContext(Qt::WidgetWithChildrenShortcut);

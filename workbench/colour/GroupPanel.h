@@ -12,7 +12,7 @@ class QLabel;
 class QTableView;
 class QPushButton;
 
-/// The table of the chart's groups with what adds, removes and presets them, and the steps back and forward.
+/// The table of the chart's groups with the buttons that add, remove and preset them, undo and redo.
 class CGroupPanel : public QWidget
 {
     Q_OBJECT
@@ -28,13 +28,13 @@ public:
 
     /// Adds a group with the points of a standard, under the next free key.
     void AddStandard(enColorStandard standard);
-    /// Adds the output and the screen colour space: the chart's coverage asks for both or neither.
+    /// Adds the output and the screen colour space: the chart's coverage needs both or neither.
     void AddCoveragePair();
     /// Removes the selected group; of the output and the screen colour space, both.
     void RemoveSelected();
     /// Gives the selected group the points of a standard.
     void ApplyStandard(enColorStandard standard);
-    /// Asks for a colour of the selected group's own.
+    /// Asks for the selected group's own colour.
     void ChooseColour();
     /// @}
 

@@ -9,7 +9,7 @@
 #include <array>
 #include <optional>
 
-/// What the page tells of a colour group: calculated anew with each step of a drag.
+/// The readings of a colour group, recalculated with each step of a drag.
 struct SGroupReadings
 {
     static constexpr std::size_t c_nPrimaries = 3;
@@ -17,13 +17,13 @@ struct SGroupReadings
 
     std::array<SChromaticity, c_nPoints> arrPoints; ///< red, green, blue, white; the vertices in CMY mode too
     std::array<SUcs, c_nPoints> arrUcs;
-    /// Against the group's own white.
+    /// Relative to the group's own white.
     std::array<CColourResult<SpectralWavelength::SDominant>, c_nPrimaries> arrDominant = {
         enColourFault::enNoModules, enColourFault::enNoModules, enColourFault::enNoModules};
-    /// The parts that the primaries have in the luminance of the white.
+    /// The shares of the primaries in the luminance of the white.
     CColourResult<Primaries::SLuminances> shares = enColourFault::enNoModules;
     CColourResult<PlanckianLocus::STemperature> correlated = enColourFault::enNoModules;
-    std::optional<double> daylight; ///< K, as the chart tells it; none outside 4000 K to 25000 K
+    std::optional<double> daylight; ///< K, as the chart shows it; none outside 4000 K to 25000 K
     CColourResult<std::array<Gamut::SStandardCoverage, Gamut::c_nStandards>> coverage =
         enColourFault::enNoModules;
 };

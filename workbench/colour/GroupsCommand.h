@@ -5,8 +5,8 @@
 
 #include <QUndoCommand>
 
-/// A change of a chart's groups that was made already: holds all of them as they were and as they became.
-/// Groups are few and small, and so no change needs a command of its own kind.
+/// A change of a chart's groups that was already made: stores all groups before and after it. Groups are few
+/// and small, so one kind of command serves every change.
 class CGroupsCommand : public QUndoCommand
 {
 public:

@@ -7,7 +7,7 @@
 
 #include <QObject>
 
-/// The measured wall of the project: its modules, and what is told of them. The project keeps the readings.
+/// The measured wall of the project: its modules and their analysis. The project keeps the readings.
 class CMeasuredWall : public QObject
 {
     Q_OBJECT
@@ -17,11 +17,11 @@ public:
 
     const Modules& GetModules() const { return m_modules; }
     bool IsEmpty() const { return m_modules.empty(); }
-    /// What is told of the modules; no value without any.
+    /// The analysis of the modules; no value without modules.
     const CColourResult<SWallAnalysis>& Analysis() const { return m_analysis; }
 
-    /// Takes the modules of a text in the place of those that are there.
-    /// @return what is wrong with the text; the modules then stay
+    /// Replaces the modules by those of a text.
+    /// @return what is wrong with the text; the modules are then unchanged
     std::optional<SMeasurementError> Import(const QByteArray& content);
     std::optional<SMeasurementError> Import(const QString& strText);
     /// The modules as a text.
@@ -29,7 +29,7 @@ public:
     /// Removes all modules.
     void Clear();
 
-    /// The standard that the wall is to show, with its white.
+    /// The target standard of the wall, with its white.
     void SetStandard(enColorStandard standard);
     enColorStandard Standard() const { return m_standard; }
 
@@ -48,7 +48,7 @@ private:
     Modules m_modules;
     CColourResult<SWallAnalysis> m_analysis = enColourFault::enNoModules;
     enColorStandard m_standard = enStandardRec709;
-    QStringList m_listStored; ///< the project's lines that the modules stand for
+    QStringList m_listStored; ///< the project's lines from which the modules were read
 };
 
 #endif // WORKBENCH_COLOUR_MEASUREDWALL_H

@@ -13,7 +13,7 @@ class CMeasurementProblem
 struct SFaultText
 {
     enMeasurementFault fault;
-    const char* szText; ///< %1 is the value, %2 why it is no colour
+    const char* szText; ///< %1 is the value, %2 why it is not a colour
 };
 
 constexpr SFaultText c_arrTexts[] = {

@@ -9,7 +9,7 @@ namespace MeasurementProblem {
 /// One line that names line and column.
 QString Text(const SMeasurementError& error);
 
-/// Why a colour cannot be calculated with.
+/// Why a colour cannot be used in calculations.
 QString Text(enColourFault fault);
 
 } // namespace MeasurementProblem

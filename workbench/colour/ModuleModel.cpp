@@ -9,7 +9,7 @@ namespace {
 constexpr int c_nUcsDigits = 4;
 constexpr double c_dPerCent = 100.0;
 
-/// The rows of odd modules; a word says the same.
+/// Background of the rows of odd modules, which a word marks too.
 const QColor c_clrOdd(255, 140, 150);
 
 const ModuleWall::SModuleSpread& SpreadOf(const CMeasuredWall& wall, int nRow)

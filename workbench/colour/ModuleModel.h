@@ -5,7 +5,7 @@
 
 class CMeasuredWall;
 
-/// The modules of the measured wall, a row each: how far each colour lies from the wall's mean, and whether
+/// The modules of the measured wall, one per row: how far each colour lies from the wall's mean, and whether
 /// the module is odd.
 class CModuleModel final : public QAbstractTableModel
 {

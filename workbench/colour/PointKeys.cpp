@@ -156,7 +156,7 @@ void CPointKeys::Tell()
     QAccessibleEvent changed(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&changed);
     if (hasFocus()) {
-        // Screen readers say the name of what gets the focus.
+        // Screen readers announce the name of the widget that gets the focus.
         QAccessibleEvent focused(this, QAccessible::Focus);
         QAccessible::updateAccessibility(&focused);
     }

@@ -20,8 +20,8 @@ struct SGroupPoint
 };
 
 /// Moves the chart's points by keys: Tab goes from point to point, an arrow moves the focused one by 0.001,
-/// with Shift by 0.0001, and Escape or a pause ends the step that can be undone. It lies over the chart, lets
-/// the mouse through, and rings the focused point.
+/// with Shift by 0.0001, and Escape or a pause ends the undoable step. It lies over the chart, lets the mouse
+/// through, and draws a ring around the focused point.
 class CPointKeys : public QWidget
 {
     Q_OBJECT

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// In (x, y): nearer to the spectral locus the cursor is on a wavelength.
+/// Distance in (x, y): closer than this to the spectral locus, the cursor is on a wavelength.
 constexpr double c_dNearOutline = 0.012;
 
 /// Texts of the line below the chart.

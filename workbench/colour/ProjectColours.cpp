@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A point of the project beside that of a group, with what is said of it.
+/// A point of the project and the matching members of a group.
 struct SPointPair
 {
     SProjectColourPoint SProjectColourGroup::*pStored;
@@ -41,7 +41,7 @@ SProjectColourGroup Stored(int nKey, const SChromaGroupInfo& group)
     stored.bVisible = group.bVisible;
     stored.bNoteShown = group.bShowNote;
     stored.bOwnColour = group.bOwnColor;
-    // A colour of the palette is the chart's to choose on each paint.
+    // The chart chooses palette colours on each paint.
     if (group.bOwnColor) {
         stored.byRed = group.nColorR;
         stored.byGreen = group.nColorG;
@@ -117,7 +117,7 @@ void CProjectColours::Load()
     m_groupsLoaded = m_bInProject ? GroupsOf(*colour) : FirstGroups();
     m_regionLoaded = m_bInProject ? RegionOf(*colour) : QPolygonF();
     m_bRegionOnLoaded = m_bInProject && colour->bRegionOn;
-    // The steps are those of the project that was shown before.
+    // These steps belong to the previous project.
     m_view.Editor().EndDrag();
     m_view.Editor().Steps().clear();
     ColourGroups::Restore(m_view.Chart(), m_groupsLoaded);
@@ -148,7 +148,7 @@ SProjectColour CProjectColours::Present() const
 
 void CProjectColours::Store()
 {
-    // A drag is one change, when it has ended.
+    // A drag counts as one change when it ends.
     if (m_bLoading || m_view.Editor().IsDragging())
         return;
     CSimulator::Instance().Document().Change([this](SSimulatedProject& project) {

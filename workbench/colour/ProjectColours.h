@@ -12,7 +12,7 @@ class CChartView;
 struct SProjectColour;
 
 /// Keeps groups and feasible region of a chart in the project: each change goes into the project, and another
-/// project brings its own. What is as it was loaded counts as unchanged.
+/// project brings its own. State equal to what was loaded counts as unchanged.
 class CProjectColours : public QObject
 {
     Q_OBJECT
@@ -20,9 +20,9 @@ class CProjectColours : public QObject
 public:
     explicit CProjectColours(CChartView& view, QObject* pParent = nullptr);
 
-    /// Shows the project's groups and region, or what a chart starts with.
+    /// Shows the project's groups and region, or the defaults of a chart.
     void Load();
-    /// Puts what the chart holds into the project.
+    /// Stores the chart's groups and region in the project.
     void Store();
 
 Q_SIGNALS:

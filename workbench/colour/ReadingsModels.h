@@ -6,7 +6,7 @@
 #include <QAbstractTableModel>
 
 /// @file
-/// The tables of the panel of readings. Both keep their shape, so a new set of readings only repaints cells.
+/// The tables of the panel of readings. Their shape is fixed, so new readings only repaint cells.
 
 /// A table over the readings of one group; empty cells while there is no group.
 class CReadingsModel : public QAbstractTableModel
@@ -17,7 +17,7 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     void SetReadings(const std::optional<SGroupReadings>& readings);
-    /// Takes the headings and words of the current language.
+    /// Uses the headings and words of the current language.
     void Retranslate();
 
     QVariant data(const QModelIndex& index, int nRole) const override;

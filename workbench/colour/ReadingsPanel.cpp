@@ -12,7 +12,7 @@
 
 namespace {
 
-/// ms between two readings in a drag. To paint the tables takes longer than a step of the drag itself.
+/// ms between two readings in a drag. Painting the tables takes longer than a step of the drag itself.
 constexpr int c_nPause = 40;
 
 } // namespace
@@ -85,7 +85,7 @@ void CReadingsPanel::Follow()
 
 void CReadingsPanel::Refresh()
 {
-    // Nobody reads a panel behind another tab; it is read again when it comes to the front.
+    // A panel behind another tab is not visible; it is updated when it comes to the front.
     if (!isVisible())
         return;
     const SChromaGroupInfo* pGroup = m_editor.Chart().m_mapGroups.value(m_nKey, nullptr);

@@ -11,7 +11,7 @@ class QAbstractItemModel;
 class QLabel;
 class QTableView;
 
-/// What the selected group's points are and how much of the standards they cover. It follows a drag.
+/// The readings of the selected group's points and their coverage of the standards. It follows a drag.
 class CReadingsPanel : public QWidget
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     explicit CReadingsPanel(CChartEditor& editor, QWidget* pParent = nullptr);
 
     void Retranslate();
-    /// Tells of the group with this key; of none for a key that is not there.
+    /// Shows the group with this key; nothing for an unknown key.
     void ShowGroup(int nKey);
     /// Reads the group again.
     void Refresh();
@@ -37,7 +37,7 @@ private:
 
     CChartEditor& m_editor;
     int m_nKey = -1;
-    QTimer m_pause; ///< between two readings in a drag: a mouse moves more often than anybody reads
+    QTimer m_pause; ///< between two readings in a drag: mouse moves are more frequent than useful updates
     CPointReadingsModel* m_pPoints = nullptr;
     CCoverageModel* m_pCoverage = nullptr;
     QLabel* m_pName = nullptr;

@@ -12,8 +12,8 @@ namespace {
 
 const QColor c_clrRegion(255, 210, 80);
 const QColor c_clrHalo(0, 0, 0, 150);
-constexpr int c_nFillAlpha = 28;        ///< of the region while it is on: the chart stays readable below it
-constexpr double c_dHaloWidth = 4.0;    ///< pixels: the region's line lies on every colour there is
+constexpr int c_nFillAlpha = 28;        ///< of the region while it is on: the chart below stays readable
+constexpr double c_dHaloWidth = 4.0;    ///< pixels: the region's line crosses every colour
 constexpr double c_dLineWidth = 2.0;    ///< pixels
 constexpr double c_dCornerRadius = 4.0; ///< pixels
 
@@ -36,7 +36,7 @@ QPolygonF InPixels(const CChromaticityDlgWnd& chart, const QPolygonF& polygon)
     return pixels;
 }
 
-/// A line with a dark halo, over a light filling.
+/// A line with a dark halo over a light fill.
 void PaintOutline(QPainter& painter, const QPolygonF& polygon, Qt::PenStyle style, const QBrush& brush)
 {
     painter.setPen(QPen(c_clrHalo, c_dHaloWidth));
@@ -54,11 +54,12 @@ void PaintRegion(QPainter& painter, const CChromaticityDlgWnd& chart, const CFea
                      region.IsOn() ? QBrush(Fill()) : QBrush(Qt::NoBrush));
 }
 
-/// The chart cuts the name off at a box whose height in pixels is the font's size in points. At the
-/// resolution of a screen the letters are higher than that, at a coarse one they fit; SVG knows no such cut.
+/// The chart cuts the name off at a box whose height in pixels is the font's size in points.
+/// At the resolution of a screen the letters are higher than that, at a low one they fit; SVG
+/// does not clip.
 void PaintStandard(QPainter& painter, CChromaticityDlgWnd& chart)
 {
-    // The chart names the standard of its first group, and takes it that there is one.
+    // The chart names the standard of its first group and assumes that there is one.
     if (!chart.m_bShowStandard || chart.m_mapGroups.isEmpty() || chart.m_nGroupIndex != 0)
         return;
     if (painter.paintEngine()->type() != QPaintEngine::Raster)

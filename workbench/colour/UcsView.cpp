@@ -34,7 +34,7 @@ SChromaticity ToXy(QPointF pt)
     return {pt.x(), pt.y()};
 }
 
-/// The nearest colour of a screen: its linear light scaled until the strongest is full, then by gamma 2.2.
+/// The nearest colour of a screen: linear light scaled so that the strongest channel is full, then gamma 2.2.
 QRgb ScreenColour(const CColourMatrix& fromXyz, SChromaticity xy)
 {
     constexpr double c_dGamma = 1.0 / 2.2;

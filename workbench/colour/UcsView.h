@@ -9,8 +9,8 @@
 class CChartEditor;
 class CMeasuredWall;
 
-/// The CIE 1976 (u', v') diagram with the chart's groups and the measured wall. It is looked at; points are
-/// moved on the chart.
+/// The CIE 1976 (u', v') diagram with the chart's groups and the measured wall. It is for viewing only;
+/// points are moved on the chart.
 class CUcsView : public QWidget
 {
     Q_OBJECT

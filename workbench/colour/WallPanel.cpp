@@ -23,11 +23,11 @@
 
 namespace {
 
-/// A larger file holds no measurements; it is not read into memory.
+/// A larger file cannot hold measurements and is not read into memory.
 constexpr qint64 c_nLargestFile = qint64(64) * 1024 * 1024;
 
 constexpr double c_dPerCent = 100.0;
-constexpr int c_nRowMargin = 6; ///< pixels that a row of the table is higher than its text
+constexpr int c_nRowMargin = 6; ///< pixels by which a table row is higher than its text
 
 QString PointText(SChromaticity xy)
 {

@@ -24,17 +24,17 @@ public:
     CModuleModel& Model() { return *m_pModel; }
 
     /// @name What the buttons do
-    /// @return false when it could not be done; the status line and the panel tell why
+    /// @return false when it could not be done; the status line and the panel say why
     /// @{
     bool ImportFile(const QString& strFile);
     bool Paste();
     bool ExportFile(const QString& strFile);
-    /// Writes the PDF of two pages.
+    /// Writes the two-page PDF report.
     bool SaveReport(const QString& strFile);
     void Clear();
     /// @}
 
-    /// What the panel says of the wall, or of the last import that failed.
+    /// The panel's message about the wall, or about the last import that failed.
     QString Summary() const;
 
 Q_SIGNALS:

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Where the marks stand far enough apart to be read, nm.
+/// Wavelengths whose marks are far enough apart to read, nm.
 constexpr int c_nFirst = 460;
 constexpr int c_nLast = 620;
 constexpr int c_nStep = 20;

@@ -13,7 +13,7 @@ namespace EdidFields {
 
 namespace {
 
-/// A block as its decoders read it.
+/// A block as seen by its decoders.
 class CBlock
 {
 public:
@@ -63,7 +63,7 @@ QString Header(const CBlock& block)
                                                          : CEdidFieldText::tr("错误");
 }
 
-/// Three letters of five bits each, 1 for A; a value beyond 26 is no letter.
+/// Three letters of five bits each, 1 for A; a value above 26 is not a letter.
 QString Manufacturer(const CBlock& block)
 {
     constexpr int c_nLetters = 26;
@@ -287,7 +287,7 @@ QString Checksum(const CBlock& block)
     return (nSum & 0xFFU) == 0 ? CEdidFieldText::tr("正确") : CEdidFieldText::tr("错误");
 }
 
-/// The bytes that a field stands in, in their order, each once.
+/// The bytes of a field in ascending order, each once.
 struct SPlaces
 {
     std::array<int, 18> arrOffsets = {};
@@ -326,7 +326,7 @@ constexpr SPlaces In(const TFields&... fields)
     return places;
 }
 
-/// A row: group, name, where the bytes are, how they read.
+/// A row: group, name, position of the bytes, decoder.
 struct SFieldRow
 {
     const char* szGroup;

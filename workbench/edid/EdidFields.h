@@ -10,8 +10,8 @@ struct SEdidField
 {
     QString strGroup;      ///< part of the block that the field belongs to
     QString strName;       ///< what the field is
-    QString strValue;      ///< what it says
-    QVector<int> vecBytes; ///< offsets of the bytes that hold it
+    QString strValue;      ///< its decoded value
+    QVector<int> vecBytes; ///< offsets of its bytes
 };
 
 /// Reads a 128-byte EDID 1.3 base block into fields for people, in the order of the block.

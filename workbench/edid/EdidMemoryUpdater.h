@@ -6,8 +6,8 @@
 #include <QByteArray>
 #include <QObject>
 
-/// Keeps the EDID memories in step with the settings: when a setting was written to an input and took, its
-/// block is built and stored, as a sender would present it to a computer.
+/// Keeps the EDID memories consistent with the settings: when a setting was successfully written to an input,
+/// its block is built and stored as a sender would present it to a computer.
 class CEdidMemoryUpdater : public QObject
 {
     Q_OBJECT

@@ -46,7 +46,7 @@ QString ChangeText(bool bFirst, int nChanged)
     return CEdidPage::tr("EDID 存储器更改了 %1 个字节（以颜色标出）。").arg(nChanged);
 }
 
-/// The form that a file's suffix names.
+/// The format that a file's suffix names.
 QByteArray FormFor(const QString& strFile, const QByteArray& edid)
 {
     const QString strSuffix = QFileInfo(strFile).suffix().toLower();
@@ -204,7 +204,7 @@ void CEdidPage::ShowFields(const QByteArray& block)
 
 void CEdidPage::ShowChange(const QByteArray& blockBefore, const QByteArray& blockAfter)
 {
-    // Where there was no block before, colouring all of it would tell nothing.
+    // Without a previous block, colouring all bytes would say nothing.
     const bool bFirst = blockBefore.isEmpty();
     const QVector<int> vecChanged =
         bFirst ? QVector<int>() : EdidFields::ChangedBytes(blockBefore, blockAfter);
@@ -242,8 +242,8 @@ void CEdidPage::SelectFieldOfByte(int nOffset)
 
 void CEdidPage::EditEdid()
 {
-    // The dialog accepts a write that failed too, and its flag stays false when a full write took: whether
-    // the memory was written is what tells.
+    // The dialog also accepts a failed write, and its flag stays false after a successful full write: only a
+    // write to the memory proves success.
     bool bTook = false;
     const auto connection =
         connect(m_pUpdater, &CEdidMemoryUpdater::BlockStored, this, [&bTook] { bTook = true; });

@@ -30,9 +30,9 @@ public:
     const SSimulatedInput* Input() const;
     /// Opens the EDID dialog for the input that is shown, and reports how the write ended.
     void EditEdid();
-    /// Saves the block that is shown, in the form that the suffix names: `.hex` and `.txt` hexadecimal text,
-    /// `.c` and `.h` an array of C, `.json` JSON, and binary for any other.
-    /// @return false when the file could not be written; the status line tells why
+    /// Saves the block that is shown, in the format that the suffix names: `.hex` and `.txt` hexadecimal
+    /// text, `.c` and `.h` an array of C, `.json` JSON, and binary for any other.
+    /// @return false when the file could not be written; the status line says why
     bool SaveBlock(const QString& strFile);
 
 private:

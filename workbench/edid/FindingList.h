@@ -5,8 +5,8 @@
 
 #include <QTreeWidget>
 
-/// What is wrong with the bytes that are shown, a row each: severity, place, what is wrong, what to do. The
-/// row that is chosen, by a click or the arrow keys, names its bytes.
+/// The findings on the bytes that are shown, one per row: severity, place, problem, remedy. Choosing a row,
+/// by a click or the arrow keys, reports its bytes.
 class CFindingList : public QTreeWidget
 {
     Q_OBJECT
@@ -14,11 +14,11 @@ class CFindingList : public QTreeWidget
 public:
     explicit CFindingList(QWidget* pParent = nullptr);
 
-    /// Judges the bytes; none, and there are no findings.
+    /// Checks the bytes; without bytes there are no findings.
     void ShowFindingsOf(const QByteArray& edid);
     /// The findings in the order of the rows.
     const std::vector<Edid::SFinding>& Findings() const { return m_vecFindings; }
-    /// Takes the texts of the current language.
+    /// Uses the texts of the current language.
     void Retranslate();
 
     QSize sizeHint() const override;

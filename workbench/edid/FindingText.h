@@ -10,7 +10,7 @@ namespace FindingText {
 QString Wrong(const Edid::SFinding& finding);
 /// What to do.
 QString Remedy(const Edid::SFinding& finding);
-/// Whether the table has a rule in its place.
+/// Whether the table has the rule at its index.
 bool HasWords(Edid::enRule rule);
 
 } // namespace FindingText

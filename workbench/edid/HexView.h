@@ -23,7 +23,7 @@ public:
     void SetChanged(const QVector<int>& vecOffsets);
     QVector<int> Changed() const { return m_vecChanged; }
 
-    /// Where a byte is painted, widget pixels.
+    /// The rectangle of a byte, widget pixels.
     QRect ByteRect(int nOffset) const;
     /// The byte at a place, -1 for none.
     int ByteAt(QPoint pt) const;

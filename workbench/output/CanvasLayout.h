@@ -7,8 +7,8 @@
 /// How a background picture is fitted to the canvas. The values are those of `CSender::BkImageFit`.
 enum class enPictureFit
 {
-    enOneToOne = 0, ///< a pixel of the picture is a pixel of the canvas, from its top left corner on
-    enStretched = 1 ///< the picture fills the canvas, whatever its sides
+    enOneToOne = 0, ///< one picture pixel per canvas pixel, starting at the top left corner
+    enStretched = 1 ///< the picture fills the canvas, ignoring its aspect ratio
 };
 
 /// Where a canvas is shown.
@@ -28,13 +28,13 @@ struct SPictureLayout
 /// The geometry of the canvas view, over plain values.
 namespace CanvasLayout {
 
-/// Shows a canvas as large as an area allows, to scale and in its middle.
+/// Fits a canvas into an area, to scale and centred.
 /// @param sizeCanvas pixels; a side of 0 or below shows nothing
 /// @param rectArea   view pixels; an empty one shows nothing
 /// @return a side of at least one view pixel, however narrow the canvas is
 SCanvasLayout FitCanvas(QSize sizeCanvas, const QRect& rectArea);
 
-/// Puts a picture on a canvas that is shown. What would lie outside the canvas is cut off.
+/// Puts a picture on a displayed canvas. The part outside the canvas is cut off.
 SPictureLayout PlacePicture(const SCanvasLayout& layout, QSize sizeCanvas, QSize sizePicture,
                             enPictureFit fit);
 

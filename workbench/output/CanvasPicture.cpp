@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The size in which a picture is kept.
+/// The size in which a picture is cached.
 QSize KeptSize(QSize size)
 {
     constexpr QSize c_sizeMax(CCanvasPictureReader::c_nMaxKeptSide, CCanvasPictureReader::c_nMaxKeptSide);
@@ -18,7 +18,7 @@ QSize KeptSize(QSize size)
 
 SCanvasPicture ReadPicture(const QString& strFile)
 {
-    // The stored picture's name has no extension: its content tells the format.
+    // The stored picture's name has no extension: its content determines the format.
     QImageReader reader(strFile);
     SCanvasPicture picture;
     picture.strFile = strFile;

@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QString>
 
-/// What became of reading a picture file.
+/// The result of reading a picture file.
 enum class enPictureState
 {
     enMissing,    ///< there is no such file
@@ -24,8 +24,8 @@ struct SCanvasPicture
     QImage image;       ///< the picture, made smaller where it is larger than any view
 };
 
-/// Reads background pictures, and keeps the last one until its file changes: a slider that moves asks for the
-/// same picture again and again.
+/// Reads background pictures, and caches the last one until its file changes: a moving slider requests the
+/// same picture repeatedly.
 class CCanvasPictureReader
 {
 public:

@@ -16,7 +16,7 @@ constexpr QSize c_sizeSmallest(240, 160);
 
 constexpr double c_dMaxAlpha = 255;
 
-/// The part of a kept image that stands for a part of the picture in its own size.
+/// The part of a cached image that corresponds to a part of the full-size picture.
 QRect KeptPart(const QRect& rectPart, QSize sizePicture, QSize sizeKept)
 {
     const double dX = double(sizeKept.width()) / sizePicture.width();
@@ -25,7 +25,7 @@ QRect KeptPart(const QRect& rectPart, QSize sizePicture, QSize sizeKept)
     return {QPoint(qRound(rectPart.x() * dX), qRound(rectPart.y() * dY)), size.expandedTo(QSize(1, 1))};
 }
 
-/// Enlarged, the pixels of a wall are squares; made smaller, they blend.
+/// Enlarged wall pixels are squares; reduced ones blend.
 Qt::TransformationMode ScalingTo(QSize sizeTarget, QSize sizeSource)
 {
     return sizeTarget.boundedTo(sizeSource) == sizeSource ? Qt::FastTransformation : Qt::SmoothTransformation;
@@ -137,7 +137,7 @@ void CCanvasPreview::DrawNote(QPainter& painter) const
 {
     constexpr int c_nFlags = Qt::AlignCenter | Qt::TextWordWrap;
     const QRect rectArea = CanvasArea().adjusted(c_nMargin, 0, -c_nMargin, 0);
-    // On a ground of its own: a narrow canvas would run through the text as a line.
+    // With its own background: a narrow canvas would otherwise run through the text as a line.
     const QRect rectText = painter.boundingRect(rectArea, c_nFlags, m_content.strNote);
     painter.fillRect(rectText.adjusted(-c_nNoteMargin, -c_nNoteMargin, c_nNoteMargin, c_nNoteMargin),
                      QColor(Theme::c_rgbField));

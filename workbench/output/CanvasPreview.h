@@ -15,7 +15,7 @@ struct SCanvasContent
     quint8 byAlpha = 0; ///< opacity of the picture
     enPictureFit fit = enPictureFit::enOneToOne;
     QString strNote;       ///< shown in the middle
-    bool bWarning = false; ///< the note tells what is wrong
+    bool bWarning = false; ///< the note is a warning
 };
 
 /// The canvas of a sender to scale, as the LED wall would show it: black, with the background picture at its
@@ -51,7 +51,7 @@ private:
 
     SCanvasContent m_content;
     SCanvasLayout m_layout;
-    QImage m_imgScaled; ///< what is seen of the picture, in the pixels of the screen
+    QImage m_imgScaled; ///< the visible part of the picture, in screen pixels
     QRect m_rectPicture;
 };
 

@@ -11,12 +11,12 @@
 
 namespace {
 
-/// A coefficient: its decimals, and what it is before anything was reset.
+/// A coefficient: its decimals, and its value before any reset.
 constexpr int c_nDecimals = 3;
 constexpr double c_dStep = 0.001;
 constexpr double c_dFirst = 1;
 
-/// Shown where nothing was taken.
+/// Shown when no value was accepted.
 const QString c_strNone = QStringLiteral("—");
 
 } // namespace
@@ -57,7 +57,7 @@ void CCorrectionPanel::AddRow(QGridLayout* pGrid, bool bCorrection, const char* 
     pGrid->addWidget(pTaken, nRow, 2);
     pGrid->addWidget(pButton, nRow, 3);
     m_captions.Add(pButton, "text", QT_TR_NOOP("重置..."));
-    // The two buttons read alike: their accessible names tell which is which.
+    // The two buttons read alike: their accessible names distinguish them.
     m_captions.Add(pButton, "accessibleName", szAccessibleName);
     connect(pButton, &QPushButton::clicked, this, [this, bCorrection] { Reset(bCorrection); });
     m_vecCorrections.push_back({bCorrection, pPreset, pTaken, pButton});

@@ -12,8 +12,8 @@ class QGridLayout;
 class QLabel;
 class QPushButton;
 
-/// The coefficients of correction and seam repair, each with the dialog that resets it and the value that was
-/// taken from that dialog.
+/// The coefficients of correction and seam repair, each with the dialog that resets it and the value last
+/// accepted from that dialog.
 class CCorrectionPanel : public QGroupBox
 {
     Q_OBJECT
@@ -25,12 +25,12 @@ public:
     void Retranslate();
     /// Whether the dialog can be opened: there is a sender.
     void EnableButtons(bool bEnabled);
-    /// Forgets what was taken: another sender is shown.
+    /// Clears the accepted values: another sender is shown.
     void Forget();
     /// Opens the coefficient dialog.
     /// @param bCorrection correction, else seam repair
     void Reset(bool bCorrection);
-    /// Takes over what the dialog gave.
+    /// Stores the dialog's result.
     void Take(bool bCorrection, float fValue);
     /// The value that the dialog opens with.
     float Preset(bool bCorrection) const;

@@ -183,7 +183,7 @@ void COutputFacts::Set(enFact fact, const QString& strText)
 
 void COutputFacts::ShowOutput(const SSimulatedSender& sender)
 {
-    // A sender that is no video processor has no hardware that keeps rate and depth.
+    // A sender that is not a video processor has no hardware that stores rate and depth.
     const bool bHardware = sender.capability.bVideoProcessor;
     Set(enCanvasProject, SenderOutput::SizeText(sender.record.sizeCanvas));
     Set(enCanvasHardware, HardwareCanvasText(sender));

@@ -15,7 +15,7 @@ class QPushButton;
 struct SCanvasPicture;
 struct SSimulatedSender;
 
-/// What a sender puts out, in words: canvas, rate and depth by the project and by the hardware, and the
+/// The output of a sender, in words: canvas, rate and depth by the project and by the hardware, and the
 /// background picture, each group with the buttons that change it.
 class COutputFacts : public QWidget
 {
@@ -24,7 +24,7 @@ class COutputFacts : public QWidget
 public:
     explicit COutputFacts(QWidget* pParent = nullptr);
 
-    /// Puts all texts into the current language. The facts themselves are shown anew by the owner.
+    /// Puts all texts into the current language. The owner refreshes the facts themselves.
     void Retranslate();
     /// @param picture the background picture's file as it was read
     void Show(const SSimulatedSender& sender, const SCanvasPicture& picture);

@@ -17,7 +17,7 @@
 
 namespace {
 
-/// A path as it is read by people, which a line may be broken at.
+/// A path for display, with possible line breaks.
 QString PathText(const QString& strFile)
 {
     constexpr QChar c_chBreakHere(0x200B); // zero width space
@@ -160,7 +160,7 @@ SCanvasContent COutputPage::Content(const SSimulatedSender& sender, const SCanva
     return content;
 }
 
-/// The record's changes are announced for themselves; a picture can be another one under the same record.
+/// The record announces its own changes, but the picture file can change without it.
 void COutputPage::LabelEvent(int nCode)
 {
     if (nCode != enPictureChanged)
@@ -176,7 +176,7 @@ void COutputPage::SetCanvas()
         TakeCanvas(dialog.GetCanvasSize());
 }
 
-/// The dialog only asks; storing what was chosen is the host's part.
+/// The dialog only asks; the host stores the choice.
 void COutputPage::TakeCanvas(QSize size)
 {
     const SSimulatedSender* pSender = Sender();
@@ -196,7 +196,7 @@ void COutputPage::SetRateAndDepth()
 {
     CSetDepthRateDlg dialog(this);
     const int nResult = dialog.exec();
-    // Opening alone can have set the depth.
+    // Merely opening the dialog can have set the depth.
     CSimulator::Instance().Document().NoticeChanges();
     if (nResult == QDialog::Accepted)
         ReportRateAndDepth();

@@ -10,7 +10,7 @@ class COutputFacts;
 struct SCanvasContent;
 struct SSimulatedSender;
 
-/// What the selected sender puts out: its canvas as the LED wall would show it, canvas, rate and depth by the
+/// The output of the selected sender: its canvas as the LED wall would show it, canvas, rate and depth by the
 /// project and by the hardware, the background picture, and the dialogs that change them.
 class COutputPage : public CWorkbenchPage
 {
@@ -31,11 +31,11 @@ public:
     void SetBackground();
     /// @}
 
-    /// Stores what the canvas dialog gave: the dialog only asks.
+    /// Stores the result of the canvas dialog, which only asks.
     void TakeCanvas(QSize size);
     CCanvasPreview& Preview() { return *m_pPreview; }
     CCorrectionPanel& Corrections() { return *m_pCorrections; }
-    /// The background picture's file, whether it is there or not.
+    /// The background picture's file, whether it exists or not.
     QString PictureFile() const;
     /// Looks again at the sender and at the picture's file.
     void Refresh();

@@ -6,7 +6,7 @@
 
 struct SSimulatedSender;
 
-/// What a sender puts out, by its record and by its hardware.
+/// The output of a sender, by its record and by its hardware.
 namespace SenderOutput {
 
 /// True when the hardware keeps a canvas of its own, which counts instead of the record's.

@@ -20,9 +20,9 @@ constexpr int c_nMaxSide = 65535;
 constexpr int c_nMaxArea = 2147483647;
 constexpr int c_nMaxDelay = 60000; ///< ms
 constexpr int c_nComputed = -1;    ///< limit flags are computed from the project
-constexpr int c_nBySenders = -1;   ///< the number of processors is that of the senders
+constexpr int c_nBySenders = -1;   ///< the number of processors equals that of the senders
 constexpr int c_nByAddress = 2;    ///< the detect strategy that finds processors by address
-constexpr int c_nNotByAddress = 1; ///< any other; the dialogs make no difference between them
+constexpr int c_nNotByAddress = 1; ///< any other; the dialogs do not distinguish them
 
 /// Reading and writing of one property.
 struct SAccess
@@ -83,7 +83,7 @@ constexpr SAccess c_width = c_side<&QSize::width, &QSize::setWidth, c_pMembers..
 template <auto... c_pMembers>
 constexpr SAccess c_height = c_side<&QSize::height, &QSize::setHeight, c_pMembers...>;
 
-/// A value that may be absent, which a number outside its range stands for.
+/// An optional value; a number outside its range represents absence.
 template <class TPlace, int c_nAbsent>
 constexpr SAccess c_optional = {[](const SSimulatedProject& project, int nSender) {
                                     const auto& optional = TPlace::Field(project, nSender);
@@ -177,7 +177,7 @@ using SProject = SSimulatedProject;
 using SCapability = SSenderCapability;
 using SLimit = SCanvasLimit;
 
-// Faults stand first: they are what a person comes for. Addressing stands last, since it is the project's.
+// Faults come first: they are used most. Addressing comes last because it belongs to the project.
 const std::vector<SSenderProperty> c_vecProperties = {
     Row(c_szFaults, QT_TRANSLATE_NOOP("CSenderPropertyText", "EDID 写入失败"), c_switch, c_writeFails),
     Row(c_szFaults, QT_TRANSLATE_NOOP("CSenderPropertyText", "EDID 写入后不生效"), c_switch,

@@ -17,15 +17,15 @@ enum class enEditor
     enChoice
 };
 
-/// One choice of a property that has a few.
+/// One choice of a property with a fixed set of values.
 struct SPropertyChoice
 {
     const char* szText; ///< source text in the context `CSenderPropertyText`
     int nValue;
 };
 
-/// One thing that a person may change about the simulated project: what a sender can do, what its hardware
-/// holds, how it misbehaves, and how processors are addressed.
+/// One editable property of the simulated project: what a sender can do, what its hardware stores, how it
+/// misbehaves, or how processors are addressed.
 struct SSenderProperty
 {
     const char* szGroup; ///< source text in the context `CSenderPropertyText`
@@ -33,7 +33,7 @@ struct SSenderProperty
     enEditor editor;
     int nMin; ///< for numbers
     int nMax;
-    const char* szLowest; ///< source text that stands for the lowest number; null: it is a number like others
+    const char* szLowest; ///< source text shown for the lowest number; null: shown as a number
     std::vector<SPropertyChoice> vecChoices;
     QVariant (*funcRead)(const SSimulatedProject& project, int nSender);
     void (*funcWrite)(SSimulatedProject& project, int nSender, const QVariant& value);

@@ -19,7 +19,7 @@
 
 namespace {
 
-/// Shows a value in the editor that its property has.
+/// Shows a value in the editor of its property.
 void ShowValue(const SSenderProperty& property, QWidget* pEditor, const QVariant& value)
 {
     switch (property.editor) {
@@ -163,7 +163,7 @@ void CSimulationPage::Retranslate()
     AlignGroups();
 }
 
-/// The groups are forms of their own; captions of one width make them one grid.
+/// The groups are separate forms; captions of equal width align them as one grid.
 void CSimulationPage::AlignGroups()
 {
     int nWidth = 0;

@@ -11,8 +11,8 @@ class QLabel;
 class QVBoxLayout;
 struct SSenderProperty;
 
-/// What the selected sender can do, what its hardware holds and how it misbehaves: everything by which a
-/// person can provoke what the dialogs show.
+/// What the selected sender can do, what its hardware holds and how it misbehaves: everything that affects
+/// what the dialogs show.
 class CSimulationPage : public CWorkbenchPage
 {
     Q_OBJECT
@@ -50,7 +50,7 @@ private:
     QWidget* m_pForms = nullptr;
     std::vector<SGroup> m_vecGroups;
     std::vector<SRow> m_vecRows;
-    bool m_bRefreshing = false; ///< editors are being filled: their signals are no one's doing
+    bool m_bRefreshing = false; ///< editors are being filled: their signals are not user edits
 };
 
 #endif // WORKBENCH_SIMULATION_SIMULATIONPAGE_H

@@ -169,7 +169,7 @@ void TourOfKeys(CTour& tour, CColourPage& page)
     CPointKeys& keys = page.View().Keys();
     const SChromaGroupInfo* pGroup = page.View().Chart().GetChromaGroupByIndex(enScreenColorSpace);
     const CPointEx<float> ptBefore = pGroup->ptGreen;
-    // The ring is there while the keys go to the chart.
+    // The ring is visible while the chart has the focus.
     QApplication::setActiveWindow(page.window());
     keys.setFocus(Qt::OtherFocusReason);
     keys.Select({enScreenColorSpace, enGreenPoint});
@@ -191,7 +191,7 @@ void TourOfReadings(CTour& tour, CColourPage& page)
     page.ShowTab(CColourPage::enGroupsTab);
 }
 
-/// A wall of 24 modules as a spreadsheet puts it on the clipboard; the blue of one has faded.
+/// A wall of 24 modules in a spreadsheet's clipboard format; the blue of one has faded.
 QString DemoWall()
 {
     QString strText = QStringLiteral("module\tRx\tRy\tRY\tGx\tGy\tGY\tBx\tBy\tBY\n");

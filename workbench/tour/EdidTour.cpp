@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int c_nChosenResolution = 2; ///< entry of the resolution menu that the tour picks, 0 being custom
-constexpr int c_nProgressTime = 300;   ///< ms after OK at which the progress is half-way enough for a picture
+constexpr int c_nProgressTime = 300; ///< ms after OK until the picture, roughly half-way through the progress
 
 SSelection FirstInput()
 {

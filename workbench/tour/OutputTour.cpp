@@ -32,7 +32,7 @@ constexpr int c_nPictureSwitch = 0;
 constexpr int c_nPictureChoose = 1;
 constexpr int c_nCoefficientOk = 0;
 
-/// A limit in which each of its three tests can fail alone.
+/// A limit for which each of the three checks can fail alone.
 constexpr int c_nTourMaxWidth = 3840;
 constexpr int c_nTourMaxHeight = 2160;
 constexpr int c_nTourMaxArea = 6000000;
@@ -49,7 +49,7 @@ constexpr SCanvasState c_arrCanvasStates[] = {
     {"canvas-too-small", {10, 600}, false},   {"canvas-too-wide", {4000, 1000}, false},
     {"canvas-too-high", {1000, 3000}, false}, {"canvas-too-large", {3000, 2100}, false}};
 
-/// Sender types of the two wordings of a limit, and a flag that names no limit.
+/// Sender types for the two wordings of a limit, and a flag that sets no limit.
 constexpr int c_nSmallType = 16;
 constexpr int c_nLargeType = 21;
 constexpr unsigned int c_nUnknownLimit = 1;
@@ -118,7 +118,7 @@ void EnterCanvas(QDialog& dialog, QSize size)
 {
     const auto listFields = dialog.findChildren<CCustomSpinBox*>();
     for (CCustomSpinBox* pField : listFields)
-        // By hand no field goes below the smallest side; its message would stay unseen.
+        // Typing cannot go below the smallest side, so its message would never be shown.
         pField->setMinimum(0);
     listFields[0]->setValue(size.width());
     listFields[1]->setValue(size.height());
@@ -143,7 +143,7 @@ void DrawLand(QPainter& painter)
     painter.drawPolygon(hills);
 }
 
-/// Draws a picture with a frame, by which its edges are seen.
+/// Draws a picture with a frame that shows its edges.
 bool DrawPicture(const QString& strFile)
 {
     QImage image(c_sizeTourPicture, QImage::Format_RGB32);
@@ -159,7 +159,7 @@ bool DrawPicture(const QString& strFile)
     return image.save(strFile, "PNG");
 }
 
-/// Answers the file dialog that opens next with a file.
+/// Answers the next file dialog with a file.
 void AnswerFileDialog(QDialog& dialog, const QString& strFile)
 {
     QTimer::singleShot(0, &dialog, [&dialog, strFile] {

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// Longest time between two pictures, ms: a commit behind a progress bar takes a second in demo mode.
+/// Longest time between two pictures, ms: a commit with a progress bar takes a second in demo mode.
 constexpr int c_nPatience = 120000;
 
 } // namespace
@@ -37,8 +37,8 @@ CTour::~CTour()
 
 void CTour::GiveUp()
 {
-    // A dialog that nobody answers holds the walk: nothing of it can be trusted, and nobody is there to close
-    // it.
+    // A dialog without an answer blocks the tour: its results are invalid, and no operator can
+    // close the dialog.
     std::fprintf(stderr, "sender-workbench: the tour is stuck after the picture %s\n",
                  qPrintable(m_listPictures.isEmpty() ? QStringLiteral("(none)") : m_listPictures.last()));
     std::_Exit(EXIT_FAILURE);
@@ -47,7 +47,7 @@ void CTour::GiveUp()
 void CTour::Picture(QWidget* pWindow, const QString& strName)
 {
     m_watchdog.start(c_nPatience);
-    // What was changed just now is laid out and painted by posted events.
+    // Posted events lay out and paint the latest changes.
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
     const QString strFile = QStringLiteral("%1-%2.png").arg(m_strPrefix, strName);

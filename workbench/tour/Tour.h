@@ -16,12 +16,12 @@ class CTour : public QObject
     Q_OBJECT
 
 public:
-    /// @param strFolder where the pictures go; created when it is not there
+    /// @param strFolder where the pictures go; created when it does not exist
     explicit CTour(const QString& strFolder);
     ~CTour() override;
 
     QString Folder() const { return m_strFolder; }
-    /// Put before the name of each picture from now on: the language, the page.
+    /// Sets the prefix of the following pictures' names: the language and the page.
     void SetPrefix(const QString& strPrefix) { m_strPrefix = strPrefix; }
 
     /// Lays out and paints a window and saves its picture under `prefix-name.png`.
@@ -44,7 +44,7 @@ private:
     void GiveUp();
 
     QString m_strFolder; ///< absolute: dialogs are handed files in it
-    QTimer m_watchdog;   ///< runs out when a dialog that nobody answers holds the walk
+    QTimer m_watchdog;   ///< expires when a dialog without an answer blocks the tour
     QString m_strPrefix;
     QString m_strMessageName;
     int m_nMessageButton = 0;

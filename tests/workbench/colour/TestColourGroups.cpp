@@ -152,7 +152,7 @@ void TestColourGroups::AChromaticityIsRead_data()
     QTest::newRow("three numbers") << QStringLiteral("0.3,0.3,0.3") << QString();
     QTest::newRow("below 0") << QStringLiteral("-0.1,0.3") << QString();
     QTest::newRow("above 1") << QStringLiteral("0.3,1.1") << QString();
-    QTest::newRow("no number") << QStringLiteral("nan,0.3") << QString();
+    QTest::newRow("NaN") << QStringLiteral("nan,0.3") << QString();
     QTest::newRow("infinity") << QStringLiteral("inf,0.3") << QString();
     QTest::newRow("a word") << QStringLiteral("red, green") << QString();
     QTest::newRow("nothing") << QString() << QString();

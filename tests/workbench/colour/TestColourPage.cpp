@@ -85,7 +85,7 @@ void TestColourPage::AResizeLaysTheChartOutAndPaintsItsBitmap_data()
     QTest::newRow("large") << QSize(900, 800);
     QTest::newRow("small") << QSize(220, 240);
     QTest::newRow("wide") << QSize(1200, 300);
-    QTest::newRow("below what can be read") << QSize(50, 20);
+    QTest::newRow("too small to read") << QSize(50, 20);
 }
 
 void TestColourPage::AResizeLaysTheChartOutAndPaintsItsBitmap()
@@ -305,7 +305,7 @@ void TestColourPage::TheReadoutNamesTheWavelengthNearTheOutline()
     SShownColourPage shown;
     shown.Move({0.0743F, 0.8338F});
     QVERIFY(PointReadout::Of(shown.Chart()).contains(QStringLiteral("520 nm")));
-    // Just outside there is no chromaticity to tell, but still the wavelength.
+    // Just outside there is no chromaticity to show, but still the wavelength.
     shown.Move({0.0720F, 0.8430F});
     QVERIFY(PointReadout::Of(shown.Chart()).contains(QStringLiteral(" nm")));
     shown.Move({0.3F, 0.3F});
