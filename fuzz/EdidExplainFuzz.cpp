@@ -1,7 +1,7 @@
 // Any bytes as an EDID: explaining and judging stay inside them, and every text can be made.
 
 #include "SenderModuleDialog/Fault.h"
-#include "instruments/edid/Checksum.h"
+#include "host/CommonClass/EdidBlockSize.h"
 #include "instruments/edid/ExplanationText.h"
 #include "instruments/edid/Rules.h"
 
@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int c_nMaxBytes = 3 * Edid::c_nBlockSize;
+constexpr int c_nMaxBytes = 3 * c_nEdidBlockSize;
 
 void CheckFields(const QByteArray& edid)
 {

@@ -1,7 +1,7 @@
 // Any blocks as JSON: every bit comes back, also of broken ones.
 
 #include "SenderModuleDialog/Fault.h"
-#include "instruments/edid/Checksum.h"
+#include "host/CommonClass/EdidBlockSize.h"
 #include "instruments/edid/Reading.h"
 #include "instruments/edid/Writing.h"
 
@@ -11,10 +11,10 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSize)
 {
     constexpr int c_nMaxBlocks = 4;
-    const int nBlocks = qMin(int(nSize / Edid::c_nBlockSize), c_nMaxBlocks);
+    const int nBlocks = qMin(int(nSize / c_nEdidBlockSize), c_nMaxBlocks);
     if (nBlocks == 0)
         return 0;
-    const QByteArray edid(reinterpret_cast<const char*>(pData), nBlocks * Edid::c_nBlockSize);
+    const QByteArray edid(reinterpret_cast<const char*>(pData), nBlocks * c_nEdidBlockSize);
     const Edid::SReading reading = Edid::Read(Edid::JsonForm(edid));
     Require(reading.IsRead() && reading.vecEdids.constFirst().bytes == edid, "JSON loses nothing");
     return 0;

@@ -2,7 +2,7 @@
 // form.
 
 #include "SenderModuleDialog/Fault.h"
-#include "instruments/edid/Checksum.h"
+#include "host/CommonClass/EdidBlockSize.h"
 #include "instruments/edid/Reading.h"
 #include "instruments/edid/Writing.h"
 
@@ -25,8 +25,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSi
     Require(reading.IsRead() != reading.vecEdids.isEmpty(), "there are EDIDs or a reason");
     for (const Edid::SNamedEdid& edid : reading.vecEdids) {
         const int nBytes = edid.bytes.size();
-        Require(nBytes > 0 && nBytes % Edid::c_nBlockSize == 0, "an EDID has whole blocks");
-        Require(nBytes <= Edid::c_nMaxBlocks * Edid::c_nBlockSize, "an EDID has at most 256 blocks");
+        Require(nBytes > 0 && nBytes % c_nEdidBlockSize == 0, "an EDID has whole blocks");
+        Require(nBytes <= Edid::c_nMaxBlocks * c_nEdidBlockSize, "an EDID has at most 256 blocks");
         CheckForm(Edid::HexForm(edid.bytes), edid.bytes);
         CheckForm(Edid::CForm(edid.bytes, QStringLiteral("any")), edid.bytes);
     }

@@ -1,7 +1,7 @@
 // EDIDs explained and judged in one call each, beside the installed decoder, which takes a process for each
 // file.
 
-#include "instruments/edid/Checksum.h"
+#include "host/CommonClass/EdidBlockSize.h"
 #include "instruments/edid/Conforming.h"
 #include "instruments/edid/Explanation.h"
 #include "instruments/edid/Rules.h"
@@ -27,7 +27,7 @@ std::vector<QByteArray> Blocks()
         const float fRate = 24.0F + float(i % 40);
         const QByteArray edid =
             Edid::MakeConforming({nWidth, nHeight, fRate, QStringLiteral("LED"), {}, 60, 34}).edid;
-        if (edid.size() == Edid::c_nBlockSize)
+        if (edid.size() == c_nEdidBlockSize)
             vecBlocks.push_back(edid);
     }
     return vecBlocks;

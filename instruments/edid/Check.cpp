@@ -85,12 +85,12 @@ void CheckDisplayId(CCheckContext& context, int nBlock)
 void Check(const quint8* pBytes, int nSize, const SCheckOptions& options, std::vector<SFinding>& vecFindings)
 {
     vecFindings.clear();
-    if (nSize < c_nBlockSize)
+    if (nSize < c_nEdidBlockSize)
         return;
     CCheckContext context(pBytes, nSize, options, vecFindings);
     CheckBase(context);
     CheckChecksum(context, 0);
-    for (int nBlock = c_nBlockSize; nBlock + c_nBlockSize <= nSize; nBlock += c_nBlockSize) {
+    for (int nBlock = c_nEdidBlockSize; nBlock + c_nEdidBlockSize <= nSize; nBlock += c_nEdidBlockSize) {
         CheckExtension(context, nBlock);
         CheckChecksum(context, nBlock);
     }

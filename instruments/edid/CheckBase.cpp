@@ -1,7 +1,7 @@
+#include "host/CommonClass/EdidBlockSize.h"
 #include "instruments/edid/BaseLayout.h"
 #include "instruments/edid/BlockTimings.h"
 #include "instruments/edid/CheckContext.h"
-#include "instruments/edid/Checksum.h"
 #include "instruments/edid/CvtCode.h"
 #include "instruments/edid/DetailedTiming.h"
 
@@ -435,7 +435,7 @@ void CheckTimings(const SBase& base)
 
 void CheckExtensionCount(const SBase& base)
 {
-    const int nFound = base.context.Size() / c_nBlockSize - 1;
+    const int nFound = base.context.Size() / c_nEdidBlockSize - 1;
     const int nCount = base.Raw(enExtensionCount);
     if (nCount != nFound)
         base.Add(enRule::enExtensions, enExtensionCount, nCount, nFound);

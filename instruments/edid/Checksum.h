@@ -1,6 +1,8 @@
 #ifndef INSTRUMENTS_EDID_CHECKSUM_H
 #define INSTRUMENTS_EDID_CHECKSUM_H
 
+#include "host/CommonClass/EdidBlockSize.h"
+
 #include <QtGlobal>
 
 /// @file
@@ -9,11 +11,8 @@
 
 namespace Edid {
 
-/// Bytes of every block, the base block as well as each extension.
-constexpr int c_nBlockSize = 128;
-
 /// Where the checksum stands in its block.
-constexpr int c_nChecksumOffset = c_nBlockSize - 1;
+constexpr int c_nChecksumOffset = c_nEdidBlockSize - 1;
 
 /// The value of a block's last byte that makes the sum of all its bytes 0 modulo 256.
 /// @param pBlock  128 bytes, of which the last is not read

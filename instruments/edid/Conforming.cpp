@@ -17,7 +17,7 @@ namespace Edid {
 
 namespace {
 
-using Block = std::array<quint8, c_nBlockSize>;
+using Block = std::array<quint8, c_nEdidBlockSize>;
 
 /// Below this decoders take a detailed timing for something else, Hz.
 constexpr qint64 c_nLowestClock = 10000000;
@@ -134,7 +134,7 @@ void WriteDescriptors(Block& block, const SConformRequest& request, const SModeT
 QByteArray Finished(Block& block)
 {
     block[c_nChecksumOffset] = Checksum(block.data());
-    return QByteArray(reinterpret_cast<const char*>(block.data()), c_nBlockSize);
+    return QByteArray(reinterpret_cast<const char*>(block.data()), c_nEdidBlockSize);
 }
 
 QByteArray BaseBlock(const SConformRequest& request, const SModeTiming& wanted, bool bExtended)

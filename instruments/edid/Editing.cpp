@@ -381,10 +381,10 @@ void Fix(QByteArray& edid)
 {
     constexpr int c_nMostExtensions = 255;
     quint8* pBytes = BytesOf(edid);
-    const int nExtensions = edid.size() / c_nBlockSize - 1;
+    const int nExtensions = edid.size() / c_nEdidBlockSize - 1;
     std::copy(std::begin(c_arrHeader), std::end(c_arrHeader), pBytes);
     Put(pBytes, c_layoutBase[enExtensionCount], std::min(nExtensions, c_nMostExtensions));
-    for (int nBlock = 0; nBlock + c_nBlockSize <= edid.size(); nBlock += c_nBlockSize) {
+    for (int nBlock = 0; nBlock + c_nEdidBlockSize <= edid.size(); nBlock += c_nEdidBlockSize) {
         if (nBlock > 0)
             FixSection(pBytes + nBlock);
         PutChecksum(edid, nBlock);
@@ -393,7 +393,7 @@ void Fix(QByteArray& edid)
 
 void DropExtensions(QByteArray& edid)
 {
-    edid.truncate(c_nBlockSize);
+    edid.truncate(c_nEdidBlockSize);
     edid[c_nExtensionCountOffset] = 0;
     PutChecksum(edid, 0);
 }

@@ -33,7 +33,7 @@ struct SBlockKind
 void ExplainUnknown(CFieldList& list, int nBlock)
 {
     list.Row(c_fieldTag, nBlock);
-    list.Bytes(c_fieldUnexplained, nBlock + 1, c_nBlockSize - 2);
+    list.Bytes(c_fieldUnexplained, nBlock + 1, c_nEdidBlockSize - 2);
     list.Row(c_fieldChecksum, nBlock);
 }
 
@@ -66,15 +66,15 @@ void Explain(const quint8* pBytes, int nSize, std::vector<SField>& vecFields)
 {
     vecFields.clear();
     CFieldList list(pBytes, vecFields);
-    const int nBlocks = nSize / c_nBlockSize;
+    const int nBlocks = nSize / c_nEdidBlockSize;
     for (int i = 0; i < nBlocks; ++i) {
-        const int nBlock = i * c_nBlockSize;
+        const int nBlock = i * c_nEdidBlockSize;
         const SBlockKind& kind = KindOf(i, pBytes[nBlock]);
-        list.Open(*kind.pType, nBlock, c_nBlockSize, i);
+        list.Open(*kind.pType, nBlock, c_nEdidBlockSize, i);
         kind.pExplain(list, nBlock);
         list.Close();
     }
-    list.Bytes(c_fieldRest, nBlocks * c_nBlockSize, nSize - nBlocks * c_nBlockSize);
+    list.Bytes(c_fieldRest, nBlocks * c_nEdidBlockSize, nSize - nBlocks * c_nEdidBlockSize);
 }
 
 } // namespace Edid

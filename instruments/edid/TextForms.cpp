@@ -1,6 +1,6 @@
 #include "instruments/edid/TextForms.h"
 
-#include "instruments/edid/Checksum.h"
+#include "host/CommonClass/EdidBlockSize.h"
 
 #include <algorithm>
 #include <cstring>
@@ -9,7 +9,7 @@ namespace Edid {
 
 namespace {
 
-constexpr int c_nMaxBytes = c_nMaxBlocks * c_nBlockSize;
+constexpr int c_nMaxBytes = c_nMaxBlocks * c_nEdidBlockSize;
 
 /// The digit's value, -1 for another character.
 int DigitValue(char ch)
@@ -219,7 +219,7 @@ QString SizeError(qint64 nBytes)
         return QStringLiteral("there are no bytes; give an EDID of at least 128");
     if (nBytes > c_nMaxBytes)
         return QStringLiteral("there are more than 256 blocks; an EDID has at most so many");
-    if (nBytes % c_nBlockSize != 0)
+    if (nBytes % c_nEdidBlockSize != 0)
         return QStringLiteral("there are %1 bytes; an EDID has whole blocks of 128").arg(nBytes);
     return {};
 }

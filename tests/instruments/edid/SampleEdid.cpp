@@ -67,7 +67,7 @@ QByteArray Rich()
 
 QByteArray WithChecksums(QByteArray edid)
 {
-    for (int nBlock = 0; nBlock + Edid::c_nBlockSize <= edid.size(); nBlock += Edid::c_nBlockSize)
+    for (int nBlock = 0; nBlock + c_nEdidBlockSize <= edid.size(); nBlock += c_nEdidBlockSize)
         edid[nBlock + Edid::c_nChecksumOffset] =
             char(Edid::Checksum(reinterpret_cast<const quint8*>(edid.constData()) + nBlock));
     return edid;

@@ -29,7 +29,7 @@ private Q_SLOTS:
 
 void TestChecksum::ABlockOfZerosHasTheChecksumZero()
 {
-    QCOMPARE(ChecksumOf(QByteArray(Edid::c_nBlockSize, '\0')), quint8(0));
+    QCOMPARE(ChecksumOf(QByteArray(c_nEdidBlockSize, '\0')), quint8(0));
 }
 
 void TestChecksum::TheChecksumIsThatOfTheBuiltBlock()
@@ -42,7 +42,7 @@ void TestChecksum::TheChecksumIsThatOfTheBuiltBlock()
 
 void TestChecksum::TheLastByteHasNoSay()
 {
-    QByteArray block(Edid::c_nBlockSize, '\1');
+    QByteArray block(c_nEdidBlockSize, '\1');
     const quint8 byBefore = ChecksumOf(block);
     block[Edid::c_nChecksumOffset] = '\x55';
     QCOMPARE(ChecksumOf(block), byBefore);
