@@ -100,7 +100,7 @@ complete -o bashdefault -o default -F _sender_tool sender-tool
         .arg(Joined(SubcommandNames()), BashOptions(), BashChoices());
 }
 
-/// A text inside the single quotes and brackets of a zsh specification.
+/// A text for the brackets of an entry in zsh's list of options, which stands in single quotes.
 QString ZshText(const char* szText)
 {
     QString strText = Latin(szText);

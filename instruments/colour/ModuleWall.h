@@ -81,8 +81,7 @@ struct SSpread
     SPrimaries MeanPrimaries() const;
 };
 
-/// Three steps of the (u', v') circle of CIE TN 001:2014, Chromaticity difference specification for light
-/// sources: a step of 0.0011 is just visible side by side.
+/// Three steps of the (u', v') circle of CIE TN 001:2014: a step of 0.0011 is just visible side by side.
 inline constexpr double c_dVisibleUcs = 3.0 * 0.0011;
 /// A difference in luminance that shows at the seam of two modules.
 inline constexpr double c_dVisibleLuminance = 0.05;
