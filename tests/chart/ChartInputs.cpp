@@ -125,6 +125,11 @@ SChromaGroupInfo CChartInputs::OrdinaryGroup()
     return group;
 }
 
+bool SamePoints(CPointEx<float> ptFirst, CPointEx<float> ptSecond)
+{
+    return ExactCompare::SameBits(ptFirst.x, ptSecond.x) && ExactCompare::SameBits(ptFirst.y, ptSecond.y);
+}
+
 QString PointDifference(const SChromaGroupInfo& actual, const SChromaGroupInfo& expected)
 {
     QString strDifference;

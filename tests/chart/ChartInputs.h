@@ -39,6 +39,9 @@ private:
     CPointEx<float> m_ptLast; ///< repeated now and then, so that points and coordinates coincide
 };
 
+/// Whether two points are the same to the last bit; NaN is the same as NaN.
+bool SamePoints(CPointEx<float> ptFirst, CPointEx<float> ptSecond);
+
 /// Where the points of two groups differ in any bit; empty if nowhere.
 QString PointDifference(const SChromaGroupInfo& actual, const SChromaGroupInfo& expected);
 

@@ -3,6 +3,7 @@
 #include "SenderModuleDialog/chart/ChromaPalette.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
 #include "SenderModuleDialog/colour/ColourStandards.h"
+#include "tests/chart/StandardGroups.h"
 #include "tests/support/DeathTest.h"
 #include "tests/support/ExactCompare.h"
 
@@ -11,20 +12,6 @@
 
 #include <array>
 #include <cstddef>
-
-namespace {
-
-SChromaGroupInfo GroupOf(const SColourStandard& standard)
-{
-    SChromaGroupInfo group;
-    group.ptRed = standard.ptRed;
-    group.ptGreen = standard.ptGreen;
-    group.ptBlue = standard.ptBlue;
-    group.ptWhite = standard.ptWhite;
-    return group;
-}
-
-} // namespace
 
 class TestCChromaticityDlgWnd : public QObject
 {

@@ -2,6 +2,7 @@
 #include "SenderModuleDialog/chart/solve/ChartGeometry.h"
 #include "oracles/chart/PlainChart.h"
 #include "tests/chart/ChartInputs.h"
+#include "tests/chart/StandardGroups.h"
 #include "tests/support/DeathTest.h"
 #include "tests/support/ExactCompare.h"
 
@@ -35,16 +36,6 @@ private Q_SLOTS:
 
 namespace {
 
-SChromaGroupInfo Group()
-{
-    SChromaGroupInfo group;
-    group.ptRed = {0.64F, 0.33F};
-    group.ptGreen = {0.30F, 0.60F};
-    group.ptBlue = {0.15F, 0.06F};
-    group.ptWhite = {0.3127F, 0.329F};
-    return group;
-}
-
 QList<CPoint> Square(float fFirst, float fLast)
 {
     return {{fFirst, fFirst}, {fLast, fFirst}, {fLast, fLast}, {fFirst, fLast}};
@@ -77,7 +68,7 @@ void TestCChromaticityDlgWndSolve::APolygonOfTwoPointsIsNotLeft()
 void TestCChromaticityDlgWndSolve::ARegionStopsThePointSeenFromTheWhite()
 {
     CChromaticityDlgWnd chart(nullptr);
-    SChromaGroupInfo group = Group();
+    SChromaGroupInfo group = SrgbGroup();
     group.ptWhite = {0.25F, 0.25F};
     group.ptRed = {0.75F, 0.25F};
     chart.AddChromaGroupByIndex(4, group);
@@ -94,7 +85,7 @@ void TestCChromaticityDlgWndSolve::ARegionStopsThePointSeenFromTheWhite()
 void TestCChromaticityDlgWndSolve::ARegionStopsThePointSeenFromItsCentre()
 {
     CChromaticityDlgWnd chart(nullptr);
-    SChromaGroupInfo group = Group();
+    SChromaGroupInfo group = SrgbGroup();
     group.ptWhite = {5.0F, 5.0F};
     group.ptGreen = {0.5F, 2.0F};
     chart.AddChromaGroupByIndex(0, group);
@@ -113,7 +104,7 @@ void TestCChromaticityDlgWndSolve::ARegionStopsAnyGroupLikeThePlainOne()
     CChromaticityDlgWnd chart(nullptr);
     CPlainChart plain;
     CChartInputs inputs(51, plain.gamut.GetQPointFData());
-    chart.AddChromaGroupByIndex(0, Group());
+    chart.AddChromaGroupByIndex(0, SrgbGroup());
     plain.mapGroups.insert(0, chart.GetChromaGroupByIndex(0));
     for (int i = 0; i < 100000; ++i) {
         *chart.GetChromaGroupByIndex(0) = inputs.Group();
@@ -155,7 +146,7 @@ void TestCChromaticityDlgWndSolve::ARegionLeavesThePointAlone()
     QFETCH(int, nPoint);
     QFETCH(int, nRegionPoints);
     CChromaticityDlgWnd chart(nullptr);
-    chart.AddChromaGroupByIndex(0, Group());
+    chart.AddChromaGroupByIndex(0, SrgbGroup());
     chart.m_nHoverGroup = nGroup;
     chart.m_nHoverPoint = nPoint;
     QList<CPoint> listRegion = Square(0.25F, 0.35F).mid(0, nRegionPoints);
@@ -170,7 +161,7 @@ void TestCChromaticityDlgWndSolve::ASolvedVertexIsTheNearestPoint()
 {
     CChromaticityDlgWnd chart(nullptr);
     CPlainChart plain;
-    const SChromaGroupInfo group = Group();
+    const SChromaGroupInfo group = SrgbGroup();
     QVERIFY(chart.GetNearestPoint(group.ptWhite, {0.2F, 0.4F}, group.ptGreen, group.ptBlue));
     QVERIFY(plain.GetNearestPoint(group.ptWhite, {0.2F, 0.4F}, group.ptGreen, group.ptBlue));
     COMPARE_BITS(chart.m_ptNearest, plain.ptNearest);
@@ -180,7 +171,7 @@ void TestCChromaticityDlgWndSolve::TheSolvingWithoutLocusLeavesTheNearestPointAl
 {
     CChromaticityDlgWnd chart(nullptr);
     chart.SetNearstPoint(QPointF(7.0, 8.0));
-    const SChromaGroupInfo group = Group();
+    const SChromaGroupInfo group = SrgbGroup();
     CPoint ptOut;
     QVERIFY(chart.GetNearestPoint2(group.ptWhite, {0.2F, 0.4F}, group.ptGreen, group.ptBlue, ptOut));
     COMPARE_BITS(chart.m_ptNearest, QPointF(7.0, 8.0));
@@ -198,12 +189,12 @@ void TestCChromaticityDlgWndSolve::NoGroupHasNoPlaceForAWhite()
 void TestCChromaticityDlgWndSolve::AWhiteBroughtBackIsTheNearestPoint()
 {
     CChromaticityDlgWnd chart(nullptr);
-    SChromaGroupInfo group = Group();
+    SChromaGroupInfo group = SrgbGroup();
     QVERIFY(chart.GetWhiteIntersection(&group, {0.5F, 0.5F}));
     const CPoint ptSolved = Narrowed(chart.m_ptNearest);
     QVERIFY(ChartGeometry::IsInTriangle(ptSolved, {group.ptRed, group.ptGreen, group.ptBlue}));
     // The operation only solves.
-    QCOMPARE(PointDifference(group, Group()), QString());
+    QCOMPARE(PointDifference(group, SrgbGroup()), QString());
 }
 
 void TestCChromaticityDlgWndSolve::TheExcursionLeadsAwayFromTheOutsidePoint_data()
@@ -230,7 +221,7 @@ void TestCChromaticityDlgWndSolve::AGroupIsMadeLegalInPlace()
 {
     CChromaticityDlgWnd chart(nullptr);
     CPlainChart plain;
-    SChromaGroupInfo group = Group();
+    SChromaGroupInfo group = SrgbGroup();
     group.ptRed = {0.8F, 0.33F};
     SChromaGroupInfo groupPlain = group;
     QVERIFY(!chart.IsPointInRegion(&group, enRedPoint));
@@ -239,7 +230,7 @@ void TestCChromaticityDlgWndSolve::AGroupIsMadeLegalInPlace()
     QCOMPARE(PointDifference(group, groupPlain), QString());
     QVERIFY(chart.IsPointInRegion(&group, enRedPoint));
 
-    group = Group();
+    group = SrgbGroup();
     group.ptRed = {0.1F, 0.4F};
     groupPlain = group;
     QCOMPARE(chart.ReCalCMY(&group), plain.ReCalCMY(&groupPlain));
@@ -249,7 +240,7 @@ void TestCChromaticityDlgWndSolve::AGroupIsMadeLegalInPlace()
 void TestCChromaticityDlgWndSolve::TheIndexSelectsThePointForTheLocusOnly()
 {
     CChromaticityDlgWnd chart(nullptr);
-    SChromaGroupInfo group = Group();
+    SChromaGroupInfo group = SrgbGroup();
     group.ptRed = {0.9F, 0.33F};
     QVERIFY(!chart.IsPointInRegion(&group, enRedPoint));
     QVERIFY(chart.IsPointInRegion(&group, enGreenPoint));

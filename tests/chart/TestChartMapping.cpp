@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
 #include "SenderModuleDialog/colour/ColourStandards.h"
+#include "tests/chart/StandardGroups.h"
 #include "tests/support/DeathTest.h"
 #include "tests/support/ExactCompare.h"
 
@@ -41,16 +42,6 @@ protected:
 private:
     int m_nPaints = 0;
 };
-
-SChromaGroupInfo GroupOf(const SColourStandard& standard)
-{
-    SChromaGroupInfo group;
-    group.ptRed = standard.ptRed;
-    group.ptGreen = standard.ptGreen;
-    group.ptBlue = standard.ptBlue;
-    group.ptWhite = standard.ptWhite;
-    return group;
-}
 
 } // namespace
 

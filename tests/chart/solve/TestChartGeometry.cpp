@@ -2,6 +2,7 @@
 #include "SenderModuleDialog/chart/solve/ChartGeometry.h"
 #include "oracles/chart/PlainChart.h"
 #include "tests/chart/ChartInputs.h"
+#include "tests/chart/StandardGroups.h"
 #include "tests/support/ExactCompare.h"
 
 #include <QtTest>
@@ -27,27 +28,7 @@ private:
     static constexpr int c_nInputs = 100000;
 };
 
-namespace {
-
-const SChromaGroupInfo& Srgb()
-{
-    static const SChromaGroupInfo s_group = [] {
-        SChromaGroupInfo group;
-        group.ptRed = {0.64F, 0.33F};
-        group.ptGreen = {0.30F, 0.60F};
-        group.ptBlue = {0.15F, 0.06F};
-        group.ptWhite = {0.3127F, 0.329F};
-        return group;
-    }();
-    return s_group;
-}
-
-bool SamePoints(CPoint ptFirst, CPoint ptSecond)
-{
-    return ExactCompare::SameBits(ptFirst.x, ptSecond.x) && ExactCompare::SameBits(ptFirst.y, ptSecond.y);
-}
-
-} // namespace
+namespace {} // namespace
 
 void TestChartGeometry::TriangleTestAgreesWithThePlainOne()
 {
@@ -122,7 +103,7 @@ void TestChartGeometry::AnOutlineHoldsWhatIsAtItsVertices()
 
 void TestChartGeometry::AWhiteEqualToAVertexIsInTheTriangle()
 {
-    const SChromaTriangle triangle = TriangleOf(Srgb());
+    const SChromaTriangle triangle = TriangleOf(SrgbGroup());
     QVERIFY(ChartGeometry::IsInTriangle(triangle.ptRed, triangle));
     QVERIFY(ChartGeometry::IsInTriangle({triangle.ptGreen.x + 0.00009F, triangle.ptGreen.y}, triangle));
     QVERIFY(!ChartGeometry::IsInTriangle({triangle.ptGreen.x, triangle.ptGreen.y + 0.0002F}, triangle));

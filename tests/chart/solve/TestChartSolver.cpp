@@ -3,6 +3,7 @@
 #include "SenderModuleDialog/chart/solve/ChartSolver.h"
 #include "oracles/chart/PlainChart.h"
 #include "tests/chart/ChartInputs.h"
+#include "tests/chart/StandardGroups.h"
 #include "tests/support/AllocationCounter.h"
 #include "tests/support/ExactCompare.h"
 
@@ -44,19 +45,6 @@ private:
 
 namespace {
 
-const SChromaGroupInfo& Srgb()
-{
-    static const SChromaGroupInfo s_group = [] {
-        SChromaGroupInfo group;
-        group.ptRed = {0.64F, 0.33F};
-        group.ptGreen = {0.30F, 0.60F};
-        group.ptBlue = {0.15F, 0.06F};
-        group.ptWhite = {0.3127F, 0.329F};
-        return group;
-    }();
-    return s_group;
-}
-
 // Both charts after the same operation, each with its own group and result channel.
 class CSideBySide
 {
@@ -96,11 +84,6 @@ public:
     SChromaGroupInfo groupPlain;
     QPointF ptNearest;
 };
-
-bool SamePoints(CPoint ptFirst, CPoint ptSecond)
-{
-    return ExactCompare::SameBits(ptFirst.x, ptSecond.x) && ExactCompare::SameBits(ptFirst.y, ptSecond.y);
-}
 
 } // namespace
 
@@ -217,7 +200,7 @@ void TestChartSolver::APointInsideTheConeIsMovedOntoItsEdge()
 {
     CChromaGamutInterpolation gamut;
     CChartSolver solver(gamut);
-    const SChromaGroupInfo& group = Srgb();
+    const SChromaGroupInfo& group = SrgbGroup();
     QVERIFY(ChartGeometry::IsInTriangle(group.ptWhite, TriangleOf(group)));
     QPointF ptNearest;
     QVERIFY(solver.GetNearestPoint(group.ptWhite, group.ptRed, group.ptGreen, group.ptBlue, ptNearest));
@@ -243,10 +226,10 @@ void TestChartSolver::ParallelLinesLeaveTheResultAlone()
 void TestChartSolver::AFlatTriangleHasNoPlaceForAWhite_data()
 {
     QTest::addColumn<SChromaGroupInfo>("group");
-    SChromaGroupInfo group = Srgb();
+    SChromaGroupInfo group = SrgbGroup();
     group.ptRed.x = group.ptGreen.x = group.ptBlue.x = 0.3F;
     QTest::newRow("all x equal") << group;
-    group = Srgb();
+    group = SrgbGroup();
     group.ptRed.y = group.ptGreen.y = group.ptBlue.y = 0.3F;
     QTest::newRow("all y equal") << group;
     group.ptGreen.y += 0.00005F;
@@ -268,7 +251,7 @@ void TestChartSolver::AWhiteInsideTheTriangleStays()
     CChromaGamutInterpolation gamut;
     CChartSolver solver(gamut);
     QPointF ptNearest;
-    QVERIFY(solver.GetWhiteIntersection(TriangleOf(Srgb()), {0.3F, 0.3F}, ptNearest));
+    QVERIFY(solver.GetWhiteIntersection(TriangleOf(SrgbGroup()), {0.3F, 0.3F}, ptNearest));
     COMPARE_BITS(ptNearest, QPointF(double(0.3F), double(0.3F)));
 }
 
@@ -276,7 +259,7 @@ void TestChartSolver::ANegativeCoordinateOfAnotherVertexIsWrittenBack()
 {
     CChromaGamutInterpolation gamut;
     CChartSolver solver(gamut);
-    SChromaGroupInfo group = Srgb();
+    SChromaGroupInfo group = SrgbGroup();
     group.ptBlue.y = -0.01F;
     group.ptWhite.x = -0.5F;
     QPointF ptNearest;
@@ -289,7 +272,7 @@ void TestChartSolver::AWhiteOutsideTheLocusIsRefused()
 {
     CChromaGamutInterpolation gamut;
     CChartSolver solver(gamut);
-    SChromaGroupInfo group = Srgb();
+    SChromaGroupInfo group = SrgbGroup();
     group.ptWhite = {0.9F, -0.9F};
     QPointF ptNearest;
     QVERIFY(!solver.ReCalRGB(group, enWhitePoint, ptNearest));
@@ -301,11 +284,11 @@ void TestChartSolver::AnIndexOutsideTheGroupOnlyClamps()
 {
     CChromaGamutInterpolation gamut;
     CChartSolver solver(gamut);
-    SChromaGroupInfo group = Srgb();
+    SChromaGroupInfo group = SrgbGroup();
     group.ptGreen.x = -1.0F;
     QPointF ptNearest;
     QVERIFY(!solver.ReCalRGB(group, c_nChromaPointCount, ptNearest));
-    SChromaGroupInfo expected = Srgb();
+    SChromaGroupInfo expected = SrgbGroup();
     expected.ptGreen.x = 0.0F;
     QCOMPARE(PointDifference(group, expected), QString());
     QVERIFY(!solver.IsPointInRegion(group, enNoPoint));
@@ -315,7 +298,7 @@ void TestChartSolver::ACmyGroupWithAnIllegalWhiteStaysToTheBit()
 {
     CChromaGamutInterpolation gamut;
     CChartSolver solver(gamut);
-    SChromaGroupInfo group = Srgb();
+    SChromaGroupInfo group = SrgbGroup();
     group.ptWhite = {0.9F, 0.9F};
     group.ptRed = {-0.5F, -0.25F};
     const SChromaGroupInfo expected = group;
@@ -328,7 +311,7 @@ void TestChartSolver::ALegalCmyGroupComesBack()
 {
     CChromaGamutInterpolation gamut;
     CChartSolver solver(gamut);
-    SChromaGroupInfo group = Srgb();
+    SChromaGroupInfo group = SrgbGroup();
     group.ptRed = {0.225F, 0.33F};
     group.ptGreen = {0.395F, 0.195F};
     group.ptBlue = {0.47F, 0.465F};
@@ -346,7 +329,7 @@ void TestChartSolver::EachWalkOverTheLocusCountsAsAUse()
     CChromaGamutInterpolation gamut;
     CChartSolver solver(gamut);
     const int nOutline = gamut.GetQPointFData().size();
-    SChromaGroupInfo group = Srgb();
+    SChromaGroupInfo group = SrgbGroup();
     QPointF ptNearest;
     // One use of the drag itself, and none of the solving: the point stays in the locus and the white in
     // the triangle.
