@@ -27,7 +27,7 @@ struct SOtherName
 };
 
 /// Names in use for the same primaries. Display P3 and the DCIP3 of this table both have the white D65.
-constexpr SOtherName c_otherNames[] = {
+constexpr SOtherName c_arrOtherNames[] = {
     {"sRGB", "IEC 61966-2-1"}, {"AdobeRGB", "Adobe RGB (1998)"},
     {"Rec601", "BT.601"},      {"Rec601", "ITU-R BT.601"},
     {"Rec709", "BT.709"},      {"Rec709", "ITU-R BT.709"},
@@ -116,7 +116,7 @@ const SColourStandard* FindStandard(const QString& strName)
 QStringList OtherNames(const SColourStandard& standard)
 {
     QStringList listNames;
-    for (const SOtherName& row : c_otherNames) {
+    for (const SOtherName& row : c_arrOtherNames) {
         if (std::strcmp(row.szLabel, standard.szName) == 0)
             listNames += QString::fromLatin1(row.szName);
     }

@@ -180,7 +180,7 @@ struct SShell
     QString (*pScript)();
 };
 
-constexpr SShell c_shells[] = {
+constexpr SShell c_arrShells[] = {
     {"bash", &Bash},
     {"zsh", &Zsh},
 };
@@ -188,8 +188,8 @@ constexpr SShell c_shells[] = {
 void Run(const CArguments& arguments)
 {
     const QString strShell = arguments.Positional().constFirst();
-    const auto* const pEnd = std::end(c_shells);
-    const auto* const pShell = std::find_if(std::begin(c_shells), pEnd, [&strShell](const SShell& shell) {
+    const auto* const pEnd = std::end(c_arrShells);
+    const auto* const pShell = std::find_if(std::begin(c_arrShells), pEnd, [&strShell](const SShell& shell) {
         return strShell == QLatin1String(shell.szName);
     });
     if (pShell == pEnd)

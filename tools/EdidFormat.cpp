@@ -49,7 +49,7 @@ struct SFormat
     QByteArray (*pFormat)(const QByteArray& block, const SVideoMode& mode);
 };
 
-constexpr SFormat c_formats[] = {
+constexpr SFormat c_arrFormats[] = {
     {"hex", &Hex},
     {"bin", &Binary},
     {"c", &CSource},
@@ -61,7 +61,7 @@ constexpr SFormat c_formats[] = {
 QStringList Names()
 {
     QStringList listNames;
-    for (const SFormat& format : c_formats)
+    for (const SFormat& format : c_arrFormats)
         listNames += QString::fromLatin1(format.szName);
     return listNames;
 }
@@ -69,8 +69,8 @@ QStringList Names()
 QByteArray Format(const QString& strName, const QByteArray& block, const SVideoMode& mode)
 {
     const auto HasName = [&](const SFormat& format) { return strName == QLatin1String(format.szName); };
-    const auto it = std::find_if(std::begin(c_formats), std::end(c_formats), HasName);
-    if (it == std::end(c_formats))
+    const auto it = std::find_if(std::begin(c_arrFormats), std::end(c_arrFormats), HasName);
+    if (it == std::end(c_arrFormats))
         throw CToolError(QStringLiteral("unknown format '%1'; give one of: %2")
                              .arg(strName, Names().join(QStringLiteral(", "))));
     return it->pFormat(block, mode);

@@ -72,7 +72,7 @@ struct SFormat
     void (*pPaint)(QBuffer& buffer, QSize size, const FuncPaint& funcPaint);
 };
 
-constexpr SFormat c_formats[] = {
+constexpr SFormat c_arrFormats[] = {
     {"png", enFormat::enPng, &PaintPng},
     {"svg", enFormat::enSvg, &PaintSvg},
     {"pdf", enFormat::enPdf, &PaintPdf},
@@ -84,8 +84,8 @@ const SFormat* Find(const QString& strSuffix)
     const auto HasSuffix = [&strSuffix](const SFormat& row) {
         return strSuffix.compare(QLatin1String(row.szSuffix), Qt::CaseInsensitive) == 0;
     };
-    const auto* const pFormat = std::find_if(std::begin(c_formats), std::end(c_formats), HasSuffix);
-    return pFormat == std::end(c_formats) ? nullptr : pFormat;
+    const auto* const pFormat = std::find_if(std::begin(c_arrFormats), std::end(c_arrFormats), HasSuffix);
+    return pFormat == std::end(c_arrFormats) ? nullptr : pFormat;
 }
 
 } // namespace
@@ -93,7 +93,7 @@ const SFormat* Find(const QString& strSuffix)
 QString Suffixes()
 {
     QStringList listSuffixes;
-    for (const SFormat& row : c_formats)
+    for (const SFormat& row : c_arrFormats)
         listSuffixes += QLatin1Char('.') + QString::fromLatin1(row.szSuffix);
     return listSuffixes.join(QStringLiteral(", "));
 }
@@ -120,7 +120,7 @@ QByteArray Paint(enFormat format, QSize size, const FuncPaint& funcPaint)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    const auto it = std::find_if(std::begin(c_formats), std::end(c_formats),
+    const auto it = std::find_if(std::begin(c_arrFormats), std::end(c_arrFormats),
                                  [format](const SFormat& row) { return row.format == format; });
     it->pPaint(buffer, size, funcPaint);
     return buffer.data();

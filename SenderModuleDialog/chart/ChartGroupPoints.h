@@ -18,7 +18,7 @@ struct SChromaPointFields
 };
 
 /// The fields of the points 0 to 3, by index.
-inline constexpr std::array<SChromaPointFields, c_nChromaPointCount> c_chromaPointFields = {{
+inline constexpr std::array<SChromaPointFields, c_nChromaPointCount> c_arrChromaPointFields = {{
     {&SChromaGroupInfo::ptRed, &SChromaGroupInfo::bMoveRed, &SChromaGroupInfo::bShowRedDot},
     {&SChromaGroupInfo::ptGreen, &SChromaGroupInfo::bMoveGreen, &SChromaGroupInfo::bShowGreenDot},
     {&SChromaGroupInfo::ptBlue, &SChromaGroupInfo::bMoveBlue, &SChromaGroupInfo::bShowBlueDot},
@@ -41,20 +41,21 @@ constexpr bool IsColourPoint(int nPoint)
 /// @pre `IsChromaPoint(nPoint)`
 inline CPointEx<float>& GroupPoint(SChromaGroupInfo& group, int nPoint)
 {
-    return group.*c_chromaPointFields[std::size_t(nPoint)].pPoint;
+    return group.*c_arrChromaPointFields[std::size_t(nPoint)].pPoint;
 }
 
 /// A point of a group, (0, 0) for an index that names none.
 inline CPointEx<float> GroupPointOrOrigin(const SChromaGroupInfo& group, int nPoint)
 {
-    return IsChromaPoint(nPoint) ? group.*c_chromaPointFields[std::size_t(nPoint)].pPoint : CPointEx<float>();
+    return IsChromaPoint(nPoint) ? group.*c_arrChromaPointFields[std::size_t(nPoint)].pPoint
+                                 : CPointEx<float>();
 }
 
 /// Whether a point may be dragged.
 /// @pre `IsChromaPoint(nPoint)`
 inline bool IsPointMovable(const SChromaGroupInfo& group, int nPoint)
 {
-    return group.*c_chromaPointFields[std::size_t(nPoint)].pMove;
+    return group.*c_arrChromaPointFields[std::size_t(nPoint)].pMove;
 }
 
 /// The three colour points as they are stored.

@@ -51,7 +51,7 @@ struct SAspectRatio
 };
 
 // In the order of testing: the first that gives the width wins.
-constexpr SAspectRatio c_aspectRatios[] = {
+constexpr SAspectRatio c_arrAspectRatios[] = {
     {4.0F, 3.0F, 4}, {16.0F, 9.0F, 5}, {16.0F, 10.0F, 6}, {5.0F, 4.0F, 7}, {15.0F, 9.0F, 7},
 };
 constexpr quint8 c_byVSyncOtherRatio = 10; ///< vertical sync of any other aspect ratio, lines
@@ -147,7 +147,7 @@ template <class TMode>
 quint8 VSyncWidth(float fWidth, int nHeight)
 {
     const float fHeight = static_cast<float>(nHeight);
-    for (const SAspectRatio& ratio : c_aspectRatios) {
+    for (const SAspectRatio& ratio : c_arrAspectRatios) {
         if (TMode::GivesWidth(ratio, fWidth, fHeight))
             return ratio.byVSync;
     }

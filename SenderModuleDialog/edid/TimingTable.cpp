@@ -40,7 +40,7 @@ struct SServedRates
 };
 
 // 800x600 has no 50 Hz, unlike every other size, and its second row is the only one for 120 Hz.
-constexpr SServedRates c_servedRates[] = {
+constexpr SServedRates c_arrServedRates[] = {
     {0, 60, c_nNoSecondRate},
     {12, 120, c_nNoSecondRate},
     {1, 60, 50},
@@ -66,8 +66,8 @@ std::optional<int> Find(int nWidth, int nHeight, int nRate)
             nRate == served.nRate || (nRate == served.nSecondRate && served.nSecondRate != c_nNoSecondRate);
         return bRate && row.wWidth == nWidth && row.wHeight == nHeight;
     };
-    const auto it = std::find_if(std::begin(c_servedRates), std::end(c_servedRates), Serves);
-    if (it == std::end(c_servedRates))
+    const auto it = std::find_if(std::begin(c_arrServedRates), std::end(c_arrServedRates), Serves);
+    if (it == std::end(c_arrServedRates))
         return std::nullopt;
     return it->nId;
 }

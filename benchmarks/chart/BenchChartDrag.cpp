@@ -33,7 +33,7 @@ struct SDrag
     bool bSnapWhite;
 };
 
-constexpr SDrag c_aDrags[] = {
+constexpr SDrag c_arrDrags[] = {
     {"red, inside the locus", enRedPoint, {0.62F, 0.34F}, false},
     {"red, out of the locus", enRedPoint, {0.78F, 0.33F}, false},
     {"red, losing the white", enRedPoint, {0.20F, 0.40F}, false},
@@ -125,7 +125,7 @@ constexpr int c_nRounds = 300;
 
 void BM_PlainFirstStep(benchmark::State& state)
 {
-    const SDrag& drag = c_aDrags[state.range(0)];
+    const SDrag& drag = c_arrDrags[state.range(0)];
     CPlainDragBench plain(drag);
     for ([[maybe_unused]] auto round : state)
         state.SetIterationTime(plain.FirstSeconds());
@@ -134,7 +134,7 @@ void BM_PlainFirstStep(benchmark::State& state)
 
 void BM_Step(benchmark::State& state)
 {
-    const SDrag& drag = c_aDrags[state.range(0)];
+    const SDrag& drag = c_arrDrags[state.range(0)];
     CDragBench bench(drag);
     for ([[maybe_unused]] auto round : state)
         bench.Step();
@@ -150,7 +150,7 @@ void BM_LateStep(benchmark::State& state)
     constexpr int c_nEarly = 10;
     constexpr int c_nLate = 10000;
     constexpr int c_nTimed = 20;
-    const SDrag& drag = c_aDrags[state.range(0)];
+    const SDrag& drag = c_arrDrags[state.range(0)];
     double dEarly = std::numeric_limits<double>::max();
     double dLate = dEarly;
     for ([[maybe_unused]] auto round : state) {
@@ -169,7 +169,7 @@ void BM_PlainCrossing(benchmark::State& state)
 {
     CChromaGamutInterpolation gamut;
     const QList<CPoint> listLocus = gamut.GetData();
-    const SDrag& drag = c_aDrags[state.range(0)];
+    const SDrag& drag = c_arrDrags[state.range(0)];
     for ([[maybe_unused]] auto round : state) {
         CPoint ptOut;
         benchmark::DoNotOptimize(
@@ -181,7 +181,7 @@ void BM_PlainCrossing(benchmark::State& state)
 void BM_Crossing(benchmark::State& state)
 {
     const CLocusEdges edges(CChromaGamutInterpolation().GetQPointFData());
-    const SDrag& drag = c_aDrags[state.range(0)];
+    const SDrag& drag = c_arrDrags[state.range(0)];
     for ([[maybe_unused]] auto round : state)
         benchmark::DoNotOptimize(edges.LastCrossing(Group().ptWhite, drag.ptTo));
     state.SetLabel(drag.szName);
@@ -189,7 +189,7 @@ void BM_Crossing(benchmark::State& state)
 
 void AllDrags(benchmark::internal::Benchmark* pBenchmark)
 {
-    pBenchmark->DenseRange(0, int(std::size(c_aDrags)) - 1);
+    pBenchmark->DenseRange(0, int(std::size(c_arrDrags)) - 1);
 }
 
 BENCHMARK(BM_PlainFirstStep)->Apply(AllDrags)->UseManualTime();

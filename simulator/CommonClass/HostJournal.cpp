@@ -12,13 +12,13 @@ namespace {
 /// A full journal drops this share of its entries at once: views receive one removal instead of thousands.
 constexpr int c_nDropDivisor = 16;
 
-const char* const c_categoryNames[] = {
+const char* const c_arrCategoryNames[] = {
     QT_TRANSLATE_NOOP("CSimulatorText", "read"),
     QT_TRANSLATE_NOOP("CSimulatorText", "write"),
     QT_TRANSLATE_NOOP("CSimulatorText", "event"),
 };
 
-const char* const c_columnNames[CHostJournal::enColumnCount] = {
+const char* const c_arrColumnNames[CHostJournal::enColumnCount] = {
     QT_TRANSLATE_NOOP("CSimulatorText", "No."),  QT_TRANSLATE_NOOP("CSimulatorText", "Time"),
     QT_TRANSLATE_NOOP("CSimulatorText", "Kind"), QT_TRANSLATE_NOOP("CSimulatorText", "Object"),
     QT_TRANSLATE_NOOP("CSimulatorText", "Call"), QT_TRANSLATE_NOOP("CSimulatorText", "Result"),
@@ -124,7 +124,7 @@ QStringList CHostJournal::Calls(enJournalCategory category) const
 
 QString CHostJournal::CategoryName(enJournalCategory category)
 {
-    return CSimulatorText::tr(c_categoryNames[category]);
+    return CSimulatorText::tr(c_arrCategoryNames[category]);
 }
 
 int CHostJournal::rowCount(const QModelIndex& parent) const
@@ -185,5 +185,5 @@ QVariant CHostJournal::headerData(int nSection, Qt::Orientation orientation, int
     if (orientation != Qt::Horizontal || nRole != Qt::DisplayRole || nSection < 0 ||
         nSection >= enColumnCount)
         return {};
-    return CSimulatorText::tr(c_columnNames[nSection]);
+    return CSimulatorText::tr(c_arrColumnNames[nSection]);
 }

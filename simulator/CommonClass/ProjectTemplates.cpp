@@ -9,7 +9,7 @@ namespace ProjectTemplates {
 
 namespace {
 
-constexpr int c_demoTypes[] = {enDemoM6K, enDemoR16Pro, enDemoT4, enDemoT6, enDemoT6Pro, enDemoT8};
+constexpr int c_arrDemoTypes[] = {enDemoM6K, enDemoR16Pro, enDemoT4, enDemoT6, enDemoT6Pro, enDemoT8};
 
 template <class TTypes>
 SSimulatedProject ProjectOf(const TTypes& types)
@@ -24,7 +24,7 @@ SSimulatedProject ProjectOf(const TTypes& types)
 
 SSimulatedProject Demo()
 {
-    return ProjectOf(c_demoTypes);
+    return ProjectOf(c_arrDemoTypes);
 }
 
 SSimulatedProject Catalogue()

@@ -83,12 +83,12 @@ void CheckColour(const SProjectColour& colour, const SJsonPlace& place)
     const SJsonPlace placeGroups = place.Key(QStringLiteral("colour")).Key(QStringLiteral("groups"));
     RequireUnique(placeGroups, colour.listGroups, &SProjectColourGroup::nKey,
                   CSimulatorText::tr("the key %1 is given twice."));
-    constexpr int c_pair[] = {0x200, 0x300};
+    constexpr int c_arrPair[] = {0x200, 0x300};
     const auto Count = [&colour](int nKey) {
         return std::count_if(colour.listGroups.cbegin(), colour.listGroups.cend(),
                              [nKey](const SProjectColourGroup& group) { return group.nKey == nKey; });
     };
-    if (Count(c_pair[0]) != Count(c_pair[1]))
+    if (Count(c_arrPair[0]) != Count(c_arrPair[1]))
         placeGroups.Refuse(
             CSimulatorText::tr("the groups 512 and 768 must both be there or both be missing."));
 }

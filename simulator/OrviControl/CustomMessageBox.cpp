@@ -37,7 +37,7 @@ struct SButtonText
 };
 
 /// In the order of the row.
-constexpr std::array<SButtonText, 4> c_buttons = {{
+constexpr std::array<SButtonText, 4> c_arrButtons = {{
     {CCustomMessageBox::Ok, QT_TRANSLATE_NOOP("CCustomDialog", "确定")},
     {CCustomMessageBox::Yes, QT_TRANSLATE_NOOP("CCustomDialog", "是")},
     {CCustomMessageBox::No, QT_TRANSLATE_NOOP("CCustomDialog", "否")},
@@ -100,7 +100,7 @@ CCustomMessageBox::CCustomMessageBox(QWidget* pParent, const QString& strText, c
     auto* pRow = new QHBoxLayout;
     pRow->setSpacing(c_nSpacing);
     pRow->addStretch();
-    for (const SButtonText& row : c_buttons) {
+    for (const SButtonText& row : c_arrButtons) {
         if (buttons.testFlag(row.button))
             pRow->addWidget(CreateButton(row.button, row.szText, row.button == defaultButton));
     }

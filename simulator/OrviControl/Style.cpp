@@ -68,8 +68,8 @@ QString g_doubleSpinBoxStyle = Theme::Resolve(
 namespace {
 
 /// Fonts that are known to draw Latin and Chinese well at small sizes, best first.
-constexpr std::array<const char*, 4> c_preferredFamilies = {"Noto Sans CJK SC", "Noto Sans SC",
-                                                            "Source Han Sans SC", "WenQuanYi Micro Hei"};
+constexpr std::array<const char*, 4> c_arrPreferredFamilies = {"Noto Sans CJK SC", "Noto Sans SC",
+                                                               "Source Han Sans SC", "WenQuanYi Micro Hei"};
 
 bool HasLatinAndChinese(const QFontDatabase& database, const QString& strFamily)
 {
@@ -84,7 +84,7 @@ QString ChooseFamily()
     const QFontDatabase database;
     const QString strSystem = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
     QStringList listCandidates;
-    for (const char* szFamily : c_preferredFamilies)
+    for (const char* szFamily : c_arrPreferredFamilies)
         listCandidates.append(QString::fromLatin1(szFamily));
     listCandidates.append(strSystem);
     listCandidates.append(database.families(QFontDatabase::SimplifiedChinese));

@@ -19,7 +19,7 @@ struct SNamedColour
     QRgb rgb;
 };
 
-constexpr std::array<SNamedColour, 13> c_colours = {{
+constexpr std::array<SNamedColour, 13> c_arrColours = {{
     {"window", c_rgbWindow},
     {"field", c_rgbField},
     {"field-disabled", c_rgbFieldDisabled},
@@ -43,7 +43,7 @@ struct SRole
     QRgb rgbDisabled;
 };
 
-constexpr std::array<SRole, 14> c_roles = {{
+constexpr std::array<SRole, 14> c_arrRoles = {{
     {QPalette::Window, c_rgbWindow, c_rgbWindow},
     {QPalette::WindowText, c_rgbText, c_rgbTextDisabled},
     {QPalette::Base, c_rgbField, c_rgbFieldDisabled},
@@ -70,7 +70,7 @@ QString StyleColour(QRgb rgb)
 QPalette Palette()
 {
     QPalette palette{QColor(c_rgbButton), QColor(c_rgbWindow)};
-    for (const SRole& row : c_roles) {
+    for (const SRole& row : c_arrRoles) {
         palette.setColor(QPalette::Active, row.role, row.rgb);
         palette.setColor(QPalette::Inactive, row.role, row.rgb);
         palette.setColor(QPalette::Disabled, row.role, row.rgbDisabled);
@@ -94,7 +94,7 @@ void Apply(QWidget* pWindow)
 QString Resolve(const char* szStyle)
 {
     QString strStyle = QString::fromLatin1(szStyle);
-    for (const SNamedColour& colour : c_colours)
+    for (const SNamedColour& colour : c_arrColours)
         strStyle.replace(QStringLiteral("@%1@").arg(QLatin1String(colour.szName)), StyleColour(colour.rgb));
     return strStyle;
 }

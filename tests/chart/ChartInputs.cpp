@@ -9,7 +9,7 @@
 namespace {
 
 // Values at which comparisons change sides, and values that are no chromaticities at all.
-constexpr float c_afHostile[] = {
+constexpr float c_arrHostile[] = {
     0.0F,
     -0.0F,
     1.0F,
@@ -27,7 +27,7 @@ constexpr float c_afHostile[] = {
     std::numeric_limits<float>::quiet_NaN(),
 };
 
-constexpr int c_nHostile = int(std::size(c_afHostile));
+constexpr int c_nHostile = int(std::size(c_arrHostile));
 
 } // namespace
 
@@ -52,7 +52,7 @@ float CChartInputs::Coordinate()
 {
     switch (Whole(0, 9)) {
     case 0:
-        return c_afHostile[Whole(0, c_nHostile - 1)];
+        return c_arrHostile[Whole(0, c_nHostile - 1)];
     case 1:
         return float(Whole(-2, 10)) / 10.0F;
     case 2:

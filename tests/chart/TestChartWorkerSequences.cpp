@@ -114,14 +114,14 @@ public:
     void Step()
     {
         using FuncStep = void (CSequence::*)();
-        static constexpr FuncStep c_steps[] = {
+        static constexpr FuncStep c_arrSteps[] = {
             &CSequence::Start,           &CSequence::Start,        &CSequence::Stop,
             &CSequence::StartHostWorker, &CSequence::PointWorker,  &CSequence::PointOwn,
             &CSequence::Resize,          &CSequence::StoreSize,    &CSequence::PaintType,
             &CSequence::ChooseType,      &CSequence::Draw,         &CSequence::Draw,
             &CSequence::SetAbort,        &CSequence::RunEventLoop, &CSequence::Replace,
             &CSequence::RunHere};
-        (this->*c_steps[Random(0, int(std::size(c_steps)) - 1)])();
+        (this->*c_arrSteps[Random(0, int(std::size(c_arrSteps)) - 1)])();
     }
 
 private:

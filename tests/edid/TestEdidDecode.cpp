@@ -81,7 +81,7 @@ struct SMode
     float fRate;
 };
 
-const SMode c_commonModes[] = {
+const SMode c_arrCommonModes[] = {
     {640, 480, 60.0F},   {720, 576, 50.0F},    {800, 600, 60.0F},   {800, 600, 120.0F},
     {1024, 768, 60.0F},  {1280, 720, 50.0F},   {1280, 720, 59.94F}, {1280, 720, 60.0F},
     {1280, 960, 60.0F},  {1280, 1024, 75.0F},  {1366, 768, 60.0F},  {1400, 1050, 60.0F},
@@ -114,7 +114,7 @@ void TestEdidDecode::TheDecoderReadsWhatWeMean_data()
     QTest::addColumn<int>("width");
     QTest::addColumn<int>("height");
     QTest::addColumn<float>("rate");
-    for (const SMode& mode : c_commonModes)
+    for (const SMode& mode : c_arrCommonModes)
         QTest::addRow("%dx%d at %g Hz", mode.nWidth, mode.nHeight, double(mode.fRate))
             << mode.nWidth << mode.nHeight << mode.fRate;
 }

@@ -17,10 +17,10 @@ namespace {
 constexpr float c_fInf = std::numeric_limits<float>::infinity();
 constexpr float c_fNan = std::numeric_limits<float>::quiet_NaN();
 
-const std::vector<float> c_rates = {1.0F,   15.0F,   23.976F, 24.0F,   25.0F,   29.97F, 30.0F,  47.952F,
-                                    48.0F,  50.0F,   59.94F,  60.0F,   71.928F, 72.0F,  75.0F,  85.0F,
-                                    100.0F, 119.88F, 120.0F,  143.9F,  144.0F,  165.0F, 200.0F, 239.76F,
-                                    240.0F, 360.0F,  480.0F,  0.9999F, 1000.0F, 1000.1F};
+const std::vector<float> c_arrRates = {1.0F,   15.0F,   23.976F, 24.0F,   25.0F,   29.97F, 30.0F,  47.952F,
+                                       48.0F,  50.0F,   59.94F,  60.0F,   71.928F, 72.0F,  75.0F,  85.0F,
+                                       100.0F, 119.88F, 120.0F,  143.9F,  144.0F,  165.0F, 200.0F, 239.76F,
+                                       240.0F, 360.0F,  480.0F,  0.9999F, 1000.0F, 1000.1F};
 
 /// Sizes of ordinary displays, where the aspect ratios meet, and what is right beside them.
 std::vector<QSize> DisplaySizes()
@@ -103,8 +103,9 @@ int PlainVSync(int nWidth, int nHeight)
     return 10;
 }
 
-const std::vector<int> c_hostileInts = {0, -1, 1, 7, 1920, -1920, 65535, 65536, 16777217, INT_MAX, INT_MIN};
-const std::vector<float> c_hostileRates = {
+const std::vector<int> c_arrHostileInts = {0,     -1,    1,        7,       1920,   -1920,
+                                           65535, 65536, 16777217, INT_MAX, INT_MIN};
+const std::vector<float> c_arrHostileRates = {
     0.0F,   -0.0F,  60.0F,  -60.0F,  FLT_MIN, -FLT_MIN, FLT_MAX, -FLT_MAX, c_fInf,  -c_fInf,
     c_fNan, 1e-45F, 1e-30F, 2173.9F, 2174.0F, 1818.1F,  1818.2F, 2.2e9F,   -2.2e9F, 9223372036854775808.0F};
 
@@ -145,7 +146,7 @@ void TestTimingGrid::TheBlankingIsThatOfASecondEvaluation()
 {
     QFETCH(QVector<QSize>, sizes);
     for (const QSize& size : sizes) {
-        for (const float fRate : c_rates) {
+        for (const float fRate : c_arrRates) {
             ForEveryKind(size, fRate, [](const tagSCalTimingIn& in) {
                 const tagSBlankTiming actual = Calculated(in);
                 const tagSBlankTiming expected = TimingOracle::Blanking(in);
@@ -162,11 +163,11 @@ void TestTimingGrid::TheBlankingIsThatOfASecondEvaluation()
 void TestTimingGrid::TheVerticalSyncIsThatOfThePlainSteps()
 {
     // Heights of every magnitude and sign, each with the widths where its ratios begin and end.
-    constexpr double c_ratios[] = {4.0 / 3.0, 16.0 / 9.0, 16.0 / 10.0, 5.0 / 4.0, 15.0 / 9.0};
+    constexpr double c_arrRatios[] = {4.0 / 3.0, 16.0 / 9.0, 16.0 / 10.0, 5.0 / 4.0, 15.0 / 9.0};
     std::mt19937 random(20260);
     for (int nRound = 0; nRound < 40000; ++nRound) {
         const int nHeight = int(random()) >> (nRound % 32);
-        for (const double dRatio : c_ratios) {
+        for (const double dRatio : c_arrRatios) {
             for (const int nMore : {-16, -9, -8, -7, -1, 0, 1, 7, 8}) {
                 const int nWidth =
                     int(std::clamp(nHeight * dRatio + nMore, double(INT_MIN), double(INT_MAX)));
@@ -181,7 +182,7 @@ void TestTimingGrid::TheVerticalSyncIsThatOfThePlainSteps()
 void TestTimingGrid::ThePixelFrequencyIsThatOfASecondEvaluation()
 {
     for (const QSize& size : DisplaySizes()) {
-        for (const float fRate : c_rates) {
+        for (const float fRate : c_arrRates) {
             for (const int nStandard : {0, 1}) {
                 int nId = -1;
                 CEDIDRaw().MatchTimingID(size.width(), size.height(), int(fRate), &nId);
@@ -206,7 +207,7 @@ void TestTimingGrid::TheStoredClockIsThatOfASecondEvaluation()
 {
     CEDIDRaw edid;
     for (const QSize& size : DisplaySizes()) {
-        for (const float fRate : c_rates) {
+        for (const float fRate : c_arrRates) {
             edid.ChangeWH(size.width(), size.height(), fRate);
             const QByteArray block = BlockOf(edid);
             const tagSBlankTiming blank =
@@ -222,7 +223,7 @@ void TestTimingGrid::TheStoredClockIsThatOfASecondEvaluation()
 void TestTimingGrid::ReducedBlankingLastsAtLeast460Microseconds()
 {
     for (const QSize& size : DisplaySizes()) {
-        for (const float fRate : c_rates) {
+        for (const float fRate : c_arrRates) {
             const tagSBlankTiming timing = Calculated({size.width(), size.height(), fRate, 0, 1, 0});
             // The line that the frame really has, so the estimate's rounding may take one line's time.
             const double dLine = 1e6 / double(fRate) / (size.height() + timing.wVBlank);
@@ -236,7 +237,7 @@ void TestTimingGrid::ReducedBlankingLastsAtLeast460Microseconds()
 void TestTimingGrid::NormalBlankingIsAWholeNumberOfCellPairsWithoutGap()
 {
     for (const QSize& size : DisplaySizes()) {
-        for (const float fRate : c_rates) {
+        for (const float fRate : c_arrRates) {
             const tagSBlankTiming timing = Calculated({size.width(), size.height(), fRate, 0, 0, 0});
             QCOMPARE(timing.wHBlank % 16, 0);
             QCOMPARE(timing.wHFrontPorch + timing.wHSync + timing.wHBlank / 2, int(timing.wHBlank));
@@ -277,9 +278,9 @@ void TestTimingGrid::WhatNoFieldHoldsIsHeldToItsRange()
 
 void TestTimingGrid::HostileInputGivesARecord()
 {
-    for (const int nWidth : c_hostileInts) {
-        for (const int nHeight : c_hostileInts) {
-            for (const float fRate : c_hostileRates) {
+    for (const int nWidth : c_arrHostileInts) {
+        for (const int nHeight : c_arrHostileInts) {
+            for (const float fRate : c_arrHostileRates) {
                 ForEveryKind({nWidth, nHeight}, fRate, [](const tagSCalTimingIn& in) {
                     const tagSBlankTiming timing = Calculated(in);
                     QCOMPARE(int(timing.byVFrontPorch), 3);
@@ -296,9 +297,9 @@ void TestTimingGrid::HostileInputGivesARecord()
 void TestTimingGrid::HostileInputGivesABlock()
 {
     CEDIDRaw edid;
-    for (const int nWidth : c_hostileInts) {
-        for (const int nHeight : c_hostileInts) {
-            for (const float fRate : c_hostileRates) {
+    for (const int nWidth : c_arrHostileInts) {
+        for (const int nHeight : c_arrHostileInts) {
+            for (const float fRate : c_arrHostileRates) {
                 edid.ChangeWH(nWidth, nHeight, fRate);
                 const QByteArray block = BlockOf(edid);
                 unsigned nSum = 0;
@@ -315,9 +316,9 @@ void TestTimingGrid::HostileInputGivesABlock()
 void TestTimingGrid::HostileInputGivesAFrequencyAndAVerdict()
 {
     const CEDIDRaw edid;
-    for (const int nWidth : c_hostileInts) {
-        for (const int nHeight : c_hostileInts) {
-            for (const float fRate : c_hostileRates) {
+    for (const int nWidth : c_arrHostileInts) {
+        for (const int nHeight : c_arrHostileInts) {
+            for (const float fRate : c_arrHostileRates) {
                 const float fActive = float(qint64(nWidth) * nHeight) * fRate;
                 // No listed mode is among these, so the active pixels alone are judged.
                 const bool bExpected = fActive >= -2147483648.0F && fActive < 160000001.0F;

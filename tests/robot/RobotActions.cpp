@@ -22,15 +22,15 @@ constexpr int c_nLargestSize = 1600; ///< pixels of a window
 const QString c_strCharacters = QStringLiteral("0123456789.-,eE+ aZ中%/");
 
 /// Keys without a character.
-constexpr Qt::Key c_keys[] = {Qt::Key_Tab,    Qt::Key_Backtab,  Qt::Key_Return, Qt::Key_Enter,
-                              Qt::Key_Escape, Qt::Key_Space,    Qt::Key_Left,   Qt::Key_Right,
-                              Qt::Key_Up,     Qt::Key_Down,     Qt::Key_Home,   Qt::Key_End,
-                              Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Delete, Qt::Key_Backspace,
-                              Qt::Key_F2,     Qt::Key_F4,       Qt::Key_F1,     Qt::Key_Menu};
+constexpr Qt::Key c_arrKeys[] = {Qt::Key_Tab,    Qt::Key_Backtab,  Qt::Key_Return, Qt::Key_Enter,
+                                 Qt::Key_Escape, Qt::Key_Space,    Qt::Key_Left,   Qt::Key_Right,
+                                 Qt::Key_Up,     Qt::Key_Down,     Qt::Key_Home,   Qt::Key_End,
+                                 Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Delete, Qt::Key_Backspace,
+                                 Qt::Key_F2,     Qt::Key_F4,       Qt::Key_F1,     Qt::Key_Menu};
 
 /// Letters of the usual shortcuts with Ctrl.
-constexpr Qt::Key c_shortcutKeys[] = {Qt::Key_Z, Qt::Key_Y, Qt::Key_A, Qt::Key_C,
-                                      Qt::Key_V, Qt::Key_X, Qt::Key_1, Qt::Key_5};
+constexpr Qt::Key c_arrShortcutKeys[] = {Qt::Key_Z, Qt::Key_Y, Qt::Key_A, Qt::Key_C,
+                                         Qt::Key_V, Qt::Key_X, Qt::Key_1, Qt::Key_5};
 
 template <class T, std::size_t nSize>
 T One(CDice& dice, const T (&choices)[nSize])
@@ -40,8 +40,9 @@ T One(CDice& dice, const T (&choices)[nSize])
 
 Qt::KeyboardModifiers Modifiers(CDice& dice)
 {
-    constexpr Qt::KeyboardModifier c_modifiers[] = {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier};
-    return dice.OnceIn(8) ? Qt::KeyboardModifiers(One(dice, c_modifiers))
+    constexpr Qt::KeyboardModifier c_arrModifiers[] = {Qt::ShiftModifier, Qt::ControlModifier,
+                                                       Qt::AltModifier};
+    return dice.OnceIn(8) ? Qt::KeyboardModifiers(One(dice, c_arrModifiers))
                           : Qt::KeyboardModifiers(Qt::NoModifier);
 }
 
@@ -134,12 +135,12 @@ void Type(CDice& dice, QWidget& window)
 
 void PressKey(CDice& dice, QWidget& window)
 {
-    QTest::keyClick(FocusOf(window), One(dice, c_keys), Modifiers(dice));
+    QTest::keyClick(FocusOf(window), One(dice, c_arrKeys), Modifiers(dice));
 }
 
 void PressShortcut(CDice& dice, QWidget& window)
 {
-    QTest::keyClick(FocusOf(window), One(dice, c_shortcutKeys), Qt::ControlModifier);
+    QTest::keyClick(FocusOf(window), One(dice, c_arrShortcutKeys), Qt::ControlModifier);
 }
 
 /// Any command of the window's menus, as if it had been found there.

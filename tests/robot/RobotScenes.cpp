@@ -154,7 +154,7 @@ struct SScene
     void (*pPlay)(CRobot& robot);
 };
 
-constexpr SScene c_scenes[] = {
+constexpr SScene c_arrScenes[] = {
     {"EDID", &Edid},
     {"EDID", &Edid}, // the dialog with the most controls and the most sender types
     {"EDID", &Edid},
@@ -175,7 +175,7 @@ void PlayScenes(CRobot& robot)
 {
     CSimulator::Instance().Document().NewCatalogueProject();
     while (!robot.IsDone()) {
-        const SScene& scene = c_scenes[std::size_t(robot.Dice().Below(int(std::size(c_scenes))))];
+        const SScene& scene = c_arrScenes[std::size_t(robot.Dice().Below(int(std::size(c_arrScenes))))];
         robot.Watch().SetAction(QStringLiteral("scene ") + QString::fromLatin1(scene.szName));
         scene.pPlay(robot);
         robot.Watch().NoteMemory(robot.PartDone());

@@ -23,7 +23,7 @@ constexpr qint64 c_nLongestAction = 1000;
 constexpr double c_dWarm = 0.3;
 
 /// Messages of Qt that say nothing about this program, each with its reason.
-constexpr const char* c_harmlessMessages[] = {
+constexpr const char* c_arrHarmlessMessages[] = {
     // The offscreen platform has no window manager to ask.
     "This plugin does not support propagateSizeHints()",
     "This plugin does not support raise()",
@@ -56,7 +56,7 @@ void EndHanging(int nSignal)
 
 bool IsHarmless(const QString& strText)
 {
-    return std::any_of(std::begin(c_harmlessMessages), std::end(c_harmlessMessages),
+    return std::any_of(std::begin(c_arrHarmlessMessages), std::end(c_arrHarmlessMessages),
                        [&strText](const char* szText) { return strText.contains(QLatin1String(szText)); });
 }
 

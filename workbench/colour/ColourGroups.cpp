@@ -46,7 +46,7 @@ bool IsSame(CPointEx<float> ptA, CPointEx<float> ptB)
 
 bool HaveSamePoints(const SChromaGroupInfo& first, const SChromaGroupInfo& second)
 {
-    for (const SChromaPointFields& fields : c_chromaPointFields)
+    for (const SChromaPointFields& fields : c_arrChromaPointFields)
         if (!IsSame(first.*fields.pPoint, second.*fields.pPoint) ||
             first.*fields.pMove != second.*fields.pMove || first.*fields.pShowDot != second.*fields.pShowDot)
             return false;
@@ -81,7 +81,7 @@ SChromaGroupInfo WithColour(SChromaGroupInfo group, SColour colour)
 
 void SetMovable(SChromaGroupInfo& group, bool bMovable)
 {
-    for (const SChromaPointFields& fields : c_chromaPointFields)
+    for (const SChromaPointFields& fields : c_arrChromaPointFields)
         group.*fields.pMove = bMovable;
 }
 

@@ -37,9 +37,9 @@ CCctCurve::CCctCurve(const CCCT2ColorCoord& cct)
     for (int nTemperature = c_nFirstTemperature; nTemperature <= c_nLastTemperature;
          nTemperature += c_nTemperatureStep)
         m_vecChromaticities.push_back(ChromaticityOf(cct, nTemperature));
-    for (std::size_t i = 0; i < c_tickTemperatures.size(); ++i) {
-        m_tickPoints[i] = {ChromaticityOf(cct, c_tickTemperatures[i]),
-                           ChromaticityOf(cct, c_tickTemperatures[i] + c_nTemperatureStep)};
+    for (std::size_t i = 0; i < c_arrTickTemperatures.size(); ++i) {
+        m_tickPoints[i] = {ChromaticityOf(cct, c_arrTickTemperatures[i]),
+                           ChromaticityOf(cct, c_arrTickTemperatures[i] + c_nTemperatureStep)};
     }
 }
 
@@ -53,7 +53,7 @@ void CCctCurve::SetMapping(const CChartMapping& mapping)
         m_path.lineTo(mapping.ToPixel(m_vecChromaticities[i]));
     for (std::size_t i = 0; i < m_ticks.size(); ++i) {
         const QPointF ptFoot = mapping.ToPixel(m_tickPoints[i].ptFoot);
-        m_ticks[i] = {c_tickTemperatures[i], ptFoot,
+        m_ticks[i] = {c_arrTickTemperatures[i], ptFoot,
                       TickEnd(ptFoot, mapping.ToPixel(m_tickPoints[i].ptNext))};
     }
 }

@@ -24,14 +24,14 @@ public:
         QPointF ptFoot;   ///< on the curve, in widget pixels
         QPointF ptEnd;
     };
-    static constexpr std::array<int, 3> c_tickTemperatures = {4000, 6500, 12000};
+    static constexpr std::array<int, 3> c_arrTickTemperatures = {4000, 6500, 12000};
 
     explicit CCctCurve(const CCCT2ColorCoord& cct);
 
     /// Sets the mapping of the path and the ticks.
     void SetMapping(const CChartMapping& mapping);
     const QPainterPath& Path() const { return m_path; }
-    const std::array<STick, c_tickTemperatures.size()>& Ticks() const { return m_ticks; }
+    const std::array<STick, c_arrTickTemperatures.size()>& Ticks() const { return m_ticks; }
 
 private:
     struct STickPoints
@@ -41,10 +41,10 @@ private:
     };
 
     std::vector<QPointF> m_vecChromaticities;
-    std::array<STickPoints, c_tickTemperatures.size()> m_tickPoints;
+    std::array<STickPoints, c_arrTickTemperatures.size()> m_tickPoints;
     std::optional<CChartMapping> m_mapping;
     QPainterPath m_path;
-    std::array<STick, c_tickTemperatures.size()> m_ticks{};
+    std::array<STick, c_arrTickTemperatures.size()> m_ticks{};
 };
 
 #endif // SENDERMODULEDIALOG_CHART_PAINT_CCTCURVE_H

@@ -30,8 +30,8 @@ constexpr qreal c_dDotRim = 2.0;
 constexpr qreal c_dWhiteDotRim = 3.0;
 
 /// Fill of the three colour dots, by point index.
-constexpr Qt::GlobalColor c_dotColorsRgb[] = {Qt::red, Qt::green, Qt::blue};
-constexpr Qt::GlobalColor c_dotColorsCmy[] = {Qt::cyan, Qt::magenta, Qt::yellow};
+constexpr Qt::GlobalColor c_arrDotColorsRgb[] = {Qt::red, Qt::green, Qt::blue};
+constexpr Qt::GlobalColor c_arrDotColorsCmy[] = {Qt::cyan, Qt::magenta, Qt::yellow};
 
 /// The legend's font, places and lines.
 constexpr float c_fLegendFontDivisor = 50.0F;
@@ -141,9 +141,9 @@ void DrawColourDots(QPainter& painter, const SChartFrame& frame, const SChromaGr
 {
     const QPen penMovable(Qt::white, c_dDotRim);
     const QPen penFixed(Qt::lightGray, c_dDotRim);
-    const Qt::GlobalColor* const pColors = group.bRgbMode ? c_dotColorsRgb : c_dotColorsCmy;
+    const Qt::GlobalColor* const pColors = group.bRgbMode ? c_arrDotColorsRgb : c_arrDotColorsCmy;
     for (int i = enRedPoint; i <= enBluePoint; ++i) {
-        const SChromaPointFields& fields = c_chromaPointFields[std::size_t(i)];
+        const SChromaPointFields& fields = c_arrChromaPointFields[std::size_t(i)];
         if (!(group.*fields.pShowDot))
             continue;
         painter.setPen(group.*fields.pMove ? penMovable : penFixed);

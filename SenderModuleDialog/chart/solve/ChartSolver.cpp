@@ -18,7 +18,7 @@ constexpr double c_dSnapDistance = 0.025;
 constexpr int c_nTriangleVertices = 3;
 
 // The two other vertices of each vertex, in the order in which the solving takes them.
-constexpr std::size_t c_otherVertices[c_nTriangleVertices][2] = {
+constexpr std::size_t c_arrOtherVertices[c_nTriangleVertices][2] = {
     {enGreenPoint, enBluePoint},
     {enRedPoint, enBluePoint},
     {enRedPoint, enGreenPoint},
@@ -236,7 +236,7 @@ void CChartSolver::PlaceVertex(SChromaGroupInfo& group, int nPoint, const SChrom
         return;
     }
     const auto vertices = VerticesOf(triangle);
-    const auto& [nA, nB] = c_otherVertices[std::size_t(nPoint)];
+    const auto& [nA, nB] = c_arrOtherVertices[std::size_t(nPoint)];
     if (GetNearestPoint(group.ptWhite, vertices[std::size_t(nPoint)], vertices[nA], vertices[nB], ptNearest))
         GroupPoint(group, nPoint) = Narrowed(ptNearest);
 }
