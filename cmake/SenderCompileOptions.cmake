@@ -1,4 +1,4 @@
-# What every target of the project is compiled with: one interface target, so that no folder can be laxer.
+# The options of every target: one interface target, so that no folder can be laxer.
 add_library(sender_compile_options INTERFACE)
 get_filename_component(SENDER_ROOT "${CMAKE_CURRENT_LIST_DIR}/.." ABSOLUTE)
 
@@ -6,7 +6,7 @@ target_compile_options(sender_compile_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
     # Each product and sum is rounded on its own: results are the same on x86-64 and AArch64.
     -ffp-contract=off
-    # Messages and checks name files by their place in the tree.
+    # Messages and checks name files by their path in the tree.
     "-fmacro-prefix-map=${SENDER_ROOT}/=")
 
 # g++ 12 drops the rounding of double -> float -> double where two such values are stored side by side.

@@ -23,7 +23,7 @@ install(TARGETS sender_instruments
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
     FILE_SET HEADERS DESTINATION "${SENDER_INCLUDE_FOLDER}" COMPONENT development)
 
-# Programs find the libraries beside them wherever the tree is put.
+# Programs find the libraries beside them wherever the installation is moved.
 set_target_properties(sender-workbench sender-tool PROPERTIES
     INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 install(TARGETS sender-workbench sender-tool
@@ -48,7 +48,7 @@ install(FILES
     DESTINATION "${SENDER_CMAKE_FOLDER}"
     COMPONENT development)
 
-# The file names its prefix from its own place, so it is right wherever the tree is put.
+# The file derives its prefix from its own path, so it stays right when the installation is moved.
 set(SENDER_PKGCONFIG_FOLDER "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 file(RELATIVE_PATH SENDER_PREFIX_FROM_PKGCONFIG "/${SENDER_PKGCONFIG_FOLDER}" "/")
 configure_file("${PROJECT_SOURCE_DIR}/cmake/SenderModuleDialog.pc.in" "${PROJECT_BINARY_DIR}/SenderModuleDialog.pc" @ONLY)

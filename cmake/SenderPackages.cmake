@@ -68,7 +68,7 @@ add_custom_command(
     COMMAND sender-tool completion zsh > "${SENDER_PAGES}/_sender-tool"
     DEPENDS sender-tool
     VERBATIM)
-# gzip -n leaves name and time out, so two builds give the same bytes.
+# gzip -n omits name and time, so two builds give the same bytes.
 add_custom_command(
     OUTPUT "${SENDER_PAGES}/changelog.gz" "${SENDER_PAGES}/changelog.Debian.gz"
     COMMAND "${GZIP}" -9nc "${PROJECT_SOURCE_DIR}/CHANGELOG.md" > "${SENDER_PAGES}/changelog.gz"

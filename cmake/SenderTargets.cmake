@@ -1,4 +1,4 @@
-# The kinds of target that the folders define. A folder names its sources and its links and nothing else.
+# The kinds of target that the folders define. A folder names only its sources and its links.
 
 # What ./run --bench and ./test --sanitize build.
 add_custom_target(sender_benchmarks)

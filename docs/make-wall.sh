@@ -6,7 +6,7 @@ set -euo pipefail
 LC_ALL=C awk -v count="${1:-64}" '
 # Park and Miller, 1988: the same sequence with every awk.
 function part() { state = (state * 16807) % 2147483647; return state / 2147483647 }
-# Near enough to a normal distribution for readings: twelve parts less six.
+# Close enough to a normal distribution for readings: the sum of twelve uniform numbers less six.
 function normal(  sum, i) { sum = -6; for (i = 0; i < 12; ++i) sum += part(); return sum }
 function reading(x, y, level, scatter,  text) {
     text = sprintf("%.4f,%.4f,%.1f", x + scatter * normal(), y + scatter * normal(), level * (1 + 0.012 * normal()))

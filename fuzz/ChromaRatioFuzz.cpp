@@ -1,5 +1,5 @@
-// The overlap of any two triangles, infinities and NaN too: nothing undefined, and a ratio from 0 to 1 where
-// there is a number.
+// The overlap of any two triangles, including infinities and NaN: no undefined behaviour, and a ratio that is
+// NaN or from 0 to 1.
 
 #include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/geometry/CalcChromaRatio.h"
@@ -34,7 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSi
             "the ratio is left alone, or NaN, or from 0 to 1");
 
     for (int nCount = 0; nCount <= 3; ++nCount) {
-        // A copy of exactly so many points lets a sanitizer see a read beyond them.
+        // A copy of exactly nCount points lets a sanitizer see a read beyond them.
         std::vector<CPointEx<float>> vecSome(vecA.begin(), vecA.begin() + nCount);
         volatile bool bSink = CCalcChromaRatio::G_IsPointInPolygon2(vecB[0], vecSome.data(), nCount);
         (void)bSink;

@@ -19,7 +19,7 @@ public:
 
     std::size_t Left() const { return m_nLeft; }
 
-    /// Any value of a number type: of a float every bit pattern, infinities and NaN too.
+    /// Any value of a number type; a float has any bit pattern, including infinities and NaN.
     template <class T>
     T Take()
     {

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Twice the area of the triangle a, b, c, in grid units: positive when it runs counter-clockwise.
+/// Twice the area of the triangle a, b, c, in grid units: positive when it runs counter-clockwise.
 double Cross(const QPointF& ptA, const QPointF& ptB, const QPointF& ptC)
 {
     return (ptB.x() - ptA.x()) * (ptC.y() - ptA.y()) - (ptB.y() - ptA.y()) * (ptC.x() - ptA.x());

@@ -1,5 +1,5 @@
-// Any chromaticity, infinities and NaN too: nothing undefined, and verdict, temperature and pair of rows to
-// the bit those of the plain walk over the table.
+// Any chromaticity, including infinities and NaN: no undefined behaviour, and verdict, temperature and pair
+// of rows equal those of the plain walk over the table to the bit.
 
 #include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/colour/CCT2ColorCoord.h"

@@ -21,7 +21,7 @@ void RunFile(const std::filesystem::path& path)
     LLVMFuzzerTestOneInput(vecInput.data(), vecInput.size());
 }
 
-// The number of files, for a folder without seeds tests nothing.
+/// Replays the files of a folder and returns their number, so that a folder without seeds can fail.
 int RunFolder(const std::filesystem::path& pathFolder)
 {
     int nFiles = 0;

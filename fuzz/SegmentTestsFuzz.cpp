@@ -1,5 +1,5 @@
-// Lines and segment tests on any points, infinities and NaN too: nothing undefined, and the tests agree with
-// each other.
+// Lines and segment tests on any points, including infinities and NaN: no undefined behaviour, and the tests
+// agree with each other.
 
 #include "SenderModuleDialog/Fault.h"
 #include "SenderModuleDialog/geometry/Line.h"
@@ -35,7 +35,7 @@ void CheckSelf(CPointEx<float> ptA, CPointEx<float> ptB)
     Require(!CLine::IsCross(ptA, ptB, ptB, ptA), "no segment crosses its reverse");
 }
 
-// Keeps the compiler from dropping a calculation whose result is unused.
+/// Keeps the compiler from dropping a calculation whose result is unused.
 template <class T>
 void Keep(T value)
 {
@@ -43,7 +43,7 @@ void Keep(T value)
     (void)kept;
 }
 
-// Whatever comes out, it has to come out.
+/// Calls every operation and keeps its result, whatever that is.
 void UseLine(std::array<CPointEx<float>, 4>& arr)
 {
     CLine line(arr[0], arr[1]);

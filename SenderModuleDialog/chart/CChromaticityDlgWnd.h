@@ -76,7 +76,7 @@ public:
     void SetBackgroundColor(QColor color);
     /// Alpha of the grid lines, 0 to 255; the labels keep theirs. No range check, no repaint.
     void SetGridLineAlpha(int nAlpha);
-    /// Stores the point that a refused drag falls back to. The name has a slip that is part of the interface.
+    /// Stores the point that a refused drag falls back to. The misspelt name is part of the interface.
     void SetNearstPoint(QPointF point);
     /// Chooses the group whose standard `DrawCIEStandardShow` names, and the standard to prefer. No repaint.
     void ShowCIEStandard(int nGroupIndex, enColorStandard standard, bool bShow);
@@ -148,9 +148,8 @@ public:
     /// @return false, with `ptOut` unchanged, for fewer than 3 points or without a crossing
     bool GetCIEIntersection(const QList<CPointEx<float>>& list, CPointEx<float> ptFrom, CPointEx<float> ptTo,
                             CPointEx<float>& ptOut);
-    /// Stops the point under the mouse at a region, seen from its group's white. `point` takes the
-    /// answer; its value plays no part in it, and it stays without one. The name has a slip that is part
-    /// of the interface.
+    /// Stops the point under the mouse at a region, seen from its group's white. `point` takes the answer;
+    /// its value plays no part in it, and it stays without one. The misspelt name is part of the interface.
     void GetFeasibleRegionNearstPoint(QList<CPointEx<float>>& region, CPointEx<float>& point);
     /// The same, seen from the mean of the region's vertices.
     void GetFeasibleRegionNearstPoint2(QList<CPointEx<float>>& region, CPointEx<float>& point);

@@ -14,8 +14,8 @@ constexpr const char* c_szSource = "CCT2ColorCoord";
 
 /// The D65 white point and its nominal temperature, which the conversions snap onto each other.
 constexpr float c_fD65CCT = 6500.0F;
-constexpr double c_dD65X = 0.3127000033855438;  // the widening of the float 0.3127
-constexpr double c_dD65Y = 0.32899999618530273; // the widening of the float 0.329
+constexpr double c_dD65X = 0.3127000033855438;  ///< the widening of the float 0.3127
+constexpr double c_dD65Y = 0.32899999618530273; ///< the widening of the float 0.329
 
 /// How near to D65 in kelvin, x and y the snap takes hold: the float 1e-5.
 constexpr float c_fSnapTolerance = 9.999999747378752e-06F;
@@ -29,7 +29,7 @@ constexpr int c_nTableStep = 5;
 /// Where the lines of constant n meet: McCamy's epicentre.
 constexpr float c_fEpicentreX = 0.332F;
 constexpr float c_fEpicentreY = 0.1858F;
-constexpr double c_dEpicentreY = 0.1858000010251999; // the widening of the float
+constexpr double c_dEpicentreY = 0.1858000010251999; ///< the widening of the float
 
 /// Coefficients of the cubic from n to kelvin.
 constexpr double c_dCubic = 437.0;

@@ -2,6 +2,7 @@
 
 #include "SenderModuleDialog/colour/OutlineIndex.h"
 #include "SenderModuleDialog/colour/SpectralLocus.h"
+#include "SenderModuleDialog/geometry/PointPrecision.h"
 
 namespace {
 
@@ -68,5 +69,5 @@ bool CChromaGamutInterpolation::IsStandard() const
 void CChromaGamutInterpolation::Append(const QVector<QPointF>& vecOutline)
 {
     for (const QPointF& pt : vecOutline)
-        m_listGamutPoints.append(CPointEx<float>(float(pt.x()), float(pt.y())));
+        m_listGamutPoints.append(Narrowed(pt));
 }

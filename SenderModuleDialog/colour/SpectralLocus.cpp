@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/colour/SpectralLocus.h"
 
 #include "SenderModuleDialog/colour/CIE1931Observer.h"
+#include "SenderModuleDialog/geometry/PointPrecision.h"
 #include "SenderModuleDialog/geometry/Polygon.h"
 #include "host/CommonClass/PointEx.h"
 
@@ -35,7 +36,7 @@ QVector<QPointF> SpectralLocus::Points()
     CPointEx<float> pt;
     for (const SObserverRow& row : c_arrObserver) {
         MoveTo(row, pt);
-        vecPoints.append(QPointF(double(pt.x), double(pt.y)));
+        vecPoints.append(Widened(pt));
     }
     return vecPoints;
 }

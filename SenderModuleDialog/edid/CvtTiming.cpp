@@ -50,7 +50,7 @@ struct SAspectRatio
     quint8 byVSync; ///< lines
 };
 
-// In the order of testing: the first that gives the width wins.
+/// In the order of testing: the first that gives the width wins.
 constexpr SAspectRatio c_arrAspectRatios[] = {
     {4.0F, 3.0F, 4}, {16.0F, 9.0F, 5}, {16.0F, 10.0F, 6}, {5.0F, 4.0F, 7}, {15.0F, 9.0F, 7},
 };
@@ -84,7 +84,7 @@ struct SAnyMode
     static float Floor(float fValue) { return std::floor(fValue); }
 
     /// Whether the ratio's width for a height rounds down to a whole number of cells. The difference is exact
-    /// wherever the answer hangs on it, so no rounding is needed to know.
+    /// wherever it decides the answer, so no rounding is needed.
     static bool GivesWidth(const SAspectRatio& ratio, float fWidth, float fHeight)
     {
         const float fAbove = ratio.fNumerator * fHeight / ratio.fDenominator - fWidth;

@@ -17,8 +17,6 @@ namespace {
 /// The pixel clock that a sender can drive, Hz.
 constexpr int c_nPixelBudget = 160000000;
 
-constexpr float c_fHzPerMHz = 1000000.0F;
-
 /// The standard of the EDID dialog that asks for reduced blanking.
 constexpr int c_nStandardReduced = 0;
 
@@ -133,7 +131,7 @@ int CEDIDRaw::CalculateVBackPorch(int nBlank, int nFront, int nSync) const
 
 float CEDIDRaw::CalculatePixelFreq(int nHActive, int nHBlank, int nVActive, int nVBlank, float fRate) const
 {
-    return PixelsPerSecond(nHActive, nHBlank, nVActive, nVBlank, fRate) / c_fHzPerMHz;
+    return PixelsPerSecond(nHActive, nHBlank, nVActive, nVBlank, fRate) / EdidBlock::c_fHzPerMHz;
 }
 
 void CEDIDRaw::MatchTimingID(int nWidth, int nHeight, int nRate, int* pId) const

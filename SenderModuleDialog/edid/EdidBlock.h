@@ -11,6 +11,8 @@
 
 namespace EdidBlock {
 
+constexpr float c_fHzPerMHz = 1000000.0F;
+
 using BlockBytes = std::array<unsigned char, c_nEdidBlockSize>;
 
 /// What a detailed timing descriptor says.

@@ -3,6 +3,7 @@
 #include "SenderModuleDialog/Constants.h"
 #include "SenderModuleDialog/Saturate.h"
 #include "SenderModuleDialog/edid/EDIDRaw.h"
+#include "SenderModuleDialog/edid/EdidBlock.h"
 #include "SenderModuleDialog/edid/EdidOptions.h"
 #include "host/OrviControl/CustomDialog.h"
 
@@ -15,8 +16,8 @@ namespace {
 
 using FuncScale = int (*)(qint64 nArea60);
 
-// Half the rate leaves twice the area, and so on. The rows differ in where they cut: whole rates scale in
-// double precision or in integers, and the rates over 1.001 divide first, in integers, except the first.
+/// Half the rate leaves twice the area, and so on. The rows differ in where they cut: whole rates scale in
+/// double precision or in integers, and the rates over 1.001 divide first, in integers, except the first.
 constexpr std::array<FuncScale, 9> c_arrScales = {
     [](qint64 nArea60) { return SaturateTo<int>(double(nArea60) * 2.5 / 1000 * 1001); }, // 23.976
     [](qint64 nArea60) { return SaturateTo<int>(double(nArea60) * 2.5); },               // 24
@@ -32,8 +33,6 @@ constexpr std::array<FuncScale, 9> c_arrScales = {
 /// Pixels at 144 and 240 Hz, for every sender.
 constexpr int c_nHighRateArea = 2304000;
 
-constexpr float c_fHzPerMHz = 1000000.0F;
-
 } // namespace
 
 int MaxAreaByRate(int nArea60, int nRateIndex)
@@ -48,7 +47,7 @@ int PixelClockMHz(QSize size, int nRateIndex, int nTimingStandard)
     const EdidOptions::SRate* pRate = EdidOptions::RateAt(nRateIndex);
     const float fRate = pRate == nullptr ? 0.0F : pRate->fRate;
     const float fHz = CEDIDRaw().CalReslutionPixelFreq(size.width(), size.height(), fRate, nTimingStandard);
-    return SaturateTo<int>(fHz / c_fHzPerMHz);
+    return SaturateTo<int>(fHz / EdidBlock::c_fHzPerMHz);
 }
 
 bool IsNotice(const QString& strVerdict)

@@ -88,7 +88,7 @@ bool OffersHighRates(const SInput& input)
     return !input.bLowRateOnly && Contains(c_arrHighRateTypes, input.nSenderType);
 }
 
-// In menu order; the index is what the dialog keeps.
+/// In menu order; the index is what the dialog keeps.
 constexpr std::array<SRate, 11> c_arrRates = {{
     // text, Hz, divided by 1.001, rate of the clock limit, offered
     {"23.976", 24, true, 0.0F, OffersFilmRates},

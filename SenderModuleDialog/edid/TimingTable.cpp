@@ -39,7 +39,7 @@ struct SServedRates
     int nSecondRate;
 };
 
-// 800x600 has no 50 Hz, unlike every other size, and its second row is the only one for 120 Hz.
+/// 800x600 has no 50 Hz, unlike every other size, and its second row is the only one for 120 Hz.
 constexpr SServedRates c_arrServedRates[] = {
     {0, 60, c_nNoSecondRate},
     {12, 120, c_nNoSecondRate},

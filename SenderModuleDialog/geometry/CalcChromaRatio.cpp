@@ -13,7 +13,7 @@ namespace {
 
 constexpr int c_nTriangleCorners = 3;
 
-// 9 crossings of three edges by three edges, and 6 corners.
+/// 9 crossings of three edges by three edges, and 6 corners.
 constexpr int c_nMaxCrossPoints = 15;
 
 // What passes for a ratio from 0 to 1: a rounding below 0, and the next float above 1.
@@ -25,8 +25,8 @@ CPointEx<float> Difference(CPointEx<float> ptA, CPointEx<float> ptB)
     return {ptA.x - ptB.x, ptA.y - ptB.y};
 }
 
-// Whether a point lies on the segment between two others: the way over it is no longer than the way
-// between them.
+/// Whether a point lies on the segment between two others: the way over it is no longer than the way
+/// between them.
 bool IsOnEdge(CPointEx<float> pt, CPointEx<float> ptA, CPointEx<float> ptB)
 {
     const float fToA = CCalcChromaRatio::CalcDistance(pt, ptA);

@@ -3,6 +3,9 @@
 
 #include "host/CommonClass/PointEx.h"
 
+/// The fewest points that enclose an area.
+constexpr int c_nMinPolygonPoints = 3;
+
 /// Whether a ray from a point to the left passes the edge from a to b: the step of every even-odd inside test
 /// of the library. An end of the edge at the height of the point counts for the lower edge only.
 inline bool IsEdgeLeftOf(CPointEx<float> pt, CPointEx<float> ptA, CPointEx<float> ptB)

@@ -10,23 +10,23 @@
 
 namespace {
 
-// The straddle test compares in double.
+/// The straddle test compares in double.
 constexpr double c_dGeometryEpsilon = double(c_fGeometryEpsilon);
 
-// The side of q relative to the line through p1 and p2, as a cross product.
+/// The side of q relative to the line through p1 and p2, as a cross product.
 float SideOfFirst(CPointEx<float> ptP1, CPointEx<float> ptP2, CPointEx<float> ptQ)
 {
     return (ptP2.y - ptP1.y) * ptQ.x + ptP2.x * (ptP1.y - ptQ.y) + ptP1.x * (ptQ.y - ptP2.y);
 }
 
-// The side of p relative to the line through q1 and q2. The terms of q1 and q2 stand the other way round than
-// in SideOfFirst, and so round differently: the two are not one function.
+/// The side of p relative to the line through q1 and q2. The terms of q1 and q2 stand the other way round
+/// than in SideOfFirst, and so round differently: the two are not one function.
 float SideOfSecond(CPointEx<float> ptQ1, CPointEx<float> ptQ2, CPointEx<float> ptP)
 {
     return (ptQ2.y - ptQ1.y) * ptP.x + ptQ1.x * (ptP.y - ptQ2.y) + ptQ2.x * (ptQ1.y - ptP.y);
 }
 
-// Whether two side values tell that their points are not across the line. The product is exact in double.
+/// Whether two side values tell that their points are not across the line. The product is exact in double.
 bool IsOneSided(float fSide1, float fSide2)
 {
     const double dSide1 = double(fSide1);

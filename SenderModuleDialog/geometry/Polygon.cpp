@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/geometry/Polygon.h"
 
 #include "SenderModuleDialog/Fault.h"
+#include "SenderModuleDialog/geometry/EvenOdd.h"
 #include "SenderModuleDialog/geometry/Line.h"
 #include "SenderModuleDialog/geometry/PointPrecision.h"
 
@@ -9,13 +10,10 @@
 
 namespace {
 
-// How far a point is carried across the boundary, chromaticity units.
+/// How far a point is carried across the boundary, chromaticity units.
 constexpr float c_fNudge = 9.999999747378752e-06F;
 
-// The fewest points that have a hull.
-constexpr int c_nMinHullPoints = 3;
-
-// The difference is taken in double, the rest in float.
+/// The difference is taken in double, the rest in float.
 float DistanceOf(const QPointF& ptA, const QPointF& ptB)
 {
     const float fDX = float(ptA.x() - ptB.x());
@@ -23,7 +21,7 @@ float DistanceOf(const QPointF& ptA, const QPointF& ptB)
     return std::sqrt(fDX * fDX + fDY * fDY);
 }
 
-// How the path from one point over the next to a third turns: positive to the left.
+/// How the path from one point over the next to a third turns: positive to the left.
 float TurnAt(const QPointF& ptPrev, const QPointF& ptCur, const QPointF& ptNext)
 {
     const float fDYOut = float(ptNext.y() - ptCur.y());
@@ -33,16 +31,16 @@ float TurnAt(const QPointF& ptPrev, const QPointF& ptCur, const QPointF& ptNext)
     return fDYOut * fDXIn - fDYIn * fDXOut;
 }
 
-// Cross product of the ways from an origin to two points, in double: positive when the first lies to
-// the right.
+/// Cross product of the ways from an origin to two points, in double: positive when the first lies to
+/// the right.
 double CrossFrom(const QPointF& ptOrigin, const QPointF& ptFirst, const QPointF& ptSecond)
 {
     return (ptFirst.x() - ptOrigin.x()) * (ptSecond.y() - ptOrigin.y()) -
            (ptFirst.y() - ptOrigin.y()) * (ptSecond.x() - ptOrigin.x());
 }
 
-// Whether a point comes before another in the order by angle around the pivot, nearest first within
-// one angle.
+/// Whether a point comes before another in the order by angle around the pivot, nearest first within
+/// one angle.
 bool IsBefore(const QPointF& ptPivot, const QPointF& pt, const QPointF& ptOther)
 {
     const double dCross = CrossFrom(ptPivot, pt, ptOther);
@@ -56,12 +54,12 @@ bool IsLower(const QPointF& pt, const QPointF& ptOther)
     return pt.y() < ptOther.y() || (pt.y() == ptOther.y() && pt.x() < ptOther.x());
 }
 
-// Keeps the strict left turns of points that are sorted by angle. The two last points of the stack are never
-// taken away: there is nothing to test them against.
+/// Keeps the strict left turns of points that are sorted by angle. The two last points of the stack are never
+/// taken away: there is nothing to test them against.
 QVector<QPointF> LeftTurns(const QVector<QPointF>& vecSorted)
 {
-    QVector<QPointF> vecStack = vecSorted.mid(0, c_nMinHullPoints);
-    for (int i = c_nMinHullPoints; i < vecSorted.size(); ++i) {
+    QVector<QPointF> vecStack = vecSorted.mid(0, c_nMinPolygonPoints);
+    for (int i = c_nMinPolygonPoints; i < vecSorted.size(); ++i) {
         const QPointF& pt = vecSorted[i];
         const auto funcIsNoLeftTurn = [&vecStack, &pt] {
             return !(CrossFrom(vecStack[vecStack.size() - 2], pt, vecStack.constLast()) < 0.0);
@@ -194,7 +192,7 @@ QPointF CPolygon::MakePointCloser(QPointF& ptFrom, const QPointF& ptToward)
 
 void CPolygon::GrahamScan()
 {
-    Require(size() >= c_nMinHullPoints, "size() >= c_nMinHullPoints");
+    Require(size() >= c_nMinPolygonPoints, "size() >= c_nMinPolygonPoints");
     Require(m_vecHullPoints.size() == size(), "m_vecHullPoints.size() == size()");
 
     const auto itPivot = std::min_element(cbegin(), cend(), IsLower);
@@ -214,8 +212,8 @@ QPointF CPolygon::Centre() const
     return ptSum / double(size());
 }
 
-// A selection sort, because the order by angle is no total order: with repeated points, or where a cross
-// product rounds to 0, another sort gives another order.
+/// A selection sort, because the order by angle is no total order: with repeated points, or where a cross
+/// product rounds to 0, another sort gives another order.
 void CPolygon::SortByAngle()
 {
     QPointF* const pPoints = m_vecHullPoints.data();

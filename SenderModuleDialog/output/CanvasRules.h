@@ -13,8 +13,8 @@ namespace CanvasRules {
 
 /// Range of a canvas, pixels, whatever the sender.
 constexpr int c_nMinSide = 64;
-constexpr int c_nMaxWidth = 32768;
-constexpr int c_nMaxHeight = 16384;
+constexpr int c_nMaxWidth = SCanvasLimit().nMaxWidth;
+constexpr int c_nMaxHeight = SCanvasLimit().nMaxHeight;
 
 /// A canvas size that the menu offers.
 struct SPreset

@@ -22,9 +22,9 @@ constexpr SWording c_wordingCorrection = {QT_TRANSLATE_NOOP("CCustomDialog", "�
 constexpr SWording c_wordingSeamRepair = {QT_TRANSLATE_NOOP("CCustomDialog", "重置修缝系数"),
                                           QT_TRANSLATE_NOOP("CCustomDialog", "修缝系数")};
 
-constexpr QSize c_sizeDialog(270, 105); // pixels
-constexpr QSize c_sizeSpin(70, 24);     // pixels
-constexpr int c_nMargin = 10;           // pixels
+constexpr QSize c_sizeDialog(270, 105); ///< pixels
+constexpr QSize c_sizeSpin(70, 24);     ///< pixels
+constexpr int c_nMargin = 10;           ///< pixels
 constexpr int c_nDecimals = 3;
 constexpr double c_dStep = 0.001;
 

@@ -140,9 +140,8 @@ BENCHMARK_TEMPLATE(BM_WarmFrame, QImage::Format_ARGB32)->Apply(Sizes);
 
 int main(int argc, char** argv)
 {
-    // Large blocks always come fresh from the system and go back to it, as they do in a new process. With
-    // what the allocator learns while it runs, the order of the benchmarks would decide what the plain
-    // frame's two temporary images cost.
+    // Large blocks always come from the system and go back to it, as in a new process. An allocator that
+    // adapts would let the order of the benchmarks decide what the plain frame's two temporary images cost.
     constexpr int c_nMmapThreshold = 128 * 1024;
     mallopt(M_MMAP_THRESHOLD, c_nMmapThreshold);
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -34,7 +34,7 @@ SSource Source(int nWidth, int nHeight)
     return source;
 }
 
-/// The least processor time of some rounds, in seconds: what the machine does besides is left out.
+/// The shortest processor time of several rounds, in seconds: other load on the machine does not count.
 template <class TFunc>
 double BestSeconds(int nRounds, const TFunc& func)
 {

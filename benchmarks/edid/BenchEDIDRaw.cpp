@@ -16,7 +16,7 @@ extern "C" {
 
 namespace {
 
-// Read back in every round, so that nothing is calculated ahead.
+/// Read back in every round, so that nothing is calculated ahead.
 int g_nWidth = 1920;
 int g_nHeight = 1080;
 float g_fRate = 60.0F;
@@ -81,7 +81,7 @@ public:
             m_mapTimes[run.benchmark_name()] = run.GetAdjustedCPUTime();
     }
 
-    /// Prints how long one takes in times of another, when both have run.
+    /// Prints the ratio of two times when both have run.
     void PrintRatio(const std::string& strName, const std::string& strOther, double dMost) const
     {
         const auto it = m_mapTimes.find(strName);

@@ -1,5 +1,5 @@
-// What the chart pays for geometry. Nothing here has a fast path; the same questions in plain double stand
-// beside for comparison.
+// What geometry costs the chart. Nothing here has a fast path; the same questions in plain double are
+// measured for comparison.
 
 #include "SenderModuleDialog/geometry/CalcChromaRatio.h"
 #include "SenderModuleDialog/geometry/Line.h"
@@ -18,7 +18,7 @@ using Triangle = std::vector<CPointEx<float>>;
 
 constexpr int c_nSegments = 1024;
 
-// Whole numbers of the generator itself: the same input on every machine.
+/// Whole numbers of the generator itself: the same input on every machine.
 std::vector<CPointEx<float>> RandomPoints(int nCount)
 {
     std::mt19937 generator(20260);
@@ -81,7 +81,7 @@ void GrahamScan(benchmark::State& state)
 // 471 is the number of wavelengths of the colour-matching table.
 BENCHMARK(GrahamScan)->Arg(12)->Arg(100)->Arg(471);
 
-// The chromaticities of two common colour standards.
+/// The chromaticities of two common colour standards.
 const Triangle c_triangleNtsc = {{0.67F, 0.33F}, {0.21F, 0.71F}, {0.14F, 0.08F}};
 const Triangle c_triangleSrgb = {{0.64F, 0.33F}, {0.30F, 0.60F}, {0.15F, 0.06F}};
 

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Blocks of many modes, so that no branch is learnt by heart.
+/// Blocks of many modes, so that no branch predictor learns them.
 std::vector<QByteArray> Blocks()
 {
     constexpr int c_nBlocks = 1000;
@@ -77,7 +77,7 @@ void Decoder(benchmark::State& state)
 BENCHMARK(ExplainAndCheck)->Unit(benchmark::kMillisecond);
 BENCHMARK(Decoder)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-/// Notes how many blocks each does in a second.
+/// Reports blocks per second.
 class CRates : public benchmark::ConsoleReporter
 {
 public:

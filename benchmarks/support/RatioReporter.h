@@ -12,7 +12,7 @@
 /// Prints the usual table and then, for each subject, every contender's time and its ratio to the library's.
 ///
 /// Benchmarks are named `subject/contender`; the contender `library` is what the others are divided by. Of
-/// repeated runs the fastest counts: on a busy machine it is the one that says most about the code.
+/// repeated runs the fastest counts, because a busy machine disturbed it least.
 class CRatioReporter : public benchmark::ConsoleReporter
 {
 public:

@@ -96,7 +96,7 @@ void Readings(benchmark::State& state)
     }
 }
 
-/// The step with the side away: the chart with its overlay.
+/// The step with the side panel hidden: the chart with its overlay.
 void ChartAlone(benchmark::State& state)
 {
     CDraggedPage dragged(CColourPage::enReadingsTab);

@@ -31,9 +31,9 @@
 
 namespace {
 
-constexpr int c_nSenderType = 46;    // a video processor
-constexpr int c_nInterfaceId = 16;   // its first HDMI input
-constexpr int c_nLargestSide = 4096; // pixels
+constexpr int c_nSenderType = 46;    ///< a video processor
+constexpr int c_nInterfaceId = 16;   ///< its first HDMI input
+constexpr int c_nLargestSide = 4096; ///< pixels
 constexpr int c_nLargestArea = 8847360;
 constexpr unsigned int c_nUsed = 0xE0832001;
 

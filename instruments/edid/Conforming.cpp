@@ -24,10 +24,10 @@ constexpr qint64 c_nLowestClock = 10000000;
 constexpr int c_nMmPerCm = 10;
 
 /// The mode of a base block whose display has one that does not fit there: every computer knows it.
-constexpr int c_nCommonMode = 0x52; // DMT: 1920x1080 at 60 Hz
+constexpr int c_nCommonMode = 0x52; ///< DMT: 1920x1080 at 60 Hz
 
 /// Modes that every computer starts with; a display offers those that are not larger than its own.
-constexpr quint8 c_arrStartModes[] = {0x04, 0x09, 0x10}; // DMT: 640x480, 800x600, 1024x768 at 60 Hz
+constexpr quint8 c_arrStartModes[] = {0x04, 0x09, 0x10}; ///< DMT: 640x480, 800x600, 1024x768 at 60 Hz
 
 QString NameOf(const SConformRequest& request)
 {

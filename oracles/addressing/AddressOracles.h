@@ -4,8 +4,8 @@
 #include <functional>
 #include <vector>
 
-/// The four runs over addresses once more, each as one plain loop over octets kept apart, without a line in
-/// common with the library.
+/// The four runs over addresses again, each as one plain loop over separate octets. They share no code with
+/// the library.
 namespace AddressOracles {
 
 using FHasError = std::function<bool(unsigned int nIP)>;

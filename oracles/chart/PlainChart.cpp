@@ -38,7 +38,7 @@ CPoint Narrow(QPointF pt)
     return {float(pt.x()), float(pt.y())};
 }
 
-// a*x + b*y + c = 0
+/// a*x + b*y + c = 0
 struct SPlainLine
 {
     float a;
@@ -63,7 +63,7 @@ float Length(CPoint ptA, CPoint ptB)
     return std::sqrt(dx * dx + dy * dy);
 }
 
-// Steps 1 to 5 of the solving: the crossing with the cone's side.
+/// Steps 1 to 5 of the solving: the crossing with the cone's side.
 bool Crossing(CPoint ptW, CPoint ptCur, CPoint ptA, CPoint ptB, CPoint& ptX)
 {
     const float k = Length(ptW, ptA) / Length(ptB, ptW);

@@ -53,7 +53,7 @@ long long VerticalSync(long long nWidth, long long nHeight)
 struct SLines
 {
     long long nActive;
-    long long nMargin; // at top and bottom
+    long long nMargin; ///< at top and bottom
     long long nSync;
     bool bInterlaced;
 };

@@ -9,8 +9,8 @@
 
 #include <algorithm>
 
-// The contents of the catalogue file. Limits, sets of inputs and families have names, so each is
-// written only once.
+/// The contents of the catalogue file. Limits, sets of inputs and families have names, so each is
+/// written only once.
 struct SCatalogueLimit
 {
     QString strName;

@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr int c_nMaximum = 100; // per cent
-constexpr int c_nWidth = 300;   // pixels
+constexpr int c_nMaximum = 100; ///< per cent
+constexpr int c_nWidth = 300;   ///< pixels
 
 QString BarStyle()
 {

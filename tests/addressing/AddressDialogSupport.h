@@ -10,7 +10,7 @@
 /// What the tests of the address dialogs share.
 namespace AddressDialogSupport {
 
-/// The local addresses that the dialogs see, for as long as this lives.
+/// The local addresses that the dialogs see while this object lives.
 class CLocalAddressScript
 {
 public:

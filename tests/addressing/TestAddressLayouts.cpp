@@ -17,7 +17,7 @@
 
 using namespace AddressDialogSupport;
 
-/// Margins, spacings, stretches and styles of the address dialogs: what no picture tells to the pixel.
+/// Margins, spacings, stretches and styles of the address dialogs: a picture does not show them to the pixel.
 class TestAddressLayouts : public QObject
 {
     Q_OBJECT

@@ -45,7 +45,7 @@ const char* const c_arrNotInTheTree[] = {
     "share/SenderModuleDialog/", // below the prefix of an installation
 };
 
-/// Endings that make a file's name of a word.
+/// Suffixes by which a word counts as a file name.
 const char* const c_arrSuffixes[] = {".h",  ".cpp", ".md",  ".txt", ".cmake",
                                      ".sh", ".py",  ".png", ".map", ".json"};
 
@@ -136,7 +136,7 @@ QStringList CodeSpans(const QString& strText)
     return listSpans;
 }
 
-/// What links to the headings of a document are called: small letters, and dashes for blanks.
+/// The anchors of a document's headings: lower case, with dashes for blanks.
 QSet<QString> Anchors(const QString& strText)
 {
     static const QRegularExpression s_regHeading(L("^#+ (.*)$"), QRegularExpression::MultilineOption);
@@ -238,7 +238,7 @@ QStringList TrimmedLines(const QString& strText)
     return listLines;
 }
 
-/// Whether all lines occur in the same order, with others between them perhaps.
+/// Whether all lines occur in this order, possibly with others between them.
 bool ContainsInOrder(const QStringList& listAll, const QStringList& listSome)
 {
     auto itNext = listSome.cbegin();
@@ -342,7 +342,7 @@ void TestDocuments::EveryHeadingHasAText()
 {
     QFETCH(QString, document);
     static const QRegularExpression s_regHeading(L("^(#+) "));
-    // A heading is done for by a text, or by a deeper heading, which then needs a text itself.
+    // A heading needs a text below it, or a deeper heading that has one.
     QString strOpen;
     int nOpenLevel = 0;
     QStringList listEmpty;

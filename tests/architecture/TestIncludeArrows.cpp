@@ -218,7 +218,7 @@ QString Complaint(const QString& strPath, const QString& strText)
     while (itMatch.hasNext()) {
         const QRegularExpressionMatch match = itMatch.next();
         const QString strInclude = match.captured(2);
-        // What AUTOMOC makes of a source stays beside it.
+        // AUTOMOC writes this file, and the source includes it.
         if (strInclude.endsWith(L(".moc")) || IsAllowed(*pLayer, strInclude, match.captured(1) == L("<")))
             continue;
         return L("%1: %2 may not include %3").arg(strPath, pLayer->strName, strInclude);

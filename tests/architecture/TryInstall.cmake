@@ -56,7 +56,7 @@ foreach(FILE ${PC_FILE} ${CONFIG_FILES})
     endif()
 endforeach()
 
-# The headers include each other and nothing that stayed behind.
+# Installed headers include only installed headers.
 file(GLOB INCLUDE_FOLDER "${PREFIX}/include/SenderModuleDialog-*")
 file(GLOB_RECURSE HEADERS "${INCLUDE_FOLDER}/*.h")
 foreach(HEADER IN LISTS HEADERS)

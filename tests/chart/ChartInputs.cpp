@@ -8,7 +8,7 @@
 
 namespace {
 
-// Values at which comparisons change sides, and values that are no chromaticities at all.
+/// Values at which comparisons change sides, and values that are no chromaticities at all.
 constexpr float c_arrHostile[] = {
     0.0F,
     -0.0F,

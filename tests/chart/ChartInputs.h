@@ -19,11 +19,11 @@ public:
     CChartInputs(unsigned int nSeed, const QVector<QPointF>& vecLocus);
 
     CPointEx<float> Point();
-    /// A point that is a real colour more often than not, and always a number.
+    /// A point that is usually a real colour, and never NaN.
     CPointEx<float> OrdinaryPoint();
     /// A group of points of either kind; the flags at random.
     SChromaGroupInfo Group();
-    /// A group with points that are numbers.
+    /// A group without NaN.
     SChromaGroupInfo OrdinaryGroup();
     /// A whole number from nFirst to nLast.
     int Whole(int nFirst, int nLast);

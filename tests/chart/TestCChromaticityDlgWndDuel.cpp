@@ -16,7 +16,7 @@ private Q_SLOTS:
 
 namespace {
 
-// The answer of a host that looks at the numbers alone, and offers a point of its own now and then.
+/// The answer of a host that looks at the numbers alone, and offers a point of its own now and then.
 bool Answer(int nTurn, QPointF& ptNearest)
 {
     if (nTurn % 3 == 0)

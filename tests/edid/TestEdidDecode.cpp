@@ -9,9 +9,9 @@
 namespace {
 
 // What the block declares as its monitor's range.
-constexpr double c_dLowestLineRate = 30.0;   // kHz
-constexpr double c_dHighestLineRate = 153.0; // kHz
-constexpr double c_dHighestClock = 170.0;    // MHz
+constexpr double c_dLowestLineRate = 30.0;   ///< kHz
+constexpr double c_dHighestLineRate = 153.0; ///< kHz
+constexpr double c_dHighestClock = 170.0;    ///< MHz
 
 // What `edid-decode --check` may complain of. Any other line fails the test.
 

@@ -17,7 +17,7 @@
 
 #include <memory>
 
-/// What the settings dialogs share.
+/// What the dialogs share.
 class TestDialogFrame : public QObject
 {
     Q_OBJECT
@@ -81,7 +81,7 @@ void TestDialogFrame::EachControlGetsItsStyleAndTheHostsFont()
 
 void TestDialogFrame::ASpinBoxKeepsTheSelectorThatItIsGiven()
 {
-    // One dialog's selector is misspelt, and stays so.
+    // Intentional: the selector of one dialog is misspelt.
     QDoubleSpinBox spinBox;
     DialogFrame::StyleSpinBox(&spinBox, "QSpinxBox");
     QCOMPARE(spinBox.styleSheet(), GetFontStyleSheet(g_doubleSpinBoxStyle, QStringLiteral("QSpinxBox"), 12));

@@ -12,7 +12,7 @@ namespace {
 
 constexpr float c_fUntouched = -7.0F;
 
-// Opens the outline to the tests.
+/// Opens the outline to the tests.
 class CCalcChromaRatioProbe : public CCalcChromaRatio
 {
 public:
@@ -363,7 +363,7 @@ void TestCalcChromaRatio::TheWrapOfTheEdgeTestIsThatOfATriangle()
     QFETCH(std::vector<Point>, vecPoints);
     QFETCH(Point, pt);
     QFETCH(bool, bExpected);
-    // Exactly so many points on the heap: a read beyond them is seen by a sanitizer.
+    // Exactly this many points on the heap, so that a sanitizer sees a read beyond them.
     std::vector<Point> vecExact(vecPoints.begin(), vecPoints.end());
     QCOMPARE(CCalcChromaRatio::G_IsPointInPolygon2(pt, vecExact.data(), int(vecExact.size())), bExpected);
     QCOMPARE(CCalcChromaRatio::G_IsPointInPolygon(&vecExact, pt), bExpected);

@@ -16,17 +16,17 @@ namespace {
 constexpr int c_nGrid = 1024;
 constexpr int c_nSmallGrid = 256;
 
-// Nearer than this to an edge the tolerances of single precision have a say, and the oracle has none. The
-// edge test of the triangles reaches farthest: to the root of half its 2^-23 times the edge's length.
+/// Nearer than this to an edge the tolerances of single precision decide, and the oracle has none. The edge
+/// test of the triangles reaches farthest: to the root of half its 2^-23 times the edge's length.
 constexpr double c_dClear = 1e-3;
 
-// What the areas of a fan in single precision may be wrong by, in parts of the reference: thin triangles lose
-// half of the digits in Heron's formula.
+/// The largest relative error of a fan's area in single precision: thin triangles lose half of the digits in
+/// Heron's formula.
 constexpr double c_dRatioTolerance = 5e-3;
 
 QPointF GridPoint(int nGrid, int nFrom, int nTo)
 {
-    // The whole range from the first case on: small coordinates make small triangles, which tell nothing.
+    // The whole range from the first case on: small coordinates make small triangles, which prove nothing.
     const auto generator = rc::gen::resize(rc::kNominalSize, rc::gen::inRange(nFrom, nTo + 1));
     const int nX = *generator;
     const int nY = *generator;
@@ -69,7 +69,7 @@ PlainGeometry::Polygon Cloud()
     return vecPoints;
 }
 
-// A counter-clockwise triangle that is not too small to measure.
+/// A counter-clockwise triangle that is not too small to measure.
 PlainGeometry::Polygon WideTriangle()
 {
     PlainGeometry::Polygon triangle = UnitPoints(c_nGrid, 3);
@@ -96,7 +96,7 @@ int SignOf(double dValue)
     return (dValue > 0.0) - (dValue < 0.0);
 }
 
-// Strictly across: each segment's ends lie on different sides of the other's line.
+/// Strictly across: each segment's ends lie on different sides of the other's line.
 bool IsProperCrossing(const PlainGeometry::Polygon& ends)
 {
     using PlainGeometry::Cross;
@@ -160,7 +160,7 @@ void TestGeometryProperties::ACrossingLiesOnBothSegments()
     QVERIFY(PropertyHolds("the crossing lies on both segments", [] {
         const PlainGeometry::Polygon ends = UnitPoints(c_nSmallGrid, 4);
         RC_PRE(IsProperCrossing(ends));
-        // Nearly parallel segments have no crossing to speak of.
+        // Nearly parallel segments have no well-defined crossing.
         const QPointF ptP = ends[1] - ends[0];
         const QPointF ptQ = ends[3] - ends[2];
         RC_PRE(std::abs(PlainGeometry::Cross(QPointF(), ptP, ptQ)) > 1e-2);

@@ -21,7 +21,7 @@ CLine Through(Point ptFirst, Point ptSecond)
     return {ptFirst, ptSecond};
 }
 
-// Some line to be overwritten.
+/// Some line to be overwritten.
 CLine AnyLine()
 {
     return Through({0.5F, 0.25F}, {0.75F, 0.125F});

@@ -10,7 +10,7 @@
 
 namespace {
 
-// Opens the working vector to the tests.
+/// Opens the working vector to the tests.
 class CPolygonProbe : public CPolygon
 {
 public:
@@ -35,13 +35,13 @@ Points Square()
     return {{0, 0}, {1, 0}, {1, 1}, {0, 1}};
 }
 
-// Open to the right: the average of its vertices, (2.25, 1.5), lies in the notch.
+/// Open to the right: the average of its vertices, (2.25, 1.5), lies in the notch.
 Points Bracket()
 {
     return {{0, 0}, {4, 0}, {4, 1}, {1, 1}, {1, 2}, {4, 2}, {4, 3}, {0, 3}};
 }
 
-// A dent from below, and no edge that is level or vertical. The average of the vertices is (4, 2).
+/// A dent from below, and no edge that is level or vertical. The average of the vertices is (4, 2).
 Points Dart()
 {
     return {{0, 0}, {4, 2}, {8, 0}, {4, 6}};
@@ -345,9 +345,9 @@ void TestPolygon::TheScanFaultsOutsideItsContract_data()
 {
     QTest::addColumn<CPolygonProbe>("polygon");
     QTest::addColumn<QByteArray>("strExpression");
-    QTest::newRow("no points") << CPolygonProbe(Points()) << QByteArray("size() >= c_nMinHullPoints");
+    QTest::newRow("no points") << CPolygonProbe(Points()) << QByteArray("size() >= c_nMinPolygonPoints");
     QTest::newRow("two points") << CPolygonProbe(Points{{0, 0}, {1, 1}})
-                                << QByteArray("size() >= c_nMinHullPoints");
+                                << QByteArray("size() >= c_nMinPolygonPoints");
     QTest::newRow("not prepared") << CPolygonProbe(QPolygonF(Square()))
                                   << QByteArray("m_vecHullPoints.size() == size()");
 }

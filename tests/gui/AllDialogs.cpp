@@ -88,7 +88,7 @@ FuncMake Plain(TArguments... arguments)
 
 } // namespace
 
-std::vector<SLook> Looks()
+std::vector<SVariant> Variants()
 {
     return {
         {"canvas", Canvas(SCanvasLimit())},

@@ -9,20 +9,20 @@
 #include <memory>
 #include <vector>
 
-/// Every dialog of the library in each of its looks, for tests that walk them all.
+/// Every dialog of the library in each of its variants, for tests that walk them all.
 namespace AllDialogs {
 
 /// Sets up a host and builds a dialog on it.
 using FuncMake = std::function<std::unique_ptr<QDialog>(CRecordingHost& host)>;
 
-struct SLook
+struct SVariant
 {
     const char* szName;
     FuncMake funcMake;
 };
 
-/// All looks, each with every row that it can show.
-std::vector<SLook> Looks();
+/// All variants, each with every row that it can show.
+std::vector<SVariant> Variants();
 
 } // namespace AllDialogs
 

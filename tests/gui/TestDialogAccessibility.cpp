@@ -53,19 +53,19 @@ private Q_SLOTS:
     void NoTwoControlsOfADialogHaveOneObjectName();
 
 private:
-    static void AddLooks();
+    static void AddVariants();
 };
 
-void TestDialogAccessibility::AddLooks()
+void TestDialogAccessibility::AddVariants()
 {
     QTest::addColumn<AllDialogs::FuncMake>("funcMake");
-    for (const auto& [szName, funcMake] : AllDialogs::Looks())
+    for (const auto& [szName, funcMake] : AllDialogs::Variants())
         QTest::newRow(szName) << funcMake;
 }
 
 void TestDialogAccessibility::EveryControlHasAName_data()
 {
-    AddLooks();
+    AddVariants();
 }
 
 void TestDialogAccessibility::EveryControlHasAName()
@@ -84,7 +84,7 @@ void TestDialogAccessibility::EveryControlHasAName()
 
 void TestDialogAccessibility::EveryCaptionLeadsToItsControl_data()
 {
-    AddLooks();
+    AddVariants();
 }
 
 /// The controls without a caption are few and known.
@@ -110,7 +110,7 @@ void TestDialogAccessibility::EveryCaptionLeadsToItsControl()
 
 void TestDialogAccessibility::NoTwoControlsOfADialogHaveOneObjectName_data()
 {
-    AddLooks();
+    AddVariants();
 }
 
 void TestDialogAccessibility::NoTwoControlsOfADialogHaveOneObjectName()

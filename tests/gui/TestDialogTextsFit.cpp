@@ -68,7 +68,7 @@ void TestDialogTextsFit::NoTextIsCut_data()
 {
     QTest::addColumn<AllDialogs::FuncMake>("funcMake");
     QTest::addColumn<bool>("bEnglish");
-    for (const auto& [szName, funcMake] : AllDialogs::Looks()) {
+    for (const auto& [szName, funcMake] : AllDialogs::Variants()) {
         QTest::addRow("%s, Chinese", szName) << funcMake << false;
         QTest::addRow("%s, English", szName) << funcMake << true;
     }
@@ -92,7 +92,7 @@ void TestDialogTextsFit::NoTextIsCut()
 void TestDialogTextsFit::NoDialogIsResizable_data()
 {
     QTest::addColumn<AllDialogs::FuncMake>("funcMake");
-    for (const auto& [szName, funcMake] : AllDialogs::Looks())
+    for (const auto& [szName, funcMake] : AllDialogs::Variants())
         QTest::newRow(szName) << funcMake;
 }
 

@@ -12,7 +12,7 @@
 #include <QSlider>
 #include <QtTest>
 
-/// Margins, spacings, stretches and styles of the output dialogs: what no picture tells to the pixel.
+/// Margins, spacings, stretches and styles of the output dialogs: a picture does not show them to the pixel.
 class TestOutputLayouts : public QObject
 {
     Q_OBJECT

@@ -27,7 +27,7 @@ namespace {
 constexpr int c_nUsageError = 2;
 constexpr int c_nDefaultEvents = 50000;
 
-/// Runs shorter than this are all warm-up, and say nothing about memory.
+/// Shorter runs are all warm-up and prove nothing about memory.
 constexpr int c_nEventsForMemory = 500000;
 /// Memory at the end, as a part of that after the warm-up.
 constexpr double c_dMostGrowth = 1.05;

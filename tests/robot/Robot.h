@@ -24,7 +24,7 @@ public:
     int Done() const { return m_nDone; }
     double PartDone() const { return double(m_nDone) / double(m_nEvents); }
 
-    /// Shows a window, does up to so many actions, and closes whatever is open.
+    /// Shows a window, does up to nActions actions, and closes whatever is open.
     void Operate(QWidget& window, int nActions);
     /// The same with a dialog that is run modally.
     void OperateModal(QDialog& dialog, int nActions);

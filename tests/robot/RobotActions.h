@@ -18,7 +18,7 @@ public:
     {}
     /// From 0 to nCount - 1; 0 where there is nothing to choose from.
     int Below(int nCount);
-    /// True once in so many times.
+    /// True with a probability of one in nTimes.
     bool OnceIn(int nTimes) { return Below(nTimes) == 0; }
 
 private:

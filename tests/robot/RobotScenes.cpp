@@ -73,7 +73,7 @@ void ResetCoef(CRobot& robot)
     robot.OperateModal(dialog, c_nDialogActions);
 }
 
-/// Gives the address lists so many entries.
+/// Fills the address lists with nCount entries.
 void ListAddresses(int nCount)
 {
     QStringList listEntries;

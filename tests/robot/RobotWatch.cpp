@@ -19,7 +19,7 @@ constexpr int c_nMostFailures = 100;
 /// No action may take longer, milliseconds of processor time.
 constexpr qint64 c_nLongestAction = 1000;
 
-/// From this part of the work on caches are full and memory should stay as it is.
+/// After this part of the work the caches are full, and memory should no longer grow.
 constexpr double c_dWarm = 0.3;
 
 /// Messages of Qt that say nothing about this program, each with its reason.
@@ -40,12 +40,12 @@ constexpr const char* c_arrHarmlessMessages[] = {
     "Mouse event \"MouseRelease\" not accepted by receiving widget",
 };
 
-/// Nothing that the robot does may keep it from the next action for longer, seconds.
+/// The longest time from one action to the next, seconds.
 constexpr unsigned int c_nHangs = 60;
 
 CRobotWatch* s_pWatch = nullptr;
 
-/// Nothing but the raw text and the end: the process hangs somewhere.
+/// Prints the raw text and ends at once: the process hangs somewhere.
 void EndHanging(int nSignal)
 {
     if (s_pWatch != nullptr)

@@ -256,7 +256,7 @@ void TestProjectFile::AGoodFileIsReplaced()
 
 void TestProjectFile::ABrokenFileThatCannotBeKeptIsNotOverwritten()
 {
-    // The name of the copy is longer than a name may be.
+    // The name of the copy exceeds the longest file name.
     const QString strFile = m_dir->filePath(QString(250, QLatin1Char('a')) + Text(".json"));
     QVERIFY(WriteBytes(strFile, "buy milk"));
     SFileProblem problem;

@@ -49,7 +49,7 @@ QJsonValue Another(const QJsonValue& value)
     return AnotherText(value.toString());
 }
 
-/// Hands each copy of a value in which one leaf is another to the visitor, with the leaf's path.
+/// Hands the visitor each copy of a value with one leaf changed, and the leaf's path.
 void ForEachLeaf(const QJsonValue& value, const QString& strPath,
                  const std::function<void(const QString& strLeaf, const QJsonValue& changed)>& funcVisit)
 {

@@ -5,15 +5,15 @@
 
 #include <functional>
 
-/// What became of a process that was expected to end by a fault.
+/// How a process ended that was expected to fault.
 struct SDeath
 {
     bool bAborted = false; ///< it ended by SIGABRT
     QByteArray strOutput;  ///< what it printed to standard error
 };
 
-/// Runs an action in a forked child and tells how it ended. The child writes no core file.
-/// Call it while the test has one thread.
+/// Runs an action in a forked child and reports how it ended. The child writes no core file. Call it while
+/// the test has one thread.
 SDeath RunToDeath(const std::function<void()>& funcAction);
 
 #endif // TESTS_SUPPORT_DEATHTEST_H

@@ -12,7 +12,7 @@ bool SameBitsOf(T actual, T expected)
 {
     if (std::isnan(actual) && std::isnan(expected))
         return true;
-    // Equal values have equal bits, save the two zeros.
+    // Equal values have equal bits, except the two zeros.
     return actual == expected && std::signbit(actual) == std::signbit(expected);
 }
 

@@ -8,7 +8,7 @@
 #include <QWidget>
 
 /// Answers the modal messages that a test expects, in order, by clicking the button with the given value. A
-/// message that nothing is planned for is closed and noted all the same.
+/// message without a planned answer is closed and recorded too.
 class CModalAnswers : public QObject
 {
     Q_OBJECT

@@ -31,12 +31,12 @@ public:
     /// Makes a network of loopback, these interfaces, and default routes through these gateways.
     explicit CNetworkNamespace(const QList<STestInterface>& listInterfaces = {},
                                const QStringList& listGateways = {});
-    /// Goes back to the network where the thread came from.
+    /// Returns the thread to the network that it came from.
     ~CNetworkNamespace();
     CNetworkNamespace(const CNetworkNamespace&) = delete;
     CNetworkNamespace& operator=(const CNetworkNamespace&) = delete;
 
-    /// True when the network stands.
+    /// True when the network is set up.
     bool IsReady() const { return m_strProblem.isEmpty(); }
     /// What went wrong, for the test's message.
     QString Problem() const { return m_strProblem; }
@@ -47,7 +47,7 @@ public:
 
 private:
     void AddInterface(const STestInterface& testInterface);
-    /// The kernel notices a carrier in its own time, and until then the interface does not count as up.
+    /// The kernel notices a carrier after a while; until then the interface does not count as up.
     void WaitForCarrier(const QString& strName);
     /// Runs `ip` with arguments separated by blanks, unless something went wrong before.
     void Run(const QString& strCommand);

@@ -7,8 +7,8 @@
 
 #include <utility>
 
-/// Whether a property holds for generated arguments. The seed is fixed, so that a run tells about the code
-/// and not about luck; set RC_PARAMS, for instance to "seed=7 max_success=100000", for another walk.
+/// Whether a property holds for generated arguments. The seed is fixed, so that runs repeat; set RC_PARAMS,
+/// for instance to "seed=7 max_success=100000", for other arguments.
 template <class TProperty>
 bool PropertyHolds(const char* szDescription, TProperty&& property)
 {

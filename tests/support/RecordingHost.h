@@ -35,7 +35,7 @@ public:
     void Clear() { m_listCalls.clear(); }
     /// Every call.
     QStringList All() const { return m_listCalls; }
-    /// The calls whose name is one of these, in order: for tests that look at writes alone.
+    /// The calls whose name is one of these, in order: for tests that look only at writes.
     QStringList Only(const QStringList& listNames) const;
     /// How often an operation was called.
     int Count(const QString& strName) const { return Only({strName}).size(); }

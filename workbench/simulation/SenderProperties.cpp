@@ -177,7 +177,7 @@ using SProject = SSimulatedProject;
 using SCapability = SSenderCapability;
 using SLimit = SCanvasLimit;
 
-// Faults come first: they are used most. Addressing comes last because it belongs to the project.
+/// Faults come first: they are used most. Addressing comes last because it belongs to the project.
 const std::vector<SSenderProperty> c_vecProperties = {
     Row(c_szFaults, QT_TRANSLATE_NOOP("CSenderPropertyText", "EDID 写入失败"), c_switch, c_writeFails),
     Row(c_szFaults, QT_TRANSLATE_NOOP("CSenderPropertyText", "EDID 写入后不生效"), c_switch,

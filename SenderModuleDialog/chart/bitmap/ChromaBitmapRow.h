@@ -16,7 +16,7 @@ inline constexpr int c_nComponents = 3;
 /// An estimate is counted in such parts of a component, and enlarged by such a part of itself, which is more
 /// than it can be too small.
 inline constexpr double c_dParts = 4096.0;
-inline constexpr double c_dEnlarged = 9.5367431640625e-07; // 2^-20
+inline constexpr double c_dEnlarged = 9.5367431640625e-07; ///< 2^-20
 
 /// One colour component along one row of pixels, as a function of the distance from its line. With a, b, c
 /// the line's coefficients, and every product and sum rounded on its own in this order: the term is

@@ -21,8 +21,8 @@ QPointF ChromaticityOf(const CCCT2ColorCoord& cct, int nTemperature)
     return ptChromaticity;
 }
 
-// A tick stands across the curve, towards lower x and y. Intentional: its x part is divided by the root a
-// second time, which gives the ticks their slant.
+/// A tick stands across the curve, towards lower x and y. Intentional: its x part is divided by the root a
+/// second time, which gives the ticks their slant.
 QPointF TickEnd(QPointF ptFoot, QPointF ptNext)
 {
     const float fSlope = float(-(ptFoot.x() - ptNext.x()) / (ptFoot.y() - ptNext.y()));

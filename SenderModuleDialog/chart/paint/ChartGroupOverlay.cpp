@@ -4,6 +4,7 @@
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 #include "SenderModuleDialog/chart/ChromaPalette.h"
 #include "SenderModuleDialog/geometry/CalcChromaRatio.h"
+#include "SenderModuleDialog/geometry/PointPrecision.h"
 #include "host/OrviControl/CustomDialog.h"
 
 #include <QColor>
@@ -35,8 +36,8 @@ constexpr Qt::GlobalColor c_arrDotColorsCmy[] = {Qt::cyan, Qt::magenta, Qt::yell
 
 /// The legend's font, places and lines.
 constexpr float c_fLegendFontDivisor = 50.0F;
-constexpr int c_nLegendHeightDivisor = 12; // the first row stands so far down the widget
-constexpr double c_dLegendIndent = 30.0;   // pixels, as the four below; all are multiplied by the text ratio
+constexpr int c_nLegendHeightDivisor = 12; ///< of the widget, down to the first row
+constexpr double c_dLegendIndent = 30.0;   ///< pixels, like the next four; multiplied by the text ratio
 constexpr double c_dLegendTextX = 20.0;
 constexpr double c_dLegendTextY = 5.0;
 constexpr double c_dLegendSample = 15.0;
@@ -70,8 +71,8 @@ bool IsHeld(const SHeldPoint& held, int nKey)
     return held.nGroup >= 0 && held.nGroup == nKey;
 }
 
-// While a point of the group is held, the other radii keep what they had: together with the factor of fixed
-// points those shrink from paint to paint until the drag ends. Intentional: operators know it.
+/// While a point of the group is held, the other radii keep what they had: together with the factor of fixed
+/// points those shrink from paint to paint until the drag ends. Intentional: operators know it.
 void SetRadii(DotRadii& radii, float fRadius, const SHeldPoint& held, int nKey)
 {
     if (!IsHeld(held, nKey))
@@ -115,8 +116,8 @@ void DrawGroupLines(QPainter& painter, const CChartMapping& mapping, const SChro
         DrawTriangle(painter, pt1 + pt2 - pt0, pt2 + pt0 - pt1, pt1 + pt0 - pt2);
 }
 
-// Where a place is beyond all pixels, the other side, start + size - 1, still has to be a number. The size of
-// a dot that has shrunk is 0 or below.
+/// Where a place is beyond all pixels, the other side, start + size - 1, still has to be a number. The size
+/// of a dot that has shrunk is 0 or below.
 int DiscStart(double dStart, int nSize)
 {
     using Limits = std::numeric_limits<int>;
@@ -152,18 +153,18 @@ void DrawColourDots(QPainter& painter, const SChartFrame& frame, const SChromaGr
     }
 }
 
-// A disc in single precision, by its corner's offset and its size.
+/// A disc in single precision, by its corner's offset and its size.
 void DrawWhiteDisc(QPainter& painter, CPointEx<float> pt, float fOffset, float fSize)
 {
     DrawDisc(painter, QPointF(double(pt.x - fOffset), double(pt.y - fOffset)), SaturateTo<int>(fSize));
 }
 
-// A disc in the group's colour with a white one in it. Its rim is white whether or not the point may
-// be moved.
+/// A disc in the group's colour with a white one in it. Its rim is white whether or not the point may
+/// be moved.
 void DrawWhiteDot(QPainter& painter, const SChartFrame& frame, const SChromaGroupInfo& group, float fRadius)
 {
     const QPointF ptPixel = frame.mapping.ToPixel(group.ptWhite);
-    const CPointEx<float> pt(float(ptPixel.x()), float(ptPixel.y()));
+    const CPointEx<float> pt = Narrowed(ptPixel);
     painter.setPen(QPen(Qt::white, c_dWhiteDotRim));
     painter.setBrush(ColorOf(group));
     DrawWhiteDisc(painter, pt, fRadius + 1.0F, 2.0F * (fRadius + 1.0F));
@@ -193,8 +194,8 @@ QString NoteText(ChromaGroups& mapGroups, int nKey, const SChromaGroupInfo& grou
     return nKey == enOutputColorSpace ? OutputSpaceText(mapGroups, walk) : group.strName;
 }
 
-// Calls an action with the text of each group that has a note. Asking for the coverage may put an empty entry
-// into the map behind the group; the walk then meets it.
+/// Calls an action with the text of each group that has a note. Asking for the coverage may put an empty
+/// entry into the map behind the group; the walk then meets it.
 template <class TAction>
 void ForEachNote(ChromaGroups& mapGroups, enLegendWalk walk, SSourcePlace place, TAction action)
 {
@@ -215,7 +216,7 @@ int WidestNote(ChromaGroups& mapGroups, const QFont& font, SSourcePlace place)
     return nWidest;
 }
 
-// Solid for a red byte of 0 or 255, else dashed. Intentional: the red byte alone decides.
+/// Solid for a red byte of 0 or 255, else dashed. Intentional: the red byte alone decides.
 QPen SamplePen(const SChromaGroupInfo& group)
 {
     QPen pen(ColorOf(group), c_dLegendLineWidth);

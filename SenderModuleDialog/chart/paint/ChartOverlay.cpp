@@ -42,9 +42,9 @@ constexpr double c_dLabelDrop = 10.0;
 constexpr int c_nTipsQuarters = 3;
 constexpr int c_nTipsSixths = 5;
 constexpr double c_dTipsWidthDivisor = 5.0;
-constexpr double c_dTipsHeight = 1.5;             // in font sizes
-constexpr int c_nTipsRowPitch = 2;                // in font sizes
-constexpr double c_dTipsTemperatureWidth = 0.125; // in scales
+constexpr double c_dTipsHeight = 1.5;             ///< in font sizes
+constexpr int c_nTipsRowPitch = 2;                ///< in font sizes
+constexpr double c_dTipsTemperatureWidth = 0.125; ///< in scales
 constexpr int c_nTipsDecimals = 4;
 /// The rows are lower than a line of text: cut at their boxes they would lose its lowest pixels.
 constexpr int c_nTipsRowFlags = Qt::AlignCenter | Qt::TextDontClip;

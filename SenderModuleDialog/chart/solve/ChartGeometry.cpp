@@ -8,9 +8,6 @@
 
 namespace {
 
-// A polygon has at least so many points.
-constexpr int c_nMinPolygonPoints = 3;
-
 bool IsClose(float fFirst, float fSecond)
 {
     return std::abs(fFirst - fSecond) < c_fVertexReach;
@@ -23,7 +20,7 @@ float DistanceOf(CPointEx<float> ptFirst, CPointEx<float> ptSecond)
     return std::sqrt(fDX * fDX + fDY * fDY);
 }
 
-// The step off the boundary, away from the outside point.
+/// The step off the boundary, away from the outside point.
 CPointEx<float> InwardStep(CPointEx<float> pt, CPointEx<float> ptFrom)
 {
     const float fSlope = CLine::GetSlop(pt, ptFrom);
@@ -34,8 +31,8 @@ CPointEx<float> InwardStep(CPointEx<float> pt, CPointEx<float> ptFrom)
     return {fDX, fDY};
 }
 
-// A second point on the bisector of the angle A W B: the middle between A and the point on the ray towards B
-// that is as far from W as A.
+/// A second point on the bisector of the angle A W B: the middle between A and the point on the ray towards B
+/// that is as far from W as A.
 CPointEx<float> OnBisector(CPointEx<float> ptWhite, CPointEx<float> ptA, CPointEx<float> ptB)
 {
     const float fRatio = DistanceOf(ptWhite, ptA) / DistanceOf(ptB, ptWhite);
@@ -44,8 +41,8 @@ CPointEx<float> OnBisector(CPointEx<float> ptWhite, CPointEx<float> ptA, CPointE
     return {(ptQ.x + ptA.x) / 2.0F, (ptQ.y + ptA.y) / 2.0F};
 }
 
-// Where two lines meet; nothing only when the ratios of their coefficients are exactly equal. The crossing
-// operator of CLine would refuse lines that are merely nearly parallel.
+/// Where two lines meet; nothing only when the ratios of their coefficients are exactly equal. The crossing
+/// operator of CLine would refuse lines that are merely nearly parallel.
 std::optional<CPointEx<float>> Meet(const CLine& lineE, const CLine& lineN)
 {
     if (lineE.A() / lineN.A() == lineE.B() / lineN.B())

@@ -7,8 +7,8 @@
 
 namespace {
 
-// The box that catches a point, edges included. The edges are whole numbers; a NaN point has a box that
-// catches nothing.
+/// The box that catches a point, edges included. The edges are whole numbers; a NaN point has a box that
+/// catches nothing.
 struct SHitBox
 {
     float fLeft;
@@ -23,7 +23,7 @@ struct SHitBox
     }
 };
 
-// As large as a dot that is not held, in single precision.
+/// As large as a dot that is not held, in single precision.
 SHitBox BoxOf(CPointEx<float> pt, const CChartMapping& mapping)
 {
     const float fRadius = mapping.DotRadius();

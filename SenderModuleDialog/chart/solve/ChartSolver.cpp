@@ -12,19 +12,19 @@ using namespace ChartGeometry;
 
 namespace {
 
-// How near to its target a dragged white snaps, chromaticity units.
+/// How near to its target a dragged white snaps, chromaticity units.
 constexpr double c_dSnapDistance = 0.025;
 
 constexpr int c_nTriangleVertices = 3;
 
-// The two other vertices of each vertex, in the order in which the solving takes them.
+/// The two other vertices of each vertex, in the order in which the solving takes them.
 constexpr std::size_t c_arrOtherVertices[c_nTriangleVertices][2] = {
     {enGreenPoint, enBluePoint},
     {enRedPoint, enBluePoint},
     {enRedPoint, enGreenPoint},
 };
 
-// A triangle's vertices by point index.
+/// A triangle's vertices by point index.
 std::array<CPointEx<float>, c_nTriangleVertices> VerticesOf(const SChromaTriangle& triangle)
 {
     return {triangle.ptRed, triangle.ptGreen, triangle.ptBlue};
@@ -35,7 +35,7 @@ CPointEx<float> MiddleOf(CPointEx<float> ptFirst, CPointEx<float> ptSecond)
     return {(ptFirst.x + ptSecond.x) / 2.0F, (ptFirst.y + ptSecond.y) / 2.0F};
 }
 
-// The vertex opposite to the first midpoint, whose edge holds it between the two others.
+/// The vertex opposite to the first midpoint, whose edge holds it between the two others.
 CPointEx<float> VertexOf(CPointEx<float> ptOpposite, CPointEx<float> ptFirst, CPointEx<float> ptSecond)
 {
     return {ptFirst.x + ptSecond.x - ptOpposite.x, ptFirst.y + ptSecond.y - ptOpposite.y};
@@ -60,7 +60,7 @@ SChromaTriangle WithVertex(const SChromaTriangle& triangle, int nPoint, CPointEx
             nPoint == enBluePoint ? pt : triangle.ptBlue};
 }
 
-// The triangle whose edges have these midpoints.
+/// The triangle whose edges have these midpoints.
 SChromaTriangle TriangleOfMidpoints(const SChromaTriangle& middles)
 {
     const auto& [ptCyan, ptMagenta, ptYellow] = middles;
@@ -74,7 +74,7 @@ SChromaTriangle MidpointsOfTriangle(const SChromaTriangle& triangle)
     return {MiddleOf(ptGreen, ptBlue), MiddleOf(ptRed, ptBlue), MiddleOf(ptRed, ptGreen)};
 }
 
-// The vertex that a white solved close to a corner stands for, else the solved white itself.
+/// The vertex that a white solved close to a corner stands for, else the solved white itself.
 CPointEx<float> SnappedToVertex(CPointEx<float> ptWhite, const SChromaTriangle& triangle)
 {
     const auto vertices = VerticesOf(triangle);
@@ -84,8 +84,8 @@ CPointEx<float> SnappedToVertex(CPointEx<float> ptWhite, const SChromaTriangle& 
     return itVertex == vertices.end() ? ptWhite : *itVertex;
 }
 
-// Where a white goes that is dragged to a point. The distance is tested first: the colour temperature takes
-// a search.
+/// Where a white goes that is dragged to a point. The distance is tested first: the colour temperature takes
+/// a search.
 CPointEx<float> SnappedWhite(CPointEx<float> ptWhite, const SWhiteSnap& snap)
 {
     const QPointF ptAway = Widened(ptWhite) - snap.ptTarget;
@@ -226,8 +226,8 @@ void CChartSolver::DragPoint(SChromaGroupInfo& group, int nPoint, CPointEx<float
     PlaceVertex(group, nPoint, WithVertex(TriangleOf(group), nPoint, ptLegal), ptLegal, ptNearest);
 }
 
-// Puts a vertex where it is wanted if the white lies in the triangle, else onto the white's cone. Where
-// neither is possible it stays.
+/// Puts a vertex where it is wanted if the white lies in the triangle, else onto the white's cone. Where
+/// neither is possible it stays.
 void CChartSolver::PlaceVertex(SChromaGroupInfo& group, int nPoint, const SChromaTriangle& triangle,
                                CPointEx<float> ptWanted, QPointF& ptNearest)
 {

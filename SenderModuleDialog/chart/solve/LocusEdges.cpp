@@ -1,6 +1,8 @@
 #include "SenderModuleDialog/chart/solve/LocusEdges.h"
 
+#include "SenderModuleDialog/geometry/EvenOdd.h"
 #include "SenderModuleDialog/geometry/Line.h"
+#include "SenderModuleDialog/geometry/PointPrecision.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,11 +10,8 @@
 
 namespace {
 
-// Neighbouring edges under one box: the 156 edges of the locus make 13 blocks.
+/// Neighbouring edges under one box: the 156 edges of the locus make 13 blocks.
 constexpr std::size_t c_nBlockEdges = 12;
-
-// A polygon has at least so many points.
-constexpr int c_nMinPolygonPoints = 3;
 
 constexpr float c_fInfinity = std::numeric_limits<float>::infinity();
 
@@ -23,7 +22,7 @@ CLocusEdges::CLocusEdges(const QVector<QPointF>& vecOutline)
     if (vecOutline.size() < c_nMinPolygonPoints)
         return;
     for (const QPointF& pt : vecOutline)
-        m_vecPoints.emplace_back(float(pt.x()), float(pt.y()));
+        m_vecPoints.push_back(Narrowed(pt));
     m_vecPoints.push_back(m_vecPoints.front());
 
     for (std::size_t i = 0; i + 1 < m_vecPoints.size(); ++i) {
@@ -55,8 +54,8 @@ std::optional<CPointEx<float>> CLocusEdges::LastCrossing(CPointEx<float> ptFrom,
     return std::nullopt;
 }
 
-// A segment that is no segment (a coordinate is not a number) lies everywhere: only the full test knows what
-// it makes of it.
+/// A segment that is no segment (a coordinate is not a number) lies everywhere: only the full test knows what
+/// it makes of it.
 CLocusEdges::SBox CLocusEdges::BoxOf(CPointEx<float> ptFirst, CPointEx<float> ptSecond)
 {
     if (std::isunordered(ptFirst.x, ptSecond.x) || std::isunordered(ptFirst.y, ptSecond.y))

@@ -37,7 +37,7 @@ private:
     static SBox Union(const SBox& first, const SBox& second);
     static bool AreApart(const SBox& first, const SBox& second);
 
-    // Point i + 1 ends edge i; the first point stands once more at the end.
+    /// Point i + 1 ends edge i; the first point is repeated at the end.
     std::vector<CPointEx<float>> m_vecPoints;
     std::vector<SBox> m_vecEdgeBoxes;
     std::vector<SBox> m_vecBlockBoxes;

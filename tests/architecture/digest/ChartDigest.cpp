@@ -7,7 +7,7 @@
 
 namespace {
 
-// Rounds of an operation, so that the folder comes to some 100,000 results.
+/// Rounds of an operation, so that the folder comes to some 100,000 results.
 constexpr int c_nRounds = 4000;
 
 /// Three points anywhere and a white that is among them more often than not.

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Rounds of a function, so that the folder comes to some 100,000 results.
+/// Rounds of a function, so that the folder comes to some 100,000 results.
 constexpr int c_nRounds = 8000;
 
 float Temperature(CSequence& sequence)

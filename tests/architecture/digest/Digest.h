@@ -60,9 +60,9 @@ private:
     std::uint64_t m_nCount = 0;
 };
 
-/// The fixed sequence of inputs: a 64-bit linear congruential generator, integers only, so that no library
-/// and no compiler has a say in it. Draw one value a statement, or inside braces: the order of arguments is
-/// open.
+/// The fixed sequence of inputs: a 64-bit linear congruential generator, integers only, so that it depends on
+/// no library and no compiler. Draw one value per statement, or inside braces: arguments are evaluated in no
+/// fixed order.
 class CSequence
 {
 public:
@@ -112,7 +112,7 @@ struct SDigestFunction
     void (*funcRun)(CSequence& sequence, CDigest& digest);
 };
 
-/// @name One table a folder
+/// @name One table per folder
 /// @{
 std::vector<SDigestFunction> GeometryDigests();
 std::vector<SDigestFunction> ColourDigests();

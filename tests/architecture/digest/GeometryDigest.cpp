@@ -8,7 +8,7 @@
 
 namespace {
 
-// Rounds of a function, so that the folder comes to some 100,000 results.
+/// Rounds of a function, so that the folder comes to some 100,000 results.
 constexpr int c_nRounds = 4000;
 constexpr int c_nHulls = 400;
 
@@ -109,7 +109,7 @@ void Nudge(CSequence& sequence, CDigest& digest)
     }
 }
 
-// Multiples of 1/512: every difference and product is exact, so that the hull is beyond dispute.
+/// Multiples of 1/512: every difference and product is exact, so that rounding cannot change the hull.
 QVector<QPointF> Cloud(CSequence& sequence)
 {
     QVector<QPointF> vecPoints = {{0, 0}, {1, 0}, {0, 1}};

@@ -1,4 +1,4 @@
-// Prints one line a function: its name, how many results, and their digest.
+// Prints one line per function: its name, how many results, and their digest.
 
 #include "tests/architecture/digest/Digest.h"
 

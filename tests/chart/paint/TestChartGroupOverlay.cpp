@@ -48,7 +48,7 @@ double WidthOf(const SPaintCall& ellipse)
 
 } // namespace
 
-// The first triangles that the process paints are held: the other radii start as those of this chart.
+/// The first triangles that the process paints are held: the other radii start as those of this chart.
 void TestChartGroupOverlay::initTestCase()
 {
     CTestChart chart;

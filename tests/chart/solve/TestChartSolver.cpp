@@ -45,7 +45,7 @@ private:
 
 namespace {
 
-// Both charts after the same operation, each with its own group and result channel.
+/// Both charts after the same operation, each with its own group and result channel.
 class CSideBySide
 {
 public:

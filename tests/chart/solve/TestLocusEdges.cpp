@@ -34,7 +34,7 @@ QList<CPoint> Narrowed(const QVector<QPointF>& vecOutline, int nCopies = 1)
     return list;
 }
 
-// Empty if both cross at the same place or do not cross.
+/// Empty if both cross at the same place or do not cross.
 QString Difference(const CLocusEdges& edges, const QList<CPoint>& listPlain, CPoint ptFrom, CPoint ptTo)
 {
     CPoint ptPlain(-7.0F, -7.0F);
@@ -94,7 +94,7 @@ void TestLocusEdges::CrossesRepeatedOutlinesLikeOne()
     }
 }
 
-// Outlines that are neither convex nor ordered: edges cross, repeat and shrink to points.
+/// Outlines that are neither convex nor ordered: edges cross, repeat and shrink to points.
 void TestLocusEdges::CrossesAnyOutlineLikeTheWholeWalk()
 {
     CChartInputs inputs(3, CChromaGamutInterpolation().GetQPointFData());

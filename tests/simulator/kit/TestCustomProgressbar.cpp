@@ -92,7 +92,7 @@ void TestCustomProgressbar::TheDialogBelowTakesNoInputUntilItIsClosed()
 
     CCustomProgressbar bar(&dialog, false);
     bar.SetProgressValue(2);
-    // The way of a real click: through the window, and so through the check for modality.
+    // Like a real click: through the window, and so through the check for modality.
     QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, Qt::NoModifier, ptButton);
     bar.SetProgressValue(3);
     bar.CloseProgress();

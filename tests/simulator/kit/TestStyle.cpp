@@ -69,7 +69,7 @@ void TestStyle::AControlCharacterIsEmptyAndHasNoWidth()
 {
     QFETCH(QChar, ch);
     QFont font(GetFontFamily());
-    // A size of its own for each character: which fallbacks a font has loaded so far must not matter.
+    // Each character has its own size, so that fallbacks which a font has already loaded do not matter.
     font.setPixelSize(10 + ch.unicode());
     const QString strFill(97, ch);
     QCOMPARE(QFontMetricsF(font).horizontalAdvance(strFill), 0.0);
