@@ -14,9 +14,9 @@
 #include <memory>
 
 /// @file
-/// A drag step, as a mouse move runs it: the plain procedure's first call (its list grows with every call) and
-/// the chart's. `times_plain` is how much faster the chart is, `late_to_early` how much longer its 10 000th step
-/// takes than its 10th.
+/// A drag step, as a mouse move runs it: the plain procedure's first call (its list grows with every call)
+/// and the chart's. `times_plain` is how much faster the chart is, `late_to_early` how much longer its
+/// 10,000th step takes than its 10th.
 
 namespace {
 

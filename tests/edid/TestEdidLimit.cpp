@@ -1,13 +1,11 @@
-#include "SenderModuleDialog/edid/EdidCommit.h"
 #include "SenderModuleDialog/edid/EdidLimit.h"
-#include "SenderModuleDialog/edid/EdidWindow.h"
 
 #include <QtTest>
 
-#include <cstring>
 #include <limits>
 
-class TestEdidSetDlgLimits : public QObject
+/// The values by which the host judges a resolution.
+class TestEdidLimit : public QObject
 {
     Q_OBJECT
 
@@ -17,17 +15,9 @@ private Q_SLOTS:
     void PixelClock_data();
     void PixelClock();
     void OnlyTheOneTextIsANotice();
-    void WindowSize_data();
-    void WindowSize();
-    void OnlyOneSystemKeepsTheCustomRow();
-    void TheBasicRecordHoldsSizeAndRateAlone();
-    void TheFullRecordByteByByte();
-    void ASizeBeyond16BitsIsCut();
-    void ConnectByte_data();
-    void ConnectByte();
 };
 
-void TestEdidSetDlgLimits::MaxAreaByRate_data()
+void TestEdidLimit::MaxAreaByRate_data()
 {
     constexpr int c_nMax = std::numeric_limits<int>::max();
     QTest::addColumn<int>("area60");
@@ -66,7 +56,7 @@ void TestEdidSetDlgLimits::MaxAreaByRate_data()
         << std::numeric_limits<int>::min() << 4 << std::numeric_limits<int>::min();
 }
 
-void TestEdidSetDlgLimits::MaxAreaByRate()
+void TestEdidLimit::MaxAreaByRate()
 {
     QFETCH(int, area60);
     QFETCH(int, index);
@@ -74,7 +64,7 @@ void TestEdidSetDlgLimits::MaxAreaByRate()
     QCOMPARE(EdidLimit::MaxAreaByRate(area60, index), expected);
 }
 
-void TestEdidSetDlgLimits::PixelClock_data()
+void TestEdidLimit::PixelClock_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("index");
@@ -98,7 +88,7 @@ void TestEdidSetDlgLimits::PixelClock_data()
     QTest::newRow("beyond every clock") << QSize(c_nMax, c_nMax) << 8 << 0 << c_nMax;
 }
 
-void TestEdidSetDlgLimits::PixelClock()
+void TestEdidLimit::PixelClock()
 {
     QFETCH(QSize, size);
     QFETCH(int, index);
@@ -107,91 +97,12 @@ void TestEdidSetDlgLimits::PixelClock()
     QCOMPARE(EdidLimit::PixelClockMHz(size, index, standard), expected);
 }
 
-void TestEdidSetDlgLimits::OnlyTheOneTextIsANotice()
+void TestEdidLimit::OnlyTheOneTextIsANotice()
 {
     QVERIFY(EdidLimit::IsNotice(QStringLiteral("已使用DisplayID 1.3扩展块")));
     QVERIFY(!EdidLimit::IsNotice(QStringLiteral("已使用DisplayID 1.3扩展块。")));
     QVERIFY(!EdidLimit::IsNotice(QString()));
 }
 
-void TestEdidSetDlgLimits::WindowSize_data()
-{
-    QTest::addColumn<int>("flags");
-    QTest::addColumn<bool>("keepsCustomRow");
-    QTest::addColumn<int>("height");
-    for (int nFlags = 0; nFlags < 32; ++nFlags) {
-        const int nFollowing = (nFlags & 1) + (nFlags >> 1 & 1) + (nFlags >> 2 & 1) + (nFlags >> 3 & 1);
-        const bool bCustom = (nFlags & 16) != 0;
-        QTest::addRow("rows %d", nFlags) << nFlags << false << 32 * ((bCustom ? 4 : 3) + nFollowing) + 39;
-        QTest::addRow("rows %d, custom row kept", nFlags) << nFlags << true << 32 * (4 + nFollowing) + 39;
-    }
-}
-
-void TestEdidSetDlgLimits::WindowSize()
-{
-    QFETCH(int, flags);
-    QFETCH(bool, keepsCustomRow);
-    QFETCH(int, height);
-    const EdidWindow::SShownRows rows = {(flags & 1) != 0, (flags & 2) != 0, (flags & 4) != 0,
-                                         (flags & 8) != 0, (flags & 16) != 0};
-    QCOMPARE(EdidWindow::Size(rows, keepsCustomRow), QSize(300, height));
-}
-
-void TestEdidSetDlgLimits::OnlyOneSystemKeepsTheCustomRow()
-{
-    const QString strType = QStringLiteral("kylin");
-    const QString strVersion = QStringLiteral("4.0.2");
-    QVERIFY(EdidWindow::KeepsCustomRow(strType, strVersion));
-    QVERIFY(!EdidWindow::KeepsCustomRow(strType, QStringLiteral("4.0.3")));
-    QVERIFY(!EdidWindow::KeepsCustomRow(QStringLiteral("debian"), strVersion));
-}
-
-void TestEdidSetDlgLimits::TheBasicRecordHoldsSizeAndRateAlone()
-{
-    const SEdidSetting setting = EdidCommit::BasicSetting(QSize(1920, 1080), 60);
-    const unsigned char arrExpected[12] = {0, 60, 0, 0, 0x80, 0x07, 0x38, 0x04, 0, 0, 0, 0};
-    QCOMPARE(std::memcmp(&setting, arrExpected, sizeof arrExpected), 0);
-}
-
-void TestEdidSetDlgLimits::TheFullRecordByteByByte()
-{
-    EdidCommit::SChoice choice;
-    choice.size = QSize(0x1234, 0x0567);
-    choice.byRate = 24;
-    choice.bFractional = true;
-    choice.byFormatFlags = 0x24;
-    choice.byTimingStandard = 1;
-    choice.byConnectPC = 1;
-    const SEdidSetting setting = EdidCommit::FullSetting(choice);
-    const unsigned char arrExpected[12] = {0, 24, 1, 0, 0x34, 0x12, 0x67, 0x05, 0x24, 1, 1, 0};
-    QCOMPARE(std::memcmp(&setting, arrExpected, sizeof arrExpected), 0);
-}
-
-void TestEdidSetDlgLimits::ASizeBeyond16BitsIsCut()
-{
-    const SEdidSetting setting = EdidCommit::BasicSetting(QSize(70000, -1), 60);
-    QCOMPARE(int(setting.wWidth), 65535);
-    QCOMPARE(int(setting.wHeight), 0);
-}
-
-void TestEdidSetDlgLimits::ConnectByte_data()
-{
-    QTest::addColumn<bool>("checked");
-    QTest::addColumn<bool>("always");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("checked: 0") << true << false << 0;
-    QTest::newRow("not checked: 1") << false << false << 1;
-    QTest::newRow("checked, sender that always has it: 1") << true << true << 1;
-    QTest::newRow("not checked, sender that always has it: 1") << false << true << 1;
-}
-
-void TestEdidSetDlgLimits::ConnectByte()
-{
-    QFETCH(bool, checked);
-    QFETCH(bool, always);
-    QFETCH(int, expected);
-    QCOMPARE(int(EdidCommit::ConnectByte(checked, always)), expected);
-}
-
-QTEST_GUILESS_MAIN(TestEdidSetDlgLimits)
-#include "TestEdidSetDlgLimits.moc"
+QTEST_GUILESS_MAIN(TestEdidLimit)
+#include "TestEdidLimit.moc"

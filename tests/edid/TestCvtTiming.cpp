@@ -1,43 +1,17 @@
+#include "SenderModuleDialog/edid/CvtTiming.h"
 #include "oracles/edid/TimingOracle.h"
+#include "tests/edid/TimingInputs.h"
 #include "tests/edid/TimingRecords.h"
 
-#include <QSize>
 #include <QVector>
 
 #include <algorithm>
-#include <cfloat>
-#include <climits>
 #include <cmath>
-#include <limits>
 #include <random>
-#include <vector>
+
+using namespace TimingInputs;
 
 namespace {
-
-constexpr float c_fInf = std::numeric_limits<float>::infinity();
-constexpr float c_fNan = std::numeric_limits<float>::quiet_NaN();
-
-const std::vector<float> c_arrRates = {1.0F,   15.0F,   23.976F, 24.0F,   25.0F,   29.97F, 30.0F,  47.952F,
-                                       48.0F,  50.0F,   59.94F,  60.0F,   71.928F, 72.0F,  75.0F,  85.0F,
-                                       100.0F, 119.88F, 120.0F,  143.9F,  144.0F,  165.0F, 200.0F, 239.76F,
-                                       240.0F, 360.0F,  480.0F,  0.9999F, 1000.0F, 1000.1F};
-
-/// Sizes of ordinary displays, where the aspect ratios meet, and what is right beside them.
-std::vector<QSize> DisplaySizes()
-{
-    const std::vector<QSize> vecListed = {
-        {640, 480},   {720, 480},   {720, 576},   {800, 600},   {1024, 768},  {1152, 864},  {1280, 720},
-        {1280, 768},  {1280, 800},  {1280, 960},  {1280, 1024}, {1360, 768},  {1366, 768},  {1400, 1050},
-        {1440, 900},  {1600, 900},  {1600, 1200}, {1680, 1050}, {1920, 1080}, {1920, 1200}, {2048, 1080},
-        {2048, 1152}, {2048, 1536}, {2560, 1080}, {2560, 1440}, {2560, 1600}, {2560, 2048}, {3440, 1440},
-        {3840, 1080}, {3840, 2160}, {3840, 2400}, {4096, 2160}, {5120, 2880}, {7680, 4320}, {8192, 4320}};
-    std::vector<QSize> vecSizes;
-    for (const QSize& size : vecListed)
-        for (int nMoreWidth = -8; nMoreWidth <= 8; ++nMoreWidth)
-            for (int nMoreHeight = -2; nMoreHeight <= 2; ++nMoreHeight)
-                vecSizes.emplace_back(size.width() + nMoreWidth, size.height() + nMoreHeight);
-    return vecSizes;
-}
 
 /// Sizes over the whole range of the controls, none of them round.
 std::vector<QSize> ScatteredSizes()
@@ -74,7 +48,7 @@ std::vector<QSize> LargestSizes()
 tagSBlankTiming Calculated(const tagSCalTimingIn& in)
 {
     tagSBlankTiming timing = {};
-    CEDIDRaw().CalculateTiming(in, &timing);
+    CvtTiming::Calculate(in, timing);
     return timing;
 }
 
@@ -103,34 +77,60 @@ int PlainVSync(int nWidth, int nHeight)
     return 10;
 }
 
-const std::vector<int> c_arrHostileInts = {0,     -1,    1,        7,       1920,   -1920,
-                                           65535, 65536, 16777217, INT_MAX, INT_MIN};
-const std::vector<float> c_arrHostileRates = {
-    0.0F,   -0.0F,  60.0F,  -60.0F,  FLT_MIN, -FLT_MIN, FLT_MAX, -FLT_MAX, c_fInf,  -c_fInf,
-    c_fNan, 1e-45F, 1e-30F, 2173.9F, 2174.0F, 1818.1F,  1818.2F, 2.2e9F,   -2.2e9F, 9223372036854775808.0F};
-
 } // namespace
 
-class TestTimingGrid : public QObject
+/// The calculated blanking, over a grid of modes beside a second evaluation.
+class TestCvtTiming : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void VerticalSyncTellsTheAspectRatio_data();
+    void VerticalSyncTellsTheAspectRatio();
+    void EveryFieldIsWritten();
     void TheBlankingIsThatOfASecondEvaluation_data();
     void TheBlankingIsThatOfASecondEvaluation();
     void TheVerticalSyncIsThatOfThePlainSteps();
-    void ThePixelFrequencyIsThatOfASecondEvaluation();
-    void TheStoredClockIsThatOfASecondEvaluation();
     void ReducedBlankingLastsAtLeast460Microseconds();
     void NormalBlankingIsAWholeNumberOfCellPairsWithoutGap();
     void WhatNoFieldHoldsIsHeldToItsRange_data();
     void WhatNoFieldHoldsIsHeldToItsRange();
     void HostileInputGivesARecord();
-    void HostileInputGivesABlock();
-    void HostileInputGivesAFrequencyAndAVerdict();
 };
 
-void TestTimingGrid::TheBlankingIsThatOfASecondEvaluation_data()
+void TestCvtTiming::VerticalSyncTellsTheAspectRatio_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("4:3") << 1024 << 768 << 4;
+    QTest::newRow("16:9") << 1920 << 1080 << 5;
+    QTest::newRow("16:10") << 1680 << 1050 << 6;
+    QTest::newRow("5:4") << 1280 << 1024 << 7;
+    QTest::newRow("15:9") << 1280 << 768 << 7;
+    QTest::newRow("any other") << 1000 << 500 << 10;
+    QTest::newRow("a width of one pixel less is still rounded up to 4:3") << 1023 << 768 << 4;
+    QTest::newRow("a width of one pixel more is another ratio") << 1025 << 768 << 10;
+    QTest::newRow("the first candidate wins: 8x6 is 4:3 before 5:4") << 8 << 6 << 4;
+}
+
+void TestCvtTiming::VerticalSyncTellsTheAspectRatio()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    QTEST(int(Calculated({width, height, 60.0F, 0, 1, 0}).byVSync), "expected");
+}
+
+void TestCvtTiming::EveryFieldIsWritten()
+{
+    for (const int nReduced : {0, 1}) {
+        tagSBlankTiming actual = {0xAAAA, 0xAAAA, 0xAAAA, 0xAAAA, 0xAA, 0xAA, 0xAA};
+        CvtTiming::Calculate({1920, 1080, 60.0F, 0, nReduced, 0}, actual);
+        QCOMPARE(actual, Calculated({1920, 1080, 60.0F, 0, nReduced, 0}));
+    }
+}
+
+void TestCvtTiming::TheBlankingIsThatOfASecondEvaluation_data()
 {
     QTest::addColumn<QVector<QSize>>("sizes");
     const auto Add = [](const char* szName, const std::vector<QSize>& vecSizes) {
@@ -142,7 +142,7 @@ void TestTimingGrid::TheBlankingIsThatOfASecondEvaluation_data()
     Add("the largest displays and beyond", LargestSizes());
 }
 
-void TestTimingGrid::TheBlankingIsThatOfASecondEvaluation()
+void TestCvtTiming::TheBlankingIsThatOfASecondEvaluation()
 {
     QFETCH(QVector<QSize>, sizes);
     for (const QSize& size : sizes) {
@@ -160,7 +160,7 @@ void TestTimingGrid::TheBlankingIsThatOfASecondEvaluation()
     }
 }
 
-void TestTimingGrid::TheVerticalSyncIsThatOfThePlainSteps()
+void TestCvtTiming::TheVerticalSyncIsThatOfThePlainSteps()
 {
     // Heights of every magnitude and sign, each with the widths where its ratios begin and end.
     constexpr double c_arrRatios[] = {4.0 / 3.0, 16.0 / 9.0, 16.0 / 10.0, 5.0 / 4.0, 15.0 / 9.0};
@@ -179,48 +179,7 @@ void TestTimingGrid::TheVerticalSyncIsThatOfThePlainSteps()
     }
 }
 
-void TestTimingGrid::ThePixelFrequencyIsThatOfASecondEvaluation()
-{
-    for (const QSize& size : DisplaySizes()) {
-        for (const float fRate : c_arrRates) {
-            for (const int nStandard : {0, 1}) {
-                int nId = -1;
-                CEDIDRaw().MatchTimingID(size.width(), size.height(), int(fRate), &nId);
-                const tagSBlankTiming blank = TimingOracle::Blanking(
-                    {size.width(), size.height(), fRate, 0, nStandard == 0 ? 1 : 0, 0});
-                const int nHBlank = nId < 0 ? blank.wHBlank : timingData[nId].wHBlank;
-                const int nVBlank = nId < 0 ? blank.wVBlank : timingData[nId].wVBlank;
-                const double dExpected = TimingOracle::PixelFrequency(size.width() + nHBlank,
-                                                                      size.height() + nVBlank, double(fRate));
-                const float fActual =
-                    CEDIDRaw().CalReslutionPixelFreq(size.width(), size.height(), fRate, nStandard);
-                if (double(fActual) != dExpected)
-                    QFAIL(qPrintable(QString::asprintf("%dx%d at %g Hz: actual %a, expected %a", size.width(),
-                                                       size.height(), double(fRate), double(fActual),
-                                                       dExpected)));
-            }
-        }
-    }
-}
-
-void TestTimingGrid::TheStoredClockIsThatOfASecondEvaluation()
-{
-    CEDIDRaw edid;
-    for (const QSize& size : DisplaySizes()) {
-        for (const float fRate : c_arrRates) {
-            edid.ChangeWH(size.width(), size.height(), fRate);
-            const QByteArray block = BlockOf(edid);
-            const tagSBlankTiming blank =
-                TimingOracle::Blanking({size.width(), size.height(), fRate, 0, 1, 0});
-            const double dHz = TimingOracle::PixelFrequency(size.width() + blank.wHBlank,
-                                                            size.height() + blank.wVBlank, double(fRate));
-            const int nExpected = int(qint64(dHz) / 10000 % 65536);
-            QCOMPARE(quint8(block[0x36]) | quint8(block[0x37]) << 8, nExpected);
-        }
-    }
-}
-
-void TestTimingGrid::ReducedBlankingLastsAtLeast460Microseconds()
+void TestCvtTiming::ReducedBlankingLastsAtLeast460Microseconds()
 {
     for (const QSize& size : DisplaySizes()) {
         for (const float fRate : c_arrRates) {
@@ -234,7 +193,7 @@ void TestTimingGrid::ReducedBlankingLastsAtLeast460Microseconds()
     }
 }
 
-void TestTimingGrid::NormalBlankingIsAWholeNumberOfCellPairsWithoutGap()
+void TestCvtTiming::NormalBlankingIsAWholeNumberOfCellPairsWithoutGap()
 {
     for (const QSize& size : DisplaySizes()) {
         for (const float fRate : c_arrRates) {
@@ -245,7 +204,7 @@ void TestTimingGrid::NormalBlankingIsAWholeNumberOfCellPairsWithoutGap()
     }
 }
 
-void TestTimingGrid::WhatNoFieldHoldsIsHeldToItsRange_data()
+void TestCvtTiming::WhatNoFieldHoldsIsHeldToItsRange_data()
 {
     QTest::addColumn<tagSCalTimingIn>("in");
     QTest::addColumn<tagSBlankTiming>("expected");
@@ -270,13 +229,13 @@ void TestTimingGrid::WhatNoFieldHoldsIsHeldToItsRange_data()
     // clang-format on
 }
 
-void TestTimingGrid::WhatNoFieldHoldsIsHeldToItsRange()
+void TestCvtTiming::WhatNoFieldHoldsIsHeldToItsRange()
 {
     QFETCH(tagSCalTimingIn, in);
     QTEST(Calculated(in), "expected");
 }
 
-void TestTimingGrid::HostileInputGivesARecord()
+void TestCvtTiming::HostileInputGivesARecord()
 {
     for (const int nWidth : c_arrHostileInts) {
         for (const int nHeight : c_arrHostileInts) {
@@ -294,40 +253,5 @@ void TestTimingGrid::HostileInputGivesARecord()
     }
 }
 
-void TestTimingGrid::HostileInputGivesABlock()
-{
-    CEDIDRaw edid;
-    for (const int nWidth : c_arrHostileInts) {
-        for (const int nHeight : c_arrHostileInts) {
-            for (const float fRate : c_arrHostileRates) {
-                edid.ChangeWH(nWidth, nHeight, fRate);
-                const QByteArray block = BlockOf(edid);
-                unsigned nSum = 0;
-                for (const char ch : block)
-                    nSum += static_cast<unsigned char>(ch);
-                QCOMPARE(nSum % 256, 0U);
-                QCOMPARE(block.left(8), QByteArray::fromHex("00FFFFFFFFFFFF00"));
-                QCOMPARE(block.mid(0x5F, 3), QByteArray("LED"));
-            }
-        }
-    }
-}
-
-void TestTimingGrid::HostileInputGivesAFrequencyAndAVerdict()
-{
-    const CEDIDRaw edid;
-    for (const int nWidth : c_arrHostileInts) {
-        for (const int nHeight : c_arrHostileInts) {
-            for (const float fRate : c_arrHostileRates) {
-                const float fActive = float(qint64(nWidth) * nHeight) * fRate;
-                // No listed mode is among these, so the active pixels alone are judged.
-                const bool bExpected = fActive >= -2147483648.0F && fActive < 160000001.0F;
-                QCOMPARE(edid.IsReslutionOk(nWidth, nHeight, fRate), bExpected);
-                edid.CalReslutionPixelFreq(nWidth, nHeight, fRate, nWidth);
-            }
-        }
-    }
-}
-
-QTEST_APPLESS_MAIN(TestTimingGrid)
-#include "TestTimingGrid.moc"
+QTEST_APPLESS_MAIN(TestCvtTiming)
+#include "TestCvtTiming.moc"

@@ -13,7 +13,8 @@ constexpr float c_fNan = std::numeric_limits<float>::quiet_NaN();
 
 } // namespace
 
-class TestVideoTiming : public QObject
+/// The timing operations as a host calls them.
+class TestEDIDRawTiming : public QObject
 {
     Q_OBJECT
 
@@ -22,15 +23,8 @@ private Q_SLOTS:
     void CalCVTtimingGivesTheExactBlanking();
     void CalculateTimingIsCalCVTtimingWithARecord_data();
     void CalculateTimingIsCalCVTtimingWithARecord();
-    void VerticalSyncTellsTheAspectRatio_data();
-    void VerticalSyncTellsTheAspectRatio();
-    void EveryFieldIsWritten();
     void TheRecordHasItsFieldsInOrder();
-    void TimingDataHoldsTheFixedTimings_data();
-    void TimingDataHoldsTheFixedTimings();
-    void MatchTimingIDFindsTheRow_data();
     void MatchTimingIDFindsTheRow();
-    void MatchTimingIDLeavesTheIdAloneWithoutAMatch_data();
     void MatchTimingIDLeavesTheIdAloneWithoutAMatch();
     void BackPorchIsBlankWithoutFrontAndSync_data();
     void BackPorchIsBlankWithoutFrontAndSync();
@@ -43,7 +37,7 @@ private Q_SLOTS:
     void ANullResultEndsTheProcess();
 };
 
-void TestVideoTiming::CalCVTtimingGivesTheExactBlanking_data()
+void TestEDIDRawTiming::CalCVTtimingGivesTheExactBlanking_data()
 {
     QTest::addColumn<tagSCalTimingIn>("in");
     QTest::addColumn<tagSBlankTiming>("expected");
@@ -66,7 +60,7 @@ void TestVideoTiming::CalCVTtimingGivesTheExactBlanking_data()
     // clang-format on
 }
 
-void TestVideoTiming::CalCVTtimingGivesTheExactBlanking()
+void TestEDIDRawTiming::CalCVTtimingGivesTheExactBlanking()
 {
     QFETCH(tagSCalTimingIn, in);
     QFETCH(tagSBlankTiming, expected);
@@ -76,12 +70,12 @@ void TestVideoTiming::CalCVTtimingGivesTheExactBlanking()
     QCOMPARE(actual, expected);
 }
 
-void TestVideoTiming::CalculateTimingIsCalCVTtimingWithARecord_data()
+void TestEDIDRawTiming::CalculateTimingIsCalCVTtimingWithARecord_data()
 {
     CalCVTtimingGivesTheExactBlanking_data();
 }
 
-void TestVideoTiming::CalculateTimingIsCalCVTtimingWithARecord()
+void TestEDIDRawTiming::CalculateTimingIsCalCVTtimingWithARecord()
 {
     QFETCH(tagSCalTimingIn, in);
     QFETCH(tagSBlankTiming, expected);
@@ -90,43 +84,7 @@ void TestVideoTiming::CalculateTimingIsCalCVTtimingWithARecord()
     QCOMPARE(actual, expected);
 }
 
-void TestVideoTiming::VerticalSyncTellsTheAspectRatio_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("4:3") << 1024 << 768 << 4;
-    QTest::newRow("16:9") << 1920 << 1080 << 5;
-    QTest::newRow("16:10") << 1680 << 1050 << 6;
-    QTest::newRow("5:4") << 1280 << 1024 << 7;
-    QTest::newRow("15:9") << 1280 << 768 << 7;
-    QTest::newRow("any other") << 1000 << 500 << 10;
-    QTest::newRow("a width of one pixel less is still rounded up to 4:3") << 1023 << 768 << 4;
-    QTest::newRow("a width of one pixel more is another ratio") << 1025 << 768 << 10;
-    QTest::newRow("the first candidate wins: 8x6 is 4:3 before 5:4") << 8 << 6 << 4;
-}
-
-void TestVideoTiming::VerticalSyncTellsTheAspectRatio()
-{
-    QFETCH(int, width);
-    QFETCH(int, height);
-    tagSBlankTiming actual = {};
-    CEDIDRaw().CalCVTtiming(width, height, 60.0F, 0, 1, 0, &actual);
-    QTEST(int(actual.byVSync), "expected");
-}
-
-void TestVideoTiming::EveryFieldIsWritten()
-{
-    for (const int nReduced : {0, 1}) {
-        tagSBlankTiming actual = {0xAAAA, 0xAAAA, 0xAAAA, 0xAAAA, 0xAA, 0xAA, 0xAA};
-        CEDIDRaw().CalCVTtiming(1920, 1080, 60.0F, 0, nReduced, 0, &actual);
-        tagSBlankTiming other = {};
-        CEDIDRaw().CalCVTtiming(1920, 1080, 60.0F, 0, nReduced, 0, &other);
-        QCOMPARE(actual, other);
-    }
-}
-
-void TestVideoTiming::TheRecordHasItsFieldsInOrder()
+void TestEDIDRawTiming::TheRecordHasItsFieldsInOrder()
 {
     QCOMPARE(offsetof(tagSBlankTiming, wHBlank), std::size_t(0));
     QCOMPARE(offsetof(tagSBlankTiming, wHFrontPorch), std::size_t(2));
@@ -138,101 +96,21 @@ void TestVideoTiming::TheRecordHasItsFieldsInOrder()
     QCOMPARE(sizeof(timingData), std::size_t(13 * 11 * 2));
 }
 
-void TestVideoTiming::TimingDataHoldsTheFixedTimings_data()
+void TestEDIDRawTiming::MatchTimingIDFindsTheRow()
 {
-    QTest::addColumn<int>("id");
-    QTest::addColumn<QVector<int>>("expected");
-    const QVector<QVector<int>> rows = {
-        {800, 256, 40, 128, 0, 600, 28, 1, 4, 0, 3},    {1024, 320, 24, 136, 0, 768, 38, 3, 6, 0, 0},
-        {1280, 520, 96, 112, 0, 960, 40, 1, 3, 0, 3},   {1280, 408, 48, 112, 0, 1024, 42, 1, 3, 0, 3},
-        {1366, 426, 70, 143, 0, 768, 30, 3, 3, 0, 3},   {1400, 464, 88, 144, 0, 1050, 39, 3, 4, 0, 2},
-        {1440, 464, 80, 152, 0, 900, 34, 3, 6, 0, 2},   {1600, 200, 24, 80, 0, 900, 100, 1, 3, 0, 3},
-        {1680, 560, 104, 176, 0, 1050, 39, 3, 6, 0, 2}, {1920, 280, 88, 44, 0, 1080, 45, 4, 5, 0, 3},
-        {1920, 160, 48, 32, 0, 1200, 35, 3, 6, 0, 1},   {2048, 202, 26, 80, 0, 1152, 48, 1, 3, 0, 3},
-        {800, 160, 48, 32, 0, 600, 36, 3, 4, 0, 1},
-    };
-    for (int nId = 0; nId < rows.size(); ++nId)
-        QTest::addRow("row %d, %dx%d", nId, rows[nId][0], rows[nId][5]) << nId << rows[nId];
-}
-
-void TestVideoTiming::TimingDataHoldsTheFixedTimings()
-{
-    QFETCH(int, id);
-    const STimingData& row = timingData[id];
-    const QVector<int> actual = {row.wWidth,     row.wHBlank,    row.wHFrontPorch, row.wHSync,
-                                 row.wReserved1, row.wHeight,    row.wVBlank,      row.wVFrontPorch,
-                                 row.wVSync,     row.wReserved2, row.wSyncFlag};
-    QTEST(actual, "expected");
-}
-
-void TestVideoTiming::MatchTimingIDFindsTheRow_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("rate");
-    QTest::addColumn<int>("expected");
-
-    const auto Add = [](int nWidth, int nHeight, int nRate, int nId) {
-        QTest::addRow("%dx%d at %d Hz", nWidth, nHeight, nRate) << nWidth << nHeight << nRate << nId;
-    };
-    Add(800, 600, 60, 0);
-    Add(800, 600, 120, 12);
-    for (const int nRate : {50, 60}) {
-        Add(1024, 768, nRate, 1);
-        Add(1280, 960, nRate, 2);
-        Add(1280, 1024, nRate, 3);
-        Add(1366, 768, nRate, 4);
-        Add(1440, 900, nRate, 6);
-        Add(1400, 1050, nRate, 5);
-        Add(1600, 900, nRate, 7);
-        Add(1680, 1050, nRate, 8);
-        Add(1920, 1080, nRate, 9);
-        Add(1920, 1200, nRate, 10);
-        Add(2048, 1152, nRate, 11);
-    }
-}
-
-void TestVideoTiming::MatchTimingIDFindsTheRow()
-{
-    QFETCH(int, width);
-    QFETCH(int, height);
-    QFETCH(int, rate);
     int nId = -1;
-    CEDIDRaw().MatchTimingID(width, height, rate, &nId);
-    QTEST(nId, "expected");
+    CEDIDRaw().MatchTimingID(800, 600, 120, &nId);
+    QCOMPARE(nId, 12);
 }
 
-void TestVideoTiming::MatchTimingIDLeavesTheIdAloneWithoutAMatch_data()
+void TestEDIDRawTiming::MatchTimingIDLeavesTheIdAloneWithoutAMatch()
 {
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("rate");
-    QTest::newRow("59.94 Hz arrives as 59") << 1920 << 1080 << 59;
-    QTest::newRow("800x600 has no 50 Hz, unlike the others") << 800 << 600 << 50;
-    QTest::newRow("only 800x600 has 120 Hz") << 1024 << 768 << 120;
-    QTest::newRow("neighbouring rate") << 1920 << 1080 << 61;
-    QTest::newRow("neighbouring width") << 1919 << 1080 << 60;
-    QTest::newRow("neighbouring height") << 1920 << 1081 << 60;
-    QTest::newRow("sides swapped") << 1080 << 1920 << 60;
-    QTest::newRow("all zero") << 0 << 0 << 0;
-    QTest::newRow("listed size at rate 0") << 800 << 600 << 0;
-    QTest::newRow("listed size at a negative rate") << 1920 << 1080 << -60;
-    QTest::newRow("largest") << INT_MAX << INT_MAX << INT_MAX;
-    QTest::newRow("lowest") << INT_MIN << INT_MIN << INT_MIN;
-    QTest::newRow("a width that is 1920 in 16 bits") << 65536 + 1920 << 1080 << 60;
-}
-
-void TestVideoTiming::MatchTimingIDLeavesTheIdAloneWithoutAMatch()
-{
-    QFETCH(int, width);
-    QFETCH(int, height);
-    QFETCH(int, rate);
     int nId = 4711;
-    CEDIDRaw().MatchTimingID(width, height, rate, &nId);
+    CEDIDRaw().MatchTimingID(800, 600, 50, &nId);
     QCOMPARE(nId, 4711);
 }
 
-void TestVideoTiming::BackPorchIsBlankWithoutFrontAndSync_data()
+void TestEDIDRawTiming::BackPorchIsBlankWithoutFrontAndSync_data()
 {
     QTest::addColumn<int>("blank");
     QTest::addColumn<int>("front");
@@ -246,7 +124,7 @@ void TestVideoTiming::BackPorchIsBlankWithoutFrontAndSync_data()
     QTest::newRow("held to the range of int, high") << INT_MAX << -1 << INT_MIN << INT_MAX;
 }
 
-void TestVideoTiming::BackPorchIsBlankWithoutFrontAndSync()
+void TestEDIDRawTiming::BackPorchIsBlankWithoutFrontAndSync()
 {
     QFETCH(int, blank);
     QFETCH(int, front);
@@ -256,7 +134,7 @@ void TestVideoTiming::BackPorchIsBlankWithoutFrontAndSync()
     QCOMPARE(CEDIDRaw().CalculateVBackPorch(blank, front, sync), expected);
 }
 
-void TestVideoTiming::CalculatePixelFreqIsInMegahertz_data()
+void TestEDIDRawTiming::CalculatePixelFreqIsInMegahertz_data()
 {
     QTest::addColumn<QVector<int>>("totals");
     QTest::addColumn<float>("rate");
@@ -269,7 +147,7 @@ void TestVideoTiming::CalculatePixelFreqIsInMegahertz_data()
     QTest::newRow("no overflow of int") << QVector<int>{INT_MAX, INT_MAX, 1, 1} << 1.0F << 8589.934592F;
 }
 
-void TestVideoTiming::CalculatePixelFreqIsInMegahertz()
+void TestEDIDRawTiming::CalculatePixelFreqIsInMegahertz()
 {
     QFETCH(QVector<int>, totals);
     QFETCH(float, rate);
@@ -277,7 +155,7 @@ void TestVideoTiming::CalculatePixelFreqIsInMegahertz()
     COMPARE_BITS(CEDIDRaw().CalculatePixelFreq(totals[0], totals[1], totals[2], totals[3], rate), expected);
 }
 
-void TestVideoTiming::IsReslutionOkJudgesTheBudget_data()
+void TestEDIDRawTiming::IsReslutionOkJudgesTheBudget_data()
 {
     QTest::addColumn<int>("width");
     QTest::addColumn<int>("height");
@@ -304,7 +182,7 @@ void TestVideoTiming::IsReslutionOkJudgesTheBudget_data()
     QTest::newRow("lowest sizes") << INT_MIN << INT_MIN << 1.0F << false;
 }
 
-void TestVideoTiming::IsReslutionOkJudgesTheBudget()
+void TestEDIDRawTiming::IsReslutionOkJudgesTheBudget()
 {
     QFETCH(int, width);
     QFETCH(int, height);
@@ -312,7 +190,7 @@ void TestVideoTiming::IsReslutionOkJudgesTheBudget()
     QTEST(CEDIDRaw().IsReslutionOk(width, height, rate), "expected");
 }
 
-void TestVideoTiming::CalReslutionPixelFreqTakesTheRightBlanking_data()
+void TestEDIDRawTiming::CalReslutionPixelFreqTakesTheRightBlanking_data()
 {
     QTest::addColumn<int>("width");
     QTest::addColumn<int>("height");
@@ -334,7 +212,7 @@ void TestVideoTiming::CalReslutionPixelFreqTakesTheRightBlanking_data()
     QTest::newRow("no rate at all") << 1920 << 1080 << c_fNan << 1 << c_fNan;
 }
 
-void TestVideoTiming::CalReslutionPixelFreqTakesTheRightBlanking()
+void TestEDIDRawTiming::CalReslutionPixelFreqTakesTheRightBlanking()
 {
     QFETCH(int, width);
     QFETCH(int, height);
@@ -344,12 +222,12 @@ void TestVideoTiming::CalReslutionPixelFreqTakesTheRightBlanking()
     COMPARE_BITS(CEDIDRaw().CalReslutionPixelFreq(width, height, rate, standard), expected);
 }
 
-void TestVideoTiming::ANullResultEndsTheProcess()
+void TestEDIDRawTiming::ANullResultEndsTheProcess()
 {
     const SDeath death = RunToDeath([] { CEDIDRaw().CalCVTtiming(1920, 1080, 60.0F, 0, 1, 0, nullptr); });
     QVERIFY(death.bAborted);
     QVERIFY2(death.strOutput.contains("pTiming != nullptr"), death.strOutput.constData());
 }
 
-QTEST_APPLESS_MAIN(TestVideoTiming)
-#include "TestVideoTiming.moc"
+QTEST_APPLESS_MAIN(TestEDIDRawTiming)
+#include "TestEDIDRawTiming.moc"

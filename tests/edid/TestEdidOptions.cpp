@@ -1,4 +1,3 @@
-#include "SenderModuleDialog/edid/EdidCommit.h"
 #include "SenderModuleDialog/edid/EdidOptions.h"
 
 #include <QtTest>
@@ -48,7 +47,7 @@ bool Offers(const SInput& input, int nRateIndex)
 
 } // namespace
 
-class TestEdidSetDlgTables : public QObject
+class TestEdidOptions : public QObject
 {
     Q_OBJECT
 
@@ -86,7 +85,7 @@ private Q_SLOTS:
     void OnlyAVideoProcessorIsHeldTo8Bit();
 };
 
-void TestEdidSetDlgTables::RateTable_data()
+void TestEdidOptions::RateTable_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("text");
@@ -106,7 +105,7 @@ void TestEdidSetDlgTables::RateTable_data()
     QTest::newRow("10") << 10 << "240" << 240 << false << 0.0F;
 }
 
-void TestEdidSetDlgTables::RateTable()
+void TestEdidOptions::RateTable()
 {
     QFETCH(int, index);
     QFETCH(QString, text);
@@ -122,13 +121,13 @@ void TestEdidSetDlgTables::RateTable()
     QVERIFY(EdidOptions::RateIndex(pRate->byRate, fractional) == index);
 }
 
-void TestEdidSetDlgTables::NoRateOutsideTheTable()
+void TestEdidOptions::NoRateOutsideTheTable()
 {
     QVERIFY(EdidOptions::RateAt(-1) == nullptr);
     QVERIFY(EdidOptions::RateAt(11) == nullptr);
 }
 
-void TestEdidSetDlgTables::RateIndexOfAStoredRate_data()
+void TestEdidOptions::RateIndexOfAStoredRate_data()
 {
     QTest::addColumn<int>("rate");
     QTest::addColumn<bool>("fractional");
@@ -143,7 +142,7 @@ void TestEdidSetDlgTables::RateIndexOfAStoredRate_data()
     QTest::newRow("255 is in no row") << 255 << true << -1;
 }
 
-void TestEdidSetDlgTables::RateIndexOfAStoredRate()
+void TestEdidOptions::RateIndexOfAStoredRate()
 {
     QFETCH(int, rate);
     QFETCH(bool, fractional);
@@ -151,7 +150,7 @@ void TestEdidSetDlgTables::RateIndexOfAStoredRate()
     QCOMPARE(EdidOptions::RateIndex(static_cast<unsigned char>(rate), fractional).value_or(-1), index);
 }
 
-void TestEdidSetDlgTables::DepthTable_data()
+void TestEdidOptions::DepthTable_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("name");
@@ -165,7 +164,7 @@ void TestEdidSetDlgTables::DepthTable_data()
                         << "12bit" << 0x08;
 }
 
-void TestEdidSetDlgTables::DepthTable()
+void TestEdidOptions::DepthTable()
 {
     QFETCH(int, index);
     QFETCH(QString, name);
@@ -181,7 +180,7 @@ void TestEdidSetDlgTables::DepthTable()
     QCOMPARE(int(byFlags), flag);
 }
 
-void TestEdidSetDlgTables::FormatTable_data()
+void TestEdidOptions::FormatTable_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("name");
@@ -192,7 +191,7 @@ void TestEdidSetDlgTables::FormatTable_data()
     QTest::newRow("4:4:0") << 3 << "YCBCR 4:4:0" << 0x80;
 }
 
-void TestEdidSetDlgTables::FormatTable()
+void TestEdidOptions::FormatTable()
 {
     QFETCH(int, index);
     QFETCH(QString, name);
@@ -206,20 +205,20 @@ void TestEdidSetDlgTables::FormatTable()
     QCOMPARE(int(byFlags), flag);
 }
 
-void TestEdidSetDlgTables::TimingStandardTable()
+void TestEdidOptions::TimingStandardTable()
 {
     QCOMPARE(EdidOptions::c_arrTimingStandards.size(), std::size_t(2));
     QCOMPARE(EdidOptions::c_arrTimingStandards[0], "CVT_RB");
     QCOMPARE(EdidOptions::c_arrTimingStandards[1], "CVT");
 }
 
-void TestEdidSetDlgTables::FlagsWithoutADepthAreTheFirst()
+void TestEdidOptions::FlagsWithoutADepthAreTheFirst()
 {
     QCOMPARE(EdidOptions::DepthIndex(0xF1), 0);
     QCOMPARE(EdidOptions::FormatIndex(0x0F), 0);
 }
 
-void TestEdidSetDlgTables::TheFirstSetBitWins()
+void TestEdidOptions::TheFirstSetBitWins()
 {
     QCOMPARE(EdidOptions::DepthIndex(0x0E), 0);
     QCOMPARE(EdidOptions::DepthIndex(0x0C), 1);
@@ -228,14 +227,14 @@ void TestEdidSetDlgTables::TheFirstSetBitWins()
     QCOMPARE(EdidOptions::FormatIndex(0xC0), 2);
 }
 
-void TestEdidSetDlgTables::StoringADepthKeepsTheOtherBits()
+void TestEdidOptions::StoringADepthKeepsTheOtherBits()
 {
     unsigned char byFlags = 0xFF;
     QVERIFY(EdidOptions::StoreDepth(1, byFlags));
     QCOMPARE(int(byFlags), 0xF5);
 }
 
-void TestEdidSetDlgTables::StoringNoDepthClearsTheDepthBits()
+void TestEdidOptions::StoringNoDepthClearsTheDepthBits()
 {
     for (const int nIndex : {-1, 3}) {
         unsigned char byFlags = 0xFF;
@@ -244,14 +243,14 @@ void TestEdidSetDlgTables::StoringNoDepthClearsTheDepthBits()
     }
 }
 
-void TestEdidSetDlgTables::StoringAFormatKeepsTheLowBits()
+void TestEdidOptions::StoringAFormatKeepsTheLowBits()
 {
     unsigned char byFlags = 0xFF;
     QVERIFY(EdidOptions::StoreFormat(2, byFlags));
     QCOMPARE(int(byFlags), 0x4F);
 }
 
-void TestEdidSetDlgTables::StoringNoFormatLeavesTheFlagsAlone()
+void TestEdidOptions::StoringNoFormatLeavesTheFlagsAlone()
 {
     for (const int nIndex : {-1, 4}) {
         unsigned char byFlags = 0x24;
@@ -260,7 +259,7 @@ void TestEdidSetDlgTables::StoringNoFormatLeavesTheFlagsAlone()
     }
 }
 
-void TestEdidSetDlgTables::SenderTypeSet_data()
+void TestEdidOptions::SenderTypeSet_data()
 {
     QTest::addColumn<std::set<int>>("actual");
     QTest::addColumn<std::set<int>>("expected");
@@ -273,19 +272,16 @@ void TestEdidSetDlgTables::SenderTypeSet_data()
     QTest::newRow("the connect byte is always 1")
         << Members(EdidOptions::AlwaysWritesConnectByte) << std::set<int>{17, 26, 27, 28, 29, 36, 37};
     QTest::newRow("the device stores slowly") << Members(EdidOptions::StoresSlowly) << std::set<int>{21, 54};
-    QTest::newRow("the long wait") << Members([](int nType) {
-        return EdidCommit::DeviceWait(nType) == EdidCommit::c_nSlowDeviceWait;
-    }) << std::set<int>{21, 54};
 }
 
-void TestEdidSetDlgTables::SenderTypeSet()
+void TestEdidOptions::SenderTypeSet()
 {
     QFETCH(std::set<int>, actual);
     QFETCH(std::set<int>, expected);
     QCOMPARE(Text(actual), Text(expected));
 }
 
-void TestEdidSetDlgTables::SenderTypesThatOfferARate_data()
+void TestEdidOptions::SenderTypesThatOfferARate_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<std::set<int>>("expected");
@@ -302,7 +298,7 @@ void TestEdidSetDlgTables::SenderTypesThatOfferARate_data()
     QTest::newRow("240") << 10 << std::set<int>{68};
 }
 
-void TestEdidSetDlgTables::SenderTypesThatOfferARate()
+void TestEdidOptions::SenderTypesThatOfferARate()
 {
     QFETCH(int, index);
     QFETCH(std::set<int>, expected);
@@ -312,7 +308,7 @@ void TestEdidSetDlgTables::SenderTypesThatOfferARate()
     QCOMPARE(Text(setActual), Text(expected));
 }
 
-void TestEdidSetDlgTables::InterfaceGroups()
+void TestEdidOptions::InterfaceGroups()
 {
     QCOMPARE(Text(Members(EdidOptions::IsInterface16To19)), QStringLiteral("16 17 18 19"));
     QCOMPARE(Text(Members(EdidOptions::IsInterface1To4)), QStringLiteral("1 2 3 4"));
@@ -321,7 +317,7 @@ void TestEdidSetDlgTables::InterfaceGroups()
     QVERIFY(!EdidOptions::IsInterface132(133));
 }
 
-void TestEdidSetDlgTables::Type73OffersAllRatesUpTo60OnTheInterfaces16To19Only()
+void TestEdidOptions::Type73OffersAllRatesUpTo60OnTheInterfaces16To19Only()
 {
     const std::vector<int> vecAll = {0, 1, 2, 3, 4, 5, 6, 7};
     for (const int nInterfaceId : {16, 17, 18, 19})
@@ -331,19 +327,19 @@ void TestEdidSetDlgTables::Type73OffersAllRatesUpTo60OnTheInterfaces16To19Only()
         QCOMPARE(EdidOptions::OfferedRates({73, nInterfaceId, false, false}), vecPlain);
 }
 
-void TestEdidSetDlgTables::AnOrdinaryInterfaceOffers30And50And60()
+void TestEdidOptions::AnOrdinaryInterfaceOffers30And50And60()
 {
     const std::vector<int> vecExpected = {4, 5, 7};
     QCOMPARE(EdidOptions::OfferedRates({16, 1, false, false}), vecExpected);
 }
 
-void TestEdidSetDlgTables::Interface132OffersNeither30Nor50()
+void TestEdidOptions::Interface132OffersNeither30Nor50()
 {
     const std::vector<int> vecExpected = {7};
     QCOMPARE(EdidOptions::OfferedRates({16, 132, false, true}), vecExpected);
 }
 
-void TestEdidSetDlgTables::LowRateOnlyRemovesEverythingAbove50()
+void TestEdidOptions::LowRateOnlyRemovesEverythingAbove50()
 {
     const std::vector<int> vecPlain = {4, 5};
     QCOMPARE(EdidOptions::OfferedRates({16, 1, true, true}), vecPlain);
@@ -353,7 +349,7 @@ void TestEdidSetDlgTables::LowRateOnlyRemovesEverythingAbove50()
     QCOMPARE(EdidOptions::OfferedRates({73, 16, true, true}), vecLow);
 }
 
-void TestEdidSetDlgTables::TheExtendedRecordOffers120OnTwoGroups_data()
+void TestEdidOptions::TheExtendedRecordOffers120OnTwoGroups_data()
 {
     QTest::addColumn<int>("interfaceId");
     QTest::addColumn<bool>("extended");
@@ -366,7 +362,7 @@ void TestEdidSetDlgTables::TheExtendedRecordOffers120OnTwoGroups_data()
                     (nInterfaceId == 1 || nInterfaceId == 4 || nInterfaceId == 16 || nInterfaceId == 19));
 }
 
-void TestEdidSetDlgTables::TheExtendedRecordOffers120OnTwoGroups()
+void TestEdidOptions::TheExtendedRecordOffers120OnTwoGroups()
 {
     QFETCH(int, interfaceId);
     QFETCH(bool, extended);
@@ -374,7 +370,7 @@ void TestEdidSetDlgTables::TheExtendedRecordOffers120OnTwoGroups()
     QCOMPARE(Offers({16, interfaceId, false, extended}, 8), offered);
 }
 
-void TestEdidSetDlgTables::RatesAreOfferedInTableOrder()
+void TestEdidOptions::RatesAreOfferedInTableOrder()
 {
     const std::vector<int> vecExpected = {0, 1, 2, 3, 4, 5, 6, 7, 8};
     QCOMPARE(EdidOptions::OfferedRates({53, 1, false, true}), vecExpected);
@@ -382,7 +378,7 @@ void TestEdidSetDlgTables::RatesAreOfferedInTableOrder()
     QCOMPARE(EdidOptions::OfferedRates({68, 1, false, true}), vecHigh);
 }
 
-void TestEdidSetDlgTables::OfferedDepths_data()
+void TestEdidOptions::OfferedDepths_data()
 {
     QTest::addColumn<SDepthSupport>("support");
     QTest::addColumn<int>("senderType");
@@ -403,7 +399,7 @@ void TestEdidSetDlgTables::OfferedDepths_data()
     QTest::newRow("type 18 on 16 has not") << SDepthSupport{true, true, false} << 18 << 16 << 2;
 }
 
-void TestEdidSetDlgTables::OfferedDepths()
+void TestEdidOptions::OfferedDepths()
 {
     QFETCH(SDepthSupport, support);
     QFETCH(int, senderType);
@@ -412,7 +408,7 @@ void TestEdidSetDlgTables::OfferedDepths()
     QCOMPARE(EdidOptions::OfferedDepthCount(support, {senderType, interfaceId, false, false}), count);
 }
 
-void TestEdidSetDlgTables::OnlyAVideoProcessorIsHeldTo8Bit()
+void TestEdidOptions::OnlyAVideoProcessorIsHeldTo8Bit()
 {
     QVERIFY(EdidOptions::HasOnly8Bit({true, false, false}));
     QVERIFY(!EdidOptions::HasOnly8Bit({false, false, false}));
@@ -420,5 +416,5 @@ void TestEdidSetDlgTables::OnlyAVideoProcessorIsHeldTo8Bit()
     QVERIFY(!EdidOptions::HasOnly8Bit({true, false, true}));
 }
 
-QTEST_APPLESS_MAIN(TestEdidSetDlgTables)
-#include "TestEdidSetDlgTables.moc"
+QTEST_APPLESS_MAIN(TestEdidOptions)
+#include "TestEdidOptions.moc"
