@@ -3,6 +3,7 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/colour/ChromaGamutInterpolation.h"
 #include "SenderModuleDialog/colour/ColourStandards.h"
+#include "instruments/colour/StandardNames.h"
 #include "tools/Arguments.h"
 #include "tools/Chromaticity.h"
 #include "tools/Output.h"
@@ -132,7 +133,7 @@ SChromaGroupInfo NewGroup(const QString& strName, const std::vector<CPointEx<flo
 
 SChromaGroupInfo StandardGroup(const QString& strLabel)
 {
-    const SColourStandard* const pStandard = FindStandard(strLabel);
+    const SColourStandard* const pStandard = FindColourStandard(strLabel);
     if (pStandard == nullptr)
         throw CToolError(
             QStringLiteral("unknown standard '%1'; give one of: %2").arg(strLabel, StandardLabels()));

@@ -6,11 +6,8 @@
 
 #include <QPointF>
 #include <QString>
-#include <QStringList>
 
 #include <vector>
-
-struct SColourStandard;
 
 /// A finite number in the C locale. Throws `CToolError`; `szWhat` says what it should have been.
 double ParseNumber(const QString& strNumber, const char* szWhat);
@@ -21,22 +18,11 @@ QPointF ParseChromaticity(const QString& strPoint);
 /// Chromaticities as `x,y;x,y` and so on. Throws `CToolError`.
 std::vector<CPointEx<float>> ParseChromaticities(const QString& strPoints);
 
-/// A standard colour space by its label or another name that people use for it, for example `BT.2020` or
-/// `Display P3`. Case, blanks and punctuation make no difference.
-/// @return null for any other name
-const SColourStandard* FindStandard(const QString& strName);
-
-/// The other names by which `FindStandard` finds a standard colour space, as people write them.
-QStringList OtherNames(const SColourStandard& standard);
-
 /// A white: the name of a CIE illuminant, for example `D65`, or a chromaticity as `x,y`. Throws `CToolError`.
 SChromaticity ParseWhite(const QString& strWhite);
 
 /// Whether three corners enclose an area that single precision can tell from zero.
 bool HasArea(const std::vector<CPointEx<float>>& vecTriangle);
-
-/// The labels of the standard colour spaces, as a list to choose from.
-QString StandardLabels();
 
 /// A gamut: the name of a standard colour space, or three chromaticities as `x,y;x,y;x,y` that span a
 /// triangle. Throws `CToolError`.

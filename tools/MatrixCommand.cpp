@@ -1,6 +1,7 @@
 #include "tools/MatrixCommand.h"
 
 #include "instruments/colour/StandardGamut.h"
+#include "instruments/colour/StandardNames.h"
 #include "instruments/colour/WallAnalysis.h"
 #include "instruments/colour/WhitePoint.h"
 #include "tools/Arguments.h"
@@ -28,7 +29,7 @@ struct SSource
 /// A standard brings its decimals and its white; three chromaticities have D65.
 SSource ParseSource(const QString& strGamut)
 {
-    if (const SColourStandard* const pStandard = FindStandard(strGamut))
+    if (const SColourStandard* const pStandard = FindColourStandard(strGamut))
         return {StandardGamut::Primaries(*pStandard), StandardGamut::White(*pStandard)};
     const std::vector<CPointEx<float>> vecPoints = ParseGamut(strGamut);
     return {{StandardGamut::Decimal(vecPoints[0]), StandardGamut::Decimal(vecPoints[1]),

@@ -1,8 +1,8 @@
 #include "tools/StandardsCommand.h"
 
 #include "SenderModuleDialog/colour/ColourStandards.h"
+#include "instruments/colour/StandardNames.h"
 #include "tools/Arguments.h"
-#include "tools/Chromaticity.h"
 #include "tools/Output.h"
 
 #include <QJsonArray>

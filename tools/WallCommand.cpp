@@ -2,6 +2,7 @@
 
 #include "instruments/colour/MeasurementCsv.h"
 #include "instruments/colour/StandardGamut.h"
+#include "instruments/colour/StandardNames.h"
 #include "reports/WallReport.h"
 #include "tools/Arguments.h"
 #include "tools/Chromaticity.h"
@@ -47,7 +48,7 @@ Modules ReadModules(const QString& strFile)
 
 const SColourStandard& ParseStandard(const QString& strName)
 {
-    const SColourStandard* const pStandard = FindStandard(strName);
+    const SColourStandard* const pStandard = FindColourStandard(strName);
     if (pStandard == nullptr)
         throw CToolError(
             QStringLiteral("unknown standard '%1'; give one of: %2").arg(strName, StandardLabels()));

@@ -1,6 +1,7 @@
 #include "instruments/edid/Editing.h"
 
 #include "SenderModuleDialog/colour/ColourStandards.h"
+#include "instruments/colour/StandardNames.h"
 #include "instruments/edid/BaseLayout.h"
 #include "instruments/edid/Checksum.h"
 #include "instruments/edid/DetailedTiming.h"
@@ -211,9 +212,8 @@ Points PointsOf(const SColourStandard& standard)
 
 Points ReadPoints(const QString& strValue)
 {
-    for (const SColourStandard& standard : c_arrColourStandards)
-        if (strValue.compare(QLatin1String(standard.szName), Qt::CaseInsensitive) == 0)
-            return PointsOf(standard);
+    if (const SColourStandard* const pStandard = FindColourStandard(strValue))
+        return PointsOf(*pStandard);
     Points vecPoints;
     for (const QString& strPoint : strValue.split(QLatin1Char(';')))
         vecPoints.append(ReadPair(strPoint, QLatin1Char(',')));

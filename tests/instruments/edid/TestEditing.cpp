@@ -82,6 +82,8 @@ void TestEditing::TheDecoderReadsWhatWasSet_data()
     Add("gamma", "1", "Gamma: 1.00");
     Add("primaries", "sRGB", "Red  : 0.6396, 0.3300");
     Add("primaries", "rec2020", "Green: 0.1699, 0.7968");
+    Add("primaries", "BT.2020", "Green: 0.1699, 0.7968");
+    Add("primaries", "Display P3", "Red  : 0.6796, 0.3203");
     Add("primaries", "0.1,0.2;0.3,0.4;0.5,0.6;0.7,0.999", "White: 0.70");
     Add("mode", "1920x1080@50", "DTD 1:  1920x1080");
     Add("range", "24-300,30-500,2550", "24-300 Hz V, 30-500 kHz H, max dotclock 2550 MHz");
