@@ -1,6 +1,7 @@
 #include "tools/EdidCommand.h"
 
 #include "SenderModuleDialog/edid/EDIDRaw.h"
+#include "instruments/edid/BlockCuts.h"
 #include "instruments/edid/Conforming.h"
 #include "tools/Arguments.h"
 #include "tools/EdidFormat.h"
@@ -73,7 +74,7 @@ void Run(const CArguments& arguments)
     }
     RejectConformOptions(arguments);
     Output::To(arguments.Value("output"), EdidFormat::Format(strFormat, Block(mode), mode));
-    for (const QString& strCut : StoredInBlock(mode).BlockCuts())
+    for (const QString& strCut : Edid::BlockCuts(StoredInBlock(mode).InBlock()))
         Report::Warning(strCut);
 }
 

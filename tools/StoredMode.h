@@ -2,9 +2,8 @@
 #define TOOLS_STOREDMODE_H
 
 #include "SenderModuleDialog/edid/VideoTiming.h"
+#include "instruments/edid/BlockCuts.h"
 #include "tools/VideoMode.h"
-
-#include <QStringList>
 
 /// A mode with its blanking, and what becomes of it in a detailed timing.
 class CStoredMode
@@ -31,18 +30,13 @@ public:
     /// Frames in a second at the stored clock, Hz.
     double ActualRate() const { return LineRate() / VTotal(); }
 
-    /// What the descriptor cuts of the pixel clock, a line each.
-    QStringList ClockCuts() const;
-    /// What the whole block cuts of the mode or contradicts, a line each.
-    QStringList BlockCuts() const;
+    /// What becomes of the mode in a block: `Edid::ClockCuts` and `Edid::BlockCuts` tell what is cut.
+    Edid::SBlockMode InBlock() const;
 
 private:
     SVideoMode m_mode;
     tagSBlankTiming m_blank;
     qint64 m_nClock; ///< units of 10 kHz, before it is cut
 };
-
-/// A frequency in MHz, with two decimals: exact for whole units of 10 kHz.
-QString Megahertz(double dHz);
 
 #endif // TOOLS_STOREDMODE_H

@@ -88,7 +88,7 @@ QString Modeline(const CStoredMode& stored, const SKind& kind)
     return QStringLiteral("Modeline \"%1x%2_%3\"  %4  %5  %6%7 %8hsync %9vsync")
         .arg(mode.nWidth)
         .arg(mode.nHeight)
-        .arg(QString::number(double(mode.fRate), 'f', 2), Megahertz(stored.RoundedClock()),
+        .arg(QString::number(double(mode.fRate), 'f', 2), Edid::Megahertz(stored.RoundedClock()),
              ModelineNumbers(horizontal), ModelineNumbers(vertical),
              kind.bInterlaced ? QStringLiteral(" interlace") : QString(), Polarity(horizontal),
              Polarity(vertical));
@@ -124,7 +124,7 @@ QByteArray Text(const CStoredMode& stored, const SKind& kind)
         QStringLiteral("Vertical     %1").arg(AxisText(vertical, QStringLiteral("lines"))),
         QStringLiteral("Sync         %1hsync %2vsync").arg(Polarity(horizontal), Polarity(vertical)),
         QStringLiteral("Pixel clock  %1 MHz stored, %2 MHz wanted")
-            .arg(Megahertz(stored.StoredClock()))
+            .arg(Edid::Megahertz(stored.StoredClock()))
             .arg(stored.WantedClock() / 1e6, 0, 'f', 6),
         QStringLiteral("Line rate    %1 kHz").arg(stored.LineRate() / 1e3, 0, 'f', 3),
         QStringLiteral("Frame rate   %1 Hz actual, %2 Hz wanted")
@@ -189,7 +189,7 @@ void Run(const CArguments& arguments)
     if (arguments.Has("standard") || arguments.Has("compare"))
         return RunOthers(arguments, stored, kind);
     Output::ToStandardOutput(arguments.Has("json") ? Json(stored, kind) : Text(stored, kind));
-    for (const QString& strCut : stored.ClockCuts())
+    for (const QString& strCut : Edid::ClockCuts(stored.InBlock()))
         Report::Warning(strCut);
 }
 

@@ -9,7 +9,7 @@ update_all() {
     local folder=$1
     update "$folder/SenderModuleDialog_en.ts" zh_CN en SenderModuleDialog simulator/OrviControl
     update "$folder/SenderWorkbench_en.ts" zh_CN en workbench reports simulator/HardwareSupport
-    update "$folder/SenderSimulator_zh.ts" en zh_CN simulator/CommonClass simulator/TevraData
+    update "$folder/SenderSimulator_zh.ts" en zh_CN simulator/CommonClass simulator/TevraData instruments
 }
 
 update() {

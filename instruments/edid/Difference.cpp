@@ -14,52 +14,35 @@ const quint8* BytesOf(const QByteArray& edid)
     return reinterpret_cast<const quint8*>(edid.constData());
 }
 
-/// A field with its place in the tree.
-struct SPlacedField
-{
-    QString strPath;
-    SField field;
-};
-
 /// Values with bytes of their own: groups hold others, and what is calculated changes with those.
 bool HasBytes(const SField& field)
 {
     return field.pType->nSize != 0 || field.pType->kind == enKind::enBytes;
 }
 
-QVector<SPlacedField> Placed(const QByteArray& edid)
+/// The place of every field in the tree; empty for one without bytes.
+std::vector<QString> PathsOf(const std::vector<SField>& vecFields)
 {
-    std::vector<SField> vecFields;
-    Explain(BytesOf(edid), edid.size(), vecFields);
-    QVector<SPlacedField> vecPlaced;
+    std::vector<QString> vecPaths;
     QStringList listPath;
     for (const SField& field : vecFields) {
         listPath = listPath.mid(0, field.nDepth);
         listPath += LabelText(field);
-        if (HasBytes(field))
-            vecPlaced.append({listPath.join(QStringLiteral(" / ")), field});
+        vecPaths.push_back(HasBytes(field) ? listPath.join(QStringLiteral(" / ")) : QString());
     }
-    return vecPlaced;
+    return vecPaths;
 }
 
 /// The fields of one path in their order; most paths have one.
-using FieldsByPath = QHash<QString, QVector<SField>>;
+using FieldsByPath = QHash<QString, QVector<int>>;
 
-FieldsByPath ByPath(const QVector<SPlacedField>& vecPlaced)
+FieldsByPath ByPath(const std::vector<QString>& vecPaths)
 {
     FieldsByPath mapFields;
-    for (const SPlacedField& placed : vecPlaced)
-        mapFields[placed.strPath].append(placed.field);
+    for (std::size_t i = 0; i < vecPaths.size(); ++i)
+        if (!vecPaths[i].isEmpty())
+            mapFields[vecPaths[i]].append(int(i));
     return mapFields;
-}
-
-SFieldDifference Only(const SPlacedField& placed, const QByteArray& edid, bool bFirst)
-{
-    const QString strValue = ValueText(placed.field, BytesOf(edid), {});
-    const int nOffset = placed.field.nOffset;
-    if (bFirst)
-        return {placed.strPath, nOffset, -1, placed.field.nSize, strValue, QString()};
-    return {placed.strPath, -1, nOffset, placed.field.nSize, QString(), strValue};
 }
 
 bool IsDifferent(const SField& fieldFirst, const QByteArray& first, const SField& fieldSecond,
@@ -69,26 +52,41 @@ bool IsDifferent(const SField& fieldFirst, const QByteArray& first, const SField
            ValueText(fieldFirst, BytesOf(first), {}) != ValueText(fieldSecond, BytesOf(second), {});
 }
 
-/// Where both values read the same, their bytes tell them apart.
-SFieldDifference Both(const SPlacedField& placed, const QByteArray& first, const SField& other,
-                      const QByteArray& second)
+/// An EDID with what its bytes say.
+struct SExplained
 {
-    SFieldDifference difference = {placed.strPath,
-                                   placed.field.nOffset,
-                                   other.nOffset,
-                                   placed.field.nSize,
-                                   ValueText(placed.field, BytesOf(first), {}),
-                                   ValueText(other, BytesOf(second), {})};
-    if (difference.strFirst == difference.strSecond) {
-        difference.strFirst += QStringLiteral(" (%1)").arg(FieldHex(placed.field, BytesOf(first)));
-        difference.strSecond += QStringLiteral(" (%1)").arg(FieldHex(other, BytesOf(second)));
+    explicit SExplained(const QByteArray& bytes)
+        : edid(bytes)
+    {
+        Explain(BytesOf(edid), edid.size(), vecFields);
+        vecPaths = PathsOf(vecFields);
+    }
+
+    QString Value(int nField) const
+    {
+        return nField < 0 ? QString() : ValueText(vecFields[std::size_t(nField)], BytesOf(edid), {});
+    }
+    QString Hex(int nField) const { return FieldHex(vecFields[std::size_t(nField)], BytesOf(edid)); }
+    int Offset(int nField) const { return nField < 0 ? -1 : vecFields[std::size_t(nField)].nOffset; }
+
+    const QByteArray& edid;
+    std::vector<SField> vecFields;
+    std::vector<QString> vecPaths;
+};
+
+/// Where both values read the same, their bytes tell them apart.
+SFieldDifference InWords(const SFieldPair& pair, const SExplained& first, const SExplained& second)
+{
+    const SExplained& there = pair.nFirst >= 0 ? first : second;
+    const auto nThere = std::size_t(pair.nFirst >= 0 ? pair.nFirst : pair.nSecond);
+    SFieldDifference difference = {there.vecPaths[nThere],      first.Offset(pair.nFirst),
+                                   second.Offset(pair.nSecond), there.vecFields[nThere].nSize,
+                                   first.Value(pair.nFirst),    second.Value(pair.nSecond)};
+    if (pair.nFirst >= 0 && pair.nSecond >= 0 && difference.strFirst == difference.strSecond) {
+        difference.strFirst += QStringLiteral(" (%1)").arg(first.Hex(pair.nFirst));
+        difference.strSecond += QStringLiteral(" (%1)").arg(second.Hex(pair.nSecond));
     }
     return difference;
-}
-
-int Place(const SFieldDifference& difference)
-{
-    return difference.nFirstOffset >= 0 ? difference.nFirstOffset : difference.nSecondOffset;
 }
 
 int ByteAt(const QByteArray& edid, int nOffset)
@@ -98,29 +96,43 @@ int ByteAt(const QByteArray& edid, int nOffset)
 
 } // namespace
 
+QVector<SFieldPair> DifferentFields(const std::vector<SField>& vecFirst, const QByteArray& first,
+                                    const std::vector<SField>& vecSecond, const QByteArray& second)
+{
+    const std::vector<QString> vecPaths = PathsOf(vecFirst);
+    FieldsByPath mapSecond = ByPath(PathsOf(vecSecond));
+    QVector<SFieldPair> vecPairs;
+    for (std::size_t i = 0; i < vecFirst.size(); ++i) {
+        if (vecPaths[i].isEmpty())
+            continue;
+        QVector<int>& vecMatches = mapSecond[vecPaths[i]];
+        const int nSecond = vecMatches.isEmpty() ? -1 : vecMatches.takeFirst();
+        if (nSecond < 0 || IsDifferent(vecFirst[i], first, vecSecond[std::size_t(nSecond)], second))
+            vecPairs.append({int(i), nSecond});
+    }
+    QVector<int> vecLeft;
+    for (const QVector<int>& vecUnmatched : qAsConst(mapSecond))
+        vecLeft += vecUnmatched;
+    std::sort(vecLeft.begin(), vecLeft.end());
+    for (const int nSecond : qAsConst(vecLeft))
+        vecPairs.append({-1, nSecond});
+    const auto Place = [&](const SFieldPair& pair) {
+        return pair.nFirst >= 0 ? vecFirst[std::size_t(pair.nFirst)].nOffset
+                                : vecSecond[std::size_t(pair.nSecond)].nOffset;
+    };
+    std::stable_sort(vecPairs.begin(), vecPairs.end(),
+                     [&](const SFieldPair& a, const SFieldPair& b) { return Place(a) < Place(b); });
+    return vecPairs;
+}
+
 QVector<SFieldDifference> FieldDifferences(const QByteArray& first, const QByteArray& second)
 {
-    FieldsByPath mapSecond = ByPath(Placed(second));
+    const SExplained explainedFirst(first);
+    const SExplained explainedSecond(second);
     QVector<SFieldDifference> vecDifferences;
-    for (const SPlacedField& placed : Placed(first)) {
-        QVector<SField>& vecMatches = mapSecond[placed.strPath];
-        if (vecMatches.isEmpty()) {
-            vecDifferences.append(Only(placed, first, true));
-            continue;
-        }
-        const SField other = vecMatches.takeFirst();
-        if (IsDifferent(placed.field, first, other, second))
-            vecDifferences.append(Both(placed, first, other, second));
-    }
-    for (const SPlacedField& placed : Placed(second)) {
-        QVector<SField>& vecLeft = mapSecond[placed.strPath];
-        const auto IsIt = [&](const SField& field) { return field.nOffset == placed.field.nOffset; };
-        if (std::any_of(vecLeft.begin(), vecLeft.end(), IsIt))
-            vecDifferences.append(Only(placed, second, false));
-    }
-    std::stable_sort(
-        vecDifferences.begin(), vecDifferences.end(),
-        [](const SFieldDifference& a, const SFieldDifference& b) { return Place(a) < Place(b); });
+    for (const SFieldPair& pair :
+         DifferentFields(explainedFirst.vecFields, first, explainedSecond.vecFields, second))
+        vecDifferences.append(InWords(pair, explainedFirst, explainedSecond));
     return vecDifferences;
 }
 

@@ -11,6 +11,19 @@
 
 namespace Edid {
 
+/// Two fields that stand in the same place of their explanations and are different.
+struct SFieldPair
+{
+    int nFirst; ///< place in its explanation, -1 where the field is not there
+    int nSecond;
+};
+
+/// The fields that are different, or that one of two EDIDs does not have, in the order of the bytes. Fields
+/// that only repeat others, headings and calculated values, are left out.
+/// @param vecFirst, vecSecond  their explanations
+QVector<SFieldPair> DifferentFields(const std::vector<SField>& vecFirst, const QByteArray& first,
+                                    const std::vector<SField>& vecSecond, const QByteArray& second);
+
 /// A field that is different, or that one of them does not have.
 struct SFieldDifference
 {
@@ -30,8 +43,7 @@ struct SByteDifference
     int nSecond;
 };
 
-/// Fields in the order of the bytes. Fields that only repeat others, headings and calculated values, are left
-/// out.
+/// `DifferentFields` in words.
 QVector<SFieldDifference> FieldDifferences(const QByteArray& first, const QByteArray& second);
 
 /// Bytes in their order.

@@ -3,31 +3,21 @@
 #include "SenderModuleDialog/colour/ColourStandards.h"
 #include "instruments/colour/StandardNames.h"
 #include "instruments/edid/BaseLayout.h"
+#include "instruments/edid/BlockChecksums.h"
 #include "instruments/edid/Checksum.h"
 #include "instruments/edid/DetailedTiming.h"
-#include "instruments/edid/DisplayIdLayout.h"
 #include "instruments/edid/FieldValues.h"
-#include "instruments/edid/ReducedMode.h"
 
 #include <QVector>
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
-#include <numeric>
 
 namespace Edid {
 
 namespace {
 
 constexpr quint8 c_arrHeader[] = {0x00, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x00};
-
-/// Makes the sum of a block's bytes 0.
-void PutChecksum(QByteArray& edid, int nBlock)
-{
-    edid[nBlock + c_nChecksumOffset] =
-        char(Checksum(reinterpret_cast<const quint8*>(edid.constData()) + nBlock));
-}
 
 quint8* BytesOf(QByteArray& edid)
 {
@@ -65,31 +55,6 @@ QString NoDescriptor()
 QString OutOfRange(const QString& strValue, const QString& strRange)
 {
     return QStringLiteral("'%1' does not fit; give %2").arg(strValue, strRange);
-}
-
-/// Two numbers with a character between them.
-struct SPair
-{
-    double dFirst = 0.0;
-    double dSecond = 0.0;
-    bool bRead = false;
-};
-
-SPair ReadPair(const QString& strText, QChar chBetween)
-{
-    const QStringList listParts = strText.split(chBetween, Qt::KeepEmptyParts, Qt::CaseInsensitive);
-    SPair pair;
-    bool bFirst = false;
-    bool bSecond = false;
-    pair.dFirst = listParts.value(0).toDouble(&bFirst);
-    pair.dSecond = listParts.value(1).toDouble(&bSecond);
-    pair.bRead = bFirst && bSecond && listParts.size() == 2;
-    return pair;
-}
-
-bool IsWhole(double dValue, double dFirst, double dLast)
-{
-    return dValue >= dFirst && dValue <= dLast && dValue == std::floor(dValue);
 }
 
 QString SetMaker(quint8* pBlock, const QString& strValue)
@@ -246,24 +211,13 @@ QString SetPrimaries(quint8* pBlock, const QString& strValue)
 /// The first descriptor becomes a timing with reduced blanking; the image size of one that was there stays.
 QString SetMode(quint8* pBlock, const QString& strValue)
 {
-    constexpr double c_dLargest = 65535.0;
-    const SPair size = ReadPair(strValue.section(QLatin1Char('@'), 0, 0), QLatin1Char('x'));
-    bool bRate = false;
-    const float fRate = strValue.section(QLatin1Char('@'), 1).toFloat(&bRate);
     const QString strRange =
         QStringLiteral("WIDTHxHEIGHT@RATE of at most 4095x4095 and 655.35 MHz; larger modes need the "
                        "second block that 'edid --conform' makes");
-    if (!size.bRead || !bRate || !(fRate > 0.0F) || !IsWhole(size.dFirst, 1, c_dLargest) ||
-        !IsWhole(size.dSecond, 1, c_dLargest))
+    const std::optional<SModeTiming> timing = ModeOf(strValue);
+    if (!timing || !FitsDetailed(*timing))
         return OutOfRange(strValue, strRange);
-    const SModeTiming timing = ReducedMode(int(size.dFirst), int(size.dSecond), fRate);
-    if (!FitsDetailed(timing) || timing.vertical.nBack <= 0)
-        return OutOfRange(strValue, strRange);
-    quint8* pFirst = Descriptor(pBlock, 0);
-    const bool bSize = IsDetailed(pFirst);
-    const int nWidthMm = bSize ? int(Get(pFirst, c_layoutDetailed[enWidthMm])) : 0;
-    const int nHeightMm = bSize ? int(Get(pFirst, c_layoutDetailed[enHeightMm])) : 0;
-    WriteDetailed(pFirst, timing, nWidthMm, nHeightMm);
+    ReplaceDetailed(Descriptor(pBlock, 0), *timing);
     return {};
 }
 
@@ -331,20 +285,6 @@ constexpr SEditor c_arrEditors[] = {
     {{"range", "auto or VMIN-VMAX,HMIN-HMAX,CLOCK"}, &SetRange},
 };
 
-bool HasRightChecksum(const quint8* pBlock)
-{
-    return pBlock[c_nChecksumOffset] == Checksum(pBlock);
-}
-
-void FixSection(quint8* pBlock)
-{
-    quint8* pSection = pBlock + c_nSectionOffset;
-    if (pBlock[0] != c_byDisplayIdTag || pSection[1] > c_nMaxSectionBytes)
-        return;
-    quint8* pEnd = pSection + c_nSectionHeadSize + pSection[1];
-    *pEnd = static_cast<quint8>(0U - std::accumulate(pSection, pEnd, 0U));
-}
-
 } // namespace
 
 const QVector<SEditable>& Editables()
@@ -369,11 +309,9 @@ QString SetValue(QByteArray& edid, const QString& strKey, const QString& strValu
         return QStringLiteral("unknown field '%1'; give one of: %2")
             .arg(strKey, listKeys.join(QStringLiteral(", ")));
     }
-    quint8* pBlock = BytesOf(edid);
-    const bool bRight = HasRightChecksum(pBlock);
-    QString strError = pEditor->pSet(pBlock, strValue);
-    if (bRight)
-        PutChecksum(edid, 0);
+    const CKeptChecksums checksums(edid, 0);
+    QString strError = pEditor->pSet(BytesOf(edid), strValue);
+    checksums.Restore(edid);
     return strError;
 }
 
@@ -386,7 +324,7 @@ void Fix(QByteArray& edid)
     Put(pBytes, c_layoutBase[enExtensionCount], std::min(nExtensions, c_nMostExtensions));
     for (int nBlock = 0; nBlock + c_nEdidBlockSize <= edid.size(); nBlock += c_nEdidBlockSize) {
         if (nBlock > 0)
-            FixSection(pBytes + nBlock);
+            PutSectionChecksum(edid, nBlock);
         PutChecksum(edid, nBlock);
     }
 }

@@ -295,17 +295,26 @@ QString FieldCharacters(const quint8* pText, int nSize)
     return strText;
 }
 
-QString FieldHex(const SField& field, const quint8* pBytes)
+QVector<int> FieldOffsets(const SField& field)
 {
     const SFieldType& type = *field.pType;
-    if (type.nPieces == 0)
-        return HexText(pBytes + field.nOffset, field.nSize);
-    QByteArray bytes;
-    for (int nByte = type.nOffset; nByte < type.nOffset + type.nSize; ++nByte) {
+    const auto HoldsBits = [&](int nByte) {
         const auto IsIt = [=](const SBits& bits) { return bits.byByte == nByte; };
-        if (std::any_of(type.arrPieces.begin(), type.arrPieces.begin() + type.nPieces, IsIt))
-            bytes += char(pBytes[field.nOffset + nByte - type.nOffset]);
-    }
+        return type.nPieces == 0 ||
+               std::any_of(type.arrPieces.begin(), type.arrPieces.begin() + type.nPieces, IsIt);
+    };
+    QVector<int> vecOffsets;
+    for (int i = 0; i < field.nSize; ++i)
+        if (HoldsBits(type.nOffset + i))
+            vecOffsets.append(field.nOffset + i);
+    return vecOffsets;
+}
+
+QString FieldHex(const SField& field, const quint8* pBytes)
+{
+    QByteArray bytes;
+    for (const int nOffset : FieldOffsets(field))
+        bytes += char(pBytes[nOffset]);
     return HexText(reinterpret_cast<const quint8*>(bytes.constData()), bytes.size());
 }
 

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QJsonValue>
 #include <QString>
+#include <QVector>
 
 /// @file
 /// What people and programs read of an explanation.
@@ -35,7 +36,10 @@ QJsonValue ValueJson(const SField& field, const quint8* pBytes, const MakerNames
 /// The characters of a text field up to its line feed; what cannot be printed as `\x00`.
 QString FieldCharacters(const quint8* pText, int nSize);
 
-/// The bytes that hold a field's bits, in their order; those between them are not among them.
+/// Where the bytes that hold a field's bits are in the whole EDID; those between them are not among them.
+QVector<int> FieldOffsets(const SField& field);
+
+/// The bytes that hold a field's bits, in their order.
 QString FieldHex(const SField& field, const quint8* pBytes);
 
 /// Bytes as two hexadecimal digits each, in capitals, with blanks between.

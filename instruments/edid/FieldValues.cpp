@@ -1,6 +1,11 @@
 #include "instruments/edid/FieldValues.h"
 
 #include "instruments/edid/BaseLayout.h"
+#include "instruments/edid/DetailedTiming.h"
+#include "instruments/edid/EdidText.h"
+#include "instruments/edid/ReducedMode.h"
+
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
@@ -54,6 +59,44 @@ void PutPair(quint8* pDescriptor, const SPairRows& rows, int nMin, int nMax, boo
 
 } // namespace
 
+SPair ReadPair(const QString& strText, QChar chBetween)
+{
+    const QStringList listParts = strText.split(chBetween, Qt::KeepEmptyParts, Qt::CaseInsensitive);
+    SPair pair;
+    bool bFirst = false;
+    bool bSecond = false;
+    pair.dFirst = listParts.value(0).toDouble(&bFirst);
+    pair.dSecond = listParts.value(1).toDouble(&bSecond);
+    pair.bRead = bFirst && bSecond && listParts.size() == 2;
+    return pair;
+}
+
+bool IsWhole(double dValue, double dFirst, double dLast)
+{
+    return dValue >= dFirst && dValue <= dLast && dValue == std::floor(dValue);
+}
+
+std::optional<SModeTiming> ModeOf(const QString& strMode)
+{
+    constexpr double c_dLargest = 65535.0;
+    const SPair size = ReadPair(strMode.section(QLatin1Char('@'), 0, 0), QLatin1Char('x'));
+    bool bRate = false;
+    const float fRate = strMode.section(QLatin1Char('@'), 1).toFloat(&bRate);
+    if (!size.bRead || !bRate || !(fRate > 0.0F) || !IsWhole(size.dFirst, 1, c_dLargest) ||
+        !IsWhole(size.dSecond, 1, c_dLargest))
+        return std::nullopt;
+    const SModeTiming timing = ReducedMode(int(size.dFirst), int(size.dSecond), fRate);
+    return timing.vertical.nBack > 0 ? std::optional<SModeTiming>(timing) : std::nullopt;
+}
+
+void ReplaceDetailed(quint8* pDescriptor, const SModeTiming& timing)
+{
+    const bool bSize = IsDetailed(pDescriptor);
+    const int nWidthMm = bSize ? int(Get(pDescriptor, c_layoutDetailed[enWidthMm])) : 0;
+    const int nHeightMm = bSize ? int(Get(pDescriptor, c_layoutDetailed[enHeightMm])) : 0;
+    WriteDetailed(pDescriptor, timing, nWidthMm, nHeightMm);
+}
+
 std::optional<int> MakerNumber(const QString& strLetters)
 {
     constexpr int c_nLetters = 3;
@@ -72,24 +115,29 @@ std::optional<int> MakerNumber(const QString& strLetters)
 QString TextError(const QString& strText)
 {
     if (strText.isEmpty() || strText.size() > c_nContentSize)
-        return QStringLiteral("a text has 1 to 13 characters, and '%1' has %2")
+        return CEdidText::tr("a text has 1 to 13 characters, and '%1' has %2")
             .arg(strText)
             .arg(strText.size());
     if (!std::all_of(strText.begin(), strText.end(), &IsPrintable))
-        return QStringLiteral("'%1' holds other characters than printable ASCII").arg(strText);
-    return strText.endsWith(QLatin1Char(' ')) ? QStringLiteral("'%1' ends in a blank").arg(strText)
+        return CEdidText::tr("'%1' holds other characters than printable ASCII").arg(strText);
+    return strText.endsWith(QLatin1Char(' ')) ? CEdidText::tr("'%1' ends in a blank").arg(strText)
                                               : QString();
 }
 
-void WriteTextDescriptor(quint8* pDescriptor, quint8 byTag, const QString& strText)
+void WriteText(quint8* pContent, const QString& strText)
 {
     QByteArray content = strText.toLatin1().left(c_nContentSize);
     if (content.size() < c_nContentSize)
         content.append('\n');
     content = content.leftJustified(c_nContentSize, ' ');
+    std::copy(content.begin(), content.end(), pContent);
+}
+
+void WriteTextDescriptor(quint8* pDescriptor, quint8 byTag, const QString& strText)
+{
     std::fill_n(pDescriptor, c_nContentOffset, quint8(0));
     pDescriptor[c_nTagOffset] = byTag;
-    std::copy(content.begin(), content.end(), pDescriptor + c_nContentOffset);
+    WriteText(pDescriptor + c_nContentOffset, strText);
 }
 
 SRangeLimits LimitsFor(const SBlockTimings& timings, bool bFrom14)

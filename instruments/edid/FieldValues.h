@@ -2,6 +2,7 @@
 #define INSTRUMENTS_EDID_FIELDVALUES_H
 
 #include "instruments/edid/BlockTimings.h"
+#include "instruments/edid/ModeTiming.h"
 
 #include <QString>
 
@@ -12,12 +13,35 @@
 
 namespace Edid {
 
+/// Two numbers with a character between them.
+struct SPair
+{
+    double dFirst = 0.0;
+    double dSecond = 0.0;
+    bool bRead = false;
+};
+
+SPair ReadPair(const QString& strText, QChar chBetween);
+
+/// Whether a number is whole and within bounds.
+bool IsWhole(double dValue, double dFirst, double dLast);
+
+/// The timing with reduced blanking of `WIDTHxHEIGHT@RATE`; empty for another text, and for a mode that has
+/// no such timing.
+std::optional<SModeTiming> ModeOf(const QString& strMode);
+
+/// Replaces a descriptor by a timing that fits. The image size of a timing that was there stays.
+void ReplaceDetailed(quint8* pDescriptor, const SModeTiming& timing);
+
 /// The number of three letters A to Z; empty for another text.
 std::optional<int> MakerNumber(const QString& strLetters);
 
 /// Why a text does not fit a descriptor; empty when it does: 1 to 13 printable ASCII characters, none of them
 /// a blank at the end.
 QString TextError(const QString& strText);
+
+/// Writes a text that fits, 13 bytes: a line feed ends a shorter one, and blanks follow.
+void WriteText(quint8* pContent, const QString& strText);
 
 /// Writes a text descriptor, 18 bytes.
 void WriteTextDescriptor(quint8* pDescriptor, quint8 byTag, const QString& strText);

@@ -1,3 +1,4 @@
+#include "instruments/edid/EdidText.h"
 #include "instruments/edid/TextForms.h"
 
 #include <QJsonArray>
@@ -57,8 +58,8 @@ QByteArray BytesOf(const QJsonArray& values, QString& strError)
             bytes += char(int(dByte));
         else
             strError =
-                QStringLiteral("entry %1 of \"bytes\" is no byte; give numbers from 0 to 255, or texts of "
-                               "two digits for each byte")
+                CEdidText::tr("entry %1 of \"bytes\" is no byte; give numbers from 0 to 255, or texts of "
+                              "two digits for each byte")
                     .arg(i + 1);
     }
     return bytes;
@@ -74,7 +75,7 @@ SReading ReadObject(const QByteArray& text, const QJsonObject& object)
     else if (value.isArray())
         bytes = BytesOf(value.toArray(), strError);
     else
-        strError = QStringLiteral("there is no list \"bytes\"; give the JSON that this program writes");
+        strError = CEdidText::tr("there is no list \"bytes\"; give the JSON that this program writes");
     if (strError.isEmpty())
         strError = SizeError(bytes.size());
     if (!strError.isEmpty())
@@ -94,7 +95,7 @@ SReading ReadList(const QByteArray& text, const QJsonArray& edids)
         reading.vecEdids += one.vecEdids;
     }
     return reading.vecEdids.isEmpty()
-               ? ErrorAtKey(text, c_strEdids, QStringLiteral("the list \"edids\" is empty"))
+               ? ErrorAtKey(text, c_strEdids, CEdidText::tr("the list \"edids\" is empty"))
                : reading;
 }
 
@@ -119,8 +120,8 @@ SReading ReadJson(const QByteArray& text)
         return ErrorAtOffset(text, error.offset, error.errorString());
     if (!document.isObject())
         return ErrorAtOffset(text, 0,
-                             QStringLiteral("an object with \"bytes\" is needed; give the JSON that "
-                                            "this program writes"));
+                             CEdidText::tr("an object with \"bytes\" is needed; give the JSON that "
+                                           "this program writes"));
     const QJsonObject object = document.object();
     return object.contains(c_strEdids) ? ReadList(text, object.value(c_strEdids).toArray())
                                        : ReadObject(text, object);

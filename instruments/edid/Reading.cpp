@@ -1,6 +1,7 @@
 #include "instruments/edid/Reading.h"
 
 #include "instruments/edid/Checksum.h"
+#include "instruments/edid/EdidText.h"
 #include "instruments/edid/TextForms.h"
 
 #include <algorithm>
@@ -63,7 +64,7 @@ QString SReading::ErrorText() const
 {
     if (nLine == 0)
         return strError;
-    return QStringLiteral("line %1, column %2: %3").arg(nLine).arg(nColumn).arg(strError);
+    return CEdidText::tr("line %1, column %2: %3").arg(nLine).arg(nColumn).arg(strError);
 }
 
 SReading Read(const QByteArray& content)
@@ -74,7 +75,7 @@ SReading Read(const QByteArray& content)
     const QByteArray begin = content.left(c_nMaxText);
     SReading reading = IsBinary(begin) ? ReadBinary(content) : ReadText(begin);
     if (reading.IsRead())
-        reading.strError = QStringLiteral("the text is longer than 8 MB; give the EDID alone");
+        reading.strError = CEdidText::tr("the text is longer than 8 MB; give the EDID alone");
     return reading;
 }
 

@@ -3,6 +3,8 @@
 #include "instruments/edid/BaseLayout.h"
 #include "instruments/edid/ListedTimings.h"
 
+#include <iterator>
+
 namespace Edid {
 
 namespace {
@@ -27,6 +29,22 @@ SStandardTiming ReadStandard(quint16 wStandard, int nRevision)
     const SAspect aspect = nCode == 0 && nRevision < c_nFirstWithoutSquare ? c_square : c_arrAspects[nCode];
     const int nWidth = (int(wStandard >> 8U) + c_nWidthAdd) * c_nWidthUnit;
     return {nWidth, nWidth * aspect.nHeight / aspect.nWidth, int(nSecond & c_nRateMask) + c_nRateAdd};
+}
+
+std::optional<quint16> StandardCode(const SStandardTiming& timing, int nRevision)
+{
+    const int nFirst = timing.nWidth / c_nWidthUnit - c_nWidthAdd;
+    const int nRate = timing.nRate - c_nRateAdd;
+    constexpr int c_nLastByte = 0xFF;
+    if (nFirst < 1 || nFirst > c_nLastByte || nRate < 0 || nRate > int(c_nRateMask))
+        return std::nullopt;
+    for (unsigned nCode = 0; nCode < std::size(c_arrAspects); ++nCode) {
+        const quint16 wCode = quint16(unsigned(nFirst) << 8U | nCode << c_nAspectShift | unsigned(nRate));
+        const SStandardTiming named = ReadStandard(wCode, nRevision);
+        if (wCode != c_wUnusedStandard && named.nWidth == timing.nWidth && named.nHeight == timing.nHeight)
+            return wCode;
+    }
+    return std::nullopt;
 }
 
 QString StandardText(quint16 wStandard, int nRevision)

@@ -1,6 +1,7 @@
 #include "instruments/edid/TextForms.h"
 
 #include "host/CommonClass/EdidBlockSize.h"
+#include "instruments/edid/EdidText.h"
 
 #include <algorithm>
 #include <cstring>
@@ -42,7 +43,7 @@ QString Shown(char ch)
     const bool bPlain = ch >= ' ' && static_cast<unsigned char>(ch) <= c_byLastPlain;
     return bPlain
                ? QStringLiteral("'%1'").arg(QLatin1Char(ch))
-               : QStringLiteral("the byte 0x%1").arg(static_cast<unsigned char>(ch), 2, 16, QLatin1Char('0'));
+               : CEdidText::tr("the byte 0x%1").arg(static_cast<unsigned char>(ch), 2, 16, QLatin1Char('0'));
 }
 
 int SkipBlanks(const SLine& line, int nColumn)
@@ -116,8 +117,8 @@ bool CheckOffset(CByteCollector& collector, const SLine& line, int nOffsetEnd)
     if (nOffset == collector.Bytes().size())
         return true;
     return collector.Fail(line, 0,
-                          QStringLiteral("the offset is 0x%1, but there are 0x%2 bytes before it; "
-                                         "give every line of the dump")
+                          CEdidText::tr("the offset is 0x%1, but there are 0x%2 bytes before it; "
+                                        "give every line of the dump")
                               .arg(nOffset, 0, 16)
                               .arg(collector.Bytes().size(), 0, 16));
 }
@@ -128,7 +129,7 @@ bool TakeXxdLine(CByteCollector& collector, const SLine& line)
         return true;
     if (!IsXxdLine(line))
         return collector.Fail(line, 0,
-                              QStringLiteral("no offset with a colon; give every line as xxd writes it"));
+                              CEdidText::tr("no offset with a colon; give every line as xxd writes it"));
     const int nOffsetEnd = OffsetEnd(line);
     if (!CheckOffset(collector, line, nOffsetEnd))
         return false;
@@ -152,7 +153,7 @@ bool TakeHexdumpLine(CByteCollector& collector, const SLine& line, bool& bRepeat
     }
     const int nOffsetEnd = OffsetEnd(line);
     if (nOffsetEnd < 0)
-        return collector.Fail(line, 0, QStringLiteral("no offset; give every line as hexdump -C writes it"));
+        return collector.Fail(line, 0, CEdidText::tr("no offset; give every line as hexdump -C writes it"));
     const qint64 nOffset = QByteArray(line.pBegin, nOffsetEnd).toLongLong(nullptr, 16);
     if (bRepeats && !collector.Repeat(line, int(std::min<qint64>(nOffset, c_nMaxBytes + 1))))
         return false;
@@ -216,11 +217,11 @@ SReading ErrorAt(const SLine& line, int nColumn, const QString& strError)
 QString SizeError(qint64 nBytes)
 {
     if (nBytes == 0)
-        return QStringLiteral("there are no bytes; give an EDID of at least 128");
+        return CEdidText::tr("there are no bytes; give an EDID of at least 128");
     if (nBytes > c_nMaxBytes)
-        return QStringLiteral("there are more than 256 blocks; an EDID has at most so many");
+        return CEdidText::tr("there are more than 256 blocks; an EDID has at most so many");
     if (nBytes % c_nEdidBlockSize != 0)
-        return QStringLiteral("there are %1 bytes; an EDID has whole blocks of 128").arg(nBytes);
+        return CEdidText::tr("there are %1 bytes; an EDID has whole blocks of 128").arg(nBytes);
     return {};
 }
 
@@ -243,7 +244,7 @@ bool CByteCollector::TakeGroup(const SLine& line, int nBegin, int nEnd)
     const bool bPrefixed = nBegin >= 2 && (line.At(nBegin - 1) | ' ') == 'x';
     if (nDigits % 2 != 0 && !(bPrefixed && nDigits == 1))
         return Fail(line, nBegin,
-                    QStringLiteral("'%1' is no whole number of bytes; write two digits for each")
+                    CEdidText::tr("'%1' is no whole number of bytes; write two digits for each")
                         .arg(QString::fromLatin1(line.pBegin + nBegin, std::min(nDigits, 40))));
     int nColumn = nBegin;
     if (nDigits % 2 != 0)
@@ -264,7 +265,7 @@ bool CByteCollector::TakeGroups(const SLine& line, int nBegin, int nEnd)
         const int nFirst = nColumn + (bPrefix ? 2 : 0);
         const int nLast = std::min(SkipDigits(line, nFirst), nEnd);
         if (nLast <= nFirst || (nLast < nEnd && !IsSeparator(line.At(nLast))))
-            return Fail(line, nLast, QStringLiteral("%1 is no hexadecimal digit").arg(Shown(line.At(nLast))));
+            return Fail(line, nLast, CEdidText::tr("%1 is no hexadecimal digit").arg(Shown(line.At(nLast))));
         if (!TakeGroup(line, nFirst, nLast))
             return false;
         nColumn = nLast;
@@ -276,7 +277,7 @@ bool CByteCollector::Repeat(const SLine& line, int nUpTo)
 {
     constexpr int c_nRow = 16;
     if (m_bytes.size() < c_nRow)
-        return Fail(line, 0, QStringLiteral("'*' has no line before it to repeat"));
+        return Fail(line, 0, CEdidText::tr("'*' has no line before it to repeat"));
     if (nUpTo > c_nMaxBytes)
         return Fail(line, 0, SizeError(nUpTo));
     while (m_bytes.size() < nUpTo)
@@ -344,7 +345,7 @@ SReading ReadDecoderText(const QByteArray& text)
     if (it == vecLines.end())
         return ErrorAt(
             LastOf(vecLines), 0,
-            QStringLiteral("'%1' stands on no line of its own").arg(QLatin1String(c_szDecoderMark)));
+            CEdidText::tr("'%1' stands on no line of its own").arg(QLatin1String(c_szDecoderMark)));
     CByteCollector collector;
     for (++it; it != vecLines.end() && (IsEmpty(*it) || IsHexLine(*it)); ++it)
         if (!collector.TakeGroups(*it, 0, it->Size()))

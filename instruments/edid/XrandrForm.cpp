@@ -1,3 +1,4 @@
+#include "instruments/edid/EdidText.h"
 #include "instruments/edid/TextForms.h"
 
 #include <algorithm>
@@ -76,7 +77,7 @@ SReading ReadXrandr(const QByteArray& text)
     }
     if (reading.vecEdids.isEmpty())
         return ErrorAt(vecLines.back(), 0,
-                       QStringLiteral("no output has an EDID; give what 'xrandr --prop' prints"));
+                       CEdidText::tr("no output has an EDID; give what 'xrandr --prop' prints"));
     return reading;
 }
 

@@ -98,7 +98,8 @@ const std::vector<SLayer>& Layers()
                          L("SenderModuleDialog/edid/TimingTable.h"),
                          L("SenderModuleDialog/edid/VideoTiming.h")},
          true},
-        // Beyond the library: above the calculation, below the applications.
+        // Beyond the library: above the calculation, below the applications. The texts of what is wrong with
+        // an EDID are looked up in the program's language.
         {L("instruments"),
          {L("instruments/")},
          Base() +
@@ -107,7 +108,7 @@ const std::vector<SLayer>& Layers()
                  L("SenderModuleDialog/edid/CvtTiming.h"), L("SenderModuleDialog/edid/EDIDRaw.h"),
                  L("SenderModuleDialog/edid/EdidBlock.h"), L("SenderModuleDialog/edid/EdidLayout.h"),
                  L("SenderModuleDialog/edid/MonitorName.h"), L("SenderModuleDialog/edid/TimingTable.h"),
-                 L("SenderModuleDialog/edid/VideoTiming.h"), L("host/CommonClass/")},
+                 L("SenderModuleDialog/edid/VideoTiming.h"), L("host/CommonClass/"), L("QCoreApplication")},
          true},
         {L("EDID dialog"),
          {L("SenderModuleDialog/edid/")},
@@ -203,7 +204,8 @@ bool IsAllowed(const SLayer& layer, const QString& strInclude, bool bSystem)
 {
     if (!bSystem)
         return StartsWithAny(strInclude, layer.listAllowed);
-    return !layer.bPure || !strInclude.startsWith(QLatin1Char('Q')) || QtValues().contains(strInclude);
+    return !layer.bPure || !strInclude.startsWith(QLatin1Char('Q')) || QtValues().contains(strInclude) ||
+           layer.listAllowed.contains(strInclude);
 }
 
 /// What is wrong with a file, empty when nothing is.
