@@ -4,6 +4,7 @@
 #include "SenderModuleDialog/DialogFrame.h"
 #include "SenderModuleDialog/HostAccess.h"
 #include "SenderModuleDialog/Saturate.h"
+#include "SenderModuleDialog/edid/EdidControls.h"
 #include "SenderModuleDialog/edid/EdidEnvironment.h"
 #include "SenderModuleDialog/edid/EdidLimit.h"
 #include "SenderModuleDialog/edid/EdidModel.h"
@@ -28,9 +29,6 @@ namespace {
 constexpr int c_nLowRateIndexMax = 2;
 constexpr int c_nRateIndexMax = 4;
 
-/// Lines that the error label holds.
-constexpr int c_nErrorLines = 3;
-
 /// What the dialog starts from when the host has no setting.
 SEdidSetting DefaultSetting()
 {
@@ -40,6 +38,17 @@ SEdidSetting DefaultSetting()
     setting.byRate = 60;
     setting.byFormatFlags = EdidOptions::c_arrDepths[0].byFlag;
     return setting;
+}
+
+/// What the resolution's combo box shows.
+QString ResolutionText(bool bCustom, QSize size)
+{
+    if (bCustom)
+        return CCustomDialog::tr("自定义：%1×%2").arg(size.width()).arg(size.height());
+    QString strText = QStringLiteral("%1×%2").arg(size.width()).arg(size.height());
+    if (size != QApplication::desktop()->size())
+        return strText;
+    return strText + QLatin1Char('(') + CCustomDialog::tr("电脑") + QLatin1Char(')');
 }
 
 } // namespace
@@ -154,12 +163,12 @@ int CEdidSetDlg::GetMaxAreaByRate() const
 
 void CEdidSetDlg::OnWidthSpinBoxValueChanged()
 {
-    HoldToLimit(m_pWidthSpinBox, m_pModel->limit.nMaxWidth);
+    HoldToLimit(m_pControls->pWidth, m_pModel->limit.nMaxWidth);
 }
 
 void CEdidSetDlg::OnHeightSpinBoxValueChanged()
 {
-    HoldToLimit(m_pHeightSpinBox, m_pModel->limit.nMaxHeight);
+    HoldToLimit(m_pControls->pHeight, m_pModel->limit.nMaxHeight);
 }
 
 void CEdidSetDlg::HoldToLimit(CCustomSpinBox* pSpinBox, int nMaximum)
@@ -231,95 +240,65 @@ void CEdidSetDlg::RefreshWindow()
     RefreshSize();
 }
 
-QString CEdidSetDlg::ResolutionText(QSize size) const
-{
-    if (m_pModel->nResolutionIndex == 0)
-        return CCustomDialog::tr("自定义：%1×%2").arg(size.width()).arg(size.height());
-    QString strText = QStringLiteral("%1×%2").arg(size.width()).arg(size.height());
-    if (size != QApplication::desktop()->size())
-        return strText;
-    return strText + QLatin1Char('(') + CCustomDialog::tr("电脑") + QLatin1Char(')');
-}
-
 void CEdidSetDlg::RefreshResolution()
 {
     QSize size;
     if (!GetResolutionByIndex(m_pModel->nResolutionIndex, size))
         return;
     const bool bCustom = m_pModel->nResolutionIndex == 0;
-    m_pResolutionComboBox->setText(ResolutionText(size));
+    m_pControls->pResolution->setText(ResolutionText(bCustom, size));
     if (!bCustom)
-        ClearError();
+        ShowVerdict(QString());
     DialogFrame::CheckEntry(m_listResolutionActions, m_pModel->nResolutionIndex);
     m_pModel->rows.bCustomSize = bCustom;
-    for (QWidget* pWidget : {static_cast<QWidget*>(m_pSizeLabel), static_cast<QWidget*>(m_pWidthSpinBox),
-                             static_cast<QWidget*>(m_pTimesLabel), static_cast<QWidget*>(m_pHeightSpinBox)})
-        pWidget->setVisible(bCustom);
+    m_pControls->ShowSize(bCustom);
 }
 
 void CEdidSetDlg::RefreshFrameRate()
 {
-    m_rowRate.Show(m_pModel->RateRow());
+    m_pControls->rowRate.Show(m_pModel->RateRow());
     m_pModel->rows.bFrameRate = true;
 }
 
 void CEdidSetDlg::RefreshColorDepth()
 {
-    m_rowDepth.pComboBox->setText(EdidOptions::DepthName(m_pModel->nDepthIndex));
-    m_rowDepth.pComboBox->SetItemChecked(m_pModel->nDepthIndex);
+    m_pControls->rowDepth.pComboBox->setText(EdidOptions::DepthName(m_pModel->nDepthIndex));
+    m_pControls->rowDepth.pComboBox->SetItemChecked(m_pModel->nDepthIndex);
 }
 
 void CEdidSetDlg::RefreshColorFormat()
 {
-    m_rowFormat.Show(m_pModel->FormatRow());
+    m_pControls->rowFormat.Show(m_pModel->FormatRow());
 }
 
 void CEdidSetDlg::RefreshEdidStandard()
 {
     const SEdidRow row = m_pModel->StandardRow();
-    m_rowStandard.Show(row);
+    m_pControls->rowStandard.Show(row);
     m_pModel->rows.bTimingStandard = row.bVisible;
 }
 
 void CEdidSetDlg::RefreshConnectPC()
 {
     m_pModel->rows.bConnectPC = IsShowConnectPC();
-    m_pConnectPCCheckBox->setCheckState(m_pModel->byConnectPC == 1 ? Qt::Checked : Qt::Unchecked);
-    m_pConnectPCCheckBox->setVisible(m_pModel->rows.bConnectPC);
-}
-
-QSize CEdidSetDlg::TypedSize() const
-{
-    return {m_pWidthSpinBox->text().toInt(), m_pHeightSpinBox->text().toInt()};
+    m_pControls->pConnectPC->setCheckState(m_pModel->byConnectPC == 1 ? Qt::Checked : Qt::Unchecked);
+    m_pControls->pConnectPC->setVisible(m_pModel->rows.bConnectPC);
 }
 
 void CEdidSetDlg::RefreshErrorInfo()
 {
-    const QSize size = m_pModel->JudgedSize(TypedSize());
+    const QSize size = m_pModel->JudgedSize(m_pControls->TypedSize());
     const int nLimit = m_pModel->LimitOf(size);
     QString strVerdict;
     HostAccess::VideoSourceLogic().CheckEdidLimit(size.width(), size.height(), nLimit, &strVerdict);
     ShowVerdict(strVerdict);
 }
 
-void CEdidSetDlg::ClearError()
-{
-    DialogFrame::ShowWrapped(m_pErrorLabel, QString(), c_nErrorLines);
-    m_pModel->rows.bError = false;
-    m_pErrorLabel->hide();
-    m_pOkButton->setEnabled(true);
-}
-
 void CEdidSetDlg::ShowVerdict(const QString& strVerdict)
 {
-    if (strVerdict.isEmpty()) {
-        ClearError();
-        return;
-    }
-    DialogFrame::ShowWrapped(m_pErrorLabel, strVerdict, c_nErrorLines);
-    m_pModel->rows.bError = true;
-    m_pErrorLabel->show();
-    m_pOkButton->setEnabled(EdidLimit::IsNotice(strVerdict));
+    m_pControls->ShowError(strVerdict);
+    m_pModel->rows.bError = !strVerdict.isEmpty();
+    m_pControls->buttons.pOk->setEnabled(strVerdict.isEmpty() || EdidLimit::IsNotice(strVerdict));
 }
 
 void CEdidSetDlg::RefreshSize()

@@ -10,17 +10,11 @@
 
 #include <memory>
 
-class CCustomComboBox;
-class CCustomLabel;
-class CCustomProgressbar;
 class CCustomSpinBox;
 class QAction;
-class QCheckBox;
-class QGridLayout;
 class QMenu;
-class QPushButton;
+struct SEdidControls;
 struct SEdidModel;
-struct SEdidRow;
 struct SEdidSetting;
 
 /// The modal dialog in which the operator sets the EDID that one video interface of the current sender shows
@@ -117,62 +111,21 @@ public Q_SLOTS:
 private:
     friend class CEdidSetDlgProbe; // tests reach the values that no control can set
 
-    /// A row with a caption and one choice.
-    struct SChoiceRow
-    {
-        CCustomLabel* pLabel = nullptr;
-        CCustomComboBox* pComboBox = nullptr;
-
-        void Show(const SEdidRow& row) const;
-    };
-
-    QGridLayout* CreateGrid();
-    CCustomComboBox* CreateComboBox();
-    void InitSizeRow(QGridLayout* pGrid);
-    void InitChoiceRow(QGridLayout* pGrid, int nGridRow, const char* szCaption, const char* szName,
-                       SChoiceRow& row);
-    void InitOptionRows(QGridLayout* pGrid);
-    void InitButtonRow(QGridLayout* pGrid);
     void InitResolutionMenu();
-    void InitRateMenu();
-    void InitDepthMenu();
-    void InitFormatMenu();
-    void InitStandardMenu();
     QAction* AddResolution(QMenu* pMenu, int nIndex, const QString& strText);
-    QString PresetText(QSize size) const;
 
     void HoldToLimit(CCustomSpinBox* pSpinBox, int nMaximum);
-    QString ResolutionText(QSize size) const;
-    void RefreshSize();
-    QSize TypedSize() const;
-    void ClearError();
     void ShowVerdict(const QString& strVerdict);
+    void RefreshSize();
 
     bool Commit();
+    bool ChosenSize(QSize& size) const;
     void CommitBasic(int nSender, QSize size, unsigned char byRate);
     bool CommitFull(int nSender, QSize size);
     void WriteFull(int nSender, const SEdidSetting& setting);
-    bool ChosenSize(QSize& size) const;
-    void EnableSpinBoxes(bool bEnable);
-    CCustomProgressbar* CreateProgressbar();
-    void WaitBehind(CCustomProgressbar* pProgressbar, unsigned int nDeviceWait);
 
     const std::unique_ptr<SEdidModel> m_pModel;
-
-    CCustomComboBox* m_pResolutionComboBox = nullptr;
-    CCustomLabel* m_pSizeLabel = nullptr;
-    CCustomSpinBox* m_pWidthSpinBox = nullptr;
-    CCustomLabel* m_pTimesLabel = nullptr;
-    CCustomSpinBox* m_pHeightSpinBox = nullptr;
-    SChoiceRow m_rowRate;
-    SChoiceRow m_rowDepth;
-    SChoiceRow m_rowFormat;
-    SChoiceRow m_rowStandard;
-    QCheckBox* m_pConnectPCCheckBox = nullptr;
-    CCustomLabel* m_pErrorLabel = nullptr;
-    QPushButton* m_pOkButton = nullptr;
-    QPushButton* m_pCancelButton = nullptr;
-
+    std::unique_ptr<SEdidControls> m_pControls;
     QList<QAction*> m_listResolutionActions; ///< the custom action too where the menu lacks it
 };
 

@@ -5,6 +5,7 @@
 #include "SenderModuleDialog/HostAccess.h"
 #include "SenderModuleDialog/Saturate.h"
 #include "SenderModuleDialog/edid/EdidCommit.h"
+#include "SenderModuleDialog/edid/EdidControls.h"
 #include "SenderModuleDialog/edid/EdidEnvironment.h"
 #include "SenderModuleDialog/edid/EdidModel.h"
 #include "SenderModuleDialog/edid/EdidSetDlg.h"
@@ -21,13 +22,33 @@ void ShowSaveFailed()
     DialogFrame::ShowMessage(nullptr, CCustomDialog::tr("保存失败。"));
 }
 
+CCustomProgressbar* CreateProgressbar(QWidget* pDialog)
+{
+    auto* pProgressbar = new CCustomProgressbar(pDialog, false);
+    pProgressbar->setLabelText(CCustomDialog::tr("发送中..."));
+    pProgressbar->GetProgressOwnerRecord().pOwner = pDialog;
+    pProgressbar->SetProgressValue(EdidCommit::c_nStartPercent);
+    return pProgressbar;
+}
+
+/// Keeps the GUI thread while the device stores the setting.
+/// @param nDeviceWait before each step of the bar, microseconds; a demo project waits less
+void WaitBehind(CCustomProgressbar* pProgressbar, unsigned int nDeviceWait)
+{
+    for (int nPercent = EdidCommit::c_nStartPercent + 1; nPercent <= EdidCommit::c_nLastPercent; ++nPercent) {
+        const bool bDemo = HostAccess::ProjectData().GetDemoModeEnable();
+        EdidEnvironment().funcWait(bDemo ? EdidCommit::c_nDemoWait : nDeviceWait);
+        pProgressbar->SetProgressValue(nPercent);
+    }
+}
+
 } // namespace
 
 void CEdidSetDlg::OnOKPushButtonClicked()
 {
-    EnableSpinBoxes(false);
+    m_pControls->EnableSize(false);
     if (!Commit())
-        EnableSpinBoxes(true);
+        m_pControls->EnableSize(true);
 }
 
 bool CEdidSetDlg::Commit()
@@ -50,7 +71,7 @@ void CEdidSetDlg::CommitBasic(int nSender, QSize size, unsigned char byRate)
     const SEdidSetting setting = EdidCommit::BasicSetting(size, byRate);
     const bool bWritten = logic.SetEdidSetting(nSender, m_pModel->nInterfaceId, &setting) == 0;
     // The wait runs its whole length even when the write has failed: the failure shows afterwards.
-    CCustomProgressbar* pProgressbar = CreateProgressbar();
+    CCustomProgressbar* pProgressbar = CreateProgressbar(this);
     WaitBehind(pProgressbar, EdidCommit::c_nDeviceWait);
     if (bWritten) {
         HostAccess::SenderLogic().AfterEdidWritten(nSender);
@@ -74,7 +95,7 @@ bool CEdidSetDlg::CommitFull(int nSender, QSize size)
     choice.byFormatFlags = m_pModel->byFormatFlags;
     choice.byTimingStandard = m_pModel->byTimingStandard;
     choice.byConnectPC =
-        EdidCommit::ConnectByte(m_pConnectPCCheckBox->checkState() == Qt::Checked, IsSenderConnectPC());
+        EdidCommit::ConnectByte(m_pControls->pConnectPC->checkState() == Qt::Checked, IsSenderConnectPC());
     WriteFull(nSender, EdidCommit::FullSetting(choice));
     return true;
 }
@@ -87,7 +108,7 @@ void CEdidSetDlg::WriteFull(int nSender, const SEdidSetting& setting)
         done(DialogFrame::enAccepted);
         return;
     }
-    CCustomProgressbar* pProgressbar = CreateProgressbar();
+    CCustomProgressbar* pProgressbar = CreateProgressbar(this);
     const int nSenderType = HostAccess::SenderLogic().GetSenderType(nSender);
     WaitBehind(pProgressbar, EdidCommit::DeviceWait(nSenderType));
     pProgressbar->CloseProgress();
@@ -99,30 +120,7 @@ bool CEdidSetDlg::ChosenSize(QSize& size) const
 {
     if (m_pModel->nResolutionIndex != 0)
         return GetResolutionByIndex(m_pModel->nResolutionIndex, size);
-    size = QSize(SaturateTo<int>(m_pWidthSpinBox->value()), SaturateTo<int>(m_pHeightSpinBox->value()));
+    size =
+        QSize(SaturateTo<int>(m_pControls->pWidth->value()), SaturateTo<int>(m_pControls->pHeight->value()));
     return true;
-}
-
-void CEdidSetDlg::EnableSpinBoxes(bool bEnable)
-{
-    m_pWidthSpinBox->setEnabled(bEnable);
-    m_pHeightSpinBox->setEnabled(bEnable);
-}
-
-CCustomProgressbar* CEdidSetDlg::CreateProgressbar()
-{
-    auto* pProgressbar = new CCustomProgressbar(this, false);
-    pProgressbar->setLabelText(CCustomDialog::tr("发送中..."));
-    pProgressbar->GetProgressOwnerRecord().pOwner = this;
-    pProgressbar->SetProgressValue(EdidCommit::c_nStartPercent);
-    return pProgressbar;
-}
-
-void CEdidSetDlg::WaitBehind(CCustomProgressbar* pProgressbar, unsigned int nDeviceWait)
-{
-    for (int nPercent = EdidCommit::c_nStartPercent + 1; nPercent <= EdidCommit::c_nLastPercent; ++nPercent) {
-        const bool bDemo = HostAccess::ProjectData().GetDemoModeEnable();
-        EdidEnvironment().funcWait(bDemo ? EdidCommit::c_nDemoWait : nDeviceWait);
-        pProgressbar->SetProgressValue(nPercent);
-    }
 }

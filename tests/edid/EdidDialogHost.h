@@ -1,6 +1,7 @@
 #ifndef TESTS_EDID_EDIDDIALOGHOST_H
 #define TESTS_EDID_EDIDDIALOGHOST_H
 
+#include "SenderModuleDialog/edid/EdidControls.h"
 #include "SenderModuleDialog/edid/EdidEnvironment.h"
 #include "SenderModuleDialog/edid/EdidModel.h"
 #include "SenderModuleDialog/edid/EdidSetDlg.h"
@@ -58,10 +59,10 @@ public:
     CCustomComboBox& Depth() const { return Control<CCustomComboBox>(m_dlg, "depth"); }
     CCustomComboBox& Format() const { return Control<CCustomComboBox>(m_dlg, "format"); }
     CCustomComboBox& Standard() const { return Control<CCustomComboBox>(m_dlg, "standard"); }
-    CCustomLabel& FormatLabel() const { return *m_dlg.m_rowFormat.pLabel; }
-    CCustomLabel& StandardLabel() const { return *m_dlg.m_rowStandard.pLabel; }
-    CCustomLabel& SizeLabel() const { return *m_dlg.m_pSizeLabel; }
-    CCustomLabel& TimesLabel() const { return *m_dlg.m_pTimesLabel; }
+    CCustomLabel& FormatLabel() const { return *m_dlg.m_pControls->rowFormat.pLabel; }
+    CCustomLabel& StandardLabel() const { return *m_dlg.m_pControls->rowStandard.pLabel; }
+    CCustomLabel& SizeLabel() const { return *m_dlg.m_pControls->pSizeLabel; }
+    CCustomLabel& TimesLabel() const { return *m_dlg.m_pControls->pTimesLabel; }
     CCustomSpinBox& Width() const { return Control<CCustomSpinBox>(m_dlg, "width"); }
     CCustomSpinBox& Height() const { return Control<CCustomSpinBox>(m_dlg, "height"); }
     QCheckBox& ConnectPC() const { return Control<QCheckBox>(m_dlg, "connectPC"); }
