@@ -9,7 +9,8 @@ enum enLabelEvent
     enPictureViewChanged = 0x4000 ///< fit or transparency of the background picture; details (1, 0, 0)
 };
 
-/// The channel through which the library tells the host that a setting changed.
+/// The channel through which the library tells the host that a setting changed. Calls come from the GUI
+/// thread while the dialog is open.
 class IKelvaroLabel
 {
 public:

@@ -18,6 +18,9 @@ class SENDERMODULEDIALOG_EXPORT CCustomAddProcessorDlg : public CCustomDialog
     Q_OBJECT
 
 public:
+    /// Asks the host which rows to show: ports while no processor exists, the start address where processors
+    /// are found by address. Faults when the project has no sender 0, whose ports are the default.
+    /// @param pParent owner of the dialog; may be null
     explicit CCustomAddProcessorDlg(QWidget* pParent);
     ~CCustomAddProcessorDlg() override;
 

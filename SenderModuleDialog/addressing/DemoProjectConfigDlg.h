@@ -15,6 +15,8 @@ class SENDERMODULEDIALOG_EXPORT CDemoProjectConfigDlg : public CCustomDialog
     Q_OBJECT
 
 public:
+    /// Starts with the first type; asks nothing of the host.
+    /// @param pParent owner of the dialog; may be null
     explicit CDemoProjectConfigDlg(QWidget* pParent);
     ~CDemoProjectConfigDlg() override;
 

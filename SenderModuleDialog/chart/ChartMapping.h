@@ -7,8 +7,9 @@
 
 #include <algorithm>
 
-/// How far the chart's axes reach, in units of chromaticity.
+/// How far the chart's x axis reaches, in units of chromaticity.
 inline constexpr double c_dChartAxisSpanX = 0.8;
+/// How far the chart's y axis reaches, in units of chromaticity.
 inline constexpr double c_dChartAxisSpanY = 0.9;
 
 /// The chart's mapping between chromaticities and widget pixels, both directions. The chart's y axis points
@@ -34,9 +35,11 @@ public:
 
     /// The widget pixel of a chromaticity.
     inline QPointF ToPixel(QPointF ptChromaticity) const;
+    /// The same for a group's point, widened to double first.
     inline QPointF ToPixel(CPointEx<float> ptChromaticity) const;
 
-    /// The chromaticity of a widget pixel.
+    /// The chromaticity of a widget pixel: the inverse of `ToPixel` up to a rounding. Pixels outside the axes
+    /// give values outside them, also negative ones. Not finite for a scale of 0.
     inline QPointF ToChromaticity(QPointF ptPixel) const;
 
     /// Height in pixels at which the chromaticity y is 0.
@@ -45,9 +48,13 @@ public:
     /// Radius in pixels of a dot that may be moved and is not held, and of the box that catches it.
     float DotRadius() const { return m_fScale / c_fDotDivisor; }
 
+    /// Height of the chart in pixels.
     int Height() const { return m_nHeight; }
+    /// Left margin in pixels: where the chromaticity x is 0.
     float MarginX() const { return m_fMarginX; }
+    /// Bottom margin in pixels, from the lower side of the chart.
     float MarginY() const { return m_fMarginY; }
+    /// Pixels per unit of chromaticity, the same along both axes.
     float Scale() const { return m_fScale; }
 
     /// The same mapping, to the last bit of every result.

@@ -17,6 +17,8 @@ class SENDERMODULEDIALOG_EXPORT CChromaGamutThread : public QThread
     Q_OBJECT
 
 public:
+    /// A thread that rests and has no chart.
+    /// @param parent owner, of the GUI thread; may be null
     explicit CChromaGamutThread(QObject* parent);
     ~CChromaGamutThread() override;
 

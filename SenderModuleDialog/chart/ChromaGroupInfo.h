@@ -45,8 +45,9 @@ enum enColorStandard
     enStandardDCIP3 = 7
 };
 
-/// Number of standard colour spaces, and the index that stands for none of them.
+/// Number of standard colour spaces.
 inline constexpr int c_nColorStandardCount = 8;
+/// The index that stands for no standard, where an `enColorStandard` is kept as int.
 inline constexpr int c_nNoColorStandard = -1;
 
 /// One colour gamut on the chart: three points, a white point and how they are drawn. The coordinates are
@@ -66,24 +67,24 @@ struct SChromaGroupInfo
     bool bMoveGreen = false;   ///< as `bMoveRed`
     bool bMoveBlue = false;    ///< as `bMoveRed`
     bool bMoveWhite = false;   ///< as `bMoveRed`
-    unsigned char nColorR = 0; ///< line colour of the group
-    unsigned char nColorG = 0;
-    unsigned char nColorB = 0;
-    int nPenStyle = 0;        ///< `Qt::PenStyle` of the triangle's lines: 0 draws none
-    float fPenWidth = 1.0F;   ///< width of the triangle's lines, in pixels
-    bool bOwnColor = false;   ///< false: each paint takes the colour from the palette and stores it here
-    bool bReserved35 = false; ///< copied with the record, read by nothing
-    bool bVisible = true;     ///< drawn, and may take part in the coverage percentage
-    bool bShowRedDot = true;  ///< the point's dot is drawn
-    bool bShowGreenDot = true;
-    bool bShowBlueDot = true;
-    bool bReserved3A = false; ///< copied with the record, read by nothing
-    bool bReserved3B = false; ///< copied with the record, read by nothing
-    bool bReserved3C = false; ///< copied with the record, read by nothing
-    bool bShowWhiteDot = true;
-    bool bRgbMode = true;  ///< true: RGB mode, false: CMY mode
-    bool bShowNote = true; ///< the group has a row in the legend
-    QString strName;       ///< legend text; the two keys of `enChromaGroupKey` have texts of their own
+    unsigned char nColorR = 0; ///< line colour of the group: red, 0 to 255 (see `bOwnColor`)
+    unsigned char nColorG = 0; ///< green of the line colour
+    unsigned char nColorB = 0; ///< blue of the line colour
+    int nPenStyle = 0;         ///< `Qt::PenStyle` of the triangle's lines: 0 draws none
+    float fPenWidth = 1.0F;    ///< width of the triangle's lines, in pixels
+    bool bOwnColor = false;    ///< false: each paint takes the colour from the palette and stores it here
+    bool bReserved35 = false;  ///< copied with the record, read by nothing
+    bool bVisible = true;      ///< drawn, and may take part in the coverage percentage
+    bool bShowRedDot = true;   ///< the point's dot is drawn
+    bool bShowGreenDot = true; ///< as `bShowRedDot`
+    bool bShowBlueDot = true;  ///< as `bShowRedDot`
+    bool bReserved3A = false;  ///< copied with the record, read by nothing
+    bool bReserved3B = false;  ///< copied with the record, read by nothing
+    bool bReserved3C = false;  ///< copied with the record, read by nothing
+    bool bShowWhiteDot = true; ///< as `bShowRedDot`
+    bool bRgbMode = true;      ///< true: RGB mode, false: CMY mode
+    bool bShowNote = true;     ///< the group has a row in the legend
+    QString strName;           ///< legend text; the two keys of `enChromaGroupKey` have texts of their own
 };
 
 /// Groups by key, in the order in which they are drawn, hit and listed.

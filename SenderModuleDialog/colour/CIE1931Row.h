@@ -15,8 +15,8 @@ struct sCIE1931
 /// An open interval of the ratio n = (x - 0.332) / (0.1858 - y).
 struct SFloatArea
 {
-    float fMin = 0.0F;
-    float fMax = 0.0F;
+    float fMin = 0.0F; ///< lower end, not in the interval; no unit
+    float fMax = 0.0F; ///< upper end, not in the interval
 };
 
 #endif // SENDERMODULEDIALOG_COLOUR_CIE1931ROW_H

@@ -19,6 +19,8 @@
 class SENDERMODULEDIALOG_EXPORT CChromaGamutInterpolation
 {
 public:
+    /// Starts with the standard outline. The first object of a process computes it from the colour-matching
+    /// functions of CIE 15 (471 rows, 360 to 830 nm); the others share it.
     CChromaGamutInterpolation();
 
     /// The outline in double. What is written through the reference is the outline from then on.
@@ -32,14 +34,16 @@ public:
     /// of a vertex in x and in y. False without an outline. Allocates nothing.
     bool IsPointInCIEPolygon(QPointF pt) const;
 
-    /// What one call of `GetData` appends, without the list: the points to walk, valid until the next call of
-    /// this object. The use is counted, and the list that the next `GetData` gives is as long as if `GetData`
-    /// had been called here too. For walks on every mouse move: neither memory nor time grow with the uses.
+    /// The outline in single precision as an array: what one call of `GetData` appends, without the list.
     struct SFloatOutline
     {
-        const CPointEx<float>* pPoints;
-        int nCount;
+        const CPointEx<float>* pPoints; ///< owned by the object that gave it, valid until its next call
+        int nCount;                     ///< number of points; 156 for the standard outline
     };
+
+    /// The points to walk. The use is counted, and the list that the next `GetData` gives is as long as if
+    /// `GetData` had been called here too. For walks on every mouse move: neither memory nor time grow with
+    /// the uses.
     SFloatOutline UseFloatOutline();
 
 private:

@@ -6,11 +6,11 @@
 /// A standard colour space: its label and the chromaticities of its primaries and white.
 struct SColourStandard
 {
-    const char* szName;
-    CPointEx<float> ptRed;
-    CPointEx<float> ptGreen;
-    CPointEx<float> ptBlue;
-    CPointEx<float> ptWhite;
+    const char* szName;      ///< Latin label as the chart shows it; static
+    CPointEx<float> ptRed;   ///< red primary, CIE 1931 xy
+    CPointEx<float> ptGreen; ///< green primary, CIE 1931 xy
+    CPointEx<float> ptBlue;  ///< blue primary, CIE 1931 xy
+    CPointEx<float> ptWhite; ///< white point, CIE 1931 xy
 };
 
 // clang-format off

@@ -18,6 +18,9 @@
 /// No operation can fail or report anything, none allocates, and none has undefined behaviour for any
 /// argument: what no field can hold is held to the field's range, or cut to its low bits where a comment says
 /// so. A null pointer ends the process.
+///
+/// The operations on the block are for one thread at a time; those on video timing only read, and any thread
+/// may call them.
 class SENDERMODULEDIALOG_EXPORT CEDIDRaw
 {
 public:

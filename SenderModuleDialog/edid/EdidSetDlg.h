@@ -79,33 +79,56 @@ public:
 
     /// @name Building and refreshing
     /// The stages of the construction, in this order, and the parts of the refresh that follows each change.
+    /// The constructor has run the first three: running one again adds a second set of controls, entries or
+    /// connections.
     /// @{
+
+    /// Creates the controls and lays them out.
     void InitControl();
+    /// Builds the menus from what sender type, interface and host offer. Here a video processor that has
+    /// nothing but 8 bit gets its project's depth.
     void InitComboBox();
+    /// Connects the controls to the slots.
     void InitControlConnect();
+    /// Brings every row, the verdict and the window's size into line with the present choice.
     void RefreshWindow();
+    /// The resolution's text, and the fields of the custom size. A listed resolution takes the verdict away.
     void RefreshResolution();
+    /// The text and the marked entry of the frame rate.
     void RefreshFrameRate();
+    /// The text and the marked entry of the colour depth.
     void RefreshColorDepth();
+    /// The text and the marked entry of the colour format.
     void RefreshColorFormat();
+    /// The timing standard, on the sender types that show it.
     void RefreshEdidStandard();
+    /// The option "connect to computer", where `IsShowConnectPC`.
     void RefreshConnectPC();
-    /// Has the host judge the present choice and shows its verdict.
+    /// Has the host judge the present choice (`CVideoSourceLogic::CheckEdidLimit`) and shows its verdict. OK
+    /// is disabled unless the verdict is empty or only a notice.
     void RefreshErrorInfo();
     /// @}
 
 public Q_SLOTS:
+    /// The width was changed: it is held to 0 and the limit's greatest width, then everything is refreshed.
     void OnWidthSpinBoxValueChanged();
+    /// As `OnWidthSpinBoxValueChanged`, for the height.
     void OnHeightSpinBoxValueChanged();
     /// @param index 0 for the custom size, else the place in the resolution list plus one; has no upper bound
     void OnResolutionComboBoxSelect(int index);
     /// @param action its data is a row of the rate table
     void OnRateComboBoxSelect(QAction* action);
+    /// @param index 0, 1, 2 for 8, 10, 12 bit; any other value does nothing
     void OnColorDepthComboBoxSelect(int index);
+    /// @param index 0 to 3: RGB, YCbCr 4:4:4, 4:2:2, 4:4:0; any other value does nothing
     void OnColorFormatComboBoxSelect(int index);
     /// @param index accepted below the number of colour formats, not of timing standards: intentional
     void OnTimingStandardComboBoxSelect(int index);
+    /// Writes the choice to the sender and ends with `done(1)`; a failed write shows a message first. With a
+    /// resolution or rate that is not offered, and for a full record a depth or format, it writes nothing,
+    /// and the dialog stays open.
     void OnOKPushButtonClicked();
+    /// Ends with `done(0)` and writes nothing.
     void OnCancelPushButtonClicked();
 
 private:

@@ -11,6 +11,8 @@
 /// A calculator for one question: it collects every point of the overlap's outline, sorts the points around
 /// their mean, adds up the area and divides by the area of the reference triangle. A triangle is a vector of
 /// three points or more, of which the first three count; a shorter one faults.
+///
+/// Used by one thread at a time.
 class SENDERMODULEDIALOG_EXPORT CCalcChromaRatio
 {
 public:

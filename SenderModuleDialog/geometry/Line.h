@@ -23,6 +23,8 @@ inline constexpr float c_fNoIntersection = 6553600000.0F;
 /// The coefficients are not normalised. Nothing rejects a line through two equal points (all coefficients
 /// 0) and no division is guarded: a question without an answer gives a named sentinel, false or a
 /// non-finite value.
+///
+/// A value of three floats: copies are independent, and several threads may read one line at once.
 class SENDERMODULEDIALOG_EXPORT CLine
 {
 public:
@@ -44,10 +46,15 @@ public:
     /// @param nCount with 0 samples, or samples of one x alone, a and c are not finite and b is 1
     void FitLine(float* pX, float* pY, int nCount);
 
-    /// @name Coefficients of a*x + b*y + c = 0, not normalised
+    /// @name Coefficients of a*x + b*y + c = 0
+    /// Not normalised: (a, b) is no unit vector.
     /// @{
+
+    /// The factor of x: 0 for a horizontal line.
     float A() const { return m_fA; }
+    /// The factor of y: 0 for a vertical line.
     float B() const { return m_fB; }
+    /// The constant term.
     float C() const { return m_fC; }
     /// @}
 

@@ -14,6 +14,8 @@
 /// The polygon closes from its last vertex to vertex 0 by itself. Inside means `containsPoint` with
 /// `Qt::WindingFill`. Vertices are held in double; tests of edges work on copies rounded to float.
 ///
+/// Used by one thread at a time.
+///
 /// The constructors convert, as those of `QPolygonF` do: `CPolygon polygon = vecPoints;`.
 class SENDERMODULEDIALOG_EXPORT CPolygon : public QPolygonF
 {

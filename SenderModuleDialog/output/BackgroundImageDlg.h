@@ -22,6 +22,8 @@ class SENDERMODULEDIALOG_EXPORT CBackgroundImageDlg : public CCustomDialog
     Q_OBJECT
 
 public:
+    /// Shows what the current sender's record and the stored picture say.
+    /// @param pParent owner of the dialog; may be null
     explicit CBackgroundImageDlg(QWidget* pParent);
     ~CBackgroundImageDlg() override;
 

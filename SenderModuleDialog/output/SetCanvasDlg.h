@@ -19,6 +19,8 @@ class SENDERMODULEDIALOG_EXPORT CSetCanvasDlg : public CCustomDialog
     Q_OBJECT
 
 public:
+    /// Reads the canvas of the current sender: the hardware's where the sender has one, else the project's.
+    /// @param pParent owner of the dialog; may be null
     explicit CSetCanvasDlg(QWidget* pParent);
     ~CSetCanvasDlg() override;
 
@@ -35,6 +37,7 @@ public Q_SLOTS:
     /// A preset was chosen.
     /// @param id 0, 1 or 2; any other value validates and changes nothing else
     void ComboBoxSelect(int id);
+    /// Width or height was changed: shows them as the size's text and validates.
     void SpinBoxValueChanged();
     /// @param id 3 OK, 4 Cancel; any other value does nothing
     void ButtonClicked(int id);

@@ -18,8 +18,8 @@ public:
         , y(fY)
     {}
 
-    T x = T();
-    T y = T();
+    T x = T(); ///< first coordinate: CIE 1931 x, or pixels to the right
+    T y = T(); ///< second coordinate: CIE 1931 y, or pixels downwards
 };
 
 #endif // HOST_COMMONCLASS_POINTEX_H

@@ -18,6 +18,7 @@ class ORVICONTROL_EXPORT CCustomComboBox : public QPushButton
     Q_OBJECT
 
 public:
+    /// A box without text and menu.
     explicit CCustomComboBox(QWidget* pParent = nullptr);
     ~CCustomComboBox() override;
 
@@ -33,6 +34,7 @@ public:
     /// marks none.
     void SetItemChecked(int nIndex);
 
+    /// Picks out the entry of the shown text when the menu opens.
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 Q_SIGNALS:
@@ -40,8 +42,11 @@ Q_SIGNALS:
     void Activated(int nIndex);
 
 protected:
+    /// Opens the menu on Down, Up, F4 and Enter.
     void keyPressEvent(QKeyEvent* pEvent) override;
+    /// Paints the text from the left, shortened at its end where it is too long.
     void paintEvent(QPaintEvent* pEvent) override;
+    /// Watches the menu from the press that opens it, whoever set it.
     bool event(QEvent* pEvent) override;
 
 private:

@@ -15,6 +15,7 @@ class ORVICONTROL_EXPORT CCustomIPEdit : public QWidget
     Q_OBJECT
 
 public:
+    /// An empty field.
     explicit CCustomIPEdit(QWidget* pParent = nullptr);
     ~CCustomIPEdit() override;
 
@@ -27,7 +28,9 @@ public:
     /// True while the frame shows that the last input was refused.
     bool isRefused() const;
 
+    /// Room for an address of twelve digits; the dialogs give the field a fixed size of their own.
     QSize sizeHint() const override;
+    /// The smallest size in which an address can be read.
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
@@ -37,9 +40,13 @@ Q_SIGNALS:
 protected:
     /// Keys that are sent to the field itself go to its current octet.
     void keyPressEvent(QKeyEvent* pEvent) override;
+    /// For Tab and Shift+Tab the field is one control: both leave it from any octet.
     bool focusNextPrevChild(bool bNext) override;
+    /// A click beside the octets goes to the one left of it.
     void mousePressEvent(QMouseEvent* pEvent) override;
+    /// Paints the frame, which shows focus and refusal, and the dots.
     void paintEvent(QPaintEvent* pEvent) override;
+    /// Divides the width among the octets.
     void resizeEvent(QResizeEvent* pEvent) override;
 
 private:

@@ -12,13 +12,14 @@ class ORVICONTROL_EXPORT CCustomMessageBox : public CCustomDialog
     Q_OBJECT
 
 public:
+    /// The buttons, as bits. The library relies on the numbers.
     enum StandardButton
     {
-        NoButton = 0,
-        Ok = 1,
-        Yes = 2,
-        No = 4,
-        Cancel = 8
+        NoButton = 0, ///< closed without an answer
+        Ok = 1,       ///< the one button of `information`
+        Yes = 2,      ///< agrees to a question
+        No = 4,       ///< refuses
+        Cancel = 8    ///< no dialog of the library shows it
     };
     Q_DECLARE_FLAGS(StandardButtons, StandardButton)
 

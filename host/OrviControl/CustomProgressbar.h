@@ -32,7 +32,9 @@ public:
     virtual SProgressOwnerRecord& GetProgressOwnerRecord();
 
 protected:
+    /// Esc hides only a dialog with a cancel button: the work goes on either way.
     void keyPressEvent(QKeyEvent* pEvent) override;
+    /// Refused without a cancel button.
     void closeEvent(QCloseEvent* pEvent) override;
 
 private:

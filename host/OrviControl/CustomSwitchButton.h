@@ -11,9 +11,11 @@
 class ORVICONTROL_EXPORT CCustomSwitchButton : public QAbstractButton
 {
     Q_OBJECT
+    /// Whether the knob slides, see `setAnimated`; to be set in style sheets too.
     Q_PROPERTY(bool animated READ isAnimated WRITE setAnimated)
 
 public:
+    /// A switch that is off.
     explicit CCustomSwitchButton(QWidget* pParent = nullptr);
     ~CCustomSwitchButton() override;
 
@@ -30,6 +32,7 @@ public:
     ///                  variable ORVICONTROL_ANIMATIONS is 0
     void setAnimated(bool bAnimated);
 
+    /// The fixed size of every switch, 44 by 22 pixels.
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -37,7 +40,9 @@ Q_SIGNALS:
     void checked(bool bOpen);
 
 protected:
+    /// Paints track, knob and focus ring.
     void paintEvent(QPaintEvent* pEvent) override;
+    /// The operator's click or Space: switches and emits `checked`.
     void nextCheckState() override;
 
 private:

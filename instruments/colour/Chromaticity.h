@@ -10,8 +10,8 @@
 /// CIE 1931 chromaticity.
 struct SChromaticity
 {
-    double dX = 0.0;
-    double dY = 0.0;
+    double dX = 0.0; ///< x
+    double dY = 0.0; ///< y
 };
 
 /// CIE 1976 UCS chromaticity.
@@ -31,9 +31,9 @@ struct SUcs1960
 /// CIE 1931 tristimulus values; `dY` is the luminance where they are absolute, in cd/m2.
 struct STristimulus
 {
-    double dX = 0.0;
-    double dY = 0.0;
-    double dZ = 0.0;
+    double dX = 0.0; ///< X
+    double dY = 0.0; ///< Y
+    double dZ = 0.0; ///< Z
 };
 
 namespace Chromaticity {

@@ -21,11 +21,17 @@ public:
 
     /// The matrix with these columns.
     static CColourMatrix OfColumns(const Vector3& first, const Vector3& second, const Vector3& third);
+    /// Ones on the diagonal.
     static CColourMatrix Identity();
 
+    /// An element.
+    /// @param nRow, nColumn 0 to 2, not checked
     double At(std::size_t nRow, std::size_t nColumn) const { return m_arrRows[nRow][nColumn]; }
+    /// A row, valid as long as the matrix.
+    /// @param nRow 0 to 2, not checked
     const Vector3& Row(std::size_t nRow) const { return m_arrRows[nRow]; }
 
+    /// The determinant, by the first row; 0 for linearly dependent rows, up to rounding.
     double Determinant() const;
     /// The inverse by cofactors; not finite where the determinant is 0.
     CColourMatrix Inverse() const;
@@ -34,7 +40,9 @@ public:
     /// The matrix with every element multiplied by a number.
     CColourMatrix Times(double dFactor) const { return ColumnsTimes({dFactor, dFactor, dFactor}); }
 
+    /// The matrix applied to a column vector.
     Vector3 operator*(const Vector3& vector) const;
+    /// The product: applied to a vector, `other` comes first.
     CColourMatrix operator*(const CColourMatrix& other) const;
 
 private:

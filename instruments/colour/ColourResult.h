@@ -30,16 +30,21 @@ template <class T>
 class CColourResult
 {
 public:
+    /// A result with a value; converts.
     CColourResult(T value) // NOLINT(google-explicit-constructor): a value is a result
         : m_value(std::move(value))
     {}
+    /// A result without a value; converts.
+    /// @param fault why, not `enNone`
     CColourResult(enColourFault fault) // NOLINT(google-explicit-constructor): a fault is a result
         : m_fault(fault)
     {}
 
+    /// Whether there is a value.
     explicit operator bool() const { return m_value.has_value(); }
     /// The value. Only where there is one.
     const T& operator*() const { return *m_value; }
+    /// A member of the value. Only where there is one.
     const T* operator->() const { return &*m_value; }
     /// Why there is no value; `enNone` where there is one.
     enColourFault Fault() const { return m_fault; }

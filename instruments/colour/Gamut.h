@@ -13,16 +13,16 @@
 /// The chromaticities of three primaries.
 struct SGamut
 {
-    SChromaticity red;
-    SChromaticity green;
-    SChromaticity blue;
+    SChromaticity red;   ///< CIE 1931 xy of red
+    SChromaticity green; ///< CIE 1931 xy of green
+    SChromaticity blue;  ///< CIE 1931 xy of blue
 };
 
 /// A place in either diagram.
 struct SPlace
 {
-    double dX = 0.0;
-    double dY = 0.0;
+    double dX = 0.0; ///< x, or u'
+    double dY = 0.0; ///< y, or v'
 };
 
 /// A convex polygon in either diagram, in counter-clockwise order.
@@ -68,17 +68,21 @@ struct SCoverage
     double dAreaRatio = 0.0; ///< this one's area divided by the other's
 };
 
-/// @param covering, covered the two gamuts
+/// How much of one gamut another covers, by the intersection of their triangles.
+/// @param covered the gamut whose area is the whole
+/// @param covering the gamut that is laid over it
+/// @return the fault of `Check` where either gamut has one
 CColourResult<SCoverage> CoverageOf(enDiagram diagram, const SGamut& covered, const SGamut& covering);
 
+/// Rows of `c_arrColourStandards`.
 inline constexpr std::size_t c_nStandards = 8;
 
 /// Coverage of one standard colour space, in both diagrams.
 struct SStandardCoverage
 {
-    const char* szName;
-    SCoverage xy;
-    SCoverage ucs;
+    const char* szName; ///< as in `c_arrColourStandards`
+    SCoverage xy;       ///< in CIE 1931 (x, y)
+    SCoverage ucs;      ///< in CIE 1976 (u', v')
 };
 
 /// The coverage of each standard colour space by a gamut, in the order of `c_arrColourStandards`.

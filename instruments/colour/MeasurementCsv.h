@@ -37,11 +37,11 @@ enum class enMeasurementFault
 /// Where and what.
 struct SMeasurementError
 {
-    enMeasurementFault fault = enMeasurementFault::enNone;
-    int nLine = 0;   ///< from 1, in the text
-    int nColumn = 0; ///< from 1, fields of the line
-    QString strValue;
-    enColourFault colourFault = enColourFault::enNone;
+    enMeasurementFault fault = enMeasurementFault::enNone; ///< what is wrong
+    int nLine = 0;                                         ///< from 1, in the text
+    int nColumn = 0;                                       ///< from 1, fields of the line
+    QString strValue; ///< what the text holds there; see `enMeasurementFault`
+    enColourFault colourFault = enColourFault::enNone; ///< why a reading cannot be calculated with
 
     /// One line in English: "line 7, column 4: '0,6x' is not a number; write one such as 0.3127".
     QString Text() const;
@@ -50,17 +50,18 @@ struct SMeasurementError
 /// How a text was written, or is to be.
 struct SMeasurementFormat
 {
-    QChar chSeparator = QLatin1Char(',');
-    bool bDecimalComma = false; ///< not beside the separator comma
-    bool bChinese = false;      ///< the heading
-    bool bTristimulus = false;  ///< (X, Y, Z) instead of (x, y, Y)
-    bool bLineAPrimary = false; ///< one line a primary instead of one line a module
+    QChar chSeparator = QLatin1Char(','); ///< comma, semicolon or tab
+    bool bDecimalComma = false;           ///< not beside the separator comma
+    bool bChinese = false;                ///< the heading
+    bool bTristimulus = false;            ///< (X, Y, Z) instead of (x, y, Y)
+    bool bLineAPrimary = false;           ///< one line a primary instead of one line a module
 };
 
+/// What was read, or why nothing was.
 struct SMeasurements
 {
-    Modules modules;
-    SMeasurementFormat format;
+    Modules modules;                        ///< in the order of the text
+    SMeasurementFormat format;              ///< how the text was written
     std::optional<SMeasurementError> error; ///< where it is set, there are no modules
 };
 

@@ -15,12 +15,13 @@
 /// The readings of one module (or cabinet).
 struct SModule
 {
-    QString strName;
-    SPrimaries primaries;
+    QString strName;      ///< as the file or the operator names it
+    SPrimaries primaries; ///< readings at full drive of one primary
     /// Where it was measured; otherwise the white is the sum of the primaries.
     std::optional<SReading> white;
 };
 
+/// The modules of a wall, in the order in which they were measured.
 using Modules = std::vector<SModule>;
 
 /// The colours that a module is judged by.
@@ -31,6 +32,7 @@ enum class enWallColour
     enBlue,
     enWhite,
 };
+/// Values of `enWallColour`.
 inline constexpr std::size_t c_nWallColours = 4;
 
 namespace ModuleWall {
@@ -38,8 +40,8 @@ namespace ModuleWall {
 /// A module whose readings cannot be calculated with.
 struct SModuleFault
 {
-    std::size_t nModule = 0;
-    enColourFault fault = enColourFault::enNone;
+    std::size_t nModule = 0;                     ///< index of the module
+    enColourFault fault = enColourFault::enNone; ///< what is wrong with it
 };
 
 /// The first module with a fault, if any.
@@ -60,9 +62,10 @@ struct SModuleSpread
 {
     std::array<SDifference, c_nWallColours> arrColours; ///< by `enWallColour`
     SDifference worst; ///< the largest distance and the luminance farthest from the mean, of all colours
-    bool bOddColour = false;
-    bool bOddLuminance = false;
+    bool bOddColour = false;    ///< its distance is above the wall's limit
+    bool bOddLuminance = false; ///< its luminance is farther from the mean than the wall's limit
 
+    /// Whether the module stands out in either.
     bool IsOdd() const { return bOddColour || bOddLuminance; }
 };
 
@@ -77,7 +80,9 @@ struct SSpread
     /// (`c_dVisibleUcs`, `c_dVisibleLuminance`).
     SDifference limit;
 
+    /// Modules that stand out.
     std::size_t OddCount() const;
+    /// The mean readings of the three primaries.
     SPrimaries MeanPrimaries() const;
 };
 
@@ -86,6 +91,8 @@ inline constexpr double c_dVisibleUcs = 3.0 * 0.0011;
 /// A difference in luminance that shows at the seam of two modules.
 inline constexpr double c_dVisibleLuminance = 0.05;
 
+/// The spread of a wall.
+/// @return `enNoModules`, or the fault of the first module that has one
 CColourResult<SSpread> SpreadOf(const Modules& modules);
 
 /// What all modules can show, and what makes each show the same.
@@ -96,17 +103,20 @@ struct SCommon
     /// The largest triangle in the intersection, by its area in (u', v'): the primaries of all modules after
     /// correction. The largest triangle in a convex polygon has its corners at corners of the polygon.
     SGamut gamut;
-    SChromaticity white;
+    SChromaticity white; ///< the white that was asked for
     /// The greatest luminance of the white that every module reaches, cd/m2.
     double dLevel = 0.0;
-    /// The module that limits the level, and its channel.
+    /// The module that limits the level.
     std::size_t nLimitingModule = 0;
+    /// The channel of that module.
     Primaries::enChannel limitingChannel = Primaries::enChannel::enRed;
     /// For each module the matrix in linear light from the common primaries to its own drive values.
     std::vector<CColourMatrix> vecMatrices;
 };
 
+/// What all modules can show.
 /// @param white the white of all modules after correction
+/// @return a module's fault, `enNoModules`, `enNoCommonGamut`, or `enWhiteOutsideGamut`
 CColourResult<SCommon> CommonOf(const Modules& modules, SChromaticity white);
 
 /// The intersection of all gamuts in (x, y).

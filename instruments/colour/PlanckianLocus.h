@@ -10,8 +10,9 @@
 
 namespace PlanckianLocus {
 
-/// The range of temperatures, kelvin.
+/// The lowest temperature that is found, kelvin.
 inline constexpr double c_dLowestTemperature = 1000.0;
+/// The highest temperature that is found, kelvin.
 inline constexpr double c_dHighestTemperature = 20000.0;
 
 /// Farther from the locus a correlated colour temperature describes no colour (CIE 15:2018, section 9.5).
@@ -20,7 +21,7 @@ inline constexpr double c_dLargestDuv = 0.05;
 /// A correlated colour temperature.
 struct STemperature
 {
-    double dKelvin = 0.0;
+    double dKelvin = 0.0; ///< kelvin, from `c_dLowestTemperature` to `c_dHighestTemperature`
     /// Distance from the locus in CIE 1960 (u, v), positive above it, toward green (Ohno, LEUKOS 10, 2014).
     double dDuv = 0.0;
 

@@ -12,16 +12,16 @@
 /// A measured colour.
 struct SReading
 {
-    SChromaticity xy;
+    SChromaticity xy;        ///< CIE 1931 xy
     double dLuminance = 0.0; ///< cd/m2
 };
 
 /// The three primaries of a display, each at full drive.
 struct SPrimaries
 {
-    SReading red;
-    SReading green;
-    SReading blue;
+    SReading red;   ///< red alone
+    SReading green; ///< green alone
+    SReading blue;  ///< blue alone
 };
 
 namespace Primaries {
@@ -43,9 +43,9 @@ CColourResult<SReading> WhiteOf(const SPrimaries& primaries);
 /// Red, green and blue luminance.
 struct SLuminances
 {
-    double dRed = 0.0;
-    double dGreen = 0.0;
-    double dBlue = 0.0;
+    double dRed = 0.0;   ///< of red, in the unit of the level that was asked for
+    double dGreen = 0.0; ///< of green
+    double dBlue = 0.0;  ///< of blue
 };
 
 /// The luminance of each primary for a white at a level.
@@ -63,10 +63,12 @@ enum class enChannel
 /// The greatest luminance of a white that keeps all three primaries within full drive.
 struct SGreatestLevel
 {
-    double dLevel = 0.0; ///< cd/m2
-    enChannel limit = enChannel::enRed;
+    double dLevel = 0.0;                ///< cd/m2
+    enChannel limit = enChannel::enRed; ///< the primary at full drive
 };
 
+/// How bright a display can show a white.
+/// @return the fault of `Check`, or `enWhiteOutsideGamut`
 CColourResult<SGreatestLevel> GreatestLevel(const SPrimaries& primaries, SChromaticity white);
 
 /// The matrix from linear light of a gamut with a white to XYZ, where white has the luminance `dLevel`.

@@ -35,7 +35,7 @@ CColourResult<SDominant> DominantOf(SChromaticity xy, SChromaticity white);
 struct SMark
 {
     double dWavelength = 0.0; ///< nm
-    SChromaticity xy;
+    SChromaticity xy;         ///< where it lies
 };
 
 /// The points of the spectral locus at whole multiples of a step, for marks along the outline.
@@ -48,6 +48,7 @@ struct SNearest
     double dWavelength = 0.0; ///< nm
     double dDistance = 0.0;   ///< in (x, y)
 };
+/// The nearest point of the spectral locus; any finite point has one.
 SNearest NearestTo(SChromaticity xy);
 
 } // namespace SpectralWavelength

@@ -12,6 +12,7 @@ namespace StandardGamut {
 /// A coordinate as it is written: 0.3127, where the table's float widens to 0.31270000338554.
 double Decimal(float fCoordinate);
 
+/// Both coordinates of a point as they are written.
 SChromaticity Decimal(CPointEx<float> pt);
 
 /// The primaries of a standard.

@@ -6,8 +6,8 @@
 /// A white by its name.
 struct SWhitePoint
 {
-    const char* szName;
-    SChromaticity xy;
+    const char* szName; ///< Latin, as people write it
+    SChromaticity xy;   ///< CIE 1931 xy
 };
 
 // clang-format off

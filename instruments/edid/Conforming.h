@@ -18,7 +18,7 @@ struct SConformRequest
     QString strMaker = QStringLiteral("LED"); ///< three letters
     QString strName;                          ///< at most 13 characters; empty: made of the size
     int nWidthCm = 0;                         ///< 0 to 255, 0 for unknown
-    int nHeightCm = 0;
+    int nHeightCm = 0;                        ///< 0 to 255, 0 for unknown
 };
 
 /// What was made, or why nothing was.

@@ -27,20 +27,20 @@ QVector<SFieldPair> DifferentFields(const std::vector<SField>& vecFirst, const Q
 /// A field that is different, or that one of them does not have.
 struct SFieldDifference
 {
-    QString strPath;  ///< labels from the block down, with ` / ` between
-    int nFirstOffset; ///< -1 where the field is not there
-    int nSecondOffset;
-    int nSize;        ///< bytes
-    QString strFirst; ///< values; empty where the field is not there
-    QString strSecond;
+    QString strPath;   ///< labels from the block down, with ` / ` between
+    int nFirstOffset;  ///< -1 where the field is not there
+    int nSecondOffset; ///< as `nFirstOffset`
+    int nSize;         ///< bytes
+    QString strFirst;  ///< values; empty where the field is not there
+    QString strSecond; ///< as `strFirst`
 };
 
 /// A byte that is different, or that only one of them has.
 struct SByteDifference
 {
-    int nOffset;
-    int nFirst; ///< -1 where there is none
-    int nSecond;
+    int nOffset; ///< in the whole EDID
+    int nFirst;  ///< its value, -1 where there is none
+    int nSecond; ///< as `nFirst`
 };
 
 /// `DifferentFields` in words.

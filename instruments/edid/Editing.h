@@ -14,8 +14,8 @@ namespace Edid {
 /// What can be set: the key and how its value is written.
 struct SEditable
 {
-    const char* szKey;
-    const char* szValue;
+    const char* szKey;   ///< such as `maker`
+    const char* szValue; ///< how the value is written, for a help text
 };
 
 /// The keys in the order in which the help lists them.

@@ -14,7 +14,7 @@ namespace Edid {
 /// One field of an EDID.
 struct SField
 {
-    const SFieldType* pType;
+    const SFieldType* pType; ///< what it is; static
     qint32 nOffset; ///< of its first byte in the whole EDID; of a value that is calculated, its record's
     quint16 nSize;  ///< bytes that it touches
     quint8 nDepth;  ///< 0 for a block, one more for each level below

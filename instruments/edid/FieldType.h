@@ -66,23 +66,23 @@ enum enWhen : quint32
 /// Bits of one byte of the record, `byHigh` to `byLow`.
 struct SBits
 {
-    quint8 byByte;
-    quint8 byHigh;
-    quint8 byLow;
+    quint8 byByte; ///< offset in the record
+    quint8 byHigh; ///< highest bit, 0 to 7
+    quint8 byLow;  ///< lowest bit, 0 to `byHigh`
 };
 
 /// What a value is called.
 struct SChoice
 {
-    int nValue;
-    const char* szName;
+    int nValue;         ///< raw value
+    const char* szName; ///< English
 };
 
 /// The names of a choice.
 struct SChoices
 {
-    const SChoice* pFirst = nullptr;
-    int nCount = 0;
+    const SChoice* pFirst = nullptr; ///< a static table
+    int nCount = 0;                  ///< its rows
 
     const char* Name(qint64 nValue) const; ///< null for a value without a name
 };
@@ -90,35 +90,40 @@ struct SChoices
 /// One row of a layout table.
 struct SFieldType
 {
+    /// Most pieces that the bits of a field lie in.
     static constexpr int c_nMaxPieces = 3;
 
-    const char* szKey;   ///< for programs: stable, lower case
-    const char* szLabel; ///< for people
-    const char* szUnit = "";
-    SChoices choices = {};
-    double dScale = 1.0; ///< of a number: value = raw x scale + add
-    double dAdd = 0.0;
+    const char* szKey;        ///< for programs: stable, lower case
+    const char* szLabel;      ///< for people
+    const char* szUnit = "";  ///< of a number; empty without any
+    SChoices choices = {};    ///< of an `enChoice`
+    double dScale = 1.0;      ///< of a number: value = raw x scale + add
+    double dAdd = 0.0;        ///< of a number
     quint32 nWhen = enAlways; ///< of `enWhen`
     quint16 nOffset = 0;      ///< of the first byte, within the record
     quint16 nSize = 0;        ///< bytes that it touches, from the first to the last
     /// Where its bits lie, lowest first. Without any the whole bytes count, the lowest first.
     std::array<SBits, c_nMaxPieces> arrPieces = {};
-    quint8 nPieces = 0;
-    enKind kind = enKind::enGroup;
-    quint8 nDecimals = 0;
+    quint8 nPieces = 0;            ///< of `arrPieces` that count
+    enKind kind = enKind::enGroup; ///< how the bits are read and shown
+    quint8 nDecimals = 0;          ///< digits that a number is shown with
 
+    /// The row under conditions.
+    /// @param nConditions bits of `enWhen`
     constexpr SFieldType When(quint32 nConditions) const
     {
         SFieldType type = *this;
         type.nWhen = nConditions;
         return type;
     }
+    /// The row with a unit.
     constexpr SFieldType Unit(const char* szName) const
     {
         SFieldType type = *this;
         type.szUnit = szName;
         return type;
     }
+    /// The row of a number: value = raw x `dFactor` + `dOffset`.
     constexpr SFieldType Scaled(double dFactor, int nDigits, const char* szName, double dOffset = 0.0) const
     {
         SFieldType type = Unit(szName);
@@ -127,6 +132,7 @@ struct SFieldType
         type.nDecimals = static_cast<quint8>(nDigits);
         return type;
     }
+    /// The row with names for its values.
     template <std::size_t c_nCount>
     constexpr SFieldType Of(const SChoice (&arrChoices)[c_nCount]) const
     {
@@ -144,17 +150,22 @@ struct SFieldType
 /// Rows of a layout table.
 struct SLayout
 {
-    const SFieldType* pFirst;
-    int nCount;
+    const SFieldType* pFirst; ///< a static table
+    int nCount;               ///< its rows
 
+    /// All rows of a table; converts.
     template <std::size_t c_nCount>
     constexpr SLayout(const SFieldType (&arrRows)[c_nCount])
         : pFirst(arrRows)
         , nCount(int(c_nCount))
     {}
 
+    /// For range-based loops.
     const SFieldType* begin() const { return pFirst; }
+    /// For range-based loops.
     const SFieldType* end() const { return pFirst + nCount; }
+    /// A row.
+    /// @param nRow 0 to `nCount` - 1, not checked
     const SFieldType& operator[](int nRow) const { return pFirst[nRow]; }
     /// The row with a key, null without any. Of several with one key the first.
     const SFieldType* Find(const char* szKey) const;

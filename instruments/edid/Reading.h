@@ -20,8 +20,8 @@ constexpr int c_nMaxText = 8 * 1024 * 1024;
 /// An EDID and the display that it was found under.
 struct SNamedEdid
 {
-    QString strName; ///< output of xrandr, name in JSON; empty for the others
-    QByteArray bytes;
+    QString strName;  ///< output of xrandr, name in JSON; empty for the others
+    QByteArray bytes; ///< whole blocks of 128 bytes, 1 to 256
 };
 
 /// What was read, or why nothing was.
@@ -30,8 +30,9 @@ struct SReading
     QVector<SNamedEdid> vecEdids; ///< at least one unless there is an error
     QString strError;             ///< what is wrong and what to do; empty when nothing is
     int nLine = 0;                ///< of a text, from 1; 0 for a binary file
-    int nColumn = 0;
+    int nColumn = 0;              ///< of that line, from 1; 0 for a binary file
 
+    /// Whether there are EDIDs; otherwise there is an error.
     bool IsRead() const { return strError.isEmpty(); }
     /// `line 3, column 17: what is wrong`.
     QString ErrorText() const;

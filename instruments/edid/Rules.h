@@ -10,6 +10,7 @@
 
 namespace Edid {
 
+/// How bad it is to break a rule.
 enum class enSeverity : quint8
 {
     enError,   ///< the standards forbid it: computers may refuse the block
@@ -80,8 +81,8 @@ enum class enRule : quint8
 /// What a rule says.
 struct SRule
 {
-    const char* szName; ///< stable, for programs: `range.clock`
-    enSeverity severity;
+    const char* szName;   ///< stable, for programs: `range.clock`
+    enSeverity severity;  ///< the same for every finding of the rule
     const char* szWrong;  ///< what is wrong; `%1` and `%2` are a finding's numbers
     const char* szRemedy; ///< what to do
 };
@@ -92,11 +93,11 @@ const SRule& RuleOf(enRule rule);
 /// One place where a rule is broken.
 struct SFinding
 {
-    enRule rule;
+    enRule rule;    ///< the rule that is broken
     qint32 nOffset; ///< of the first byte that is to blame
     qint32 nSize;   ///< bytes
-    qint32 nFirst;  ///< numbers of the text
-    qint32 nSecond;
+    qint32 nFirst;  ///< number for `%1` of the text
+    qint32 nSecond; ///< number for `%2`
 };
 
 /// Puts a finding's numbers into a text that holds `%1` and `%2`.

@@ -12,6 +12,7 @@
 
 namespace Edid {
 
+/// A published formula or list of timings.
 enum class enTimingStandard
 {
     enCvt,    ///< VESA CVT 1.2, standard blanking
@@ -23,6 +24,7 @@ enum class enTimingStandard
     enGtf,    ///< VESA GTF 1.1
 };
 
+/// Values of `enTimingStandard`.
 constexpr int c_nTimingStandards = 7;
 
 /// The name that a person writes: `cvt-rb2`.
@@ -33,10 +35,10 @@ std::optional<enTimingStandard> FindTimingStandard(const QString& strName);
 /// A mode that is asked for.
 struct SModeRequest
 {
-    int nWidth;   ///< pixels, above 0
-    int nHeight;  ///< lines of the frame, above 0
-    double dRate; ///< Hz, above 0; of fields when interlaced
-    bool bInterlaced;
+    int nWidth;       ///< pixels, above 0
+    int nHeight;      ///< lines of the frame, above 0
+    double dRate;     ///< Hz, above 0; of fields when interlaced
+    bool bInterlaced; ///< two fields make a frame
 };
 
 /// The timing of a mode by a standard; empty when a list does not have the mode, or when a formula leaves no

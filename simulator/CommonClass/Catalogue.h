@@ -22,6 +22,7 @@ public:
 
     /// All sender type codes, ascending.
     QList<int> Types() const;
+    /// Whether the catalogue has a sender type code.
     bool Contains(int nType) const { return m_mapSenders.count(nType) > 0; }
     /// Name of a type; empty for an unknown one.
     QString ModelName(int nType) const;

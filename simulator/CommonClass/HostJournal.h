@@ -19,12 +19,12 @@ enum enJournalCategory
 /// One host call.
 struct COMMONCLASS_EXPORT SJournalEntry
 {
-    qint64 nNumber = 0;    ///< running number, from 1; continues after a clear
-    qint64 nTimeStamp = 0; ///< start of the call, ms since 1970-01-01 UTC
-    double dDuration = 0;  ///< ms
-    enJournalCategory category = enJournalRead;
-    QString strObject;         ///< class of the host object, such as `CSenderLogic`
-    QString strOperation;      ///< such as `GetSenderType`
+    qint64 nNumber = 0;                         ///< running number, from 1; continues after a clear
+    qint64 nTimeStamp = 0;                      ///< start of the call, ms since 1970-01-01 UTC
+    double dDuration = 0;                       ///< ms
+    enJournalCategory category = enJournalRead; ///< what the call does
+    QString strObject;                          ///< class of the host object, such as `CSenderLogic`
+    QString strOperation;                       ///< such as `GetSenderType`
     QStringList listArguments; ///< as text, after the call: out-arguments show the values returned
     QString strResult;         ///< empty for an operation without a result
     bool bFailed = false;      ///< a write that had no effect
@@ -41,6 +41,7 @@ class COMMONCLASS_EXPORT CHostJournal : public QAbstractTableModel
     Q_OBJECT
 
 public:
+    /// The columns of the table.
     enum enColumn
     {
         enColumnNumber,
@@ -64,6 +65,7 @@ public:
     /// Default number of entries kept: hours of clicking.
     static constexpr int c_nDefaultCapacity = 20000;
 
+    /// An empty journal of `c_nDefaultCapacity` entries.
     explicit CHostJournal(QObject* pParent = nullptr);
     ~CHostJournal() override;
 
@@ -75,8 +77,10 @@ public:
     void Clear();
     /// Sets how many entries are kept, at least 1.
     void SetCapacity(int nCapacity);
+    /// How many entries are kept at most.
     int GetCapacity() const { return m_nCapacity; }
 
+    /// Entries that are there.
     int GetCount() const { return int(m_entries.size()); }
     /// The entry of a row, 0 being the oldest; faults outside the rows.
     const SJournalEntry& At(int nRow) const;
@@ -88,9 +92,13 @@ public:
     /// Name of a category: "read", "write" or "event", translated.
     static QString CategoryName(enJournalCategory category);
 
+    /// One row a call; none below a row.
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    /// `enColumnCount`; none below a row.
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    /// What a cell shows, and the roles of `enRole`.
     QVariant data(const QModelIndex& index, int nRole) const override;
+    /// Heads of the columns, in the present language.
     QVariant headerData(int nSection, Qt::Orientation orientation, int nRole) const override;
 
 Q_SIGNALS:

@@ -11,15 +11,15 @@
 /// One IPv4 address of this computer. Addresses have the first octet in the most significant byte.
 struct SLocalAddress
 {
-    unsigned int nAddress = 0;
-    unsigned int nNetmask = 0;
+    unsigned int nAddress = 0;   ///< the address
+    unsigned int nNetmask = 0;   ///< mask of its network
     unsigned int nBroadcast = 0; ///< as the interface reports it; 0: none
 };
 
 /// The facts about this computer's network that the rules for processor addresses need.
 struct SNetworkFacts
 {
-    QList<SLocalAddress> listLocal;
+    QList<SLocalAddress> listLocal;   ///< addresses of this computer's interfaces
     QList<unsigned int> listGateways; ///< default gateways
 };
 

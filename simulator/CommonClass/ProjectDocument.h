@@ -18,11 +18,15 @@ class COMMONCLASS_EXPORT CProjectDocument : public QObject
     Q_OBJECT
 
 public:
+    /// A project without senders and without a file.
     explicit CProjectDocument(QObject* pParent = nullptr);
     ~CProjectDocument() override;
 
     /// @name Values
     /// @{
+
+    /// The values as they are now, to read. The reference stays valid; its senders go when the project is
+    /// replaced.
     const SSimulatedProject& Project() const { return m_project; }
     /// Changes the project by a function and announces it. Use it to set settings, limits, faults and
     /// everything else in the project:
@@ -44,6 +48,7 @@ public:
 
     /// @name Starting a project
     /// @{
+
     /// Starts a project with the six sender types of a demo project.
     void NewProject();
     /// Starts a project with one sender of each type of the catalogue.
@@ -58,6 +63,7 @@ public:
 
     /// @name Senders
     /// @{
+
     /// Adds a factory-new sender as the last one.
     /// @return its index; -1 for a type that is not in the catalogue, and when the ids are used up
     int AddSender(int nType, const QString& strName = QString());
@@ -75,6 +81,7 @@ public:
 
     /// @name The file
     /// @{
+
     /// Path of the project file; empty until the project is first saved.
     QString FilePath() const { return m_strFile; }
     /// Opens a project. On a problem the present project stays.

@@ -18,6 +18,7 @@ struct COMMONCLASS_EXPORT SProjectChange
     bool bSettings = false;      ///< anything else in the file changed
     bool bCurrentSender = false; ///< another sender is edited; this alone is no reason to save
 
+    /// True when nothing changed.
     bool IsEmpty() const;
     /// True when there is something to save.
     bool ConcernsFile() const;
@@ -30,18 +31,20 @@ Q_DECLARE_METATYPE(SProjectChange)
 /// can be compared.
 struct SProjectFingerprint
 {
+    /// One sender.
     struct SSender
     {
-        int nId;
-        QByteArray baValues;
+        int nId;             ///< `SSimulatedSender::nId`
+        QByteArray baValues; ///< everything that the file holds of it
     };
 
-    int nCurSender = 0;
-    QByteArray baSettings;
-    QByteArray baAddresses;
-    std::vector<SSender> vecSenders;
+    int nCurSender = 0;              ///< index of the sender that is edited
+    QByteArray baSettings;           ///< what belongs to no sender and to no address list
+    QByteArray baAddresses;          ///< the address lists
+    std::vector<SSender> vecSenders; ///< in the project's order
 };
 
+/// The present values of a project.
 COMMONCLASS_EXPORT SProjectFingerprint FingerprintOf(const SSimulatedProject& project);
 
 /// The differences between one state and the next.

@@ -14,20 +14,24 @@ class CProjectDocument;
 class COMMONCLASS_EXPORT CSimulatedAddresses
 {
 public:
+    /// The addresses of a document's project.
+    /// @param document outlives this object
     explicit CSimulatedAddresses(CProjectDocument& document);
 
     /// Sets the source of the network facts and refreshes them. The default queries the machine.
     void SetNetworkFacts(FuncNetworkFacts funcFacts);
     /// Refreshes the network facts.
     void RefreshNetworkFacts();
+    /// The network as it was when the facts were last refreshed.
     const SNetworkFacts& NetworkFacts() const { return m_facts; }
 
     /// Checks an address as the dialogs do.
     enAddressVerdict Judge(unsigned int nAddress);
     /// Removes an entry from all three address lists.
     void Remove(int nIndex);
-    /// Applies the list being set, or discards its changes.
+    /// Puts the list being set in force.
     void ApplyCurrentSet();
+    /// Discards the changes of the list being set.
     void RevertCurrentSet();
 
 private:

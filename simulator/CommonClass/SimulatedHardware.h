@@ -16,6 +16,8 @@ class COMMONCLASS_EXPORT CSimulatedHardware : public QObject
     Q_OBJECT
 
 public:
+    /// The devices of a document's senders.
+    /// @param document outlives this object
     explicit CSimulatedHardware(CProjectDocument& document, QObject* pParent = nullptr);
     ~CSimulatedHardware() override;
 

@@ -30,6 +30,7 @@ class COMMONCLASS_EXPORT CSimulator : public QObject
     Q_OBJECT
 
 public:
+    /// The one of the process, made at the first call; it ends with the process. Call it on the GUI thread.
     static CSimulator& Instance();
 
     /// The argument for `SenderModuleDialogInit`.
