@@ -16,11 +16,17 @@ function(sender_object_library NAME)
 endfunction()
 
 # sender_public_headers(TARGET HEADERS...): what is installed with a target. Headers keep their paths below the root:
-# #include "SenderModuleDialog/geometry/Line.h".
+# #include "SenderModuleDialog/geometry/Line.h". More folders than one may add to a target.
 function(sender_public_headers TARGET)
+    set(HEADERS "")
+    foreach(HEADER IN LISTS ARGN)
+        cmake_path(ABSOLUTE_PATH HEADER)
+        list(APPEND HEADERS "${HEADER}")
+    endforeach()
     target_sources(${TARGET} PUBLIC
-        FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}" FILES ${ARGN})
+        FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}" FILES ${HEADERS})
     set_target_properties(${TARGET} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+    set_property(GLOBAL APPEND PROPERTY SENDER_INSTALLED_HEADERS ${HEADERS})
     set_property(GLOBAL APPEND PROPERTY SENDER_VERIFIED_TARGETS ${TARGET})
 endfunction()
 

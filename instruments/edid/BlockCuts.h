@@ -13,11 +13,11 @@ namespace Edid {
 /// A mode as it goes into the block.
 struct SBlockMode
 {
-    int nWidth;  ///< pixels
-    int nHeight; ///< lines
-    tagSBlankTiming blank;
-    qint64 nClock;       ///< units of 10 kHz, before it is cut
-    double dWantedClock; ///< Hz, before it is rounded to units
+    int nWidth;            ///< pixels
+    int nHeight;           ///< lines
+    tagSBlankTiming blank; ///< blanking of the mode
+    qint64 nClock;         ///< units of 10 kHz, before it is cut
+    double dWantedClock;   ///< Hz, before it is rounded to units
 };
 
 /// A mode with reduced blanking.

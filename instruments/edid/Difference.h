@@ -14,8 +14,8 @@ namespace Edid {
 /// Two fields that stand in the same place of their explanations and are different.
 struct SFieldPair
 {
-    int nFirst; ///< place in its explanation, -1 where the field is not there
-    int nSecond;
+    int nFirst;  ///< place in its explanation, -1 where the field is not there
+    int nSecond; ///< as `nFirst`
 };
 
 /// The fields that are different, or that one of two EDIDs does not have, in the order of the bytes. Fields
