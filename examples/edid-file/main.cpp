@@ -20,7 +20,8 @@ int main(int argc, char* argv[])
     const QByteArray block(reinterpret_cast<const char*>(&edid), sizeof edid);
 
     QSaveFile file(QString::fromLocal8Bit(argv[4]));
-    if (!file.open(QIODevice::WriteOnly) || file.write(block) != block.size() || !file.commit()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(block) != block.size() || !file.flush() ||
+        !file.commit()) {
         std::fprintf(stderr, "edid-file: %s: %s\n", argv[4], qPrintable(file.errorString()));
         return 1;
     }

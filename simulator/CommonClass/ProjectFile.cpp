@@ -199,7 +199,9 @@ QString WriteWhole(const QFileInfo& info, const QByteArray& baContent)
     const QString strUnfinished =
         info.dir().filePath(UnfinishedPrefix(info) + QString::number(QCoreApplication::applicationPid()));
     QSaveFile file(strUnfinished);
-    if (!file.open(QIODevice::WriteOnly) || file.write(baContent) != baContent.size() || !file.commit())
+    // The commit alone does not notice that the buffer could not be flushed to a full disk.
+    if (!file.open(QIODevice::WriteOnly) || file.write(baContent) != baContent.size() || !file.flush() ||
+        !file.commit())
         return file.errorString();
     if (MoveOver(strUnfinished, info))
         return {};

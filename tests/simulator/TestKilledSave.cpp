@@ -14,7 +14,7 @@
 namespace {
 
 /// How often a process is killed while it saves.
-constexpr int c_nKills = 250;
+constexpr int c_nKills = 500;
 /// Longest time that it is left alone, microseconds: some ten saves.
 constexpr int c_nLongestLife = 4000;
 

@@ -1,12 +1,12 @@
 #include "workbench/colour/ChartExport.h"
 
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "workbench/WholeFile.h"
 #include "workbench/colour/ColourGroups.h"
 #include "workbench/colour/RegionOverlay.h"
 
 #include <QBuffer>
 #include <QPainter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
 namespace {
@@ -23,14 +23,6 @@ void Paint(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, QPai
     ColourGroups::Restore(copy, ColourGroups::Take(chart));
     copy.Draw(painter);
     CRegionOverlay::Paint(painter, copy, region);
-}
-
-QString Save(const QString& strFile, const QByteArray& baContent)
-{
-    QSaveFile file(strFile);
-    const bool bSaved =
-        file.open(QIODevice::WriteOnly) && file.write(baContent) == baContent.size() && file.commit();
-    return bSaved ? QString() : file.errorString();
 }
 
 } // namespace
@@ -51,7 +43,7 @@ QString ChartExport::SavePng(const CChromaticityDlgWnd& chart, const CFeasibleRe
     QByteArray baContent;
     QBuffer buffer(&baContent);
     Picture(chart, region, dRatio).save(&buffer, "PNG");
-    return Save(strFile, baContent);
+    return WholeFile::Write(strFile, baContent);
 }
 
 QString ChartExport::SaveSvg(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region,
@@ -69,5 +61,5 @@ QString ChartExport::SaveSvg(const CChromaticityDlgWnd& chart, const CFeasibleRe
     QPainter painter(&generator);
     Paint(chart, region, painter);
     painter.end();
-    return Save(strFile, baContent);
+    return WholeFile::Write(strFile, baContent);
 }

@@ -2,6 +2,7 @@
 
 #include "SenderModuleDialog/colour/ColourStandards.h"
 #include "reports/WallReport.h"
+#include "workbench/WholeFile.h"
 #include "workbench/colour/MeasurementProblem.h"
 #include "workbench/colour/ModuleModel.h"
 
@@ -16,7 +17,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QSortFilterProxyModel>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -238,13 +238,11 @@ bool CWallPanel::SaveReport(const QString& strFile)
 
 bool CWallPanel::Save(const QString& strFile, const QByteArray& content)
 {
-    QSaveFile file(strFile);
-    const bool bSaved =
-        file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    const QString strError = WholeFile::Write(strFile, content);
     const QString strName = QDir::toNativeSeparators(strFile);
-    Q_EMIT Reported(bSaved ? tr("已保存 %1").arg(strName)
-                           : tr("无法写入 %1：%2。请选择别的位置。").arg(strName, file.errorString()));
-    return bSaved;
+    Q_EMIT Reported(strError.isEmpty() ? tr("已保存 %1").arg(strName)
+                                       : tr("无法写入 %1：%2。请选择别的位置。").arg(strName, strError));
+    return strError.isEmpty();
 }
 
 void CWallPanel::Clear()

@@ -5,6 +5,7 @@
 #include "simulator/CommonClass/Simulator.h"
 #include "workbench/ModeText.h"
 #include "workbench/SaveDialog.h"
+#include "workbench/WholeFile.h"
 #include "workbench/edid/EdidMemoryUpdater.h"
 #include "workbench/edid/FindingList.h"
 #include "workbench/edid/HexView.h"
@@ -16,7 +17,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QSplitter>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -272,14 +272,13 @@ void CEdidPage::ChooseFileAndSave()
 bool CEdidPage::SaveBlock(const QString& strFile)
 {
     const SSimulatedInput* pInput = Input();
-    QSaveFile file(strFile);
-    const QByteArray content = pInput == nullptr ? QByteArray() : FormFor(strFile, pInput->baEdid);
-    const bool bSaved = pInput != nullptr && file.open(QIODevice::WriteOnly) &&
-                        file.write(content) == content.size() && file.commit();
+    if (pInput == nullptr)
+        return false;
+    const QString strError = WholeFile::Write(strFile, FormFor(strFile, pInput->baEdid));
     const QString strName = QDir::toNativeSeparators(strFile);
-    if (bSaved)
+    if (strError.isEmpty())
         Q_EMIT Reported(tr("已保存 %1").arg(strName));
     else
-        Q_EMIT Failed(tr("无法写入 %1：%2。请选择别的位置。").arg(strName, file.errorString()));
-    return bSaved;
+        Q_EMIT Failed(tr("无法写入 %1：%2。请选择别的位置。").arg(strName, strError));
+    return strError.isEmpty();
 }
