@@ -29,7 +29,7 @@ constexpr int c_nDefaultEvents = 50000;
 
 /// Shorter runs are all warm-up and prove nothing about memory.
 constexpr int c_nEventsForMemory = 500000;
-/// Memory at the end, as a part of that after the warm-up.
+/// Memory near the end, as a part of that after the warm-up.
 constexpr double c_dMostGrowth = 1.05;
 
 struct SOptions
@@ -72,15 +72,25 @@ void MoveInto(const QTemporaryDir& folder)
     QDir::setCurrent(folder.path());
 }
 
+void JudgeMemory(CRobotWatch& watch, const char* szKind, const CMemoryTrend& trend)
+{
+    if (trend.Growth() > c_dMostGrowth)
+        watch.Fail(QStringLiteral("%1 memory grew to %2 of what it was after the warm-up")
+                       .arg(QString::fromLatin1(szKind))
+                       .arg(trend.Growth()));
+}
+
 bool Report(CRobot& robot)
 {
     CRobotWatch& watch = robot.Watch();
-    const double dGrowth = watch.MemoryGrowth();
-    if (robot.Done() >= c_nEventsForMemory && dGrowth > c_dMostGrowth)
-        watch.Fail(QStringLiteral("memory grew to %1 of what it was after the warm-up").arg(dGrowth));
-    std::printf("%d actions, slowest %lld ms, memory %.3f of that after the warm-up, %d failures\n",
-                robot.Done(), static_cast<long long>(watch.SlowestAction()), dGrowth,
-                int(watch.Failures().size()));
+    if (robot.Done() >= c_nEventsForMemory) {
+        JudgeMemory(watch, "allocated", watch.AllocatedMemory());
+        JudgeMemory(watch, "resident", watch.ResidentMemory());
+    }
+    std::printf("%d actions, slowest %lld ms, %d failures; of the memory after the warm-up, "
+                "%.3f is allocated and %.3f resident\n",
+                robot.Done(), static_cast<long long>(watch.SlowestAction()), int(watch.Failures().size()),
+                watch.AllocatedMemory().Growth(), watch.ResidentMemory().Growth());
     return watch.Failures().isEmpty();
 }
 
@@ -88,6 +98,7 @@ bool Report(CRobot& robot)
 
 int main(int argc, char* argv[])
 {
+    KeepHeapCompact();
     const QTemporaryDir folder;
     MoveInto(folder);
     qputenv("ORVICONTROL_ANIMATIONS", "0");

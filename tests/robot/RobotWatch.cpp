@@ -1,7 +1,5 @@
 #include "tests/robot/RobotWatch.h"
 
-#include <QFile>
-
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
@@ -9,7 +7,6 @@
 #include <ctime>
 #include <iterator>
 
-#include <malloc.h>
 #include <unistd.h>
 
 namespace {
@@ -18,9 +15,6 @@ constexpr int c_nMostFailures = 100;
 
 /// No action may take longer, milliseconds of processor time.
 constexpr qint64 c_nLongestAction = 1000;
-
-/// After this part of the work the caches are full, and memory should no longer grow.
-constexpr double c_dWarm = 0.3;
 
 /// Messages of Qt that say nothing about this program, each with its reason.
 constexpr const char* c_arrHarmlessMessages[] = {
@@ -78,16 +72,6 @@ qint64 ProcessorTime()
     return qint64(time.tv_sec) * 1000 + qint64(time.tv_nsec) / 1000000;
 }
 
-/// Bytes of memory that the process holds.
-qint64 MemoryInUse()
-{
-    malloc_trim(0);
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
-}
-
 } // namespace
 
 CRobotWatch::CRobotWatch()
@@ -120,14 +104,8 @@ void CRobotWatch::SetAction(const QString& strAction)
 
 void CRobotWatch::NoteMemory(double dDone)
 {
-    m_nMemory = MemoryInUse();
-    if (m_nWarmMemory == 0 && dDone >= c_dWarm)
-        m_nWarmMemory = m_nMemory;
-}
-
-double CRobotWatch::MemoryGrowth() const
-{
-    return m_nWarmMemory > 0 ? double(m_nMemory) / double(m_nWarmMemory) : 0.0;
+    m_allocated.Note(dDone, AllocatedBytes());
+    m_resident.Note(dDone, ResidentBytes());
 }
 
 CRobotWatch::CTimedAction::CTimedAction(CRobotWatch& watch)

@@ -1,6 +1,8 @@
 #ifndef TESTS_ROBOT_ROBOTWATCH_H
 #define TESTS_ROBOT_ROBOTWATCH_H
 
+#include "tests/robot/MemoryTrend.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -25,8 +27,8 @@ public:
     /// Notes the memory in use; call it between two scenes, when nothing is shown.
     /// @param dDone the part of the work that is done, 0 to 1
     void NoteMemory(double dDone);
-    /// Memory in use at the end divided by that after the warm-up; 0 without a warm-up.
-    double MemoryGrowth() const;
+    const CMemoryTrend& AllocatedMemory() const { return m_allocated; }
+    const CMemoryTrend& ResidentMemory() const { return m_resident; }
 
     /// Milliseconds of processor time of the slowest action.
     qint64 SlowestAction() const { return m_nSlowest; }
@@ -53,8 +55,8 @@ private:
     QString m_strAction;
     qint64 m_nInner = 0; ///< milliseconds that the running action has spent in inner ones
     qint64 m_nSlowest = 0;
-    qint64 m_nWarmMemory = 0;
-    qint64 m_nMemory = 0;
+    CMemoryTrend m_allocated;
+    CMemoryTrend m_resident;
 };
 
 #endif // TESTS_ROBOT_ROBOTWATCH_H
