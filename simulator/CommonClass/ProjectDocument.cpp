@@ -3,6 +3,7 @@
 #include "simulator/CommonClass/Catalogue.h"
 #include "simulator/CommonClass/ProjectFile.h"
 #include "simulator/CommonClass/ProjectTemplates.h"
+#include "simulator/CommonClass/SavedProject.h"
 #include "simulator/CommonClass/SimulatorText.h"
 
 #include <QFileInfo>
@@ -19,11 +20,12 @@ constexpr int c_nDefaultPorts = 4;
 
 CProjectDocument::CProjectDocument(QObject* pParent)
     : QObject(pParent)
+    , m_pSaved(std::make_unique<CSavedProject>())
 {
     qRegisterMetaType<SProjectChange>();
     m_senderNone.nOutputPortCount = c_nDefaultPorts;
-    m_jsonSaved = ProjectToJson(m_project);
-    m_fingerprintSaved = m_fingerprintNoticed = FingerprintOf(m_project);
+    m_fingerprintNoticed = FingerprintOf(m_project);
+    m_pSaved->Replace(m_project, m_fingerprintNoticed, QString());
 }
 
 CProjectDocument::~CProjectDocument() = default;
@@ -57,7 +59,7 @@ void CProjectDocument::NoticeChanges()
 
 void CProjectDocument::UpdateModified(const SProjectFingerprint& present)
 {
-    const bool bModified = Difference(m_fingerprintSaved, present).ConcernsFile();
+    const bool bModified = m_pSaved->DiffersFrom(present);
     if (bModified == m_bModified)
         return;
     m_bModified = bModified;
@@ -99,29 +101,21 @@ bool CProjectDocument::NewDemoProject(int nType)
 
 void CProjectDocument::Replace(SSimulatedProject project, const QString& strFile)
 {
+    const QString strFileBefore = FilePath();
     m_project = std::move(project);
-    m_pictures.Replace(strFile);
-    SetFilePath(strFile);
     m_fingerprintNoticed = FingerprintOf(m_project);
+    m_pSaved->Replace(m_project, m_fingerprintNoticed, strFile);
+    AnnounceFile(strFileBefore);
+    UpdateModified(m_fingerprintNoticed);
     const SProjectChange change = Difference({}, m_fingerprintNoticed);
-    MarkSaved(ProjectToJson(m_project), m_fingerprintNoticed);
     Q_EMIT OnProjectReplaced();
     Q_EMIT OnProjectChanged(change);
 }
 
-void CProjectDocument::MarkSaved(const QJsonObject& saved, const SProjectFingerprint& fingerprint)
+void CProjectDocument::AnnounceFile(const QString& strFileBefore)
 {
-    m_jsonSaved = saved;
-    m_fingerprintSaved = fingerprint;
-    UpdateModified(FingerprintOf(m_project));
-}
-
-void CProjectDocument::SetFilePath(const QString& strFile)
-{
-    if (strFile == m_strFile)
-        return;
-    m_strFile = strFile;
-    Q_EMIT OnFilePathChanged(strFile);
+    if (FilePath() != strFileBefore)
+        Q_EMIT OnFilePathChanged(FilePath());
 }
 
 int CProjectDocument::AddSender(int nType, const QString& strName)
@@ -163,6 +157,16 @@ void CProjectDocument::SetCurrentSender(int nSender)
     NoticeChanges();
 }
 
+QString CProjectDocument::FilePath() const
+{
+    return m_pSaved->File();
+}
+
+QString CProjectDocument::KeptFile() const
+{
+    return m_pSaved->KeptFile();
+}
+
 bool CProjectDocument::Open(const QString& strFile, SFileProblem& problem)
 {
     std::optional<SSimulatedProject> project = ProjectFile::Read(strFile, problem);
@@ -174,25 +178,25 @@ bool CProjectDocument::Open(const QString& strFile, SFileProblem& problem)
 
 bool CProjectDocument::Save(SFileProblem& problem)
 {
-    if (m_strFile.isEmpty()) {
+    if (FilePath().isEmpty()) {
         problem = {};
         problem.strWhat = CSimulatorText::tr("The project has no file yet.");
         problem.strAdvice = CSimulatorText::tr("Choose a file to save it to.");
         return false;
     }
-    return SaveAs(m_strFile, problem);
+    return SaveAs(FilePath(), problem);
 }
 
 bool CProjectDocument::SaveAs(const QString& strFile, SFileProblem& problem)
 {
     const QString strPath = QFileInfo(strFile).absoluteFilePath();
-    const QJsonObject project = ProjectToJson(m_project);
-    if (!WriteTo(strPath, project, problem))
+    const QString strFileBefore = FilePath();
+    if (!m_pSaved->Write(m_project, strPath, problem))
         return false;
     SFileProblem problemPictures;
-    const bool bPictures = m_pictures.MoveTo(strPath, problemPictures);
-    SetFilePath(strPath);
-    MarkSaved(project, FingerprintOf(m_project));
+    const bool bPictures = m_pSaved->Pictures().MoveTo(strPath, problemPictures);
+    AnnounceFile(strFileBefore);
+    UpdateModified(FingerprintOf(m_project));
     if (!bPictures)
         Report(problemPictures);
     return true;
@@ -200,26 +204,17 @@ bool CProjectDocument::SaveAs(const QString& strFile, SFileProblem& problem)
 
 bool CProjectDocument::SaveAddresses(SFileProblem& problem)
 {
-    if (m_strFile.isEmpty())
+    if (FilePath().isEmpty())
         return true;
-    QJsonObject project = m_jsonSaved;
-    project.insert(QStringLiteral("addresses"), AddressListsToJson(m_project.addresses));
-    if (!WriteTo(m_strFile, project, problem))
+    if (!m_pSaved->WriteAddresses(m_project, problem))
         return false;
-    SProjectFingerprint saved = m_fingerprintSaved;
-    saved.baAddresses = FingerprintOf(m_project).baAddresses;
-    MarkSaved(project, saved);
+    UpdateModified(FingerprintOf(m_project));
     return true;
-}
-
-bool CProjectDocument::WriteTo(const QString& strFile, const QJsonObject& project, SFileProblem& problem)
-{
-    return ProjectFile::Write(strFile, project, m_strKept, problem);
 }
 
 QString CProjectDocument::PictureFolder()
 {
-    return m_pictures.Path();
+    return m_pSaved->Pictures().Path();
 }
 
 QString CProjectDocument::PictureName(int nSender) const

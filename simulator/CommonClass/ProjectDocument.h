@@ -3,14 +3,15 @@
 
 #include "host/HostExport.h"
 #include "simulator/CommonClass/FileProblem.h"
-#include "simulator/CommonClass/PictureFolder.h"
 #include "simulator/CommonClass/ProjectFingerprint.h"
 #include "simulator/CommonClass/SimulatedProject.h"
 
-#include <QJsonObject>
 #include <QObject>
 
 #include <functional>
+#include <memory>
+
+class CSavedProject;
 
 /// The project of the simulated host: its values, their changes, and the file that stores them.
 class COMMONCLASS_EXPORT CProjectDocument : public QObject
@@ -83,7 +84,7 @@ public:
     /// @{
 
     /// Path of the project file; empty until the project is first saved.
-    QString FilePath() const { return m_strFile; }
+    QString FilePath() const;
     /// Opens a project. On a problem the present project stays.
     bool Open(const QString& strFile, SFileProblem& problem);
     /// Saves to the project's file; a project without one needs `SaveAs`.
@@ -95,7 +96,7 @@ public:
     /// keeps them until it is saved.
     bool SaveAddresses(SFileProblem& problem);
     /// The unreadable file that the last save kept beside the new one; empty when there was none.
-    QString KeptFile() const { return m_strKept; }
+    QString KeptFile() const;
     /// Folder of the background pictures.
     QString PictureFolder();
     /// File name of a sender's background picture, without the folder.
@@ -118,21 +119,15 @@ Q_SIGNALS:
 
 private:
     void Replace(SSimulatedProject project, const QString& strFile);
-    bool WriteTo(const QString& strFile, const QJsonObject& project, SFileProblem& problem);
-    void MarkSaved(const QJsonObject& saved, const SProjectFingerprint& fingerprint);
+    void AnnounceFile(const QString& strFileBefore);
     void UpdateModified(const SProjectFingerprint& present);
-    void SetFilePath(const QString& strFile);
 
     SSimulatedProject m_project;
     CSender m_senderNone;
-    QJsonObject m_jsonSaved; ///< the project as stored in its file, or as it was started
-    SProjectFingerprint m_fingerprintSaved;
+    const std::unique_ptr<CSavedProject> m_pSaved;
     SProjectFingerprint m_fingerprintNoticed; ///< the project as it was last announced
     bool m_bModified = false;
     bool m_bChangesExpected = false;
-    QString m_strFile;
-    QString m_strKept;
-    CPictureFolder m_pictures;
 };
 
 #endif // SIMULATOR_COMMONCLASS_PROJECTDOCUMENT_H
