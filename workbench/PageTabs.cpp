@@ -1,5 +1,7 @@
 #include "workbench/PageTabs.h"
 
+#include "simulator/OrviControl/Theme.h"
+
 #include <QPainter>
 #include <QTabBar>
 
@@ -20,7 +22,7 @@ protected:
         if (!hasFocus())
             return;
         QPainter painter(this);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), c_nFrameWidth));
+        painter.setPen(QPen(QColor(Theme::c_rgbFocus), c_nFrameWidth));
         painter.drawRect(tabRect(currentIndex())
                              .adjusted(c_nFrameMargin, c_nFrameMargin, -c_nFrameMargin, -c_nFrameMargin));
     }

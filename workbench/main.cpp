@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QStyleFactory>
 
 #include <algorithm>
 #include <cstdio>
@@ -78,7 +77,7 @@ int main(int argc, char* argv[])
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(Theme::CreateStyle());
     QApplication::setPalette(Theme::Palette());
     QApplication::setFont(Theme::Font());
     const SWorkbenchOptions options = ReadOptions(application);

@@ -183,6 +183,8 @@ SEdidControls::SEdidControls(QWidget* pDialog, QSize sizeCustom)
     , pError(CreateError(pDialog))
     , buttons(CreateButtons(pDialog))
 {
+    // A default button would have the first focus instead of a menu.
+    pResolution->setFocus();
     QGridLayout* pGrid = CreateGrid(pDialog);
     AddWholeRow(pGrid, pResolution, enRowResolution);
     AddSizeRow(pGrid, *this);

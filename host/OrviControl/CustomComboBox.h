@@ -11,8 +11,8 @@ class QAction;
 class QMenu;
 
 /// A drop-down button: a push button that shows the chosen text and opens a menu, with the entry of that text
-/// picked out. Down, Up and F4 open it too. The menu comes from `SetMenu`, or from `QPushButton::setMenu`,
-/// which leaves the text to the caller.
+/// picked out. Space, Down, Up and F4 open it too. The menu comes from `SetMenu`, or from
+/// `QPushButton::setMenu`, which leaves the text to the caller.
 class ORVICONTROL_EXPORT CCustomComboBox : public QPushButton
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ Q_SIGNALS:
     void Activated(int nIndex);
 
 protected:
-    /// Opens the menu on Down, Up, F4 and Enter.
+    /// Opens the menu on Down, Up and F4. Enter goes to the dialog's default button.
     void keyPressEvent(QKeyEvent* pEvent) override;
     /// Paints the text from the left, shortened at its end where it is too long.
     void paintEvent(QPaintEvent* pEvent) override;

@@ -12,6 +12,7 @@
 #include <QStylePainter>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -24,14 +25,23 @@ constexpr int c_nTextMargin = 7;
 const QString& ComboStyle()
 {
     static const QString s_strStyle = Theme::Resolve(
-        "QPushButton{background:@field@; color:@text@; border:1px solid @edge@; border-radius:4px;}"
+        "QPushButton{background:@field@; color:@text@; border:1px solid @edge@; border-radius:4px; "
+        "outline:none;}"
         "QPushButton:hover{background:@button-pressed@;}"
-        "QPushButton:focus{border:1px solid @accent@;}"
+        "QPushButton:focus{border:2px solid @focus@;}"
         "QPushButton:disabled{color:@text-disabled@; background:@field-disabled@;}"
         "QPushButton::menu-indicator{image:url(:/OrviControl/icons/arrow-down.svg); width:10px; height:6px;"
         " subcontrol-origin:border; subcontrol-position:right center; right:6px;}"
         "QPushButton::menu-indicator:disabled{image:url(:/OrviControl/icons/arrow-down-disabled.svg);}");
     return s_strStyle;
+}
+
+/// The first action that a predicate is true for, or null.
+template <class TPredicate>
+QAction* FindAction(const QList<QAction*>& listActions, TPredicate predicate)
+{
+    const auto itFound = std::find_if(listActions.cbegin(), listActions.cend(), predicate);
+    return itFound == listActions.cend() ? nullptr : *itFound;
 }
 
 } // namespace
@@ -111,14 +121,16 @@ bool CCustomComboBox::eventFilter(QObject* pWatched, QEvent* pEvent)
     return QPushButton::eventFilter(pWatched, pEvent);
 }
 
-/// Arrow keys start from the entry that the box shows.
+/// Arrow keys start from the entry that the box shows, or from the marked one where the box words it
+/// otherwise than the menu.
 void CCustomComboBox::PickOutCurrentItem()
 {
     const QList<QAction*> listActions = menu()->actions();
-    const auto itFound = std::find_if(listActions.cbegin(), listActions.cend(),
-                                      [this](const QAction* pAction) { return pAction->text() == text(); });
-    if (itFound != listActions.cend())
-        menu()->setActiveAction(*itFound);
+    QAction* pShown = FindAction(listActions, [this](const QAction* p) { return p->text() == text(); });
+    QAction* pCurrent =
+        pShown == nullptr ? FindAction(listActions, std::mem_fn(&QAction::isChecked)) : pShown;
+    if (pCurrent != nullptr)
+        menu()->setActiveAction(pCurrent);
 }
 
 void CCustomComboBox::keyPressEvent(QKeyEvent* pEvent)
@@ -127,8 +139,6 @@ void CCustomComboBox::keyPressEvent(QKeyEvent* pEvent)
     case Qt::Key_Down:
     case Qt::Key_Up:
     case Qt::Key_F4:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
         if (menu() != nullptr) {
             showMenu();
             return;

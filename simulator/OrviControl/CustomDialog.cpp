@@ -1,5 +1,6 @@
 #include "host/OrviControl/CustomDialog.h"
 
+#include "simulator/OrviControl/FieldWheel.h"
 #include "simulator/OrviControl/Theme.h"
 
 #include <QAbstractSpinBox>
@@ -8,11 +9,12 @@
 
 namespace {
 
-/// Selects the content of the field that has the focus when a dialog opens, so that typing replaces it.
-class CFirstFieldSelector : public QObject
+/// Prepares the fields of a dialog that opens: the content of the field with the focus is selected, so that
+/// typing replaces it, and the mouse wheel changes none but that field.
+class CFieldPreparer : public QObject
 {
 public:
-    explicit CFirstFieldSelector(QDialog* pDialog)
+    explicit CFieldPreparer(QDialog* pDialog)
         : QObject(pDialog)
     {
         pDialog->installEventFilter(this);
@@ -20,8 +22,10 @@ public:
 
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override
     {
-        if (pEvent->type() == QEvent::Show && !pEvent->spontaneous())
+        if (pEvent->type() == QEvent::Show && !pEvent->spontaneous()) {
             m_bOpening = true;
+            FieldWheel::NeedsFocusInAll(qobject_cast<QWidget*>(pWatched));
+        }
         // The first field gets the focus while the window becomes active, after this event.
         if (pEvent->type() == QEvent::WindowActivate && m_bOpening) {
             m_bOpening = false;
@@ -52,7 +56,7 @@ CCustomDialog::CCustomDialog(QWidget* pParent, bool bResizable)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowFlag(Qt::MSWindowsFixedSizeDialogHint, !bResizable);
     Theme::Apply(this);
-    new CFirstFieldSelector(this);
+    new CFieldPreparer(this);
 }
 
 CCustomDialog::~CCustomDialog() = default;

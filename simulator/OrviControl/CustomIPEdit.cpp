@@ -86,7 +86,7 @@ CCustomIPEdit::CPrivate::CPrivate(CCustomIPEdit* pOwner)
 {
     const QString strStyle =
         Theme::Resolve("QLineEdit{background:transparent; color:@text@; border:none; padding:0px;"
-                       " selection-background-color:@accent@; selection-color:@text@;}"
+                       " selection-background-color:@selection@; selection-color:@text@;}"
                        "QLineEdit:disabled{color:@text-disabled@;}");
     for (int i = 0; i < IPAddressText::c_nOctets; ++i) {
         auto* pCell = new COctetEdit(pOwner);
@@ -169,13 +169,14 @@ void CCustomIPEdit::CPrivate::Paint(QPainter& painter) const
 {
     const bool bFocus =
         std::any_of(arrCells.cbegin(), arrCells.cend(), [](const COctetEdit* p) { return p->hasFocus(); });
-    const QRgb rgbFrame = bRefused ? Theme::c_rgbWarning : bFocus ? Theme::c_rgbAccent : Theme::c_rgbEdge;
+    const QRgb rgbFrame = bRefused ? Theme::c_rgbWarning : bFocus ? Theme::c_rgbFocus : Theme::c_rgbEdge;
+    const qreal fWidth = bFocus ? Theme::c_nFocusWidth : 1;
     const bool bEnabled = pEdit->isEnabled();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QColor(rgbFrame));
+    painter.setPen(QPen(QColor(rgbFrame), fWidth));
     painter.setBrush(QColor(bEnabled ? Theme::c_rgbField : Theme::c_rgbFieldDisabled));
-    painter.drawRoundedRect(QRectF(pEdit->rect()).adjusted(0.5, 0.5, -0.5, -0.5), Theme::c_nRadius,
-                            Theme::c_nRadius);
+    painter.drawRoundedRect(QRectF(pEdit->rect()).adjusted(fWidth / 2, fWidth / 2, -fWidth / 2, -fWidth / 2),
+                            Theme::c_nRadius, Theme::c_nRadius);
     painter.setFont(Cell(0).font());
     painter.setPen(QColor(bEnabled ? Theme::c_rgbText : Theme::c_rgbTextDisabled));
     for (int i = 0; i < c_nLast; ++i) {

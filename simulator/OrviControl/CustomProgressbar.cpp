@@ -20,7 +20,7 @@ QString BarStyle()
         Theme::Resolve(
             "QProgressBar{background:@field@; color:@text@; border:1px solid @edge@; border-radius:4px;"
             " text-align:center; min-height:18px; max-height:18px;}"
-            "QProgressBar::chunk{background:@accent@; border-radius:3px;}"),
+            "QProgressBar::chunk{background:@selection@; border-radius:3px;}"),
         QStringLiteral("QProgressBar"), Theme::c_nFontSize);
 }
 

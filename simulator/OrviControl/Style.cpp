@@ -17,16 +17,16 @@ QString g_labelWarnStyle = Theme::Resolve("QLabel{background:transparent; color:
 
 QString g_pushButtonStyle =
     Theme::Resolve("QPushButton{background:@button@; color:@text@; border:1px solid @edge@; "
-                   "border-radius:4px; padding:0px 4px;}"
+                   "border-radius:4px; padding:0px 4px; outline:none;}"
                    "QPushButton:hover{background:@button-hover@;}"
                    "QPushButton:pressed{background:@button-pressed@;}"
-                   "QPushButton:focus{border:1px solid @accent@;}"
+                   "QPushButton:focus{border:2px solid @focus@; padding:0px 3px;}"
                    "QPushButton:disabled{color:@text-disabled@; background:@button-disabled@;}");
 
 QString g_menuStyle =
     Theme::Resolve("QMenu{background:@field@; color:@text@; border:1px solid @edge@; padding:2px 0px;}"
                    "QMenu::item{padding:4px 12px 4px 26px;}"
-                   "QMenu::item:selected{background:@accent@;}"
+                   "QMenu::item:selected{background:@selection@;}"
                    "QMenu::item:disabled{color:@text-disabled@;}"
                    "QMenu::separator{height:1px; background:@button@; margin:2px 6px;}"
                    "QMenu::indicator{width:14px; height:14px; left:6px;}"
@@ -34,11 +34,13 @@ QString g_menuStyle =
                    "QMenu::indicator:checked:disabled{image:url(:/OrviControl/icons/check-disabled.svg);}");
 
 QString g_checkBoxStyle = Theme::Resolve(
-    "QCheckBox{color:@text@; spacing:6px;}"
+    "QCheckBox{color:@text@; spacing:6px; outline:none;}"
     "QCheckBox:disabled{color:@text-disabled@;}"
-    "QCheckBox::indicator{width:14px; height:14px; background:@field@; border:1px solid @track-off@; "
+    "QCheckBox::indicator{width:14px; height:14px; background:@field@; border:1px solid @edge@; "
     "border-radius:3px;}"
-    "QCheckBox::indicator:hover,QCheckBox::indicator:focus{border:1px solid @accent@;}"
+    "QCheckBox::indicator:hover{border:1px solid @focus@;}"
+    "QCheckBox::indicator:focus{width:12px; height:12px; border:2px solid @focus@;}"
+    "QCheckBox::indicator:checked:focus{border:2px solid @text@;}"
     "QCheckBox::indicator:checked{background:@accent@; image:url(:/OrviControl/icons/check.svg);}"
     "QCheckBox::indicator:disabled{background:@button-disabled@; border:1px solid @button@;}"
     "QCheckBox::indicator:checked:disabled{image:url(:/OrviControl/icons/check-disabled.svg);}");
@@ -46,14 +48,15 @@ QString g_checkBoxStyle = Theme::Resolve(
 QString g_doubleSpinBoxStyle = Theme::Resolve(
     "QDoubleSpinBox{background:@field@; color:@text@; border:1px solid @edge@; border-radius:4px; "
     "padding-left:2px;"
-    " selection-background-color:@accent@; selection-color:@text@;}"
-    "QDoubleSpinBox:focus{border:1px solid @accent@;}"
+    " selection-background-color:@selection@; selection-color:@text@;}"
+    "QDoubleSpinBox:focus{border:2px solid @focus@; padding-left:1px;}"
     "QDoubleSpinBox:disabled{color:@text-disabled@; background:@field-disabled@;}"
-    "QDoubleSpinBox::up-button,QDoubleSpinBox::down-button{subcontrol-origin:border; width:14px; border:none;"
+    "QDoubleSpinBox::up-button,QDoubleSpinBox::down-button{subcontrol-origin:padding; width:14px; "
+    "border:none;"
     " background:@button@;}"
-    "QDoubleSpinBox::up-button{subcontrol-position:top right; margin:1px 1px 0px 0px; "
+    "QDoubleSpinBox::up-button{subcontrol-position:top right; "
     "border-top-right-radius:3px;}"
-    "QDoubleSpinBox::down-button{subcontrol-position:bottom right; margin:0px 1px 1px 0px;"
+    "QDoubleSpinBox::down-button{subcontrol-position:bottom right;"
     " border-bottom-right-radius:3px;}"
     "QDoubleSpinBox::up-button:hover,QDoubleSpinBox::down-button:hover{background:@button-hover@;}"
     "QDoubleSpinBox::up-button:pressed,QDoubleSpinBox::down-button:pressed{background:@button-pressed@;}"
@@ -106,6 +109,29 @@ void HideControlCharacters(const QString& strFamily)
         QFont::insertSubstitution(strFamily, strFallback);
 }
 
+/// What the host adds to the style of a widget class, behind the caller's own text.
+struct SAddition
+{
+    const char* szSelector;
+    const char* szStyle;
+};
+
+/// Text fields bring a style of their own, whose outline does not stand out from the window.
+constexpr std::array<SAddition, 1> c_arrAdditions = {
+    {{"QLineEdit", "QLineEdit[frame=\"true\"]{border:1px solid @edge@; padding:0px 1px;"
+                   " selection-background-color:@selection@; selection-color:@text@;}"
+                   "QLineEdit[frame=\"true\"]:focus{border:2px solid @focus@; padding:0px;}"}}};
+
+/// The host's addition for a widget class; empty for most.
+QString Addition(const QString& strSelector)
+{
+    const auto itFound =
+        std::find_if(c_arrAdditions.cbegin(), c_arrAdditions.cend(), [&](const SAddition& addition) {
+            return strSelector == QLatin1String(addition.szSelector);
+        });
+    return itFound == c_arrAdditions.cend() ? QString() : Theme::Resolve(itFound->szStyle);
+}
+
 QString PrepareFamily()
 {
     QString strFamily = ChooseFamily();
@@ -123,6 +149,7 @@ QString GetFontFamily()
 
 QString GetFontStyleSheet(QString strStyle, QString strSelector, int nFontSize)
 {
+    strStyle += Addition(strSelector);
     strSelector +=
         QStringLiteral("{font-family:\"%1\"; font-size:%2px;}").arg(GetFontFamily()).arg(nFontSize);
     strStyle += strSelector;

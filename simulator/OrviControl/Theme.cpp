@@ -1,6 +1,7 @@
 #include "simulator/OrviControl/Theme.h"
 
 #include "host/OrviControl/Style.h"
+#include "simulator/OrviControl/OutlinedStyle.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -19,7 +20,7 @@ struct SNamedColour
     QRgb rgb;
 };
 
-constexpr std::array<SNamedColour, 13> c_arrColours = {{
+constexpr std::array<SNamedColour, 15> c_arrColours = {{
     {"window", c_rgbWindow},
     {"field", c_rgbField},
     {"field-disabled", c_rgbFieldDisabled},
@@ -31,6 +32,8 @@ constexpr std::array<SNamedColour, 13> c_arrColours = {{
     {"button-pressed", c_rgbButtonPressed},
     {"button-disabled", c_rgbButtonDisabled},
     {"accent", c_rgbAccent},
+    {"selection", c_rgbSelection},
+    {"focus", c_rgbFocus},
     {"warning", c_rgbWarning},
     {"track-off", c_rgbTrackOff},
 }};
@@ -49,13 +52,13 @@ constexpr std::array<SRole, 14> c_arrRoles = {{
     {QPalette::Base, c_rgbField, c_rgbFieldDisabled},
     {QPalette::AlternateBase, c_rgbWindow, c_rgbWindow},
     {QPalette::Text, c_rgbText, c_rgbTextDisabled},
-    {QPalette::PlaceholderText, c_rgbTextDisabled, c_rgbTextDisabled},
+    {QPalette::PlaceholderText, c_rgbNote, c_rgbTextDisabled},
     {QPalette::Button, c_rgbButton, c_rgbButtonDisabled},
     {QPalette::ButtonText, c_rgbText, c_rgbTextDisabled},
     {QPalette::BrightText, c_rgbWarning, c_rgbWarning},
-    {QPalette::Highlight, c_rgbAccent, c_rgbTrackOff},
+    {QPalette::Highlight, c_rgbSelection, c_rgbTrackOff},
     {QPalette::HighlightedText, c_rgbText, c_rgbText},
-    {QPalette::Link, c_rgbAccent, c_rgbTextDisabled},
+    {QPalette::Link, c_rgbFocus, c_rgbTextDisabled},
     {QPalette::ToolTipBase, c_rgbField, c_rgbField},
     {QPalette::ToolTipText, c_rgbText, c_rgbText},
 }};
@@ -83,6 +86,11 @@ QFont Font()
     QFont font(GetFontFamily());
     font.setPixelSize(c_nFontSize);
     return font;
+}
+
+QStyle* CreateStyle()
+{
+    return new COutlinedStyle;
 }
 
 void Apply(QWidget* pWindow)

@@ -22,6 +22,9 @@ private Q_SLOTS:
     void EscapeWritesNothing();
     void ClosingByTheTitleBarRunsNoHandler();
     void ASizeIsTypedAndConfirmedWithEnter();
+    void TheResolutionHasTheFirstFocus();
+    void EnterOnAMenuButtonConfirms();
+    void ATypedHeightAboveTheLimitBecomesTheLimit();
     void EachKeyIsJudged();
     void TheCheckBoxTogglesAndAsksNobody();
     void AClickedBoxIsWrittenAsItsOpposite();
@@ -105,6 +108,36 @@ void TestEdidSetDlgOperator::ASizeIsTypedAndConfirmedWithEnter()
     QCOMPARE(int(host.videoSourceLogic.written->wWidth), 2048);
     QCOMPARE(int(host.videoSourceLogic.written->wHeight), 1152);
     QCOMPARE(dialog.dlg.result(), 1);
+}
+
+void TestEdidSetDlgOperator::TheResolutionHasTheFirstFocus()
+{
+    CEdidHost host;
+    CEdidDialog dialog(host);
+    Show(dialog);
+    QVERIFY(dialog.probe.Resolution().hasFocus());
+    QVERIFY(dialog.probe.OK().isDefault());
+}
+
+void TestEdidSetDlgOperator::EnterOnAMenuButtonConfirms()
+{
+    CEdidHost host;
+    CEdidDialog dialog(host);
+    Show(dialog);
+    QTest::keyClick(&dialog.probe.Resolution(), Qt::Key_Return);
+    QVERIFY(host.videoSourceLogic.written.has_value());
+    QCOMPARE(dialog.dlg.result(), 1);
+}
+
+void TestEdidSetDlgOperator::ATypedHeightAboveTheLimitBecomesTheLimit()
+{
+    CEdidHost host;
+    host.videoSourceLogic.limit.nMaxHeight = 16384;
+    host.videoSourceLogic.setting = CEdidHost::Setting(QSize(1000, 500), 60);
+    CEdidDialog dialog(host);
+    Show(dialog);
+    TypeOver(dialog.probe.Height(), QStringLiteral("16385"));
+    QCOMPARE(dialog.probe.Height().text(), QStringLiteral("16384"));
 }
 
 void TestEdidSetDlgOperator::EachKeyIsJudged()

@@ -31,6 +31,9 @@ private Q_SLOTS:
     void AnotherPresetIdOnlyValidates();
     void TypingAPresetTurnsTheTextIntoIt();
     void TypingAnotherSizeShowsACustomText();
+    void ATypedSizeBelowTheLeastIsRefusedAndStays();
+    void LeavingTheFieldGivesTheLeastSize();
+    void ATypedHeightAboveTheGreatestBecomesTheGreatest();
 };
 
 void TestSetCanvasDlg::TheMetaObjectHasTheSlots()
@@ -300,6 +303,54 @@ void TestSetCanvasDlg::TheSizeTakesOneRowOfTheGrid()
     int nColumnSpan = -1;
     pGrid->getItemPosition(pGrid->indexOf(&probe.Combo()), &nRow, &nColumn, &nRowSpan, &nColumnSpan);
     QCOMPARE(QVector<int>({nRow, nColumn, nRowSpan, nColumnSpan}), QVector<int>({0, 0, 1, 5}));
+}
+
+namespace {
+
+/// The dialog on the screen, with the focus in a field.
+void Show(CProbe& probe, CCustomSpinBox& field)
+{
+    probe.dialog.show();
+    probe.dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&probe.dialog));
+    field.setFocus();
+}
+
+} // namespace
+
+void TestSetCanvasDlg::ATypedSizeBelowTheLeastIsRefusedAndStays()
+{
+    CRecordingHost host;
+    CProbe probe;
+    Show(probe, probe.Width());
+    TypeOver(probe.Width(), 40);
+    QCOMPARE(probe.Width().text(), QStringLiteral("40"));
+    QCOMPARE(probe.ShownError(), QStringLiteral("画布的宽或高不能小于64。"));
+    QVERIFY(!probe.Ok().isEnabled());
+    QTest::keyClicks(&probe.Width(), QStringLiteral("0"));
+    QCOMPARE(probe.ShownError(), QString());
+    QVERIFY(probe.Ok().isEnabled());
+}
+
+void TestSetCanvasDlg::LeavingTheFieldGivesTheLeastSize()
+{
+    CRecordingHost host;
+    CProbe probe;
+    Show(probe, probe.Width());
+    TypeOver(probe.Width(), 40);
+    QTest::keyClick(&probe.Width(), Qt::Key_Tab);
+    QCOMPARE(probe.Width().text(), QStringLiteral("64"));
+    QCOMPARE(probe.ShownError(), QString());
+    QVERIFY(probe.Ok().isEnabled());
+}
+
+void TestSetCanvasDlg::ATypedHeightAboveTheGreatestBecomesTheGreatest()
+{
+    CRecordingHost host;
+    CProbe probe;
+    Show(probe, probe.Height());
+    TypeOver(probe.Height(), 16385);
+    QCOMPARE(probe.Height().text(), QStringLiteral("16384"));
 }
 
 QTEST_MAIN(TestSetCanvasDlg)

@@ -122,7 +122,7 @@ void CCanvasPreview::DrawCanvas(QPainter& painter) const
         painter.setOpacity(1);
     }
     // The frame lies around the canvas: the wall has no pixels for it.
-    painter.setPen(QColor(Theme::c_rgbTextDisabled));
+    painter.setPen(QColor(Theme::c_rgbNote));
     painter.drawRect(m_layout.rectCanvas.adjusted(-1, -1, 0, 0));
 }
 

@@ -1,4 +1,6 @@
 #include "host/OrviControl/CustomComboBox.h"
+
+#include "host/OrviControl/CustomDialog.h"
 #include "tests/simulator/kit/Keyboard.h"
 
 #include <QAccessible>
@@ -27,7 +29,10 @@ private Q_SLOTS:
     void AMenuOfSetMenuOfThePushButtonOpensAndLeavesTheTextAlone();
     void KeysOpenTheMenu_data();
     void KeysOpenTheMenu();
+    void EnterGoesToTheDefaultButton_data();
+    void EnterGoesToTheDefaultButton();
     void ArrowKeysStartFromTheShownEntry();
+    void ArrowKeysStartFromTheMarkedEntryWhereTheBoxWordsItOtherwise();
     void EscClosesTheMenuAndChangesNothing();
     void AClickOpensTheMenu();
     void ADisabledBoxOpensNothing();
@@ -182,7 +187,6 @@ void TestCustomComboBox::KeysOpenTheMenu_data()
     QTest::newRow("Up") << int(Qt::Key_Up);
     QTest::newRow("F4") << int(Qt::Key_F4);
     QTest::newRow("Space") << int(Qt::Key_Space);
-    QTest::newRow("Return") << int(Qt::Key_Return);
 }
 
 void TestCustomComboBox::KeysOpenTheMenu()
@@ -192,6 +196,33 @@ void TestCustomComboBox::KeysOpenTheMenu()
     WhenOpen([] {});
     QTest::keyClick(m_pBox, Qt::Key(nKey));
     QVERIFY(m_bOpened);
+}
+
+void TestCustomComboBox::EnterGoesToTheDefaultButton_data()
+{
+    QTest::addColumn<int>("nKey");
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Enter of the keypad") << int(Qt::Key_Enter);
+}
+
+void TestCustomComboBox::EnterGoesToTheDefaultButton()
+{
+    QFETCH(int, nKey);
+    CCustomDialog dialog(nullptr, false);
+    auto* pBox = new CCustomComboBox(&dialog);
+    auto* pMenu = new QMenu(&dialog);
+    pMenu->addAction(QStringLiteral("60"));
+    pBox->SetMenu(pMenu, true, true, true);
+    auto* pDefault = new QPushButton(&dialog);
+    pDefault->setDefault(true);
+    QSignalSpy spyClicked(pDefault, &QPushButton::clicked);
+    QSignalSpy spyOpened(pMenu, &QMenu::aboutToShow);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    pBox->setFocus();
+    Keyboard::Press(Qt::Key(nKey));
+    QCOMPARE(spyClicked.size(), 1);
+    QCOMPARE(spyOpened.size(), 0);
 }
 
 void TestCustomComboBox::ArrowKeysStartFromTheShownEntry()
@@ -208,6 +239,18 @@ void TestCustomComboBox::ArrowKeysStartFromTheShownEntry()
     QVERIFY(m_bOpened);
     QCOMPARE(pActive, m_pMenu->actions().at(1));
     QCOMPARE(m_pBox->text(), QStringLiteral("three"));
+}
+
+void TestCustomComboBox::ArrowKeysStartFromTheMarkedEntryWhereTheBoxWordsItOtherwise()
+{
+    m_pBox->SetMenu(m_pMenu, true, true, false);
+    m_pBox->SetItemChecked(1);
+    m_pBox->setText(QStringLiteral("number two"));
+    QAction* pActive = nullptr;
+    WhenOpen([&] { pActive = m_pMenu->activeAction(); });
+    QTest::keyClick(m_pBox, Qt::Key_Space);
+    QVERIFY(m_bOpened);
+    QCOMPARE(pActive, m_pMenu->actions().at(1));
 }
 
 void TestCustomComboBox::EscClosesTheMenuAndChangesNothing()

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void EscIsNoAnswer();
     void ATimeoutIsNoAnswer();
     void TheBoxBelongsToItsParentAndBearsItsTitle();
+    void WithoutAParentItBearsTheDisplayNameOfTheApplication();
     void NothingOfALongTextIsCut_data();
     void NothingOfALongTextIsCut();
     void MarkupIsShownAsItStands();
@@ -156,6 +157,14 @@ void TestCustomMessageBox::TheBoxBelongsToItsParentAndBearsItsTitle()
                                    c_nNoTimeout);
     QCOMPARE(pParent, &dialog);
     QCOMPARE(strTitle, dialog.windowTitle());
+}
+
+void TestCustomMessageBox::WithoutAParentItBearsTheDisplayNameOfTheApplication()
+{
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Sender Workbench"));
+    QString strTitle;
+    Message(QStringLiteral("x"), [&](CCustomMessageBox& box) { strTitle = box.windowTitle(); });
+    QCOMPARE(strTitle, QStringLiteral("Sender Workbench"));
 }
 
 void TestCustomMessageBox::NothingOfALongTextIsCut_data()
