@@ -35,8 +35,8 @@ extern SENDERMODULEDIALOG_EXPORT CConfigData* g_pConfigData;
 /// From `GetRuntimeData()`, for `CCustomAddProcessorDlg`.
 extern SENDERMODULEDIALOG_EXPORT CRuntimeData* g_pRuntimeData;
 extern SENDERMODULEDIALOG_EXPORT CMonitorData* g_pMonitorData; ///< for the host's use alone
-/// From `GetHwSenderLogic()`: what senders can do, for every dialog but `CBackgroundImageDlg` and
-/// `CResetCoefDlg`.
+/// From `GetHwSenderLogic()`: what senders can do, for every dialog but
+/// `CBackgroundImageDlg` and `CResetCoefDlg`.
 extern SENDERMODULEDIALOG_EXPORT CSenderLogic* g_pSenderLogic;
 extern SENDERMODULEDIALOG_EXPORT CReceiverLogic* g_pReceiverLogic; ///< for the host's use alone
 /// From `GetHwVideoSourceLogic()`, for `CEdidSetDlg` and `CSetDepthRateDlg`.

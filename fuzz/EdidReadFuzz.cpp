@@ -1,5 +1,5 @@
-// Any file: it is read as whole blocks or refused with a reason, and what was read comes back from every
-// form.
+// Any file: it is read as whole blocks or refused with a reason, and what was read comes back
+// from every form.
 
 #include "SenderModuleDialog/Fault.h"
 #include "host/CommonClass/EdidBlockSize.h"

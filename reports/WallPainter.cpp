@@ -15,26 +15,28 @@ constexpr double c_dModuleWidth = 0.7; ///< pixels: each of a thousand triangles
 constexpr double c_dOddWidth = 1.4;
 constexpr double c_dCommonWidth = 1.6;
 
-QPolygonF Triangle(const SModule& module, const WallPainter::Mapping& mapping)
+QPolygonF Triangle(const SModule& module, const WallPainter::FuncToPixel& funcToPixel)
 {
     const SPrimaries& primaries = module.primaries;
-    return QPolygonF({mapping(primaries.red.xy), mapping(primaries.green.xy), mapping(primaries.blue.xy)});
+    return QPolygonF(
+        {funcToPixel(primaries.red.xy), funcToPixel(primaries.green.xy), funcToPixel(primaries.blue.xy)});
 }
 
 void PaintModules(QPainter& painter, const Modules& modules, const SWallAnalysis& analysis, bool bOdd,
-                  const WallPainter::Mapping& mapping)
+                  const WallPainter::FuncToPixel& funcToPixel)
 {
     painter.setPen(bOdd ? QPen(c_clrOdd, c_dOddWidth, Qt::DashLine) : QPen(c_clrModule, c_dModuleWidth));
     for (std::size_t i = 0; i < modules.size(); ++i)
         if (analysis.spread.vecModules[i].IsOdd() == bOdd)
-            painter.drawPolygon(Triangle(modules[i], mapping));
+            painter.drawPolygon(Triangle(modules[i], funcToPixel));
 }
 
-void PaintCommon(QPainter& painter, const ModuleWall::SCommon& common, const WallPainter::Mapping& mapping)
+void PaintCommon(QPainter& painter, const ModuleWall::SCommon& common,
+                 const WallPainter::FuncToPixel& funcToPixel)
 {
     QPolygonF polygon;
     for (const SPlace& place : common.intersection)
-        polygon.append(mapping({place.dX, place.dY}));
+        polygon.append(funcToPixel({place.dX, place.dY}));
     painter.setPen(QPen(c_clrCommon, c_dCommonWidth));
     painter.setBrush(c_clrCommonFill);
     painter.drawPolygon(polygon);
@@ -43,14 +45,14 @@ void PaintCommon(QPainter& painter, const ModuleWall::SCommon& common, const Wal
 } // namespace
 
 void WallPainter::Paint(QPainter& painter, const Modules& modules, const SWallAnalysis& analysis,
-                        const Mapping& mapping)
+                        const FuncToPixel& funcToPixel)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    PaintModules(painter, modules, analysis, false, mapping);
-    PaintModules(painter, modules, analysis, true, mapping);
+    PaintModules(painter, modules, analysis, false, funcToPixel);
+    PaintModules(painter, modules, analysis, true, funcToPixel);
     if (analysis.common)
-        PaintCommon(painter, *analysis.common, mapping);
+        PaintCommon(painter, *analysis.common, funcToPixel);
     painter.restore();
 }

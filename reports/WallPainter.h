@@ -13,11 +13,12 @@ class QPainter;
 namespace WallPainter {
 
 /// Takes a chromaticity to its place on the painter.
-using Mapping = std::function<QPointF(SChromaticity)>;
+using FuncToPixel = std::function<QPointF(SChromaticity)>;
 
 /// Paints each module's gamut as a thin triangle, the odd ones in another colour above the others, and over
 /// them the common gamut, filled lightly.
-void Paint(QPainter& painter, const Modules& modules, const SWallAnalysis& analysis, const Mapping& mapping);
+void Paint(QPainter& painter, const Modules& modules, const SWallAnalysis& analysis,
+           const FuncToPixel& funcToPixel);
 
 } // namespace WallPainter
 

@@ -28,8 +28,8 @@ constexpr int c_nSmallestSide = 101;
 constexpr int c_nLargestSide = 16384;
 constexpr QSize c_sizeDefault(1000, 1000);
 
-/// Width of the triangles' lines: a part of the picture's shorter side, and at least what is seen on a small
-/// one.
+/// Width of the triangles' lines: a part of the picture's shorter side, and at least what is seen on
+/// a small one.
 constexpr double c_dLinePart = 1.5 / 1000.0;
 constexpr double c_dLeastLineWidth = 1.5;
 constexpr double c_dLargestLineWidth = 100.0;
@@ -200,8 +200,8 @@ void WarnOfPointsOutside(const SChromaGroupInfo& group, const CChromaGamutInterp
     }
 }
 
-/// The legend tells the coverage of the output space by the screen's, so the first two groups take their
-/// places.
+/// The legend tells the coverage of the output space by the screen's, so the first two groups
+/// take their places.
 void AddGroups(CChromaticityDlgWnd& chart, const QVector<SChromaGroupInfo>& vecGroups, bool bCoverage)
 {
     for (int i = 0; i < vecGroups.size(); ++i) {

@@ -28,8 +28,8 @@ const SSubcommand* Find(const Subcommands& vecSubcommands, const char* szName)
     return it == vecSubcommands.end() ? nullptr : &*it;
 }
 
-/// Drops Qt's environment warnings, such as a missing runtime folder: standard error is for the tool's own
-/// lines.
+/// Drops Qt's environment warnings, such as a missing runtime folder: standard error is for the
+/// tool's own lines.
 void KeepSevere(QtMsgType type, const QMessageLogContext& /*context*/, const QString& strText)
 {
     if (type == QtCriticalMsg || type == QtFatalMsg)

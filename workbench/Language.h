@@ -14,8 +14,8 @@ enum class enLanguage
     enEnglish
 };
 
-/// Switches the language of the workbench and of the library's dialogs at run time. Windows follow through
-/// `QEvent::LanguageChange`.
+/// Switches the language of the workbench and of the library's dialogs at run time. Windows
+/// follow through `QEvent::LanguageChange`.
 class CLanguage : public QObject
 {
     Q_OBJECT

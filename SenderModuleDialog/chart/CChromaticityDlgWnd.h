@@ -199,8 +199,8 @@ public:
     /// The coordinates of the point under the mouse or being dragged, at the lower right; with `m_bShowCCT` a
     /// white point's colour temperature too. Nothing while the point is outside the locus.
     void DrawTipsString(QPainter& painter);
-    /// The cross hair at the mouse, or at the point being dragged. Nothing while the mouse is outside the
-    /// locus.
+    /// The cross hair at the mouse, or at the point being dragged. Nothing while the mouse is
+    /// outside the locus.
     void DrawCrossLine(QPainter& painter);
     /// The curve of colour temperatures (`CCCT2ColorCoord`) with its ticks and their labels.
     void DrawCCTLine(QPainter& painter);

@@ -11,9 +11,9 @@
 /// rate, and the video timing calculations behind it.
 ///
 /// The object is its 128 bytes and nothing else: a host reads the block through the object's address. The
-/// block is a fixed template with three variable things: the monitor name, the first detailed timing and the
-/// checksum. The detailed timing always comes from the reduced-blanking calculation, even for sizes listed in
-/// `timingData`.
+/// block is a fixed template with three variable things: the monitor name, the first detailed timing and
+/// the checksum. The detailed timing always comes from the reduced-blanking calculation, even for sizes
+/// listed in `timingData`.
 ///
 /// No operation can fail or report anything, none allocates, and none has undefined behaviour for any
 /// argument: what no field can hold is held to the field's range, or cut to its low bits where a comment says
@@ -35,9 +35,9 @@ public:
     /// The complete operation: zeroes the block, writes the template, calculates the timing (progressive,
     /// reduced blanking, no margins), stores it. The block is valid afterwards.
     void ChangeWH(int nWidth, int nHeight, float fRate);
-    /// Writes the template with the monitor name `LED%5dX%d`, of which 13 characters survive. Does not clear
-    /// the block first, so a shorter name leaves the tail of a longer one; the checksum is the placeholder
-    /// 0x80.
+    /// Writes the template with the monitor name `LED%5dX%d`, of which 13 characters survive. Does
+    /// not clear the block first, so a shorter name leaves the tail of a longer one; the checksum is
+    /// the placeholder 0x80.
     void Init1p3VersionEdidBaseBlock(int nWidth, int nHeight);
     /// Calculates the timing as `ChangeWH` does and stores it; the rest of the block stays.
     void CalFirstDetailTimingByCvt(int nWidth, int nHeight, float fRate);
@@ -77,8 +77,8 @@ public:
     /// other on its active pixels alone: this asymmetry is intentional. A value beyond the range of int is
     /// over budget.
     bool IsReslutionOk(int nWidth, int nHeight, float fRate) const;
-    /// The pixel frequency in Hz, with the blanking of the listed timing or, for other modes, the calculated
-    /// one.
+    /// The pixel frequency in Hz, with the blanking of the listed timing or, for other modes,
+    /// the calculated one.
     /// @param nStandard  0: reduced blanking; anything else: normal blanking
     float CalReslutionPixelFreq(int nWidth, int nHeight, float fRate, int nStandard) const;
     /// @}

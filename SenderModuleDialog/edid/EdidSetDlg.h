@@ -57,8 +57,8 @@ public:
     /// Clears both results when the index is none of the table's.
     bool GetFrameRateByIndex(int nIndex, unsigned char& byRate, bool& bFractional) const;
     /// Puts the dialog's present depth into the flags: the index counts only where it is above the
-    /// table, which gives false. Intentional. A present depth outside the table leaves the flags without a
-    /// depth.
+    /// table, which gives false. Intentional. A present depth outside the table leaves the flags
+    /// without a depth.
     bool GetColorDepthByIndex(int nIndex, unsigned char& byFlags) const;
     /// Puts a format into the flags, which stay as they are when there is none.
     bool GetColorFormatByIndex(int nIndex, unsigned char& byFlags) const;
@@ -79,8 +79,8 @@ public:
 
     /// @name Building and refreshing
     /// The stages of the construction, in this order, and the parts of the refresh that follows each change.
-    /// The constructor has run the first three: running one again adds a second set of controls, entries or
-    /// connections.
+    /// The constructor has run the first three: running one again adds a second set of controls, entries
+    /// or connections.
     /// @{
 
     /// Creates the controls and lays them out.

@@ -1,5 +1,5 @@
-// EDIDs explained and judged in one call each, beside the installed decoder, which takes a process for each
-// file.
+// EDIDs explained and judged in one call each, beside the installed decoder, which takes a process
+// for each file.
 
 #include "host/CommonClass/EdidBlockSize.h"
 #include "instruments/edid/Conforming.h"

@@ -46,8 +46,8 @@ public:
     virtual bool IsIPAddressMode() = 0;
     /// Number of processors that exist already.
     virtual int GetAddedSenderCount() = 0;
-    /// Fills a zeroed table of 255 entries with the addresses that were detected, first octet in the low
-    /// byte.
+    /// Fills a zeroed table of 255 entries with the addresses that were detected, first octet in
+    /// the low byte.
     /// @return number of entries written
     virtual int GetDetectedIPList(unsigned int* pList) = 0;
     /// Opens the demo project, after demo mode and sender type were set. The result is not read.

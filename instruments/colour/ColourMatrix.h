@@ -7,8 +7,8 @@
 /// Three numbers: red, green and blue in linear light, or X, Y and Z.
 using Vector3 = std::array<double, 3>;
 
-/// A 3x3 matrix in double precision, by rows. (`QGenericMatrix` has no inverse, and `QMatrix4x4` is single
-/// precision.)
+/// A 3x3 matrix in double precision, by rows. (`QGenericMatrix` has no inverse, and `QMatrix4x4`
+/// is single precision.)
 class CColourMatrix
 {
 public:

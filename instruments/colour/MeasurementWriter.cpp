@@ -70,8 +70,8 @@ private:
 
 QString MeasurementCsv::Write(const Modules& modules, const SMeasurementFormat& format)
 {
-    // One line a module has the columns of white where any module has the reading; the sum stands in for the
-    // others.
+    // One line a module has the columns of white where any module has the reading; the sum stands in
+    // for the others.
     const bool bWhite = std::any_of(modules.begin(), modules.end(),
                                     [](const SModule& module) { return module.white.has_value(); });
     CWriter writer(format, bWhite);

@@ -79,8 +79,8 @@ CColourResult<CColourMatrix> SourceToXyz(const SGamut& gamut, SChromaticity whit
 CColourResult<CColourMatrix> DriveMatrix(const SGamut& source, SChromaticity white, double dLevel,
                                          const SPrimaries& display);
 
-/// What a drive matrix does with the colours of its source, as parts of a regular grid over 0 to 1 in each
-/// channel.
+/// What a drive matrix does with the colours of its source, as parts of a regular grid over 0 to 1
+/// in each channel.
 struct SClipShare
 {
     double dBelow = 0.0;   ///< colours that ask a primary for less than nothing: outside the display's gamut

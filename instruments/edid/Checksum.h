@@ -6,8 +6,8 @@
 #include <QtGlobal>
 
 /// @file
-/// The checksum that every block of an EDID ends with (VESA E-EDID, section 3.11; CTA-861; DisplayID as an
-/// extension).
+/// The checksum that every block of an EDID ends with (VESA E-EDID, section 3.11; CTA-861; DisplayID
+/// as an extension).
 
 namespace Edid {
 

@@ -178,8 +178,8 @@ void PutWord(quint8* pBytes, int nValue)
     pBytes[1] = static_cast<quint8>(nValue >> 8);
 }
 
-/// Product identification (VESA DisplayID 1.3, section 4.1): the maker's letters as they are, the year after
-/// 2000.
+/// Product identification (VESA DisplayID 1.3, section 4.1): the maker's letters as they are, the
+/// year after 2000.
 void WriteProduct(CSectionWriter& writer, const SConformRequest& request)
 {
     constexpr int c_nLength = 12;

@@ -28,9 +28,9 @@ struct SConformResult
     QString strError; ///< what is wrong and what to do; empty when nothing is
 };
 
-/// Makes an EDID for a mode with reduced blanking, as the library calculates it. A mode that is wider or
-/// higher than 4095 or needs a clock above 655.35 MHz goes into a second block, and the base block holds
-/// 1920x1080.
+/// Makes an EDID for a mode with reduced blanking, as the library calculates it. A mode that is
+/// wider or higher than 4095 or needs a clock above 655.35 MHz goes into a second block, and the
+/// base block holds 1920x1080.
 SConformResult MakeConforming(const SConformRequest& request);
 
 } // namespace Edid

@@ -4,8 +4,8 @@
 #include "instruments/edid/FieldType.h"
 
 /// @file
-/// The layout of a DisplayID extension block (VESA DisplayID 1.3, sections 2 to 4; data block tags of 2.0 by
-/// name).
+/// The layout of a DisplayID extension block (VESA DisplayID 1.3, sections 2 to 4; data block tags of
+/// 2.0 by name).
 
 namespace Edid {
 

@@ -5,8 +5,8 @@
 
 namespace Edid {
 
-/// Translation context of what was wrong with an input. The texts are English; a program may install a
-/// translator.
+/// Translation context of what was wrong with an input. The texts are English; a program may
+/// install a translator.
 class CEdidText
 {
     Q_DECLARE_TR_FUNCTIONS(CEdidText)

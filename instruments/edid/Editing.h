@@ -26,8 +26,8 @@ const QVector<SEditable>& Editables();
 /// @return what is wrong with the key or the value and what to write; empty when it was set
 QString SetValue(QByteArray& edid, const QString& strKey, const QString& strValue);
 
-/// Makes the header, the extension count, the checksums of DisplayID sections and every block's checksum
-/// right.
+/// Makes the header, the extension count, the checksums of DisplayID sections and every
+/// block's checksum right.
 void Fix(QByteArray& edid);
 
 /// Leaves the base block alone, with an extension count of 0 and a right checksum.

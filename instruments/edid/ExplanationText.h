@@ -15,8 +15,8 @@ namespace Edid {
 /// out, and of a long run of bytes the value alone is written.
 QString ExplanationText(const QByteArray& edid, const MakerNames& makerNames);
 
-/// The blocks as objects with `key`, `label`, `offset`, `bytes`, `value`, `unit` and `fields`. Every field is
-/// there.
+/// The blocks as objects with `key`, `label`, `offset`, `bytes`, `value`, `unit` and `fields`. Every
+/// field is there.
 QJsonArray ExplanationJson(const QByteArray& edid, const MakerNames& makerNames);
 
 } // namespace Edid

@@ -22,8 +22,8 @@ MakerNames ReadMakerNames(const QByteArray& list);
 /// The letters of a maker's number, '?' for each that is none.
 QString MakerLetters(qint64 nRaw);
 
-/// What a field's row is called; a data block and a descriptor by their own names, one of several with its
-/// number.
+/// What a field's row is called; a data block and a descriptor by their own names, one of several
+/// with its number.
 QString LabelText(const SField& field);
 
 /// A field's value. Empty for a group that only holds others.

@@ -2,7 +2,7 @@
 
 namespace AddressOracles {
 
-std::vector<unsigned int> Batch(unsigned int nStart, int nCount, const FHasError& funcHasError)
+std::vector<unsigned int> Batch(unsigned int nStart, int nCount, const FuncHasError& funcHasError)
 {
     std::vector<unsigned int> vecStored;
     if (nCount <= 0)
@@ -36,7 +36,8 @@ std::vector<unsigned int> Batch(unsigned int nStart, int nCount, const FHasError
     }
 }
 
-std::vector<unsigned int> ByHand(unsigned int nStart, int nCount, int nListed, const FHasError& funcHasError,
+std::vector<unsigned int> ByHand(unsigned int nStart, int nCount, int nListed,
+                                 const FuncHasError& funcHasError,
                                  const std::function<void(unsigned int)>& funcStored)
 {
     std::vector<unsigned int> vecStored;
@@ -71,7 +72,7 @@ std::vector<unsigned int> ByHand(unsigned int nStart, int nCount, int nListed, c
     }
 }
 
-std::vector<unsigned int> Proposals(unsigned int nBase, int nRows, const FHasError& funcHasError)
+std::vector<unsigned int> Proposals(unsigned int nBase, int nRows, const FuncHasError& funcHasError)
 {
     unsigned int arrOctets[4] = {nBase / 16777216, nBase / 65536 % 256, nBase / 256 % 256, nBase % 256};
     unsigned int nDelta = 1;

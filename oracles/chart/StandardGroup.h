@@ -4,8 +4,8 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/colour/ColourStandards.h"
 
-/// Adds a group with the points of a standard to a chart, so that tests and benchmarks compare the same
-/// frames.
+/// Adds a group with the points of a standard to a chart, so that tests and benchmarks compare
+/// the same frames.
 /// @param nKey the group's key on the chart
 inline void AddStandardGroup(CChromaticityDlgWnd& chart, int nKey, enColorStandard standard, bool bRgbMode)
 {

@@ -26,8 +26,8 @@ public:
     /// @name Values
     /// @{
 
-    /// The values as they are now, to read. The reference stays valid; its senders go when the project is
-    /// replaced.
+    /// The values as they are now, to read. The reference stays valid; its senders go when the
+    /// project is replaced.
     const SSimulatedProject& Project() const { return m_project; }
     /// Changes the project by a function and announces it. Use it to set settings, limits, faults and
     /// everything else in the project:

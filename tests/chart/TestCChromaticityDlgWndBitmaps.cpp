@@ -204,8 +204,8 @@ void TestCChromaticityDlgWndBitmaps::StaticPixelsRefuseANegativeCount()
 namespace {
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-/// A sanitizer reserves more addresses than any limit; it is run with a limit of its own
-/// (`tests/CMakeLists.txt`).
+/// A sanitizer reserves more addresses than any limit; it is run with a limit of
+/// its own (`tests/CMakeLists.txt`).
 class CMemoryLimit
 {
 public:

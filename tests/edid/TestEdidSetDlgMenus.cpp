@@ -150,8 +150,8 @@ void TestEdidSetDlgMenus::On132AShortListHasNoMenu()
     const CEdidDialog dialog(host, 132);
     QVERIFY(dialog.probe.Resolution().menu() == nullptr);
     QCOMPARE(dialog.probe.ResolutionActions().size(), 1);
-    // The refresh of the resolution returns at once and changes nothing: no text, and the row of the size
-    // stays.
+    // The refresh of the resolution returns at once and changes nothing: no text, and the row of
+    // the size stays.
     QCOMPARE(dialog.probe.Resolution().text(), QString());
     QVERIFY(!dialog.probe.Width().isHidden());
     // There is no entry to judge, so the host judges what stands in the spin boxes.

@@ -15,8 +15,8 @@
 
 #include <unistd.h>
 
-/// The library waits for hardware in a fixed sequence of sleeps. No hardware is here, so the robot does not
-/// wait.
+/// The library waits for hardware in a fixed sequence of sleeps. No hardware is here, so the robot
+/// does not wait.
 extern "C" Q_DECL_EXPORT int usleep(useconds_t /*nMicroseconds*/)
 {
     return 0;

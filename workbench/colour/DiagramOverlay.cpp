@@ -46,12 +46,12 @@ QPixmap CDiagramOverlay::Paint(const CChartMapping& mapping) const
     picture.setDevicePixelRatio(devicePixelRatioF());
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
-    const WallPainter::Mapping toPixel = [&mapping](SChromaticity xy) {
+    const WallPainter::FuncToPixel funcToPixel = [&mapping](SChromaticity xy) {
         return mapping.ToPixel(QPointF(xy.dX, xy.dY));
     };
-    WavelengthMarks::Paint(painter, toPixel);
+    WavelengthMarks::Paint(painter, funcToPixel);
     if (m_bWallShown && m_wall.Analysis())
-        WallPainter::Paint(painter, m_wall.GetModules(), *m_wall.Analysis(), toPixel);
+        WallPainter::Paint(painter, m_wall.GetModules(), *m_wall.Analysis(), funcToPixel);
     return picture;
 }
 

@@ -156,9 +156,9 @@ void CUcsView::paintEvent(QPaintEvent* /*pEvent*/)
     painter.drawImage(0, 0, m_colours);
     painter.setRenderHint(QPainter::Antialiasing);
     PaintGrid(painter);
-    const WallPainter::Mapping mapping = [this](SChromaticity xy) { return PixelOf(xy); };
-    WavelengthMarks::Paint(painter, mapping);
+    const WallPainter::FuncToPixel funcToPixel = [this](SChromaticity xy) { return PixelOf(xy); };
+    WavelengthMarks::Paint(painter, funcToPixel);
     if (m_bWallShown && m_wall.Analysis())
-        WallPainter::Paint(painter, m_wall.GetModules(), *m_wall.Analysis(), mapping);
+        WallPainter::Paint(painter, m_wall.GetModules(), *m_wall.Analysis(), funcToPixel);
     PaintGroups(painter);
 }

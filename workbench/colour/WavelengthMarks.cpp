@@ -23,7 +23,7 @@ constexpr SChromaticity c_centre = {0.3333, 0.3333};
 
 } // namespace
 
-void WavelengthMarks::Paint(QPainter& painter, const WallPainter::Mapping& mapping)
+void WavelengthMarks::Paint(QPainter& painter, const WallPainter::FuncToPixel& funcToPixel)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -31,9 +31,9 @@ void WavelengthMarks::Paint(QPainter& painter, const WallPainter::Mapping& mappi
     QFont font = painter.font();
     font.setPointSize(c_nFontSize);
     painter.setFont(font);
-    const QPointF ptCentre = mapping(c_centre);
+    const QPointF ptCentre = funcToPixel(c_centre);
     for (const SpectralWavelength::SMark& mark : SpectralWavelength::Marks(c_nFirst, c_nLast, c_nStep)) {
-        const QLineF outward = QLineF(ptCentre, mapping(mark.xy));
+        const QLineF outward = QLineF(ptCentre, funcToPixel(mark.xy));
         const QPointF direction = outward.unitVector().p2() - outward.p1();
         painter.drawLine(outward.p2(), outward.p2() + c_dTick * direction);
         QRectF label(QPointF(), c_sizeLabel);

@@ -7,7 +7,7 @@
 namespace WavelengthMarks {
 
 /// Paints a tick and a number of nanometres at round wavelengths, outside the outline.
-void Paint(QPainter& painter, const WallPainter::Mapping& mapping);
+void Paint(QPainter& painter, const WallPainter::FuncToPixel& funcToPixel);
 
 } // namespace WavelengthMarks
 

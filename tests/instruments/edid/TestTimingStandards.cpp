@@ -107,8 +107,8 @@ void TestTimingStandards::FormulasGiveTheDecodersTimings()
             const QString strDecoded = EdidDecode(listOptions);
             const SDecoded decoded = Decoded(strDecoded);
             QVERIFY2(Parts(*timing) == decoded.strParts, qPrintable(Parts(*timing) + strDecoded));
-            // Where the clock is a whole number of kHz, the decoder's product may fall short of it and be
-            // cut.
+            // Where the clock is a whole number of kHz, the decoder's product may fall short of it
+            // and be cut.
             QVERIFY2(std::fabs(double(timing->nClock) / 1000.0 - decoded.dClock) < 1.001,
                      qPrintable(strDecoded));
         }
