@@ -2,6 +2,65 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="zh_CN">
 <context>
+    <name>CAddSenderDialog</name>
+    <message>
+        <source>视频处理器，%1 个输出口</source>
+        <translation>Video processors, %1 output ports</translation>
+    </message>
+    <message>
+        <source>发送卡，%1 个输出口</source>
+        <translation>Sending cards, %1 output ports</translation>
+    </message>
+    <message>
+        <source>%1 位</source>
+        <translation>%1 bit</translation>
+    </message>
+    <message>
+        <source>添加发送器</source>
+        <translation>Add senders</translation>
+    </message>
+    <message>
+        <source>型号、类型代码或输出口</source>
+        <translation>Model, type code or output ports</translation>
+    </message>
+    <message>
+        <source>发送器类型</source>
+        <translation>Types of senders</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>色深</source>
+        <translation>Depth</translation>
+    </message>
+    <message>
+        <source>输入</source>
+        <translation>Inputs</translation>
+    </message>
+    <message>
+        <source>添加</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>查找(&amp;F)</source>
+        <translation>&amp;Find</translation>
+    </message>
+    <message>
+        <source>数量(&amp;N)</source>
+        <translation>&amp;Number</translation>
+    </message>
+</context>
+<context>
     <name>CAddressListModel</name>
     <message>
         <source>改为 %1，尚未应用</source>
@@ -629,6 +688,10 @@
         <source>EDID 块 (*.bin);;十六进制文本 (*.hex *.txt);;C 数组 (*.c *.h);;JSON (*.json);;所有文件 (*)</source>
         <translation>EDID block (*.bin);;Hexadecimal text (*.hex *.txt);;C array (*.c *.h);;JSON (*.json);;All files (*)</translation>
     </message>
+    <message>
+        <source>设置 EDID</source>
+        <translation>Set EDID</translation>
+    </message>
 </context>
 <context>
     <name>CFindingList</name>
@@ -1182,14 +1245,6 @@
         <translation>Remove</translation>
     </message>
     <message>
-        <source>撤销</source>
-        <translation>Undo</translation>
-    </message>
-    <message>
-        <source>重做</source>
-        <translation>Redo</translation>
-    </message>
-    <message>
         <source>色彩组</source>
         <translation>Colour groups</translation>
     </message>
@@ -1265,74 +1320,190 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
     </message>
 </context>
 <context>
-    <name>CMainWindow</name>
+    <name>CKeysDialog</name>
     <message>
-        <source>工程</source>
-        <translation>Project</translation>
+        <source>新建、打开工程</source>
+        <translation>New project, open a project</translation>
     </message>
+    <message>
+        <source>保存、另存为</source>
+        <translation>Save, save as</translation>
+    </message>
+    <message>
+        <source>撤销、重做工程的任何更改</source>
+        <translation>Undo and redo any change of the project</translation>
+    </message>
+    <message>
+        <source>显示页面</source>
+        <translation>Show a page</translation>
+    </message>
+    <message>
+        <source>显示或收起主机调用记录</source>
+        <translation>Show or fold the journal of host calls</translation>
+    </message>
+    <message>
+        <source>发送器列表：添加发送器</source>
+        <translation>List of senders: add senders</translation>
+    </message>
+    <message>
+        <source>发送器列表：编辑输入的 EDID，重命名发送器</source>
+        <translation>List of senders: edit the EDID of an input, rename a sender</translation>
+    </message>
+    <message>
+        <source>发送器列表、地址列表：删除所选的行</source>
+        <translation>Lists of senders and addresses: remove the selected rows</translation>
+    </message>
+    <message>
+        <source>地址列表：修改地址</source>
+        <translation>List of addresses: change the address</translation>
+    </message>
+    <message>
+        <source>从列表到标签、页面、主机调用记录；在色度图上从点到点</source>
+        <translation>From list to tabs, page and journal; on the chart from point to point</translation>
+    </message>
+    <message>
+        <source>所选行的菜单</source>
+        <translation>Menu of the selected row</translation>
+    </message>
+    <message>
+        <source>本页</source>
+        <translation>This page</translation>
+    </message>
+    <message>
+        <source>在左边选择一个输入，双击它，设置它的 EDID。</source>
+        <translation>Double-click an input on the left and set its EDID.</translation>
+    </message>
+    <message>
+        <source>在“输出”页设置画布、帧率和色深。</source>
+        <translation>Set canvas, frame rate and depth on the page &quot;Output&quot;.</translation>
+    </message>
+    <message>
+        <source>在“地址”页给主控分配地址。</source>
+        <translation>Give the processors their addresses on the page &quot;Addresses&quot;.</translation>
+    </message>
+    <message>
+        <source>保存工程。没有画面时，看下面的主机调用记录：失败的写入是红色的。</source>
+        <translation>Save the project. Without a picture, look at the journal below: failed writes are red.</translation>
+    </message>
+    <message>
+        <source>按键和步骤</source>
+        <translation>Steps and keys</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>步骤</source>
+        <translation>Steps</translation>
+    </message>
+    <message>
+        <source>按键</source>
+        <translation>Keys</translation>
+    </message>
+</context>
+<context>
+    <name>CMainMenu</name>
     <message>
         <source>工程(&amp;P)</source>
         <translation>&amp;Project</translation>
     </message>
     <message>
-        <source>新建</source>
-        <translation>New</translation>
+        <source>新建(&amp;N)</source>
+        <translation>&amp;New</translation>
     </message>
     <message>
-        <source>演示发送器</source>
-        <translation>Demo senders</translation>
+        <source>演示发送器(&amp;D)</source>
+        <translation>&amp;Demo senders</translation>
     </message>
     <message>
-        <source>所有类型的发送器</source>
-        <translation>Senders of all types</translation>
+        <source>所有类型的发送器(&amp;A)</source>
+        <translation>Senders of &amp;all types</translation>
     </message>
     <message>
-        <source>空工程</source>
-        <translation>Empty project</translation>
+        <source>空工程(&amp;E)</source>
+        <translation>&amp;Empty project</translation>
     </message>
     <message>
-        <source>打开...</source>
-        <translation>Open...</translation>
+        <source>打开(&amp;O)...</source>
+        <translation>&amp;Open...</translation>
     </message>
     <message>
-        <source>最近的工程</source>
-        <translation>Recent projects</translation>
+        <source>最近的工程(&amp;R)</source>
+        <translation>&amp;Recent projects</translation>
     </message>
     <message>
-        <source>保存</source>
-        <translation>Save</translation>
+        <source>保存(&amp;S)</source>
+        <translation>&amp;Save</translation>
     </message>
     <message>
-        <source>另存为...</source>
-        <translation>Save as...</translation>
+        <source>另存为(&amp;A)...</source>
+        <translation>Save &amp;as...</translation>
     </message>
     <message>
-        <source>退出</source>
-        <translation>Quit</translation>
+        <source>退出(&amp;X)</source>
+        <translation>E&amp;xit</translation>
     </message>
     <message>
-        <source>没有</source>
-        <translation>None</translation>
+        <source>没有(&amp;N)</source>
+        <translation>&amp;None</translation>
+    </message>
+    <message>
+        <source>编辑(&amp;E)</source>
+        <translation>&amp;Edit</translation>
     </message>
     <message>
         <source>发送器(&amp;S)</source>
         <translation>&amp;Senders</translation>
     </message>
     <message>
-        <source>添加</source>
-        <translation>Add</translation>
-    </message>
-    <message>
-        <source>删除所选的发送器</source>
-        <translation>Remove the selected sender</translation>
-    </message>
-    <message>
         <source>视图(&amp;V)</source>
         <translation>&amp;View</translation>
     </message>
     <message>
+        <source>主机调用记录(&amp;J)</source>
+        <translation>&amp;Journal of host calls</translation>
+    </message>
+    <message>
         <source>语言(&amp;L)</source>
         <translation>&amp;Language</translation>
+    </message>
+    <message>
+        <source>帮助(&amp;H)</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>按键和步骤(&amp;K)</source>
+        <translation>Steps and &amp;keys</translation>
+    </message>
+    <message>
+        <source>关于(&amp;A)...</source>
+        <translation>&amp;About...</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>发送器工作台 %1
+
+用 SenderModuleDialog 的对话框设置模拟的 LED 显示屏发送器。
+Qt %2</source>
+        <translation>Sender workbench %1
+
+Sets up simulated LED-display senders with the dialogs of SenderModuleDialog.
+Qt %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>CMainWindow</name>
+    <message>
+        <source>工程</source>
+        <translation>Project</translation>
     </message>
     <message>
         <source>未命名</source>
@@ -1341,6 +1512,17 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
     <message>
         <source>发送器工作台</source>
         <translation>Sender Workbench</translation>
+    </message>
+</context>
+<context>
+    <name>CMeasuredWall</name>
+    <message>
+        <source>导入测量</source>
+        <translation>Import measurements</translation>
+    </message>
+    <message>
+        <source>清除测量</source>
+        <translation>Clear measurements</translation>
     </message>
 </context>
 <context>
@@ -1644,6 +1826,18 @@ Choose another picture.</translation>
         <source>最大帧率已设为 %1 Hz，输出色深已设为 %2 bit。</source>
         <translation>The maximum frame rate is now %1 Hz, the output depth %2 bit.</translation>
     </message>
+    <message>
+        <source>设置画布</source>
+        <translation>Set canvas</translation>
+    </message>
+    <message>
+        <source>设置帧率和色深</source>
+        <translation>Set rate and depth</translation>
+    </message>
+    <message>
+        <source>设置背景图片</source>
+        <translation>Set background picture</translation>
+    </message>
 </context>
 <context>
     <name>CPointReadingsModel</name>
@@ -1780,6 +1974,44 @@ Choose another picture.</translation>
     </message>
 </context>
 <context>
+    <name>CProjectColours</name>
+    <message>
+        <source>可行区域</source>
+        <translation>Feasible region</translation>
+    </message>
+</context>
+<context>
+    <name>CProjectHistory</name>
+    <message>
+        <source>撤销(&amp;U)：%1</source>
+        <translation>&amp;Undo: %1</translation>
+    </message>
+    <message>
+        <source>重做(&amp;R)：%1</source>
+        <translation>&amp;Redo: %1</translation>
+    </message>
+    <message>
+        <source>撤销(&amp;U)</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>重做(&amp;R)</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>更改工程</source>
+        <translation>Change of the project</translation>
+    </message>
+    <message>
+        <source>已撤销：%1</source>
+        <translation>Undone: %1</translation>
+    </message>
+    <message>
+        <source>已重做：%1</source>
+        <translation>Done again: %1</translation>
+    </message>
+</context>
+<context>
     <name>CReadingsPanel</name>
     <message>
         <source>覆盖的标准</source>
@@ -1835,6 +2067,49 @@ Choose another picture.</translation>
     <message>
         <source>波长 %1 nm</source>
         <translation>wavelength %1 nm</translation>
+    </message>
+</context>
+<context>
+    <name>CSenderActions</name>
+    <message>
+        <source>编辑(&amp;E)...</source>
+        <translation>&amp;Edit...</translation>
+    </message>
+    <message>
+        <source>重命名(&amp;M)</source>
+        <translation>Rena&amp;me</translation>
+    </message>
+    <message>
+        <source>添加(&amp;A)...</source>
+        <translation>&amp;Add...</translation>
+    </message>
+    <message>
+        <source>删除所选的发送器(&amp;D)</source>
+        <translation>Remove the selected sen&amp;ders</translation>
+    </message>
+    <message>
+        <source>重命名发送器</source>
+        <translation>Rename sender</translation>
+    </message>
+    <message>
+        <source>添加发送器</source>
+        <translation>Add senders</translation>
+    </message>
+    <message>
+        <source>已添加 %1 个发送器，共要求 %2 个：工程的编号已用完。</source>
+        <translation>%1 of %2 senders added: the project has no more ids.</translation>
+    </message>
+    <message>
+        <source>已添加 %1 个发送器。</source>
+        <translation>Senders added: %1.</translation>
+    </message>
+    <message>
+        <source>删除 %1 个发送器</source>
+        <translation>Remove senders (%1)</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个发送器。</source>
+        <translation>Senders removed: %1.</translation>
     </message>
 </context>
 <context>
@@ -2063,12 +2338,20 @@ Choose another picture.</translation>
         <translation>Sender</translation>
     </message>
     <message>
-        <source>类型</source>
-        <translation>Type</translation>
-    </message>
-    <message>
         <source>状态</source>
         <translation>State</translation>
+    </message>
+    <message>
+        <source>接口 %1</source>
+        <translation>interface %1</translation>
+    </message>
+    <message>
+        <source>类型 %1</source>
+        <translation>type %1</translation>
+    </message>
+    <message>
+        <source>类型或接口</source>
+        <translation>Type or interface</translation>
     </message>
 </context>
 <context>
@@ -2076,6 +2359,10 @@ Choose another picture.</translation>
     <message>
         <source>模拟</source>
         <translation>Simulation</translation>
+    </message>
+    <message>
+        <source>更改“%1”</source>
+        <translation>Change &quot;%1&quot;</translation>
     </message>
 </context>
 <context>

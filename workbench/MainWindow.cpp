@@ -2,8 +2,11 @@
 
 #include "simulator/CommonClass/Simulator.h"
 #include "workbench/JournalDock.h"
+#include "workbench/MainMenu.h"
 #include "workbench/PageTabs.h"
 #include "workbench/ProjectActions.h"
+#include "workbench/ProjectHistory.h"
+#include "workbench/SenderActions.h"
 #include "workbench/SenderTree.h"
 #include "workbench/WheelGuard.h"
 #include "workbench/addresses/AddressPage.h"
@@ -12,34 +15,36 @@
 #include "workbench/output/OutputPage.h"
 #include "workbench/simulation/SimulationPage.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
-#include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QSettings>
-#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
 
+#include <algorithm>
+
 namespace {
 
-const QString c_strGeometryKey = QStringLiteral("geometry");
-const QString c_strStateKey = QStringLiteral("windowState");
 const QString c_strLanguageKey = QStringLiteral("language");
 
 constexpr QSize c_sizeFirst(1280, 860);
 constexpr int c_nTreeWidth = 360;
+constexpr int c_nLeastTreeWidth = 220;
+constexpr int c_nJournalRoom = 800; ///< height of a screen that shows page and journal together, pixels
 constexpr int c_nStatusTime = 8000; ///< ms that a line stays in the status bar
 
-struct SLanguageRow
+/// The settings of windows on screens of that size.
+QString ScreenKey(QSize sizeScreen, const char* szName)
 {
-    enLanguage language;
-    const char* szName; ///< in the language itself
-};
-
-constexpr SLanguageRow c_arrLanguages[] = {{enLanguage::enChinese, "中文"},
-                                           {enLanguage::enEnglish, "English"}};
+    return QStringLiteral("screen%1x%2/%3")
+        .arg(sizeScreen.width())
+        .arg(sizeScreen.height())
+        .arg(QString::fromLatin1(szName));
+}
 
 } // namespace
 
@@ -47,51 +52,114 @@ CMainWindow::CMainWindow(CLanguage& language, QSettings& settings)
     : m_language(language)
     , m_settings(settings)
     , m_pProject(new CProjectActions(this, settings))
+    , m_pHistory(new CProjectHistory(this))
+    , m_pSplitter(new QSplitter(this))
     , m_pTree(new CSenderTree(this))
+    , m_pSenders(new CSenderActions(*m_pTree, *m_pHistory, this))
     , m_pTabs(new CPageTabs(this))
 {
-    auto* pSplitter = new QSplitter(this);
-    pSplitter->addWidget(m_pTree);
-    pSplitter->addWidget(m_pTabs);
-    pSplitter->setStretchFactor(1, 1);
-    pSplitter->setSizes({c_nTreeWidth, c_sizeFirst.width() - c_nTreeWidth});
-    setCentralWidget(pSplitter);
+    m_pSplitter->addWidget(m_pTree);
+    m_pSplitter->addWidget(m_pTabs);
+    m_pSplitter->setStretchFactor(1, 1);
+    m_pSplitter->setChildrenCollapsible(false);
+    m_pTree->setMinimumWidth(c_nLeastTreeWidth);
+    setCentralWidget(m_pSplitter);
     AddPages();
     // Tab goes from tree to tabs, page and journal: the order in which they are created.
     m_pJournal = new CJournalDock(this);
     addDockWidget(Qt::BottomDockWidgetArea, m_pJournal);
     new CWheelGuard(this);
-    BuildMenus();
-    resize(c_sizeFirst);
-    restoreGeometry(m_settings.value(c_strGeometryKey).toByteArray());
-    restoreState(m_settings.value(c_strStateKey).toByteArray());
+    // Made now, so that the first message does not move the layout.
+    statusBar();
+    m_pMenu = new CMainMenu(*this, m_language, {m_pProject, m_pHistory, m_pSenders, m_pJournal, &m_vecPages});
+    RestoreState();
 
-    const auto funcReport = [this](const QString& strText) {
-        statusBar()->showMessage(strText, c_nStatusTime);
-    };
+    connect(m_pMenu, &CMainMenu::PageWanted, this, &CMainWindow::ShowPage);
+    connect(m_pMenu, &CMainMenu::LanguageWanted, this, &CMainWindow::SetLanguage);
     connect(m_pTree, &CSenderTree::SelectionMoved, this, &CMainWindow::SelectionMoved);
-    const auto* pRemove = new QShortcut(QKeySequence::Delete, m_pTree, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(pRemove, &QShortcut::activated, this, &CMainWindow::RemoveSelectedSender);
-    connect(m_pProject, &CProjectActions::Reported, this, funcReport);
-    for (CWorkbenchPage* pPage : m_vecPages) {
-        connect(pPage, &CWorkbenchPage::Reported, this, funcReport);
-        connect(pPage, &CWorkbenchPage::Failed, this, [this, pPage](const QString& strText) {
-            QMessageBox::warning(this, pPage->Title(), strText);
-        });
-        connect(pPage, &CWorkbenchPage::SelectionWanted, m_pTree, &CSenderTree::Select);
-    }
-    CSimulator& simulator = CSimulator::Instance();
-    connect(&simulator.Document(), &CProjectDocument::OnModifiedChanged, this, &CMainWindow::ShowTitle);
-    connect(&simulator.Document(), &CProjectDocument::OnFilePathChanged, this, &CMainWindow::ShowTitle);
-    connect(&simulator.Document(), &CProjectDocument::OnProblem, this,
-            [this](const SFileProblem& problem) { QMessageBox::warning(this, tr("工程"), problem.Text()); });
+    connect(m_pSenders, &CSenderActions::EdidWanted, this, &CMainWindow::EditEdid);
+    connect(m_pSenders, &CSenderActions::Reported, this, &CMainWindow::Report);
+    connect(m_pHistory, &CProjectHistory::Reported, this, &CMainWindow::Report);
+    connect(m_pHistory, &CProjectHistory::Restored, this, &CMainWindow::ShowRestored);
+    connect(m_pProject, &CProjectActions::Reported, this, &CMainWindow::Report);
+    // What is typed after the focus was elsewhere is another step.
+    connect(qApp, &QApplication::focusChanged, m_pHistory, &CProjectHistory::Settle);
+    for (CWorkbenchPage* pPage : m_vecPages)
+        ConnectPage(pPage);
+    ConnectDocument();
     ShowTitle();
     // A project loaded before the window is shown starts at its current sender, like one
     // that is opened.
-    m_pTree->Select({simulator.Project().nCurSender, -1});
+    m_pTree->Select({CSimulator::Instance().Project().nCurSender, -1});
 }
 
 CMainWindow::~CMainWindow() = default;
+
+void CMainWindow::ConnectPage(CWorkbenchPage* pPage)
+{
+    m_pHistory->Follow(*pPage);
+    connect(pPage, &CWorkbenchPage::Reported, this, &CMainWindow::Report);
+    connect(pPage, &CWorkbenchPage::Failed, this,
+            [this, pPage](const QString& strText) { QMessageBox::warning(this, pPage->Title(), strText); });
+    connect(pPage, &CWorkbenchPage::SelectionWanted, m_pTree, &CSenderTree::Select);
+}
+
+void CMainWindow::ConnectDocument()
+{
+    const CProjectDocument& document = CSimulator::Instance().Document();
+    connect(&document, &CProjectDocument::OnModifiedChanged, this, &CMainWindow::ShowTitle);
+    connect(&document, &CProjectDocument::OnFilePathChanged, this, &CMainWindow::ShowTitle);
+    connect(&document, &CProjectDocument::OnProblem, this,
+            [this](const SFileProblem& problem) { QMessageBox::warning(this, tr("工程"), problem.Text()); });
+}
+
+void CMainWindow::Report(const QString& strText)
+{
+    statusBar()->showMessage(strText, c_nStatusTime);
+}
+
+void CMainWindow::ArrangeFor(QSize sizeScreen)
+{
+    const QSize sizeWindow = FirstSize(sizeScreen);
+    const int nTreeWidth = std::min(c_nTreeWidth, sizeWindow.width() * 3 / 10);
+    resize(sizeWindow);
+    m_pSplitter->setSizes({nTreeWidth, sizeWindow.width() - nTreeWidth});
+    m_pJournal->setVisible(HasJournalRoom(sizeScreen));
+}
+
+QSize CMainWindow::FirstSize(QSize sizeScreen)
+{
+    return c_sizeFirst.expandedTo(sizeScreen * 2 / 3).boundedTo(sizeScreen);
+}
+
+bool CMainWindow::HasJournalRoom(QSize sizeScreen)
+{
+    return sizeScreen.height() >= c_nJournalRoom;
+}
+
+/// Each size of screen has its own arrangement.
+void CMainWindow::RestoreState()
+{
+    const QSize sizeScreen = screen()->availableSize();
+    ArrangeFor(sizeScreen);
+    restoreGeometry(m_settings.value(ScreenKey(sizeScreen, "geometry")).toByteArray());
+    restoreState(m_settings.value(ScreenKey(sizeScreen, "windowState")).toByteArray());
+    m_pSplitter->restoreState(m_settings.value(ScreenKey(sizeScreen, "splitter")).toByteArray());
+}
+
+void CMainWindow::SaveState()
+{
+    const QSize sizeScreen = screen()->availableSize();
+    m_settings.setValue(ScreenKey(sizeScreen, "geometry"), saveGeometry());
+    m_settings.setValue(ScreenKey(sizeScreen, "windowState"), saveState());
+    m_settings.setValue(ScreenKey(sizeScreen, "splitter"), m_pSplitter->saveState());
+}
+
+void CMainWindow::SetLanguage(enLanguage language)
+{
+    m_language.Set(language);
+    m_settings.setValue(c_strLanguageKey, CLanguage::Code(language));
+}
 
 void CMainWindow::AddPages()
 {
@@ -106,9 +174,6 @@ void CMainWindow::AddPage(CWorkbenchPage* pPage)
 {
     m_vecPages.push_back(pPage);
     m_pTabs->addTab(pPage, pPage->Title());
-    // Ctrl+1 shows the first page.
-    const auto* pShortcut = new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_0 + int(m_vecPages.size())), this);
-    connect(pShortcut, &QShortcut::activated, this, [this, pPage] { ShowPage(pPage); });
 }
 
 void CMainWindow::ShowPage(CWorkbenchPage* pPage)
@@ -116,81 +181,27 @@ void CMainWindow::ShowPage(CWorkbenchPage* pPage)
     m_pTabs->setCurrentWidget(pPage);
 }
 
-void CMainWindow::BuildMenus()
+void CMainWindow::EditEdid()
 {
-    // Menus are rebuilt when the language changes: an action's text is set where the action is made.
-    menuBar()->clear();
-    BuildProjectMenu();
-    BuildSenderMenu();
-    BuildViewMenu();
+    auto* pPage = findChild<CEdidPage*>();
+    ShowPage(pPage);
+    pPage->EditEdid();
 }
 
-void CMainWindow::BuildProjectMenu()
+/// Selects a sender that undo or redo has changed, so that the operator sees what happened.
+void CMainWindow::ShowRestored(const SProjectChange& change)
 {
-    QMenu* pMenu = menuBar()->addMenu(tr("工程(&P)"));
-    QMenu* pNew = pMenu->addMenu(tr("新建"));
-    pNew->addAction(tr("演示发送器"), m_pProject, &CProjectActions::NewDemo, QKeySequence::New);
-    pNew->addAction(tr("所有类型的发送器"), m_pProject, &CProjectActions::NewCatalogue);
-    pNew->addAction(tr("空工程"), m_pProject, &CProjectActions::NewEmpty);
-    pMenu->addAction(tr("打开..."), m_pProject, &CProjectActions::ChooseAndOpen, QKeySequence::Open);
-    QMenu* pRecent = pMenu->addMenu(tr("最近的工程"));
-    connect(pRecent, &QMenu::aboutToShow, this, [this, pRecent] { FillRecentFiles(pRecent); });
-    pMenu->addSeparator();
-    pMenu->addAction(tr("保存"), m_pProject, &CProjectActions::Save, QKeySequence::Save);
-    pMenu->addAction(tr("另存为..."), m_pProject, &CProjectActions::ChooseAndSave,
-                     Qt::CTRL + Qt::SHIFT + Qt::Key_S);
-    pMenu->addSeparator();
-    pMenu->addAction(tr("退出"), this, &QWidget::close, QKeySequence::Quit);
-}
-
-void CMainWindow::FillRecentFiles(QMenu* pMenu)
-{
-    pMenu->clear();
-    const QStringList listFiles = m_pProject->RecentFiles().List();
-    for (const QString& strFile : listFiles)
-        pMenu->addAction(strFile, this, [this, strFile] { m_pProject->Open(strFile); });
-    if (listFiles.isEmpty())
-        pMenu->addAction(tr("没有"))->setEnabled(false);
-}
-
-void CMainWindow::BuildSenderMenu()
-{
-    QMenu* pMenu = menuBar()->addMenu(tr("发送器(&S)"));
-    QMenu* pAdd = pMenu->addMenu(tr("添加"));
-    for (const int nType : CCatalogue::Instance().Types()) {
-        const QString strText =
-            QStringLiteral("%1 (%2)").arg(CCatalogue::Instance().ModelName(nType)).arg(nType);
-        pAdd->addAction(strText, this, [this, nType] { AddSender(nType); });
-    }
-    pMenu->addAction(tr("删除所选的发送器"), this, &CMainWindow::RemoveSelectedSender);
-}
-
-void CMainWindow::AddSender(int nType)
-{
-    const int nSender = CSimulator::Instance().Document().AddSender(nType);
-    m_pTree->Select({nSender, -1});
-}
-
-void CMainWindow::RemoveSelectedSender()
-{
-    const SSelection selection = m_pTree->Selection();
-    if (selection.HasSender())
-        CSimulator::Instance().Document().RemoveSender(selection.nSender);
-}
-
-void CMainWindow::BuildViewMenu()
-{
-    QMenu* pView = menuBar()->addMenu(tr("视图(&V)"));
-    pView->addAction(m_pJournal->toggleViewAction());
-    QMenu* pLanguage = menuBar()->addMenu(tr("语言(&L)"));
-    for (const SLanguageRow& row : c_arrLanguages) {
-        QAction* pAction = pLanguage->addAction(QString::fromUtf8(row.szName), this, [this, row] {
-            m_language.Set(row.language);
-            m_settings.setValue(c_strLanguageKey, CLanguage::Code(row.language));
-        });
-        pAction->setCheckable(true);
-        pAction->setChecked(row.language == m_language.Current());
-    }
+    const auto& listSenders = CSimulator::Instance().Project().listSenders;
+    const auto IsChanged = [&change](const SSimulatedSender& sender) {
+        return change.setSenderIds.contains(sender.nId);
+    };
+    const SSimulatedSender* pSelected =
+        CSimulator::Instance().Project().FindSender(m_pTree->Selection().nSender);
+    if (pSelected != nullptr && IsChanged(*pSelected))
+        return;
+    const auto itChanged = std::find_if(listSenders.cbegin(), listSenders.cend(), IsChanged);
+    if (itChanged != listSenders.cend())
+        m_pTree->Select({int(itChanged - listSenders.cbegin()), -1});
 }
 
 void CMainWindow::SelectionMoved(const SSelection& selection)
@@ -210,13 +221,13 @@ void CMainWindow::changeEvent(QEvent* pEvent)
 
 void CMainWindow::Retranslate()
 {
-    BuildMenus();
     m_pTree->Retranslate();
     m_pJournal->Retranslate();
     for (CWorkbenchPage* pPage : m_vecPages) {
         pPage->Retranslate();
         m_pTabs->setTabText(m_pTabs->indexOf(pPage), pPage->Title());
     }
+    m_pMenu->Rebuild();
     ShowTitle();
 }
 
@@ -236,7 +247,6 @@ void CMainWindow::closeEvent(QCloseEvent* pEvent)
         pEvent->ignore();
         return;
     }
-    m_settings.setValue(c_strGeometryKey, saveGeometry());
-    m_settings.setValue(c_strStateKey, saveState());
+    SaveState();
     pEvent->accept();
 }

@@ -44,7 +44,7 @@ QString SenderState(const SSimulatedSender& sender)
 void ShowInput(QTreeWidgetItem* pItem, const SSimulatedInput& input)
 {
     pItem->setText(enName, input.strName);
-    pItem->setText(enType, QString::number(input.nInterfaceId));
+    pItem->setText(enType, CSenderTree::tr("接口 %1").arg(input.nInterfaceId));
     pItem->setText(enState, input.setting ? ModeText::Of(*input.setting) : CSenderTree::tr("没有设置"));
 }
 
@@ -80,7 +80,7 @@ void ShowSender(QTreeWidgetItem* pItem, const SSimulatedSender& sender)
     if (!HasInputsOf(pItem, sender))
         TakeInputs(pItem, sender);
     pItem->setText(enName, sender.strName);
-    pItem->setText(enType, QString::number(sender.capability.nType));
+    pItem->setText(enType, CSenderTree::tr("类型 %1").arg(sender.capability.nType));
     pItem->setText(enState, SenderState(sender));
     for (int i = 0; i < pItem->childCount(); ++i)
         ShowInput(pItem->child(i), sender.listInputs[std::size_t(i)]);
@@ -91,6 +91,7 @@ QTreeWidgetItem* NewSender(const SSimulatedSender& sender)
 {
     auto* pItem = new QTreeWidgetItem;
     pItem->setData(enName, enIdRole, sender.nId);
+    pItem->setFlags(pItem->flags() | Qt::ItemIsEditable);
     ShowSender(pItem, sender);
     return pItem;
 }
@@ -108,6 +109,10 @@ CSenderTree::CSenderTree(QWidget* pParent)
     setColumnCount(enColumnCount);
     setAlternatingRowColors(true);
     setUniformRowHeights(true);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    // Names alone can be edited, and a double click means another thing on an input.
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setExpandsOnDoubleClick(false);
     header()->setStretchLastSection(true);
     connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectReplaced, this, [this] {
         Rebuild();
@@ -115,6 +120,7 @@ CSenderTree::CSenderTree(QWidget* pParent)
     });
     connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectChanged, this,
             &CSenderTree::Take);
+    connect(this, &QTreeWidget::itemChanged, this, &CSenderTree::TakeName);
     connect(this, &QTreeWidget::currentItemChanged, this, [this] { Q_EMIT SelectionMoved(Selection()); });
     Rebuild();
     Retranslate();
@@ -128,6 +134,40 @@ SSelection CSenderTree::Selection() const
     if (pItem->parent() == nullptr)
         return {indexOfTopLevelItem(pItem), -1};
     return {indexOfTopLevelItem(pItem->parent()), pItem->data(enName, enInterfaceRole).toInt()};
+}
+
+QList<int> CSenderTree::SelectedSenders() const
+{
+    QList<int> listSenders;
+    for (const QTreeWidgetItem* pItem : selectedItems())
+        if (pItem->parent() == nullptr)
+            listSenders.append(indexOfTopLevelItem(const_cast<QTreeWidgetItem*>(pItem)));
+    std::sort(listSenders.begin(), listSenders.end());
+    return listSenders;
+}
+
+void CSenderTree::EditCurrentName()
+{
+    QTreeWidgetItem* pItem = currentItem();
+    if (pItem != nullptr && pItem->parent() == nullptr)
+        // Unlike `editItem`, it does not complain where the row is being edited already.
+        edit(indexFromItem(pItem, enName), AllEditTriggers, nullptr);
+}
+
+/// Only the editor makes an item differ from the project.
+void CSenderTree::TakeName(QTreeWidgetItem* pItem, int nColumn)
+{
+    if (pItem->parent() != nullptr || nColumn != enName)
+        return;
+    const int nSender = indexOfTopLevelItem(pItem);
+    const SSimulatedSender* pSender = CSimulator::Instance().Project().FindSender(nSender);
+    if (pSender == nullptr || pSender->nId != SenderId(pItem) || pItem->text(enName) == pSender->strName)
+        return;
+    const QString strName = pItem->text(enName).trimmed();
+    if (strName.isEmpty() || strName == pSender->strName)
+        ShowSender(pItem, *pSender);
+    else
+        Q_EMIT Renamed(nSender, strName);
 }
 
 QTreeWidgetItem* CSenderTree::Find(const SSelection& selection) const
@@ -144,12 +184,13 @@ QTreeWidgetItem* CSenderTree::Find(const SSelection& selection) const
 void CSenderTree::Select(const SSelection& selection)
 {
     QTreeWidgetItem* pItem = Find(selection);
-    setCurrentItem(pItem == nullptr ? topLevelItem(0) : pItem);
+    setCurrentItem(pItem == nullptr ? topLevelItem(0) : pItem, enName,
+                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void CSenderTree::Retranslate()
 {
-    setHeaderLabels({tr("发送器"), tr("类型"), tr("状态")});
+    setHeaderLabels({tr("发送器"), tr("类型或接口"), tr("状态")});
     for (int i = 0; i < topLevelItemCount(); ++i)
         ShowSender(topLevelItem(i), Senders()[std::size_t(i)]);
     FitAllColumns();

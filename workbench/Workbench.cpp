@@ -17,6 +17,8 @@
 
 namespace {
 
+constexpr QSize c_sizePictures(1920, 1040); ///< the screen that the tour's pictures are made for
+
 enLanguage LanguageOf(const SWorkbenchOptions& options, const QSettings& settings)
 {
     const QString strCode = options.strLanguage.isEmpty()
@@ -88,6 +90,7 @@ int RunTour(const SWorkbenchOptions& options)
         tour.SetPrefix(CLanguage::Code(current));
         CSimulator::Instance().Document().NewProject();
         CMainWindow window(language, settings);
+        window.ArrangeFor(c_sizePictures);
         window.show();
         PageTours::Everything(tour, window);
         if (current == enLanguage::enEnglish)

@@ -3,6 +3,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 /// What is selected in the tree of senders.
 struct SSelection
 {
@@ -30,6 +32,17 @@ public:
     /// Puts all texts into the current language.
     virtual void Retranslate() = 0;
 
+    /// Does something to the project as one undoable step.
+    /// @param strText what it does
+    /// @param strMerge a step continues the one before it when both have the same text here
+    void DoAsStep(const QString& strText, const std::function<void()>& funcDo,
+                  const QString& strMerge = QString())
+    {
+        Q_EMIT StepBegan(strText, strMerge);
+        funcDo();
+        Q_EMIT StepEnded();
+    }
+
 Q_SIGNALS:
     /// One line for the status bar: what has just happened.
     void Reported(const QString& strText);
@@ -37,6 +50,9 @@ Q_SIGNALS:
     void Failed(const QString& strText);
     /// Another sender or input is to be selected in the tree.
     void SelectionWanted(const SSelection& selection);
+    /// What changes in the project from now until `StepEnded` is one step. Prefer `DoAsStep`.
+    void StepBegan(const QString& strText, const QString& strMerge = QString());
+    void StepEnded();
 };
 
 #endif // WORKBENCH_WORKBENCHPAGE_H

@@ -125,14 +125,15 @@ int CProjectDocument::AddSender(int nType, const QString& strName)
     return nSender;
 }
 
-int CProjectDocument::AddSenders(int nType, int nCount, int nOutputPorts)
+int CProjectDocument::AddSenders(int nType, int nCount, std::optional<int> nOutputPorts)
 {
     int nAdded = 0;
     for (; nAdded < nCount; ++nAdded) {
         const int nSender = ProjectTemplates::AddSender(m_project, nType, QString());
         if (nSender < 0)
             break;
-        m_project.FindSender(nSender)->record.nOutputPortCount = nOutputPorts;
+        if (nOutputPorts)
+            m_project.FindSender(nSender)->record.nOutputPortCount = *nOutputPorts;
     }
     NoticeChanges();
     return nAdded;
@@ -140,12 +141,23 @@ int CProjectDocument::AddSenders(int nType, int nCount, int nOutputPorts)
 
 void CProjectDocument::RemoveSender(int nSender)
 {
-    if (m_project.FindSender(nSender) == nullptr)
-        return;
-    m_project.listSenders.erase(m_project.listSenders.begin() + nSender);
-    const int nLast = int(m_project.listSenders.size()) - 1;
-    if (nSender < m_project.nCurSender || m_project.nCurSender > nLast)
-        m_project.nCurSender = std::max(0, m_project.nCurSender - 1);
+    RemoveSenders({nSender});
+}
+
+void CProjectDocument::RemoveSenders(const QList<int>& listSenders)
+{
+    const QSet<int> setSenders(listSenders.cbegin(), listSenders.cend());
+    const int nCount = int(m_project.listSenders.size());
+    std::deque<SSimulatedSender> listStaying;
+    int nCurrent = m_project.nCurSender;
+    for (int i = 0; i < nCount; ++i) {
+        if (!setSenders.contains(i))
+            listStaying.push_back(std::move(m_project.listSenders[std::size_t(i)]));
+        else if (i < m_project.nCurSender)
+            --nCurrent;
+    }
+    m_project.listSenders = std::move(listStaying);
+    m_project.nCurSender = std::max(0, std::min(nCurrent, int(m_project.listSenders.size()) - 1));
     NoticeChanges();
 }
 

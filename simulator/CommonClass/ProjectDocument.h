@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class CSavedProject;
 
@@ -68,12 +69,15 @@ public:
     /// Adds a factory-new sender as the last one.
     /// @return its index; -1 for a type that is not in the catalogue, and when the ids are used up
     int AddSender(int nType, const QString& strName = QString());
-    /// Adds factory-new senders with the given number of output ports, announced as one change.
+    /// Adds factory-new senders, announced as one change.
+    /// @param nOutputPorts their output ports; empty: as many as the type has
     /// @return the number added: 0 for a type that is not in the catalogue, fewer than requested when the ids
     /// are used up
-    int AddSenders(int nType, int nCount, int nOutputPorts);
+    int AddSenders(int nType, int nCount, std::optional<int> nOutputPorts = {});
     /// Removes a sender; the current sender stays current where possible.
     void RemoveSender(int nSender);
+    /// Removes several, announced as one change. Indices without a sender are ignored.
+    void RemoveSenders(const QList<int>& listSenders);
     /// Makes a sender the one that the dialogs edit. An index without a sender is ignored.
     void SetCurrentSender(int nSender);
     /// The record that stands for the senders of a project without any.

@@ -2,78 +2,31 @@
 #include "SenderModuleDialog/edid/EdidSetDlg.h"
 #include "host/OrviControl/CustomMessageBox.h"
 #include "simulator/CommonClass/Simulator.h"
+#include "tests/workbench/DialogOperator.h"
+#include "tests/workbench/ShownWorkbench.h"
 #include "workbench/JournalDock.h"
-#include "workbench/MainWindow.h"
 #include "workbench/PageTabs.h"
 #include "workbench/ProjectActions.h"
-#include "workbench/SenderTree.h"
 #include "workbench/edid/EdidPage.h"
 #include "workbench/edid/HexView.h"
 
 #include <QApplication>
 #include <QFile>
+#include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
+#include <QSplitter>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QtTest>
 
 namespace {
-
-/// A workbench with separate settings.
-class CWorkbenchFixture
-{
-public:
-    CWorkbenchFixture()
-        : settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat)
-        , window(language, settings)
-    {
-        CSimulator::Instance().Document().NewProject();
-    }
-
-    QString File(const char* szName) const { return folder.filePath(QString::fromLatin1(szName)); }
-
-    QTemporaryDir folder;
-    CLanguage language;
-    QSettings settings;
-    CMainWindow window;
-};
-
-/// Presses the button with that text in the next message box, and notes what the box said.
-class CMessageAnswer : public QObject
-{
-public:
-    explicit CMessageAnswer(const char* szButton)
-        : m_strButton(QString::fromUtf8(szButton))
-    {
-        qApp->installEventFilter(this);
-    }
-
-    QString strText;
-
-    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
-    {
-        auto* pBox = qobject_cast<QMessageBox*>(pWatched);
-        if (pBox != nullptr && pEvent->type() == QEvent::Show)
-            QMetaObject::invokeMethod(
-                pBox, [this, pBox] { Press(pBox); }, Qt::QueuedConnection);
-        return QObject::eventFilter(pWatched, pEvent);
-    }
-
-private:
-    void Press(QMessageBox* pBox)
-    {
-        strText = pBox->text();
-        for (QAbstractButton* pButton : pBox->buttons())
-            if (pButton->text() == m_strButton)
-                return pButton->click();
-        pBox->reject();
-    }
-
-    const QString m_strButton;
-};
 
 void MakeAChange()
 {
@@ -107,8 +60,17 @@ private Q_SLOTS:
     void TabGoesFromTheTreeToTabsPageAndJournal_data();
     void TabGoesFromTheTreeToTabsPageAndJournal();
     void ControlAndADigitShowAPage();
-    void DeleteInTheTreeRemovesTheSender();
     void TheTabBarShowsItsFocus();
+    void EveryMenuEntryHasAKeyOfItsOwn_data();
+    void EveryMenuEntryHasAKeyOfItsOwn();
+    void F1ShowsStepsAndKeys();
+    void AboutTellsTheProgram();
+    void SaveAsHasItsKey();
+    void SmallScreensStartWithoutTheJournal_data();
+    void SmallScreensStartWithoutTheJournal();
+    void TheArrangementIsKeptForTheScreen();
+    void TheFirstMessageMovesNothing();
+    void ControlJFoldsTheJournal();
     void ChoosingAByteMarksItsField();
     void TheJournalShowsAndFiltersCalls();
 };
@@ -124,8 +86,9 @@ void TestMainWindow::TheTreeShowsEachSenderWithItsInputs()
     const auto& listSenders = CSimulator::Instance().Project().listSenders;
     QCOMPARE(workbench.window.Tree().topLevelItemCount(), int(listSenders.size()));
     QCOMPARE(workbench.window.Tree().topLevelItem(0)->childCount(), int(listSenders[0].listInputs.size()));
-    QCOMPARE(workbench.window.Tree().topLevelItem(2)->text(1),
-             QString::number(listSenders[2].capability.nType));
+    QCOMPARE(workbench.window.Tree().topLevelItem(2)->text(1), QStringLiteral("类型 16"));
+    QCOMPARE(workbench.window.Tree().topLevelItem(2)->child(0)->text(1),
+             QStringLiteral("接口 %1").arg(listSenders[2].listInputs[0].nInterfaceId));
 }
 
 void TestMainWindow::SelectingASenderMakesItTheCurrentOne()
@@ -267,6 +230,8 @@ void TestMainWindow::ABlockThatCannotBeSavedIsTold()
 {
     CWorkbenchFixture workbench;
     auto* pPage = workbench.window.findChild<CEdidPage*>();
+    workbench.window.Tree().Select(
+        {0, CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId});
     CMessageAnswer answer("OK");
     QVERIFY(!pPage->SaveBlock(workbench.File("no/such/folder/edid.bin")));
     QVERIFY(answer.strText.contains(QStringLiteral("edid.bin")));
@@ -315,14 +280,6 @@ void TestMainWindow::AWriteIsReportedAsItEnded()
     QVERIFY(spyReported.last().first().toString().contains(report));
 }
 
-/// The window shown and active, so that keys find the focus.
-void Activate(CMainWindow& window)
-{
-    window.show();
-    QApplication::setActiveWindow(&window);
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-}
-
 /// Which part of the window has the focus.
 QString PartWithFocus(CMainWindow& window)
 {
@@ -353,7 +310,8 @@ void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal()
     workbench.window.Tree().Select(
         {0, CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId});
     workbench.window.ShowPage(workbench.window.Pages()[std::size_t(page)]);
-    Activate(workbench.window);
+    workbench.window.Journal().show();
+    workbench.Activate();
     workbench.window.Tree().setFocus();
     QStringList listParts;
     for (int i = 0; i < c_nMostStops; ++i) {
@@ -370,7 +328,7 @@ void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal()
 void TestMainWindow::ControlAndADigitShowAPage()
 {
     CWorkbenchFixture workbench;
-    Activate(workbench.window);
+    workbench.Activate();
     const auto* pTabs = workbench.window.findChild<CPageTabs*>();
     for (int i = int(workbench.window.Pages().size()) - 1; i >= 0; --i) {
         QTest::keyClick(&workbench.window, Qt::Key(Qt::Key_1 + i), Qt::ControlModifier);
@@ -378,21 +336,148 @@ void TestMainWindow::ControlAndADigitShowAPage()
     }
 }
 
-void TestMainWindow::DeleteInTheTreeRemovesTheSender()
+/// The entries of a menu that lack a key or share one with another entry.
+QStringList EntriesWithoutOwnKey(const QList<QAction*>& listEntries)
+{
+    QStringList listFaults;
+    QSet<QChar> setKeys;
+    for (const QAction* pEntry : listEntries) {
+        const QKeySequence key = QKeySequence::mnemonic(pEntry->text());
+        const QChar chKey = key.isEmpty() ? QChar() : key.toString().back();
+        if (!pEntry->isSeparator() && (key.isEmpty() || setKeys.contains(chKey)))
+            listFaults.append(pEntry->text());
+        setKeys.insert(chKey);
+        if (pEntry->menu() != nullptr)
+            listFaults += EntriesWithoutOwnKey(pEntry->menu()->actions());
+    }
+    return listFaults;
+}
+
+void TestMainWindow::EveryMenuEntryHasAKeyOfItsOwn_data()
+{
+    QTest::addColumn<int>("language");
+    QTest::newRow("Chinese") << int(enLanguage::enChinese);
+    QTest::newRow("English") << int(enLanguage::enEnglish);
+}
+
+void TestMainWindow::EveryMenuEntryHasAKeyOfItsOwn()
+{
+    QFETCH(int, language);
+    CWorkbenchFixture workbench;
+    workbench.language.Set(enLanguage(language));
+    QCoreApplication::processEvents();
+    QCOMPARE(EntriesWithoutOwnKey(workbench.window.menuBar()->actions()), QStringList());
+}
+
+void TestMainWindow::F1ShowsStepsAndKeys()
 {
     CWorkbenchFixture workbench;
-    Activate(workbench.window);
-    const std::size_t nBefore = CSimulator::Instance().Project().listSenders.size();
-    workbench.window.Tree().Select({1, -1});
-    workbench.window.Tree().setFocus();
-    QTest::keyClick(&workbench.window.Tree(), Qt::Key_Delete);
-    QCOMPARE(CSimulator::Instance().Project().listSenders.size(), nBefore - 1);
+    workbench.Activate();
+    QString strText;
+    const CDialogOperator dialogOperator([&strText](QDialog* pDialog) {
+        strText = pDialog->findChild<QTextBrowser*>()->toPlainText();
+        QTest::keyClick(pDialog, Qt::Key_Escape);
+    });
+    QTest::keyClick(&workbench.window, Qt::Key_F1);
+    QVERIFY(strText.contains(QStringLiteral("Ctrl+Shift+S")));
+}
+
+void TestMainWindow::AboutTellsTheProgram()
+{
+    CWorkbenchFixture workbench;
+    workbench.Activate();
+    const CMessageAnswer answer("关闭");
+    QTest::keyClick(&workbench.window, Qt::Key_H, Qt::AltModifier);
+    QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_A);
+    QTRY_VERIFY(answer.strText.contains(QStringLiteral("SenderModuleDialog")));
+}
+
+void TestMainWindow::SaveAsHasItsKey()
+{
+    CWorkbenchFixture workbench;
+    workbench.Activate();
+    const QString strFile = workbench.File("wall");
+    const CDialogOperator dialogOperator([&strFile](QDialog* pDialog) {
+        auto* pName = pDialog->findChild<QLineEdit*>();
+        pName->selectAll();
+        QTest::keyClicks(pName, strFile);
+        QTest::keyClick(pName, Qt::Key_Return);
+    });
+    QTest::keyClick(&workbench.window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    QTRY_VERIFY(QFile::exists(strFile + QStringLiteral(".json")));
+}
+
+void TestMainWindow::SmallScreensStartWithoutTheJournal_data()
+{
+    QTest::addColumn<QSize>("screen");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("journal");
+    QTest::newRow("1024x700: all of the screen") << QSize(1024, 700) << QSize(1024, 700) << false;
+    QTest::newRow("1366x768") << QSize(1366, 768) << QSize(1280, 768) << false;
+    QTest::newRow("1920x1040: as designed") << QSize(1920, 1040) << QSize(1280, 860) << true;
+    QTest::newRow("3840x2160: two thirds") << QSize(3840, 2160) << QSize(2560, 1440) << true;
+}
+
+void TestMainWindow::SmallScreensStartWithoutTheJournal()
+{
+    QFETCH(QSize, screen);
+    QTEST(CMainWindow::FirstSize(screen), "size");
+    QTEST(CMainWindow::HasJournalRoom(screen), "journal");
+}
+
+void TestMainWindow::TheArrangementIsKeptForTheScreen()
+{
+    QTemporaryDir folder;
+    QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    CLanguage language;
+    CSimulator::Instance().Document().NewProject();
+    int nTreeWidth = 0;
+    {
+        CMainWindow window(language, settings);
+        window.show();
+        window.resize(1200, 900);
+        window.Journal().show();
+        auto* pSplitter = window.findChild<QSplitter*>();
+        pSplitter->setSizes({333, 800});
+        nTreeWidth = window.Tree().width();
+        window.close();
+    }
+    CMainWindow window(language, settings);
+    window.show();
+    window.resize(1200, 900);
+    QCOMPARE(window.Tree().width(), nTreeWidth);
+    QVERIFY(window.Journal().isVisible());
+    const QSize sizeScreen = window.screen()->availableSize();
+    QCOMPARE(settings.childGroups().filter(QStringLiteral("screen")),
+             QStringList{QStringLiteral("screen%1x%2").arg(sizeScreen.width()).arg(sizeScreen.height())});
+}
+
+void TestMainWindow::TheFirstMessageMovesNothing()
+{
+    CWorkbenchFixture workbench;
+    workbench.Activate();
+    const QRect before = workbench.window.centralWidget()->geometry();
+    QVERIFY(workbench.window.Project().SaveAs(workbench.File("a.json")));
+    QCoreApplication::processEvents();
+    QCOMPARE(workbench.window.centralWidget()->geometry(), before);
+}
+
+void TestMainWindow::ControlJFoldsTheJournal()
+{
+    CWorkbenchFixture workbench;
+    workbench.Activate();
+    const bool bBefore = workbench.window.Journal().isVisible();
+    QTest::keyClick(&workbench.window, Qt::Key_J, Qt::ControlModifier);
+    QCOMPARE(workbench.window.Journal().isVisible(), !bBefore);
+    QTest::keyClick(&workbench.window, Qt::Key_J, Qt::ControlModifier);
+    QCOMPARE(workbench.window.Journal().isVisible(), bBefore);
 }
 
 void TestMainWindow::TheTabBarShowsItsFocus()
 {
     CWorkbenchFixture workbench;
-    Activate(workbench.window);
+    workbench.Activate();
     auto* pBar = workbench.window.findChild<QTabWidget*>()->tabBar();
     workbench.window.Tree().setFocus();
     const QImage without = pBar->grab().toImage();

@@ -1,26 +1,9 @@
 #include "workbench/colour/ChartEditor.h"
 
-#include "workbench/colour/GroupsCommand.h"
-
-namespace {
-
-constexpr int c_nMaxSteps = 200;
-
-} // namespace
-
 CChartEditor::CChartEditor(CChromaticityDlgWnd& chart, QObject* pParent)
     : QObject(pParent)
     , m_chart(chart)
-{
-    m_steps.setUndoLimit(c_nMaxSteps);
-    connect(&m_steps, &QUndoStack::indexChanged, this, &CChartEditor::Changed);
-}
-
-CChartEditor::~CChartEditor()
-{
-    // The undo stack is destroyed last and would emit signals when the chart may be gone.
-    m_steps.disconnect(this);
-}
+{}
 
 bool CChartEditor::Change(const QString& strText, const std::function<bool()>& funcChange)
 {
@@ -29,15 +12,16 @@ bool CChartEditor::Change(const QString& strText, const std::function<bool()>& f
         ColourGroups::Restore(m_chart, groupsBefore);
         return false;
     }
-    Push(strText, groupsBefore);
+    Q_EMIT StepBegan(strText);
+    AnnounceChange(groupsBefore);
+    Q_EMIT StepEnded();
     return true;
 }
 
-void CChartEditor::Push(const QString& strText, const ColourGroups::Groups& groupsBefore)
+void CChartEditor::AnnounceChange(const ColourGroups::Groups& groupsBefore)
 {
-    const ColourGroups::Groups groupsAfter = ColourGroups::Take(m_chart);
-    if (!ColourGroups::AreSame(groupsBefore, groupsAfter))
-        m_steps.push(new CGroupsCommand(m_chart, strText, groupsBefore, groupsAfter));
+    if (!ColourGroups::AreSame(groupsBefore, ColourGroups::Take(m_chart)))
+        Q_EMIT Changed();
 }
 
 void CChartEditor::BeginDrag()
@@ -45,6 +29,7 @@ void CChartEditor::BeginDrag()
     // A drag whose end was never reported, because its window closed, ends here.
     EndDrag();
     m_groupsBeforeDrag = ColourGroups::Take(m_chart);
+    Q_EMIT StepBegan(tr("拖动"));
 }
 
 void CChartEditor::EndDrag()
@@ -53,17 +38,6 @@ void CChartEditor::EndDrag()
         return;
     const ColourGroups::Groups groupsBefore = *m_groupsBeforeDrag;
     m_groupsBeforeDrag.reset();
-    Push(tr("拖动"), groupsBefore);
-}
-
-void CChartEditor::Undo()
-{
-    if (!IsDragging())
-        m_steps.undo();
-}
-
-void CChartEditor::Redo()
-{
-    if (!IsDragging())
-        m_steps.redo();
+    AnnounceChange(groupsBefore);
+    Q_EMIT StepEnded();
 }

@@ -4,23 +4,20 @@
 #include "workbench/colour/ColourGroups.h"
 
 #include <QObject>
-#include <QUndoStack>
 
 #include <functional>
 #include <optional>
 
-/// Changes the groups of a chart in undoable steps. A drag is one step, however long.
+/// Changes the groups of a chart in steps. A drag is one step, however long.
 class CChartEditor : public QObject
 {
     Q_OBJECT
 
 public:
     explicit CChartEditor(CChromaticityDlgWnd& chart, QObject* pParent = nullptr);
-    ~CChartEditor() override;
 
     CChromaticityDlgWnd& Chart() { return m_chart; }
     const CChromaticityDlgWnd& Chart() const { return m_chart; }
-    QUndoStack& Steps() { return m_steps; }
 
     /// Runs a change on the live groups as one step.
     /// @param funcChange returns false to restore everything
@@ -32,21 +29,17 @@ public:
     void EndDrag();
     bool IsDragging() const { return bool(m_groupsBeforeDrag); }
 
-    /// Takes a step back or forward; not in the middle of a drag.
-    /// @{
-    void Undo();
-    void Redo();
-    /// @}
-
 Q_SIGNALS:
-    /// The groups or the undoable steps changed.
+    /// The groups changed.
     void Changed();
+    /// What changes from now until `StepEnded` is one step.
+    void StepBegan(const QString& strText);
+    void StepEnded();
 
 private:
-    void Push(const QString& strText, const ColourGroups::Groups& groupsBefore);
+    void AnnounceChange(const ColourGroups::Groups& groupsBefore);
 
     CChromaticityDlgWnd& m_chart;
-    QUndoStack m_steps;
     std::optional<ColourGroups::Groups> m_groupsBeforeDrag;
 };
 

@@ -50,7 +50,12 @@ CColourPage::CColourPage(QWidget* pParent)
     connect(m_pView, &CChartView::MouseMoved, this, &CColourPage::ShowReadout);
     connect(&m_pView->Keys(), &CPointKeys::Told, m_pReadout, &QLabel::setText);
     m_pProject = new CProjectColours(*m_pView, this);
-    connect(m_pControls, &CChartControls::RegionChanged, m_pProject, &CProjectColours::Store);
+    connect(m_pControls, &CChartControls::RegionChanged, m_pProject, &CProjectColours::StoreRegion);
+    const auto funcBegin = [this](const QString& strText) { Q_EMIT StepBegan(strText); };
+    connect(m_pProject, &CProjectColours::StepBegan, this, funcBegin);
+    connect(m_pProject, &CProjectColours::StepEnded, this, &CColourPage::StepEnded);
+    connect(m_pWall, &CMeasuredWall::StepBegan, this, funcBegin);
+    connect(m_pWall, &CMeasuredWall::StepEnded, this, &CColourPage::StepEnded);
     connect(m_pProject, &CProjectColours::Loaded, m_pControls, &CChartControls::Retranslate);
     m_pProject->Load();
     m_pGroups->SelectKey(enScreenColorSpace);
@@ -67,6 +72,8 @@ QWidget* CColourPage::CreateChart()
     m_pUcsShown = new QPushButton(pChart);
     m_pUcsShown->setCheckable(true);
     connect(m_pUcsShown, &QPushButton::toggled, this, &CColourPage::ShowUcs);
+    // A long text breaks instead of widening the page.
+    m_pReadout->setWordWrap(true);
     auto* pFoot = new QHBoxLayout;
     pFoot->addWidget(m_pReadout, 1);
     pFoot->addWidget(m_pUcsShown);

@@ -14,7 +14,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTableView>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -48,7 +47,6 @@ CGroupPanel::CGroupPanel(CChartEditor& editor, QWidget* pParent)
 {
     m_pTable->setTabKeyNavigation(false);
     CreateButtons();
-    CreateSteps();
     CreateTable();
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
@@ -72,22 +70,6 @@ void CGroupPanel::CreateButtons()
     connect(m_pRemove, &QPushButton::clicked, this, &CGroupPanel::RemoveSelected);
 }
 
-void CGroupPanel::CreateSteps()
-{
-    m_pUndo = new QAction(this);
-    m_pUndo->setShortcut(QKeySequence::Undo);
-    connect(m_pUndo, &QAction::triggered, &m_editor, &CChartEditor::Undo);
-    m_pRedo = new QAction(this);
-    m_pRedo->setShortcut(QKeySequence::Redo);
-    connect(m_pRedo, &QAction::triggered, &m_editor, &CChartEditor::Redo);
-    // The page that contains the panel handles the keys too: the chart has the focus after a drag.
-    QWidget* pScope = parentWidget() == nullptr ? this : parentWidget();
-    for (QAction* pAction : {m_pUndo, m_pRedo}) {
-        pAction->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        pScope->addAction(pAction);
-    }
-}
-
 QWidget* CGroupPanel::CreateBar()
 {
     auto* pBar = new QWidget(this);
@@ -96,12 +78,6 @@ QWidget* CGroupPanel::CreateBar()
     for (QPushButton* pButton : {m_pAdd, m_pPreset, m_pRemove})
         pLayout->addWidget(pButton);
     pLayout->addStretch();
-    for (QAction* pAction : {m_pUndo, m_pRedo}) {
-        auto* pButton = new QToolButton(pBar);
-        pButton->setDefaultAction(pAction);
-        pButton->setFocusPolicy(Qt::StrongFocus);
-        pLayout->addWidget(pButton);
-    }
     return pBar;
 }
 
@@ -127,8 +103,6 @@ void CGroupPanel::Retranslate()
     m_pPreset->setText(tr("预设"));
     m_pPreset->setToolTip(tr("所选的组取标准的色度坐标"));
     m_pRemove->setText(tr("删除"));
-    m_pUndo->setText(tr("撤销"));
-    m_pRedo->setText(tr("重做"));
     m_pTable->setAccessibleName(tr("色彩组"));
     Refresh();
 }
@@ -145,8 +119,6 @@ void CGroupPanel::Refresh()
     m_pRemove->setEnabled(bSelected);
     m_pPreset->setEnabled(bSelected);
     m_pAddPair->setEnabled(!chart.m_mapGroups.contains(enOutputColorSpace));
-    m_pUndo->setEnabled(m_editor.Steps().canUndo());
-    m_pRedo->setEnabled(m_editor.Steps().canRedo());
     const std::optional<int> nCoverage = ColourGroups::Coverage(m_editor.Chart());
     m_pCoverage->setText(nCoverage ? tr("屏幕覆盖输出色彩空间的 %1%").arg(*nCoverage)
                                    : tr("没有覆盖率：需要显示输出和屏幕色彩空间"));

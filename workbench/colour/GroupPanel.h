@@ -53,7 +53,6 @@ Q_SIGNALS:
 
 private:
     void CreateButtons();
-    void CreateSteps();
     QWidget* CreateBar();
     void CreateTable();
     void TellStandard(int nKey, enColorStandard standard);
@@ -67,8 +66,6 @@ private:
     QAction* m_pAddPair = nullptr;
     QPushButton* m_pRemove = nullptr;
     QPushButton* m_pPreset = nullptr;
-    QAction* m_pUndo = nullptr;
-    QAction* m_pRedo = nullptr;
 };
 
 #endif // WORKBENCH_COLOUR_GROUPPANEL_H

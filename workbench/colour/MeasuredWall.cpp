@@ -42,18 +42,20 @@ std::optional<SMeasurementError> CMeasuredWall::Import(const QString& strText)
 std::optional<SMeasurementError> CMeasuredWall::Take(const SMeasurements& measurements)
 {
     if (!measurements.error)
-        Store(LinesOf(measurements.modules));
+        Store(tr("导入测量"), LinesOf(measurements.modules));
     return measurements.error;
 }
 
 void CMeasuredWall::Clear()
 {
-    Store({});
+    Store(tr("清除测量"), {});
 }
 
-void CMeasuredWall::Store(const QStringList& listLines)
+void CMeasuredWall::Store(const QString& strStep, const QStringList& listLines)
 {
+    Q_EMIT StepBegan(strStep);
     Document().Change([&listLines](SSimulatedProject& project) { project.listMeasurements = listLines; });
+    Q_EMIT StepEnded();
 }
 
 void CMeasuredWall::Load()

@@ -38,10 +38,13 @@ Q_SIGNALS:
     void Changed();
     /// The project holds measurements that cannot be read.
     void Unreadable(const SMeasurementError& error);
+    /// What changes in the project from now until `StepEnded` is one step.
+    void StepBegan(const QString& strText);
+    void StepEnded();
 
 private:
     std::optional<SMeasurementError> Take(const SMeasurements& measurements);
-    void Store(const QStringList& listLines);
+    void Store(const QString& strStep, const QStringList& listLines);
     void Load();
     void Analyse();
 

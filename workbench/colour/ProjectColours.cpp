@@ -105,33 +105,52 @@ CProjectColours::CProjectColours(CChartView& view, QObject* pParent)
     , m_view(view)
 {
     connect(&m_view.Editor(), &CChartEditor::Changed, this, &CProjectColours::Store);
-    connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectReplaced, this,
-            &CProjectColours::Load);
+    connect(&m_view.Editor(), &CChartEditor::StepBegan, this, &CProjectColours::StepBegan);
+    connect(&m_view.Editor(), &CChartEditor::StepEnded, this, &CProjectColours::StepEnded);
+    CProjectDocument& document = CSimulator::Instance().Document();
+    connect(&document, &CProjectDocument::OnProjectReplaced, this, &CProjectColours::Load);
+    connect(&document, &CProjectDocument::OnProjectChanged, this, &CProjectColours::FollowProject);
 }
 
 void CProjectColours::Load()
 {
-    const QScopedValueRollback<bool> loading(m_bLoading, true);
     const std::optional<SProjectColour>& colour = CSimulator::Instance().Project().colour;
     m_bInProject = colour.has_value();
     m_groupsLoaded = m_bInProject ? GroupsOf(*colour) : FirstGroups();
     m_regionLoaded = m_bInProject ? RegionOf(*colour) : QPolygonF();
     m_bRegionOnLoaded = m_bInProject && colour->bRegionOn;
-    // These steps belong to the previous project.
+    Show(m_groupsLoaded, m_regionLoaded, m_bRegionOnLoaded);
+}
+
+void CProjectColours::FollowProject()
+{
+    if (m_bBusy || m_view.Editor().IsDragging())
+        return;
+    const std::optional<SProjectColour>& colour = CSimulator::Instance().Project().colour;
+    const ColourGroups::Groups groups = colour ? GroupsOf(*colour) : m_groupsLoaded;
+    const QPolygonF region = colour ? RegionOf(*colour) : m_regionLoaded;
+    const bool bRegionOn = colour ? colour->bRegionOn : m_bRegionOnLoaded;
+    if (!IsShown(groups, region, bRegionOn))
+        Show(groups, region, bRegionOn);
+}
+
+void CProjectColours::Show(const ColourGroups::Groups& groups, const QPolygonF& region, bool bRegionOn)
+{
+    const QScopedValueRollback<bool> busy(m_bBusy, true);
     m_view.Editor().EndDrag();
-    m_view.Editor().Steps().clear();
-    ColourGroups::Restore(m_view.Chart(), m_groupsLoaded);
-    m_view.Region().SetPolygon(m_regionLoaded);
-    m_view.Region().SetOn(m_bRegionOnLoaded);
+    ColourGroups::Restore(m_view.Chart(), groups);
+    m_view.Region().SetPolygon(region);
+    m_view.Region().SetOn(bRegionOn);
     m_view.Overlay().update();
     Q_EMIT m_view.Editor().Changed();
     Q_EMIT Loaded();
 }
 
-bool CProjectColours::IsAsLoaded() const
+bool CProjectColours::IsShown(const ColourGroups::Groups& groups, const QPolygonF& region,
+                              bool bRegionOn) const
 {
-    return ColourGroups::AreSame(ColourGroups::Take(m_view.Chart()), m_groupsLoaded) &&
-           m_view.Region().Polygon() == m_regionLoaded && m_view.Region().IsOn() == m_bRegionOnLoaded;
+    return ColourGroups::AreSame(ColourGroups::Take(m_view.Chart()), groups) &&
+           m_view.Region().Polygon() == region && m_view.Region().IsOn() == bRegionOn;
 }
 
 SProjectColour CProjectColours::Present() const
@@ -149,12 +168,20 @@ SProjectColour CProjectColours::Present() const
 void CProjectColours::Store()
 {
     // A drag counts as one change when it ends.
-    if (m_bLoading || m_view.Editor().IsDragging())
+    if (m_bBusy || m_view.Editor().IsDragging())
         return;
+    const QScopedValueRollback<bool> busy(m_bBusy, true);
     CSimulator::Instance().Document().Change([this](SSimulatedProject& project) {
-        if (IsAsLoaded() && !m_bInProject)
+        if (!m_bInProject && IsShown(m_groupsLoaded, m_regionLoaded, m_bRegionOnLoaded))
             project.colour.reset();
         else
             project.colour = Present();
     });
+}
+
+void CProjectColours::StoreRegion()
+{
+    Q_EMIT StepBegan(tr("可行区域"));
+    Store();
+    Q_EMIT StepEnded();
 }

@@ -24,20 +24,28 @@ public:
     void Load();
     /// Stores the chart's groups and region in the project.
     void Store();
+    /// The same as a step of its own, after a change of the region.
+    void StoreRegion();
 
 Q_SIGNALS:
     void Loaded();
+    /// What changes from now until `StepEnded` is one step.
+    void StepBegan(const QString& strText);
+    void StepEnded();
 
 private:
+    void Show(const ColourGroups::Groups& groups, const QPolygonF& region, bool bRegionOn);
+    /// Undo and redo bring back the project's colours: the chart follows.
+    void FollowProject();
     SProjectColour Present() const;
-    bool IsAsLoaded() const;
+    bool IsShown(const ColourGroups::Groups& groups, const QPolygonF& region, bool bRegionOn) const;
 
     CChartView& m_view;
     ColourGroups::Groups m_groupsLoaded;
     QPolygonF m_regionLoaded;
     bool m_bRegionOnLoaded = false;
     bool m_bInProject = false; ///< the project held them when they were loaded
-    bool m_bLoading = false;
+    bool m_bBusy = false;      ///< the change comes from here
 };
 
 #endif // WORKBENCH_COLOUR_PROJECTCOLOURS_H

@@ -248,7 +248,8 @@ void CEdidPage::EditEdid()
     const auto connection =
         connect(m_pUpdater, &CEdidMemoryUpdater::BlockStored, this, [&bTook] { bTook = true; });
     CEdidSetDlg dialog(this, m_selection.nInterfaceId, m_pLowRates->isChecked());
-    const bool bAccepted = dialog.exec() == QDialog::Accepted;
+    bool bAccepted = false;
+    DoAsStep(tr("设置 EDID"), [&] { bAccepted = dialog.exec() == QDialog::Accepted; });
     disconnect(connection);
     const SSimulatedInput* pInput = Input();
     if (!bAccepted || pInput == nullptr)

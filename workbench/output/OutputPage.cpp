@@ -186,8 +186,10 @@ void COutputPage::TakeCanvas(QSize size)
     const int nSender = m_selection.nSender;
     if (SenderOutput::KeepsCanvas(*pSender))
         simulator.Hardware().SpendWriteDelay(nSender);
-    simulator.Document().Change([nSender, size](SSimulatedProject& project) {
-        SenderOutput::StoreCanvas(*project.FindSender(nSender), size);
+    DoAsStep(tr("设置画布"), [&simulator, nSender, size] {
+        simulator.Document().Change([nSender, size](SSimulatedProject& project) {
+            SenderOutput::StoreCanvas(*project.FindSender(nSender), size);
+        });
     });
     Q_EMIT Reported(tr("画布大小已设为 %1。").arg(SenderOutput::SizeText(size)));
 }
@@ -195,8 +197,9 @@ void COutputPage::TakeCanvas(QSize size)
 void COutputPage::SetRateAndDepth()
 {
     CSetDepthRateDlg dialog(this);
-    const int nResult = dialog.exec();
+    int nResult = QDialog::Rejected;
     // Merely opening the dialog can have set the depth.
+    DoAsStep(tr("设置帧率和色深"), [&dialog, &nResult] { nResult = dialog.exec(); });
     CSimulator::Instance().Document().NoticeChanges();
     if (nResult == QDialog::Accepted)
         ReportRateAndDepth();
@@ -213,5 +216,5 @@ void COutputPage::ReportRateAndDepth()
 void COutputPage::SetBackground()
 {
     CBackgroundImageDlg dialog(this);
-    dialog.exec();
+    DoAsStep(tr("设置背景图片"), [&dialog] { dialog.exec(); });
 }

@@ -197,6 +197,11 @@ void CSimulationPage::Write(const SSenderProperty& property, const QVariant& val
     CSimulator& simulator = CSimulator::Instance();
     if (m_bRefreshing || simulator.Project().FindSender(nSender) == nullptr)
         return;
-    simulator.Document().Change(
-        [&](SSimulatedProject& project) { property.funcWrite(project, nSender, value); });
+    const QString strName = SenderProperties::Text(property.szName);
+    const auto funcChange = [&] {
+        simulator.Document().Change(
+            [&](SSimulatedProject& project) { property.funcWrite(project, nSender, value); });
+    };
+    // What is typed into a field is one step, however many letters it takes.
+    DoAsStep(tr("更改“%1”").arg(strName), funcChange, QStringLiteral("%1 %2").arg(nSender).arg(strName));
 }

@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
 #include "SenderModuleDialog/chart/ChartGroupPoints.h"
 #include "workbench/MainWindow.h"
+#include "workbench/ProjectHistory.h"
 #include "workbench/colour/ChartControls.h"
 #include "workbench/colour/ChartExport.h"
 #include "workbench/colour/ChartView.h"
@@ -84,6 +85,17 @@ void DrawRegion(CChartView& view, const QPolygonF& polygon)
     }
 }
 
+CProjectHistory& History(CColourPage& page)
+{
+    return qobject_cast<CMainWindow*>(page.window())->History();
+}
+
+void UndoAll(CColourPage& page)
+{
+    while (History(page).Steps().canUndo())
+        History(page).Undo();
+}
+
 void TourOfModes(CTour& tour, CColourPage& page)
 {
     CChartView& view = page.View();
@@ -99,8 +111,7 @@ void TourOfModes(CTour& tour, CColourPage& page)
     for (int i = 0; i < model.columnCount(); ++i)
         model.setData(model.index(CGroupModel::enMode, i), QStringLiteral("CMY"), Qt::EditRole);
     tour.Picture(&view, QStringLiteral("chart-cmy"));
-    while (view.Editor().Steps().canUndo())
-        view.Editor().Undo();
+    UndoAll(page);
     tour.Check(ColourGroups::Coverage(view.Chart()).has_value(),
                QStringLiteral("undoing everything did not bring the coverage back"));
 }
@@ -141,8 +152,8 @@ void TourOfRegion(CTour& tour, CColourPage& page)
     tour.Picture(&view, QStringLiteral("chart-region"));
     const SChromaGroupInfo* pGroup = view.Chart().GetChromaGroupByIndex(enScreenColorSpace);
     tour.Check(view.Region().Allows(pGroup->ptGreen), QStringLiteral("a drag left the region"));
-    page.Controls().ClearRegion();
-    view.Editor().Undo();
+    UndoAll(page);
+    tour.Check(!view.Region().IsRegion(), QStringLiteral("undo did not take the region back"));
 }
 
 void TourOfDrag(CTour& tour, CColourPage& page)
@@ -159,7 +170,7 @@ void TourOfDrag(CTour& tour, CColourPage& page)
     const SChromaGroupInfo* pGroup = view.Chart().GetChromaGroupByIndex(enScreenColorSpace);
     tour.Check(ColourGroups::PointText(pGroup->ptGreen) != ColourGroups::PointText(screen.ptGreen),
                QStringLiteral("the drag moved nothing"));
-    view.Editor().Undo();
+    History(page).Undo();
     tour.Check(ColourGroups::PointText(pGroup->ptGreen) == ColourGroups::PointText(screen.ptGreen),
                QStringLiteral("undo did not take the drag back in one step"));
 }
@@ -180,7 +191,7 @@ void TourOfKeys(CTour& tour, CColourPage& page)
     tour.Picture(&page, QStringLiteral("chart-keys"));
     tour.Check(pGroup->ptGreen.x > ptBefore.x, QStringLiteral("an arrow did not move the focused point"));
     keys.Select({enScreenColorSpace, enGreenPoint});
-    page.View().Editor().Undo();
+    History(page).Undo();
 }
 
 void TourOfReadings(CTour& tour, CColourPage& page)

@@ -2,20 +2,26 @@
 #define TESTS_WORKBENCH_COLOUR_SHOWNCOLOURPAGE_H
 
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "workbench/ProjectHistory.h"
 #include "workbench/colour/ChartControls.h"
 #include "workbench/colour/ChartView.h"
 #include "workbench/colour/ColourPage.h"
 #include "workbench/colour/RegionOverlay.h"
 
+#include <QAction>
 #include <QtTest>
 
-/// The page as it starts: the output and the screen colour space, the latter to be dragged.
+/// The page as it starts: the output and the screen colour space, the latter to be dragged. Beside it the
+/// history of the project.
 struct SShownColourPage
 {
     CColourPage page;
+    CProjectHistory history;
 
     SShownColourPage()
     {
+        history.Follow(page);
+        page.addActions({history.UndoAction(), history.RedoAction()});
         page.resize(1000, 640);
         page.show();
         QCoreApplication::processEvents();
@@ -24,7 +30,7 @@ struct SShownColourPage
 
     CChartView& View() { return page.View(); }
     CChromaticityDlgWnd& Chart() { return page.View().Chart(); }
-    QUndoStack& Steps() { return page.View().Editor().Steps(); }
+    const QUndoStack& Steps() const { return history.Steps(); }
     SChromaGroupInfo& Screen() { return *Chart().GetChromaGroupByIndex(enScreenColorSpace); }
 
     void Move(CPointEx<float> pt) { QTest::mouseMove(&Chart(), View().PixelOf(pt)); }

@@ -111,9 +111,9 @@ void TestColourPage::ADragIsOneStep()
     const QString strAfter = Text(shown.Screen().ptGreen);
     QVERIFY(strAfter != Text(ptBefore));
     QCOMPARE(shown.Steps().count(), 1);
-    shown.View().Editor().Undo();
+    shown.history.Undo();
     QCOMPARE(Text(shown.Screen().ptGreen), Text(ptBefore));
-    shown.View().Editor().Redo();
+    shown.history.Redo();
     QCOMPARE(Text(shown.Screen().ptGreen), strAfter);
 }
 
@@ -145,7 +145,7 @@ void TestColourPage::NoStepIsTakenInTheMiddleOfADrag()
     shown.Drag(shown.Screen().ptGreen, {0.30F, 0.60F});
     shown.Press(shown.Screen().ptGreen);
     shown.Pull({0.32F, 0.58F});
-    shown.View().Editor().Undo();
+    shown.history.Undo();
     QCOMPARE(shown.Steps().index(), 1);
     shown.Release({0.32F, 0.58F});
     QCOMPARE(shown.Steps().index(), 2);
@@ -233,7 +233,7 @@ void TestColourPage::APresetTakesThePointsAndCanBeUndone()
     shown.page.Groups().ApplyStandard(enColorStandard(nStandard));
     shown.page.grab();
     QCOMPARE(shown.Chart().m_nStandard, nStandard);
-    shown.View().Editor().Undo();
+    shown.history.Undo();
     shown.page.grab();
     QCOMPARE(shown.Chart().m_nStandard, int(enStandardRec2020));
 }
@@ -258,7 +258,7 @@ void TestColourPage::RemovingOneSpaceRemovesBoth()
     shown.page.Groups().RemoveSelected();
     shown.page.grab();
     QVERIFY(shown.Chart().m_mapGroups.isEmpty());
-    shown.View().Editor().Undo();
+    shown.history.Undo();
     QCOMPARE(shown.Chart().m_mapGroups.size(), 2);
 }
 

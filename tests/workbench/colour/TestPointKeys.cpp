@@ -120,7 +120,7 @@ void TestPointKeys::ABurstIsOneStep()
     shown.Press(Qt::Key_Escape);
     QCOMPARE(shown.Steps().count(), 1);
     QCOMPARE(Text(shown.Screen().ptGreen), QStringLiteral("0.2700, 0.6890"));
-    shown.View().Editor().Undo();
+    shown.history.Undo();
     QCOMPARE(Text(shown.Screen().ptGreen), QStringLiteral("0.2650, 0.6900"));
 }
 

@@ -71,7 +71,7 @@ void TestProjectColours::UndoTakesTheChangeBack()
 {
     SShownColourPage shown;
     shown.Drag(shown.Screen().ptGreen, {0.3F, 0.6F});
-    shown.View().Editor().Undo();
+    shown.history.Undo();
     QVERIFY(!Document().IsModified());
 }
 

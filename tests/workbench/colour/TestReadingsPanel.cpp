@@ -130,7 +130,7 @@ void TestReadingsPanel::ItFollowsUndo()
     const QString strBefore = Red();
     shown.page.Groups().ApplyStandard(enStandardSRGB);
     QVERIFY(Red() != strBefore);
-    shown.View().Editor().Undo();
+    shown.history.Undo();
     QCOMPARE(Red(), strBefore);
 }
 
