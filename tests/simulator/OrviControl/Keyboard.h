@@ -1,5 +1,5 @@
-#ifndef TESTS_SIMULATOR_KIT_KEYBOARD_H
-#define TESTS_SIMULATOR_KIT_KEYBOARD_H
+#ifndef TESTS_SIMULATOR_ORVICONTROL_KEYBOARD_H
+#define TESTS_SIMULATOR_ORVICONTROL_KEYBOARD_H
 
 #include <QApplication>
 #include <QtTest>
@@ -20,4 +20,4 @@ inline void Type(const QString& strText)
 
 } // namespace Keyboard
 
-#endif // TESTS_SIMULATOR_KIT_KEYBOARD_H
+#endif // TESTS_SIMULATOR_ORVICONTROL_KEYBOARD_H

@@ -1,7 +1,7 @@
 #include "host/OrviControl/CustomMessageBox.h"
 
 #include "host/OrviControl/CustomDialog.h"
-#include "tests/simulator/kit/Keyboard.h"
+#include "tests/simulator/OrviControl/Keyboard.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -1,5 +1,5 @@
 #include "host/OrviControl/CustomIPEdit.h"
-#include "tests/simulator/kit/Keyboard.h"
+#include "tests/simulator/OrviControl/Keyboard.h"
 
 #include <QClipboard>
 #include <QDialog>
