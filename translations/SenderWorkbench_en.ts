@@ -392,222 +392,10 @@
     </message>
 </context>
 <context>
-    <name>CEdidFieldText</name>
+    <name>CEdidDocument</name>
     <message>
-        <source>%1 像素</source>
-        <translation>%1 pixels</translation>
-    </message>
-    <message>
-        <source>%1 行</source>
-        <translation>%1 lines</translation>
-    </message>
-    <message>
-        <source>正确</source>
-        <translation>correct</translation>
-    </message>
-    <message>
-        <source>错误</source>
-        <translation>wrong</translation>
-    </message>
-    <message>
-        <source>%1 %2 %3（不是字母）</source>
-        <translation>%1 %2 %3 (not letters)</translation>
-    </message>
-    <message>
-        <source>%1 年</source>
-        <translation>%1</translation>
-    </message>
-    <message>
-        <source>%1 年第 %2 周</source>
-        <translation>%1, week %2</translation>
-    </message>
-    <message>
-        <source>数字</source>
-        <translation>digital</translation>
-    </message>
-    <message>
-        <source>模拟</source>
-        <translation>analogue</translation>
-    </message>
-    <message>
-        <source>未知</source>
-        <translation>unknown</translation>
-    </message>
-    <message>
-        <source>第一个详细时序为首选</source>
-        <translation>preferred timing is the first detailed one</translation>
-    </message>
-    <message>
-        <source>没有首选时序</source>
-        <translation>no preferred timing</translation>
-    </message>
-    <message>
-        <source>无</source>
-        <translation>none</translation>
-    </message>
-    <message>
-        <source>水平 %1，垂直 %2</source>
-        <translation>horizontal %1, vertical %2</translation>
-    </message>
-    <message>
-        <source>产品</source>
-        <translation>Product</translation>
-    </message>
-    <message>
-        <source>显示</source>
-        <translation>Display</translation>
-    </message>
-    <message>
-        <source>色度</source>
-        <translation>Chromaticities</translation>
-    </message>
-    <message>
-        <source>时序</source>
-        <translation>Timings</translation>
-    </message>
-    <message>
-        <source>详细时序</source>
-        <translation>Detailed timing</translation>
-    </message>
-    <message>
-        <source>描述符</source>
-        <translation>Descriptors</translation>
-    </message>
-    <message>
-        <source>结尾</source>
-        <translation>End</translation>
-    </message>
-    <message>
-        <source>标头</source>
-        <translation>Header</translation>
-    </message>
-    <message>
-        <source>制造商</source>
-        <translation>Manufacturer</translation>
-    </message>
-    <message>
-        <source>产品代码</source>
-        <translation>Product code</translation>
-    </message>
-    <message>
-        <source>序列号</source>
-        <translation>Serial number</translation>
-    </message>
-    <message>
-        <source>制造时间</source>
-        <translation>Date of manufacture</translation>
-    </message>
-    <message>
-        <source>EDID 版本</source>
-        <translation>EDID version</translation>
-    </message>
-    <message>
-        <source>输入</source>
-        <translation>Input</translation>
-    </message>
-    <message>
-        <source>物理尺寸</source>
-        <translation>Physical size</translation>
-    </message>
-    <message>
-        <source>伽马</source>
-        <translation>Gamma</translation>
-    </message>
-    <message>
-        <source>特性</source>
-        <translation>Features</translation>
-    </message>
-    <message>
-        <source>红</source>
-        <translation>Red</translation>
-    </message>
-    <message>
-        <source>绿</source>
-        <translation>Green</translation>
-    </message>
-    <message>
-        <source>蓝</source>
-        <translation>Blue</translation>
-    </message>
-    <message>
-        <source>白</source>
-        <translation>White</translation>
-    </message>
-    <message>
-        <source>既定时序</source>
-        <translation>Established timings</translation>
-    </message>
-    <message>
-        <source>标准时序</source>
-        <translation>Standard timings</translation>
-    </message>
-    <message>
-        <source>像素时钟</source>
-        <translation>Pixel clock</translation>
-    </message>
-    <message>
-        <source>宽</source>
-        <translation>Width</translation>
-    </message>
-    <message>
-        <source>水平消隐</source>
-        <translation>Horizontal blanking</translation>
-    </message>
-    <message>
-        <source>高</source>
-        <translation>Height</translation>
-    </message>
-    <message>
-        <source>垂直消隐</source>
-        <translation>Vertical blanking</translation>
-    </message>
-    <message>
-        <source>水平前肩</source>
-        <translation>Horizontal front porch</translation>
-    </message>
-    <message>
-        <source>水平同步</source>
-        <translation>Horizontal sync</translation>
-    </message>
-    <message>
-        <source>垂直前肩</source>
-        <translation>Vertical front porch</translation>
-    </message>
-    <message>
-        <source>垂直同步</source>
-        <translation>Vertical sync</translation>
-    </message>
-    <message>
-        <source>同步极性</source>
-        <translation>Sync polarity</translation>
-    </message>
-    <message>
-        <source>序列文本</source>
-        <translation>Serial text</translation>
-    </message>
-    <message>
-        <source>显示器名称</source>
-        <translation>Display name</translation>
-    </message>
-    <message>
-        <source>垂直频率</source>
-        <translation>Vertical rates</translation>
-    </message>
-    <message>
-        <source>水平频率</source>
-        <translation>Horizontal rates</translation>
-    </message>
-    <message>
-        <source>最大像素时钟</source>
-        <translation>Maximum pixel clock</translation>
-    </message>
-    <message>
-        <source>扩展块</source>
-        <translation>Extensions</translation>
-    </message>
-    <message>
-        <source>校验和</source>
-        <translation>Checksum</translation>
+        <source>全部修复</source>
+        <translation>Fix all</translation>
     </message>
 </context>
 <context>
@@ -635,14 +423,6 @@
     <message>
         <source>保存块...</source>
         <translation>Save block...</translation>
-    </message>
-    <message>
-        <source>字段</source>
-        <translation>Field</translation>
-    </message>
-    <message>
-        <source>值</source>
-        <translation>Value</translation>
     </message>
     <message>
         <source>EDID 字节</source>
@@ -691,6 +471,1769 @@
     <message>
         <source>设置 EDID</source>
         <translation>Set EDID</translation>
+    </message>
+    <message>
+        <source>%1 的 EDID 存储器</source>
+        <translation>the EDID memory of %1</translation>
+    </message>
+    <message>
+        <source>文件 %1</source>
+        <translation>file %1</translation>
+    </message>
+    <message>
+        <source>粘贴的文本</source>
+        <translation>pasted text</translation>
+    </message>
+    <message>
+        <source>粘贴的文本，%1</source>
+        <translation>pasted text, %1</translation>
+    </message>
+    <message>
+        <source>为 %1 构建的块</source>
+        <translation>the block built for %1</translation>
+    </message>
+    <message>
+        <source>%1（已修改）</source>
+        <translation>%1 (changed)</translation>
+    </message>
+    <message>
+        <source>%1，%2 个块</source>
+        <translation>%1, %2 blocks</translation>
+    </message>
+    <message>
+        <source>打开...</source>
+        <translation>Open...</translation>
+    </message>
+    <message>
+        <source>打开 EDID 文件；也可以把文件拖到这里</source>
+        <translation>Open an EDID file; it can be dropped here too</translation>
+    </message>
+    <message>
+        <source>粘贴</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>粘贴十六进制文本、xxd、C 数组、JSON 或 xrandr 的输出</source>
+        <translation>Paste hexadecimal text, xxd, a C array, JSON or the output of xrandr</translation>
+    </message>
+    <message>
+        <source>发送器的存储器</source>
+        <translation>Sender&apos;s memory</translation>
+    </message>
+    <message>
+        <source>显示所选输入的 EDID 存储器</source>
+        <translation>Show the EDID memory of the selected input</translation>
+    </message>
+    <message>
+        <source>构建块</source>
+        <translation>Build the block</translation>
+    </message>
+    <message>
+        <source>与文件比较...</source>
+        <translation>Compare with a file...</translation>
+    </message>
+    <message>
+        <source>与剪贴板中的文本比较</source>
+        <translation>Compare with the text of the clipboard</translation>
+    </message>
+    <message>
+        <source>与发送器的存储器比较</source>
+        <translation>Compare with the sender&apos;s memory</translation>
+    </message>
+    <message>
+        <source>结束比较</source>
+        <translation>End the comparison</translation>
+    </message>
+    <message>
+        <source>下一处不同</source>
+        <translation>Next difference</translation>
+    </message>
+    <message>
+        <source>显示下一个不同的字段</source>
+        <translation>Show the next field that is different</translation>
+    </message>
+    <message>
+        <source>上一处不同</source>
+        <translation>Previous difference</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>撤销对块的更改 (Ctrl+Z)</source>
+        <translation>Undo the change of the block (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>重做对块的更改 (Ctrl+Shift+Z)</source>
+        <translation>Redo the change of the block (Ctrl+Shift+Z)</translation>
+    </message>
+    <message>
+        <source>全部修复</source>
+        <translation>Fix all</translation>
+    </message>
+    <message>
+        <source>更正标头、扩展块数目和校验和</source>
+        <translation>Correct header, extension count and checksums</translation>
+    </message>
+    <message>
+        <source>保存为二进制、十六进制文本、C 数组或 JSON</source>
+        <translation>Save as binary, hexadecimal text, C array or JSON</translation>
+    </message>
+    <message>
+        <source>写入存储器</source>
+        <translation>Write into memory</translation>
+    </message>
+    <message>
+        <source>写入所选输入的 EDID 存储器</source>
+        <translation>Write into the EDID memory of the selected input</translation>
+    </message>
+    <message>
+        <source>比较</source>
+        <translation>Compare</translation>
+    </message>
+    <message>
+        <source>EDID 字段</source>
+        <translation>EDID fields</translation>
+    </message>
+    <message>
+        <source>另一个 EDID 的字节</source>
+        <translation>Bytes of the other EDID</translation>
+    </message>
+    <message>
+        <source>构建 %1 的块</source>
+        <translation>Build the block of %1</translation>
+    </message>
+    <message>
+        <source>块不能如实保存这个模式：%1。</source>
+        <translation>The block cannot hold this mode as it is: %1.</translation>
+    </message>
+    <message>
+        <source>；</source>
+        <translation>; </translation>
+    </message>
+    <message>
+        <source>请在左边选择一个输入，或者打开、拖入、粘贴一个 EDID。</source>
+        <translation>Select an input on the left, or open, drop or paste an EDID.</translation>
+    </message>
+    <message>
+        <source>%1 的 EDID 存储器是空的：还没有向它写入过模式。
+用“编辑 EDID...”写入一个，或者在这里构建块，然后写入存储器。</source>
+        <translation>The EDID memory of %1 is empty: no mode was written to it yet.
+Write one with &quot;Edit EDID...&quot;, or build the block here and write it into memory.</translation>
+    </message>
+    <message>
+        <source>显示：%1</source>
+        <translation>Shown: %1</translation>
+    </message>
+    <message>
+        <source>比较：%1，%2 个字段不同</source>
+        <translation>Compared with: %1, %2 fields differ</translation>
+    </message>
+    <message>
+        <source>选择显示器</source>
+        <translation>Choose a display</translation>
+    </message>
+    <message>
+        <source>这里有几个 EDID：</source>
+        <translation>There are several EDIDs:</translation>
+    </message>
+    <message>
+        <source>两个 EDID 相同。</source>
+        <translation>Both EDIDs are the same.</translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>打开 EDID</source>
+        <translation>Open an EDID</translation>
+    </message>
+    <message>
+        <source>EDID (*.bin *.edid *.hex *.txt *.c *.h *.json);;所有文件 (*)</source>
+        <translation>EDID (*.bin *.edid *.hex *.txt *.c *.h *.json);;All files (*)</translation>
+    </message>
+    <message>
+        <source>与文件比较</source>
+        <translation>Compare with a file</translation>
+    </message>
+    <message>
+        <source>没有不同的字段。</source>
+        <translation>No field is different.</translation>
+    </message>
+    <message>
+        <source>标头、扩展块数目和校验和本来就正确。</source>
+        <translation>Header, extension count and checksums were right.</translation>
+    </message>
+    <message>
+        <source>更正了 %1 个字节。</source>
+        <translation>Corrected %1 bytes.</translation>
+    </message>
+    <message>
+        <source>还有 %1 个问题，处理方法见下表。</source>
+        <translation> %1 findings are left; what to do is in the list below.</translation>
+    </message>
+    <message>
+        <source>输入的 EDID 存储器容纳一个 128 字节的块，这里有 %1 个。只写入基本块吗？扩展块数目将为 0。</source>
+        <translation>The EDID memory of an input holds one block of 128 bytes, and here are %1. Write the base block alone? Its extension count becomes 0.</translation>
+    </message>
+    <message>
+        <source>写入 EDID 存储器</source>
+        <translation>Write into the EDID memory</translation>
+    </message>
+    <message>
+        <source>无法写入 %1 的 EDID 存储器。请重新选择输入。</source>
+        <translation>The EDID memory of %1 cannot be written. Select the input again.</translation>
+    </message>
+    <message>
+        <source>拖入</source>
+        <translation>Drop</translation>
+    </message>
+</context>
+<context>
+    <name>CEdidSources</name>
+    <message>
+        <source>%1 不是文件。请选择一个 EDID 文件。</source>
+        <translation>%1 is no file. Choose an EDID file.</translation>
+    </message>
+    <message>
+        <source>无法打开 %1：%2。请检查权限。</source>
+        <translation>%1 cannot be opened: %2. Check its permissions.</translation>
+    </message>
+    <message>
+        <source>无法读取 %1：%2。</source>
+        <translation>%1 cannot be read: %2.</translation>
+    </message>
+    <message>
+        <source>剪贴板中没有文本。请先复制 EDID 的十六进制文本。</source>
+        <translation>The clipboard holds no text. Copy the hexadecimal text of an EDID first.</translation>
+    </message>
+    <message>
+        <source>文本不是 EDID：%1。</source>
+        <translation>The text is no EDID: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>CEdidWords</name>
+    <message>
+        <source>标头</source>
+        <translation>Header</translation>
+    </message>
+    <message>
+        <source>厂商</source>
+        <translation>Maker</translation>
+    </message>
+    <message>
+        <source>产品代码</source>
+        <translation>Product code</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Serial number</translation>
+    </message>
+    <message>
+        <source>周</source>
+        <translation>Week</translation>
+    </message>
+    <message>
+        <source>制造年份</source>
+        <translation>Year of manufacture</translation>
+    </message>
+    <message>
+        <source>型号年份</source>
+        <translation>Model year</translation>
+    </message>
+    <message>
+        <source>版本</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>修订</source>
+        <translation>Revision</translation>
+    </message>
+    <message>
+        <source>数字输入</source>
+        <translation>Digital input</translation>
+    </message>
+    <message>
+        <source>信号电平</source>
+        <translation>Signal levels</translation>
+    </message>
+    <message>
+        <source>消隐到黑的台阶</source>
+        <translation>Blank-to-black setup</translation>
+    </message>
+    <message>
+        <source>分离同步</source>
+        <translation>Separate sync</translation>
+    </message>
+    <message>
+        <source>复合同步</source>
+        <translation>Composite sync</translation>
+    </message>
+    <message>
+        <source>绿色带同步</source>
+        <translation>Sync on green</translation>
+    </message>
+    <message>
+        <source>垂直同步带锯齿</source>
+        <translation>Serration on vertical sync</translation>
+    </message>
+    <message>
+        <source>兼容 DFP 1.x</source>
+        <translation>DFP 1.x compatible</translation>
+    </message>
+    <message>
+        <source>每基色位数</source>
+        <translation>Bits per primary</translation>
+    </message>
+    <message>
+        <source>接口</source>
+        <translation>Interface</translation>
+    </message>
+    <message>
+        <source>宽度</source>
+        <translation>Width</translation>
+    </message>
+    <message>
+        <source>高度</source>
+        <translation>Height</translation>
+    </message>
+    <message>
+        <source>宽高比（横向）</source>
+        <translation>Aspect ratio, landscape</translation>
+    </message>
+    <message>
+        <source>宽高比（纵向）</source>
+        <translation>Aspect ratio, portrait</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>待机</source>
+        <translation>Stand-by</translation>
+    </message>
+    <message>
+        <source>挂起</source>
+        <translation>Suspend</translation>
+    </message>
+    <message>
+        <source>主动关闭</source>
+        <translation>Active off</translation>
+    </message>
+    <message>
+        <source>显示类型</source>
+        <translation>Display type</translation>
+    </message>
+    <message>
+        <source>色彩编码</source>
+        <translation>Colour encodings</translation>
+    </message>
+    <message>
+        <source>sRGB 是默认色彩空间</source>
+        <translation>sRGB is the default colour space</translation>
+    </message>
+    <message>
+        <source>第一个详细时序为首选</source>
+        <translation>First detailed timing is preferred</translation>
+    </message>
+    <message>
+        <source>首选时序是原生格式和帧率</source>
+        <translation>Preferred timing has the native format and rate</translation>
+    </message>
+    <message>
+        <source>支持 GTF</source>
+        <translation>Supports GTF</translation>
+    </message>
+    <message>
+        <source>连续频率</source>
+        <translation>Continuous frequency</translation>
+    </message>
+    <message>
+        <source>红 x</source>
+        <translation>Red x</translation>
+    </message>
+    <message>
+        <source>红 y</source>
+        <translation>Red y</translation>
+    </message>
+    <message>
+        <source>绿 x</source>
+        <translation>Green x</translation>
+    </message>
+    <message>
+        <source>绿 y</source>
+        <translation>Green y</translation>
+    </message>
+    <message>
+        <source>蓝 x</source>
+        <translation>Blue x</translation>
+    </message>
+    <message>
+        <source>蓝 y</source>
+        <translation>Blue y</translation>
+    </message>
+    <message>
+        <source>白 x</source>
+        <translation>White x</translation>
+    </message>
+    <message>
+        <source>白 y</source>
+        <translation>White y</translation>
+    </message>
+    <message>
+        <source>扩展块</source>
+        <translation>Extension blocks</translation>
+    </message>
+    <message>
+        <source>校验和</source>
+        <translation>Checksum</translation>
+    </message>
+    <message>
+        <source>像素时钟</source>
+        <translation>Pixel clock</translation>
+    </message>
+    <message>
+        <source>水平有效</source>
+        <translation>Horizontal active</translation>
+    </message>
+    <message>
+        <source>水平消隐</source>
+        <translation>Horizontal blanking</translation>
+    </message>
+    <message>
+        <source>垂直有效</source>
+        <translation>Vertical active</translation>
+    </message>
+    <message>
+        <source>垂直消隐</source>
+        <translation>Vertical blanking</translation>
+    </message>
+    <message>
+        <source>水平前肩</source>
+        <translation>Horizontal front porch</translation>
+    </message>
+    <message>
+        <source>水平同步</source>
+        <translation>Horizontal sync</translation>
+    </message>
+    <message>
+        <source>垂直前肩</source>
+        <translation>Vertical front porch</translation>
+    </message>
+    <message>
+        <source>垂直同步</source>
+        <translation>Vertical sync</translation>
+    </message>
+    <message>
+        <source>图像宽度</source>
+        <translation>Image width</translation>
+    </message>
+    <message>
+        <source>图像高度</source>
+        <translation>Image height</translation>
+    </message>
+    <message>
+        <source>水平边框</source>
+        <translation>Horizontal border</translation>
+    </message>
+    <message>
+        <source>垂直边框</source>
+        <translation>Vertical border</translation>
+    </message>
+    <message>
+        <source>隔行</source>
+        <translation>Interlaced</translation>
+    </message>
+    <message>
+        <source>立体</source>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <source>同步</source>
+        <translation>Sync</translation>
+    </message>
+    <message>
+        <source>垂直同步为正</source>
+        <translation>Vertical sync positive</translation>
+    </message>
+    <message>
+        <source>锯齿</source>
+        <translation>Serrations</translation>
+    </message>
+    <message>
+        <source>水平同步为正</source>
+        <translation>Horizontal sync positive</translation>
+    </message>
+    <message>
+        <source>三条线都带同步</source>
+        <translation>Sync on all three lines</translation>
+    </message>
+    <message>
+        <source>垂直频率的偏移</source>
+        <translation>Vertical offsets</translation>
+    </message>
+    <message>
+        <source>水平频率的偏移</source>
+        <translation>Horizontal offsets</translation>
+    </message>
+    <message>
+        <source>最低垂直频率</source>
+        <translation>Lowest vertical rate</translation>
+    </message>
+    <message>
+        <source>最高垂直频率</source>
+        <translation>Highest vertical rate</translation>
+    </message>
+    <message>
+        <source>最低水平频率</source>
+        <translation>Lowest horizontal rate</translation>
+    </message>
+    <message>
+        <source>最高水平频率</source>
+        <translation>Highest horizontal rate</translation>
+    </message>
+    <message>
+        <source>最高像素时钟</source>
+        <translation>Highest pixel clock</translation>
+    </message>
+    <message>
+        <source>公式</source>
+        <translation>Formula</translation>
+    </message>
+    <message>
+        <source>CVT 版本</source>
+        <translation>CVT version</translation>
+    </message>
+    <message>
+        <source>低于最高时钟的量</source>
+        <translation>Clock below the highest</translation>
+    </message>
+    <message>
+        <source>最长有效行</source>
+        <translation>Longest active line</translation>
+    </message>
+    <message>
+        <source>宽高比 4:3</source>
+        <translation>Aspect 4:3</translation>
+    </message>
+    <message>
+        <source>宽高比 16:9</source>
+        <translation>Aspect 16:9</translation>
+    </message>
+    <message>
+        <source>宽高比 16:10</source>
+        <translation>Aspect 16:10</translation>
+    </message>
+    <message>
+        <source>宽高比 5:4</source>
+        <translation>Aspect 5:4</translation>
+    </message>
+    <message>
+        <source>宽高比 15:9</source>
+        <translation>Aspect 15:9</translation>
+    </message>
+    <message>
+        <source>首选宽高比</source>
+        <translation>Preferred aspect</translation>
+    </message>
+    <message>
+        <source>缩减消隐</source>
+        <translation>Reduced blanking</translation>
+    </message>
+    <message>
+        <source>标准消隐</source>
+        <translation>Standard blanking</translation>
+    </message>
+    <message>
+        <source>水平缩小</source>
+        <translation>Horizontal shrink</translation>
+    </message>
+    <message>
+        <source>水平拉伸</source>
+        <translation>Horizontal stretch</translation>
+    </message>
+    <message>
+        <source>垂直缩小</source>
+        <translation>Vertical shrink</translation>
+    </message>
+    <message>
+        <source>垂直拉伸</source>
+        <translation>Vertical stretch</translation>
+    </message>
+    <message>
+        <source>首选垂直频率</source>
+        <translation>Preferred vertical rate</translation>
+    </message>
+    <message>
+        <source>第二曲线的起点</source>
+        <translation>Secondary curve starts at</translation>
+    </message>
+    <message>
+        <source>填充</source>
+        <translation>Padding</translation>
+    </message>
+    <message>
+        <source>序号</source>
+        <translation>Index</translation>
+    </message>
+    <message>
+        <source>红 a3</source>
+        <translation>Red a3</translation>
+    </message>
+    <message>
+        <source>红 a2</source>
+        <translation>Red a2</translation>
+    </message>
+    <message>
+        <source>绿 a3</source>
+        <translation>Green a3</translation>
+    </message>
+    <message>
+        <source>绿 a2</source>
+        <translation>Green a2</translation>
+    </message>
+    <message>
+        <source>蓝 a3</source>
+        <translation>Blue a3</translation>
+    </message>
+    <message>
+        <source>蓝 a2</source>
+        <translation>Blue a2</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>文本</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>厂商和产品</source>
+        <translation>Vendor and product</translation>
+    </message>
+    <message>
+        <source>基本参数</source>
+        <translation>Basic parameters</translation>
+    </message>
+    <message>
+        <source>色度</source>
+        <translation>Chromaticity</translation>
+    </message>
+    <message>
+        <source>覆盖</source>
+        <translation>Covers</translation>
+    </message>
+    <message>
+        <source>白点色温</source>
+        <translation>Temperature of the white</translation>
+    </message>
+    <message>
+        <source>既定时序</source>
+        <translation>Established timings</translation>
+    </message>
+    <message>
+        <source>厂商自定时序</source>
+        <translation>Maker&apos;s own timings</translation>
+    </message>
+    <message>
+        <source>标准时序列表</source>
+        <translation>Standard timings</translation>
+    </message>
+    <message>
+        <source>标准时序</source>
+        <translation>Standard timing</translation>
+    </message>
+    <message>
+        <source>CVT 代码</source>
+        <translation>CVT code</translation>
+    </message>
+    <message>
+        <source>白点</source>
+        <translation>White point</translation>
+    </message>
+    <message>
+        <source>标记</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>时序</source>
+        <translation>Timing</translation>
+    </message>
+    <message>
+        <source>范围限制</source>
+        <translation>Range limits</translation>
+    </message>
+    <message>
+        <source>白点列表</source>
+        <translation>White points</translation>
+    </message>
+    <message>
+        <source>更多标准时序</source>
+        <translation>More standard timings</translation>
+    </message>
+    <message>
+        <source>色彩管理</source>
+        <translation>Colour management</translation>
+    </message>
+    <message>
+        <source>CVT 代码列表</source>
+        <translation>CVT codes</translation>
+    </message>
+    <message>
+        <source>既定时序 III</source>
+        <translation>Established timings III</translation>
+    </message>
+    <message>
+        <source>未使用的描述符</source>
+        <translation>Unused descriptor</translation>
+    </message>
+    <message>
+        <source>厂商自定描述符</source>
+        <translation>Maker&apos;s own descriptor</translation>
+    </message>
+    <message>
+        <source>未知描述符</source>
+        <translation>Unknown descriptor</translation>
+    </message>
+    <message>
+        <source>行频</source>
+        <translation>Line rate</translation>
+    </message>
+    <message>
+        <source>帧率</source>
+        <translation>Rate</translation>
+    </message>
+    <message>
+        <source>模式行</source>
+        <translation>Modeline</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>详细时序</source>
+        <translation>Detailed timing</translation>
+    </message>
+    <message>
+        <source>基本块</source>
+        <translation>Base block</translation>
+    </message>
+    <message>
+        <source>CTA-861 扩展</source>
+        <translation>CTA-861 extension</translation>
+    </message>
+    <message>
+        <source>DisplayID 扩展</source>
+        <translation>DisplayID extension</translation>
+    </message>
+    <message>
+        <source>块映射</source>
+        <translation>Block map</translation>
+    </message>
+    <message>
+        <source>视频时序扩展</source>
+        <translation>Video timing extension</translation>
+    </message>
+    <message>
+        <source>本地化文本扩展</source>
+        <translation>Localised text extension</translation>
+    </message>
+    <message>
+        <source>显示信息扩展</source>
+        <translation>Display information extension</translation>
+    </message>
+    <message>
+        <source>厂商自定扩展</source>
+        <translation>Maker&apos;s own extension</translation>
+    </message>
+    <message>
+        <source>未知扩展</source>
+        <translation>Unknown extension</translation>
+    </message>
+    <message>
+        <source>最后一个整块之后的字节</source>
+        <translation>Bytes after the last whole block</translation>
+    </message>
+    <message>
+        <source>详细时序开始的字节</source>
+        <translation>Detailed timings begin at byte</translation>
+    </message>
+    <message>
+        <source>IT 格式欠扫描</source>
+        <translation>Underscans IT formats</translation>
+    </message>
+    <message>
+        <source>基本音频</source>
+        <translation>Basic audio</translation>
+    </message>
+    <message>
+        <source>原生详细时序数</source>
+        <translation>Native detailed timings</translation>
+    </message>
+    <message>
+        <source>格式</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>扩展格式</source>
+        <translation>Extended format</translation>
+    </message>
+    <message>
+        <source>声道</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>24 位</source>
+        <translation>24 bit</translation>
+    </message>
+    <message>
+        <source>20 位</source>
+        <translation>20 bit</translation>
+    </message>
+    <message>
+        <source>16 位</source>
+        <translation>16 bit</translation>
+    </message>
+    <message>
+        <source>最高码率</source>
+        <translation>Highest bit rate</translation>
+    </message>
+    <message>
+        <source>格式自有的值</source>
+        <translation>Format&apos;s own value</translation>
+    </message>
+    <message>
+        <source>前左右宽</source>
+        <translation>Front left and right wide</translation>
+    </message>
+    <message>
+        <source>后中左右</source>
+        <translation>Rear left and right of centre</translation>
+    </message>
+    <message>
+        <source>前中左右</source>
+        <translation>Front left and right of centre</translation>
+    </message>
+    <message>
+        <source>后中</source>
+        <translation>Back centre</translation>
+    </message>
+    <message>
+        <source>后左右</source>
+        <translation>Back left and right</translation>
+    </message>
+    <message>
+        <source>前中</source>
+        <translation>Front centre</translation>
+    </message>
+    <message>
+        <source>低频效果</source>
+        <translation>Low frequency effects</translation>
+    </message>
+    <message>
+        <source>前左右</source>
+        <translation>Front left and right</translation>
+    </message>
+    <message>
+        <source>顶侧左右</source>
+        <translation>Top side left and right</translation>
+    </message>
+    <message>
+        <source>侧左右</source>
+        <translation>Side left and right</translation>
+    </message>
+    <message>
+        <source>顶后中</source>
+        <translation>Top back centre</translation>
+    </message>
+    <message>
+        <source>低频效果 2</source>
+        <translation>Low frequency effects 2</translation>
+    </message>
+    <message>
+        <source>左右环绕</source>
+        <translation>Left and right surround</translation>
+    </message>
+    <message>
+        <source>顶前中</source>
+        <translation>Top front centre</translation>
+    </message>
+    <message>
+        <source>顶中</source>
+        <translation>Top centre</translation>
+    </message>
+    <message>
+        <source>顶前左右</source>
+        <translation>Top front left and right</translation>
+    </message>
+    <message>
+        <source>顶左右环绕</source>
+        <translation>Top left and right surround</translation>
+    </message>
+    <message>
+        <source>底前左右</source>
+        <translation>Bottom front left and right</translation>
+    </message>
+    <message>
+        <source>底前中</source>
+        <translation>Bottom front centre</translation>
+    </message>
+    <message>
+        <source>顶后左右</source>
+        <translation>Top back left and right</translation>
+    </message>
+    <message>
+        <source>可选 YCC 量化</source>
+        <translation>Selectable YCC quantisation</translation>
+    </message>
+    <message>
+        <source>可选 RGB 量化</source>
+        <translation>Selectable RGB quantisation</translation>
+    </message>
+    <message>
+        <source>首选时序的扫描</source>
+        <translation>Preferred timing</translation>
+    </message>
+    <message>
+        <source>IT 格式</source>
+        <translation>IT formats</translation>
+    </message>
+    <message>
+        <source>CE 格式</source>
+        <translation>CE formats</translation>
+    </message>
+    <message>
+        <source>BT.2020 恒定亮度 YCC</source>
+        <translation>BT.2020 constant luminance YCC</translation>
+    </message>
+    <message>
+        <source>色域元数据配置</source>
+        <translation>Gamut metadata profiles</translation>
+    </message>
+    <message>
+        <source>混合对数伽马（HLG）</source>
+        <translation>Hybrid log-gamma</translation>
+    </message>
+    <message>
+        <source>传统伽马，HDR 范围</source>
+        <translation>Traditional gamma, HDR range</translation>
+    </message>
+    <message>
+        <source>传统伽马，SDR 范围</source>
+        <translation>Traditional gamma, SDR range</translation>
+    </message>
+    <message>
+        <source>静态元数据类型 1</source>
+        <translation>Static metadata type 1</translation>
+    </message>
+    <message>
+        <source>最高亮度代码</source>
+        <translation>Highest luminance code</translation>
+    </message>
+    <message>
+        <source>最高帧平均亮度代码</source>
+        <translation>Highest frame average luminance code</translation>
+    </message>
+    <message>
+        <source>最低亮度代码</source>
+        <translation>Lowest luminance code</translation>
+    </message>
+    <message>
+        <source>物理地址</source>
+        <translation>Physical address</translation>
+    </message>
+    <message>
+        <source>接受 ACP 和 ISRC 包</source>
+        <translation>Takes ACP and ISRC packets</translation>
+    </message>
+    <message>
+        <source>每像素 48 位</source>
+        <translation>48 bits per pixel</translation>
+    </message>
+    <message>
+        <source>每像素 36 位</source>
+        <translation>36 bits per pixel</translation>
+    </message>
+    <message>
+        <source>每像素 30 位</source>
+        <translation>30 bits per pixel</translation>
+    </message>
+    <message>
+        <source>YCbCr 4:4:4 深色</source>
+        <translation>Deep colour in YCbCr 4:4:4</translation>
+    </message>
+    <message>
+        <source>DVI 双链路</source>
+        <translation>DVI dual link</translation>
+    </message>
+    <message>
+        <source>最高 TMDS 时钟</source>
+        <translation>Highest TMDS clock</translation>
+    </message>
+    <message>
+        <source>给出延迟</source>
+        <translation>Latencies are told</translation>
+    </message>
+    <message>
+        <source>给出隔行延迟</source>
+        <translation>Interlaced latencies are told</translation>
+    </message>
+    <message>
+        <source>给出 HDMI 视频格式</source>
+        <translation>HDMI video formats are told</translation>
+    </message>
+    <message>
+        <source>内容类型：游戏</source>
+        <translation>Content type game</translation>
+    </message>
+    <message>
+        <source>内容类型：影院</source>
+        <translation>Content type cinema</translation>
+    </message>
+    <message>
+        <source>内容类型：照片</source>
+        <translation>Content type photo</translation>
+    </message>
+    <message>
+        <source>内容类型：图形</source>
+        <translation>Content type graphics</translation>
+    </message>
+    <message>
+        <source>最高 TMDS 字符率</source>
+        <translation>Highest TMDS character rate</translation>
+    </message>
+    <message>
+        <source>状态和控制数据通道（SCDC）</source>
+        <translation>Status and control data channel</translation>
+    </message>
+    <message>
+        <source>请求读取 SCDC</source>
+        <translation>Requests SCDC reads</translation>
+    </message>
+    <message>
+        <source>线缆状态</source>
+        <translation>Cable status</translation>
+    </message>
+    <message>
+        <source>每分量的内容位数</source>
+        <translation>Colour content bits per component</translation>
+    </message>
+    <message>
+        <source>340 MHz 及以下加扰</source>
+        <translation>Scrambling at 340 MHz and below</translation>
+    </message>
+    <message>
+        <source>3D 独立视图</source>
+        <translation>3D independent view</translation>
+    </message>
+    <message>
+        <source>3D 双视图</source>
+        <translation>3D dual view</translation>
+    </message>
+    <message>
+        <source>3D OSD 视差</source>
+        <translation>3D OSD disparity</translation>
+    </message>
+    <message>
+        <source>固定速率链路</source>
+        <translation>Fixed rate link</translation>
+    </message>
+    <message>
+        <source>UHD 视频代码</source>
+        <translation>UHD video codes</translation>
+    </message>
+    <message>
+        <source>YCbCr 4:2:0 48 位</source>
+        <translation>48 bits in YCbCr 4:2:0</translation>
+    </message>
+    <message>
+        <source>YCbCr 4:2:0 36 位</source>
+        <translation>36 bits in YCbCr 4:2:0</translation>
+    </message>
+    <message>
+        <source>YCbCr 4:2:0 30 位</source>
+        <translation>30 bits in YCbCr 4:2:0</translation>
+    </message>
+    <message>
+        <source>M 为负的 VRR</source>
+        <translation>Negative M VRR</translation>
+    </message>
+    <message>
+        <source>影院 VRR</source>
+        <translation>Cinema VRR</translation>
+    </message>
+    <message>
+        <source>负 MVRR</source>
+        <translation>Negative MVRR</translation>
+    </message>
+    <message>
+        <source>快速垂直有效（FVA）</source>
+        <translation>Fast vertical active</translation>
+    </message>
+    <message>
+        <source>自动低延迟模式</source>
+        <translation>Auto low-latency mode</translation>
+    </message>
+    <message>
+        <source>FAPA 在首行之后开始</source>
+        <translation>FAPA starts after first line</translation>
+    </message>
+    <message>
+        <source>最低可变帧率</source>
+        <translation>Lowest variable rate</translation>
+    </message>
+    <message>
+        <source>最高可变帧率</source>
+        <translation>Highest variable rate</translation>
+    </message>
+    <message>
+        <source>组织</source>
+        <translation>Organisation</translation>
+    </message>
+    <message>
+        <source>数据块</source>
+        <translation>Data block</translation>
+    </message>
+    <message>
+        <source>标记和长度</source>
+        <translation>Tag and length</translation>
+    </message>
+    <message>
+        <source>扩展标记</source>
+        <translation>Extended tag</translation>
+    </message>
+    <message>
+        <source>音频格式</source>
+        <translation>Audio format</translation>
+    </message>
+    <message>
+        <source>视频代码</source>
+        <translation>Video code</translation>
+    </message>
+    <message>
+        <source>首选</source>
+        <translation>Preferred</translation>
+    </message>
+    <message>
+        <source>HDMI 视频代码</source>
+        <translation>HDMI video code</translation>
+    </message>
+    <message>
+        <source>延迟代码</source>
+        <translation>Latency code</translation>
+    </message>
+    <message>
+        <source>3D 和图像尺寸</source>
+        <translation>3D and image size</translation>
+    </message>
+    <message>
+        <source>列表的长度</source>
+        <translation>Lengths of the lists</translation>
+    </message>
+    <message>
+        <source>数据块的字节数</source>
+        <translation>Bytes of data blocks</translation>
+    </message>
+    <message>
+        <source>产品类型</source>
+        <translation>Product type</translation>
+    </message>
+    <message>
+        <source>后续数据段</source>
+        <translation>Sections that follow</translation>
+    </message>
+    <message>
+        <source>长度</source>
+        <translation>Length</translation>
+    </message>
+    <message>
+        <source>宽高比</source>
+        <translation>Aspect ratio</translation>
+    </message>
+    <message>
+        <source>I 型时序</source>
+        <translation>Type I timing</translation>
+    </message>
+    <message>
+        <source>显示时序</source>
+        <translation>Display timing</translation>
+    </message>
+    <message>
+        <source>数据段的校验和</source>
+        <translation>Checksum of the section</translation>
+    </message>
+    <message>
+        <source>0.700 V，同步 -0.300 V</source>
+        <translation>0.700 V, sync -0.300 V</translation>
+    </message>
+    <message>
+        <source>0.714 V，同步 -0.286 V</source>
+        <translation>0.714 V, sync -0.286 V</translation>
+    </message>
+    <message>
+        <source>1.000 V，同步 -0.400 V</source>
+        <translation>1.000 V, sync -0.400 V</translation>
+    </message>
+    <message>
+        <source>0.700 V，同步 0 V</source>
+        <translation>0.700 V, sync 0 V</translation>
+    </message>
+    <message>
+        <source>未定义</source>
+        <translation>undefined</translation>
+    </message>
+    <message>
+        <source>单色</source>
+        <translation>monochrome</translation>
+    </message>
+    <message>
+        <source>RGB 彩色</source>
+        <translation>RGB colour</translation>
+    </message>
+    <message>
+        <source>非 RGB</source>
+        <translation>other than RGB</translation>
+    </message>
+    <message>
+        <source>RGB 4:4:4，YCbCr 4:4:4</source>
+        <translation>RGB 4:4:4, YCbCr 4:4:4</translation>
+    </message>
+    <message>
+        <source>RGB 4:4:4，YCbCr 4:2:2</source>
+        <translation>RGB 4:4:4, YCbCr 4:2:2</translation>
+    </message>
+    <message>
+        <source>RGB 4:4:4，YCbCr 4:4:4，YCbCr 4:2:2</source>
+        <translation>RGB 4:4:4, YCbCr 4:4:4, YCbCr 4:2:2</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>场序，同步时为右</source>
+        <translation>field sequential, right on sync</translation>
+    </message>
+    <message>
+        <source>双路交错，偶数行为右</source>
+        <translation>two-way interleaved, right on even lines</translation>
+    </message>
+    <message>
+        <source>场序，同步时为左</source>
+        <translation>field sequential, left on sync</translation>
+    </message>
+    <message>
+        <source>双路交错，偶数行为左</source>
+        <translation>two-way interleaved, left on even lines</translation>
+    </message>
+    <message>
+        <source>四路交错</source>
+        <translation>four-way interleaved</translation>
+    </message>
+    <message>
+        <source>并排</source>
+        <translation>side by side</translation>
+    </message>
+    <message>
+        <source>模拟复合</source>
+        <translation>analog composite</translation>
+    </message>
+    <message>
+        <source>双极模拟复合</source>
+        <translation>bipolar analog composite</translation>
+    </message>
+    <message>
+        <source>数字复合</source>
+        <translation>digital composite</translation>
+    </message>
+    <message>
+        <source>数字分离</source>
+        <translation>digital separate</translation>
+    </message>
+    <message>
+        <source>保留</source>
+        <translation>reserved</translation>
+    </message>
+    <message>
+        <source>最高值 +255</source>
+        <translation>maximum +255</translation>
+    </message>
+    <message>
+        <source>最高和最低值 +255</source>
+        <translation>maximum and minimum +255</translation>
+    </message>
+    <message>
+        <source>默认 GTF，或没有</source>
+        <translation>default GTF, or none</translation>
+    </message>
+    <message>
+        <source>只有范围限制</source>
+        <translation>range limits only</translation>
+    </message>
+    <message>
+        <source>第二 GTF 曲线</source>
+        <translation>secondary GTF</translation>
+    </message>
+    <message>
+        <source>线性 PCM</source>
+        <translation>Linear PCM</translation>
+    </message>
+    <message>
+        <source>扩展</source>
+        <translation>extended</translation>
+    </message>
+    <message>
+        <source>无数据</source>
+        <translation>no data</translation>
+    </message>
+    <message>
+        <source>总是过扫描</source>
+        <translation>always overscanned</translation>
+    </message>
+    <message>
+        <source>总是欠扫描</source>
+        <translation>always underscanned</translation>
+    </message>
+    <message>
+        <source>两者</source>
+        <translation>both</translation>
+    </message>
+    <message>
+        <source>3 通道 3 Gbit/s</source>
+        <translation>3 Gbit/s on 3 lanes</translation>
+    </message>
+    <message>
+        <source>3 通道 3 和 6 Gbit/s</source>
+        <translation>3 and 6 Gbit/s on 3 lanes</translation>
+    </message>
+    <message>
+        <source>4 通道最高 6 Gbit/s</source>
+        <translation>up to 6 Gbit/s on 4 lanes</translation>
+    </message>
+    <message>
+        <source>4 通道最高 8 Gbit/s</source>
+        <translation>up to 8 Gbit/s on 4 lanes</translation>
+    </message>
+    <message>
+        <source>4 通道最高 10 Gbit/s</source>
+        <translation>up to 10 Gbit/s on 4 lanes</translation>
+    </message>
+    <message>
+        <source>4 通道最高 12 Gbit/s</source>
+        <translation>up to 12 Gbit/s on 4 lanes</translation>
+    </message>
+    <message>
+        <source>保留的数据块</source>
+        <translation>Reserved data block</translation>
+    </message>
+    <message>
+        <source>音频数据块</source>
+        <translation>Audio data block</translation>
+    </message>
+    <message>
+        <source>视频数据块</source>
+        <translation>Video data block</translation>
+    </message>
+    <message>
+        <source>厂商数据块</source>
+        <translation>Vendor data block</translation>
+    </message>
+    <message>
+        <source>扬声器分配数据块</source>
+        <translation>Speaker allocation data block</translation>
+    </message>
+    <message>
+        <source>VESA 显示传输特性数据块</source>
+        <translation>VESA display transfer characteristics data block</translation>
+    </message>
+    <message>
+        <source>视频格式数据块</source>
+        <translation>Video format data block</translation>
+    </message>
+    <message>
+        <source>视频能力数据块</source>
+        <translation>Video capability data block</translation>
+    </message>
+    <message>
+        <source>厂商视频数据块</source>
+        <translation>Vendor video data block</translation>
+    </message>
+    <message>
+        <source>VESA 显示设备数据块</source>
+        <translation>VESA display device data block</translation>
+    </message>
+    <message>
+        <source>VESA 视频时序块扩展</source>
+        <translation>VESA video timing block extension</translation>
+    </message>
+    <message>
+        <source>HDMI 视频数据块</source>
+        <translation>HDMI video data block</translation>
+    </message>
+    <message>
+        <source>色度学数据块</source>
+        <translation>Colorimetry data block</translation>
+    </message>
+    <message>
+        <source>HDR 静态元数据块</source>
+        <translation>HDR static metadata data block</translation>
+    </message>
+    <message>
+        <source>HDR 动态元数据块</source>
+        <translation>HDR dynamic metadata data block</translation>
+    </message>
+    <message>
+        <source>原生视频分辨率数据块</source>
+        <translation>Native video resolution data block</translation>
+    </message>
+    <message>
+        <source>视频格式偏好数据块</source>
+        <translation>Video format preference data block</translation>
+    </message>
+    <message>
+        <source>YCbCr 4:2:0 视频数据块</source>
+        <translation>YCbCr 4:2:0 video data block</translation>
+    </message>
+    <message>
+        <source>YCbCr 4:2:0 能力映射数据块</source>
+        <translation>YCbCr 4:2:0 capability map data block</translation>
+    </message>
+    <message>
+        <source>其他音频数据块</source>
+        <translation>Miscellaneous audio data block</translation>
+    </message>
+    <message>
+        <source>厂商音频数据块</source>
+        <translation>Vendor audio data block</translation>
+    </message>
+    <message>
+        <source>HDMI 音频数据块</source>
+        <translation>HDMI audio data block</translation>
+    </message>
+    <message>
+        <source>房间配置数据块</source>
+        <translation>Room configuration data block</translation>
+    </message>
+    <message>
+        <source>扬声器位置数据块</source>
+        <translation>Speaker location data block</translation>
+    </message>
+    <message>
+        <source>InfoFrame 数据块</source>
+        <translation>InfoFrame data block</translation>
+    </message>
+    <message>
+        <source>DisplayID VII 型时序数据块</source>
+        <translation>DisplayID type VII timing data block</translation>
+    </message>
+    <message>
+        <source>DisplayID VIII 型时序数据块</source>
+        <translation>DisplayID type VIII timing data block</translation>
+    </message>
+    <message>
+        <source>DisplayID X 型时序数据块</source>
+        <translation>DisplayID type X timing data block</translation>
+    </message>
+    <message>
+        <source>HDMI Forum EDID 扩展覆盖数据块</source>
+        <translation>HDMI Forum EDID extension override data block</translation>
+    </message>
+    <message>
+        <source>HDMI Forum 接收端能力数据块</source>
+        <translation>HDMI Forum sink capability data block</translation>
+    </message>
+    <message>
+        <source>扩展数据块</source>
+        <translation>Extended data block</translation>
+    </message>
+    <message>
+        <source>另一数据段的扩展</source>
+        <translation>extension of another section</translation>
+    </message>
+    <message>
+        <source>测试结构</source>
+        <translation>test structure</translation>
+    </message>
+    <message>
+        <source>显示面板</source>
+        <translation>display panel</translation>
+    </message>
+    <message>
+        <source>独立显示设备</source>
+        <translation>standalone display device</translation>
+    </message>
+    <message>
+        <source>电视接收机</source>
+        <translation>television receiver</translation>
+    </message>
+    <message>
+        <source>中继器或转换器</source>
+        <translation>repeater or translator</translation>
+    </message>
+    <message>
+        <source>直接驱动显示器</source>
+        <translation>direct drive monitor</translation>
+    </message>
+    <message>
+        <source>单视</source>
+        <translation>mono</translation>
+    </message>
+    <message>
+        <source>立体显示</source>
+        <translation>stereo</translation>
+    </message>
+    <message>
+        <source>由操作者选择</source>
+        <translation>as the operator chooses</translation>
+    </message>
+    <message>
+        <source>产品标识</source>
+        <translation>Product identification</translation>
+    </message>
+    <message>
+        <source>显示参数</source>
+        <translation>Display parameters</translation>
+    </message>
+    <message>
+        <source>色彩特性</source>
+        <translation>Colour characteristics</translation>
+    </message>
+    <message>
+        <source>I 型时序，详细</source>
+        <translation>Type I timings, detailed</translation>
+    </message>
+    <message>
+        <source>II 型时序，详细</source>
+        <translation>Type II timings, detailed</translation>
+    </message>
+    <message>
+        <source>III 型时序，简短</source>
+        <translation>Type III timings, short</translation>
+    </message>
+    <message>
+        <source>IV 型时序，DMT 编号</source>
+        <translation>Type IV timings, DMT numbers</translation>
+    </message>
+    <message>
+        <source>VESA 时序标准</source>
+        <translation>VESA timing standard</translation>
+    </message>
+    <message>
+        <source>CTA 时序标准</source>
+        <translation>CTA timing standard</translation>
+    </message>
+    <message>
+        <source>视频时序范围限制</source>
+        <translation>Video timing range limits</translation>
+    </message>
+    <message>
+        <source>产品序列号</source>
+        <translation>Product serial number</translation>
+    </message>
+    <message>
+        <source>显示设备数据</source>
+        <translation>Display device data</translation>
+    </message>
+    <message>
+        <source>接口上电顺序</source>
+        <translation>Interface power sequencing</translation>
+    </message>
+    <message>
+        <source>传输特性</source>
+        <translation>Transfer characteristics</translation>
+    </message>
+    <message>
+        <source>显示接口</source>
+        <translation>Display interface</translation>
+    </message>
+    <message>
+        <source>立体显示接口</source>
+        <translation>Stereo display interface</translation>
+    </message>
+    <message>
+        <source>V 型时序，简短</source>
+        <translation>Type V timings, short</translation>
+    </message>
+    <message>
+        <source>拼接显示拓扑</source>
+        <translation>Tiled display topology</translation>
+    </message>
+    <message>
+        <source>VI 型时序，详细</source>
+        <translation>Type VI timings, detailed</translation>
+    </message>
+    <message>
+        <source>产品标识（2.0）</source>
+        <translation>Product identification (2.0)</translation>
+    </message>
+    <message>
+        <source>显示参数（2.0）</source>
+        <translation>Display parameters (2.0)</translation>
+    </message>
+    <message>
+        <source>VII 型时序，详细</source>
+        <translation>Type VII timings, detailed</translation>
+    </message>
+    <message>
+        <source>VIII 型时序，列举</source>
+        <translation>Type VIII timings, enumerated</translation>
+    </message>
+    <message>
+        <source>IX 型时序，公式</source>
+        <translation>Type IX timings, formula</translation>
+    </message>
+    <message>
+        <source>动态视频时序范围</source>
+        <translation>Dynamic video timing range</translation>
+    </message>
+    <message>
+        <source>显示接口特性</source>
+        <translation>Display interface features</translation>
+    </message>
+    <message>
+        <source>立体显示接口（2.0）</source>
+        <translation>Stereo display interface (2.0)</translation>
+    </message>
+    <message>
+        <source>拼接显示拓扑（2.0）</source>
+        <translation>Tiled display topology (2.0)</translation>
+    </message>
+    <message>
+        <source>容器 ID</source>
+        <translation>Container ID</translation>
+    </message>
+    <message>
+        <source>X 型时序，公式</source>
+        <translation>Type X timings, formula</translation>
+    </message>
+    <message>
+        <source>自适应同步</source>
+        <translation>Adaptive sync</translation>
+    </message>
+    <message>
+        <source>厂商数据（2.0）</source>
+        <translation>Vendor data (2.0)</translation>
+    </message>
+    <message>
+        <source>厂商数据</source>
+        <translation>Vendor data</translation>
+    </message>
+    <message>
+        <source>CTA DisplayID 数据</source>
+        <translation>CTA DisplayID data</translation>
+    </message>
+    <message>
+        <source>像素</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>lines</translation>
+    </message>
+    <message>
+        <source>个字节</source>
+        <translation>bytes</translation>
+    </message>
+    <message>
+        <source>错误，应为 </source>
+        <translation>wrong, should be </translation>
+    </message>
+    <message>
+        <source>正确</source>
+        <translation>right</translation>
+    </message>
+    <message>
+        <source>未给出</source>
+        <translation>not given</translation>
+    </message>
+    <message>
+        <source>表示型号年份</source>
+        <translation>model year</translation>
+    </message>
+    <message>
+        <source>在别处定义</source>
+        <translation>defined elsewhere</translation>
+    </message>
+    <message>
+        <source>未使用</source>
+        <translation>unused</translation>
+    </message>
+    <message>
+        <source>，未知</source>
+        <translation>, unknown</translation>
+    </message>
+    <message>
+        <source>，原生</source>
+        <translation>, native</translation>
+    </message>
+    <message>
+        <source>没有帧率</source>
+        <translation>no rate</translation>
+    </message>
+    <message>
+        <source> 首选</source>
+        <translation> preferred</translation>
+    </message>
+    <message>
+        <source> 缩减</source>
+        <translation> reduced</translation>
+    </message>
+    <message>
+        <source>不在 4000 到 25000 K 之间</source>
+        <translation>not from 4000 to 25000 K</translation>
+    </message>
+    <message>
+        <source> @ </source>
+        <translation> at </translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>保留 (%1)</source>
+        <translation>reserved (%1)</translation>
+    </message>
+    <message>
+        <source>描述符 %1：%2</source>
+        <translation>Descriptor %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CFieldModel</name>
+    <message>
+        <source>只在另一个中</source>
+        <translation>Only in the other</translation>
+    </message>
+    <message>
+        <source>没有</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>字段</source>
+        <translation>Field</translation>
+    </message>
+    <message>
+        <source>值</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>另一个的值</source>
+        <translation>Value in the other</translation>
     </message>
 </context>
 <context>
@@ -1400,6 +2943,10 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
     <message>
         <source>按键</source>
         <translation>Keys</translation>
+    </message>
+    <message>
+        <source>EDID 页：编辑字段、粘贴 EDID、发送器的存储器、下一处不同</source>
+        <translation>Page EDID: edit a field, paste an EDID, the sender&apos;s memory, the next difference</translation>
     </message>
 </context>
 <context>

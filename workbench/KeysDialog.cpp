@@ -24,6 +24,8 @@ constexpr SKeyRow c_arrKeys[] = {
     {"Enter, F2", QT_TRANSLATE_NOOP("CKeysDialog", "发送器列表：编辑输入的 EDID，重命名发送器")},
     {"Delete", QT_TRANSLATE_NOOP("CKeysDialog", "发送器列表、地址列表：删除所选的行")},
     {"Enter", QT_TRANSLATE_NOOP("CKeysDialog", "地址列表：修改地址")},
+    {"F2, Ctrl+V, F5, F8",
+     QT_TRANSLATE_NOOP("CKeysDialog", "EDID 页：编辑字段、粘贴 EDID、发送器的存储器、下一处不同")},
     {"Tab", QT_TRANSLATE_NOOP("CKeysDialog", "从列表到标签、页面、主机调用记录；在色度图上从点到点")},
     {"Shift+F10", QT_TRANSLATE_NOOP("CKeysDialog", "所选行的菜单")},
     {"F1", QT_TRANSLATE_NOOP("CKeysDialog", "本页")},

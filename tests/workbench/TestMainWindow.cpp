@@ -8,6 +8,7 @@
 #include "workbench/PageTabs.h"
 #include "workbench/ProjectActions.h"
 #include "workbench/edid/EdidPage.h"
+#include "workbench/edid/FieldTree.h"
 #include "workbench/edid/HexView.h"
 
 #include <QApplication>
@@ -72,6 +73,7 @@ private Q_SLOTS:
     void TheFirstMessageMovesNothing();
     void ControlJFoldsTheJournal();
     void ChoosingAByteMarksItsField();
+    void TheKeyOfUndoTakesTheBlockBackFirst();
     void TheJournalShowsAndFiltersCalls();
 };
 
@@ -229,6 +231,9 @@ void TestMainWindow::ABlockIsSavedWhole()
 void TestMainWindow::ABlockThatCannotBeSavedIsTold()
 {
     CWorkbenchFixture workbench;
+    const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
+    QVERIFY(CSimulator::Instance().Hardware().SetEdidMemory(0, nInterfaceId, QByteArray(128, 'x')));
+    workbench.window.Tree().Select({0, nInterfaceId});
     auto* pPage = workbench.window.findChild<CEdidPage*>();
     workbench.window.Tree().Select(
         {0, CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId});
@@ -495,6 +500,25 @@ void TestMainWindow::ChoosingAByteMarksItsField()
     pBytes->resize(pBytes->sizeHint());
     QTest::mouseClick(pBytes, Qt::LeftButton, Qt::NoModifier, pBytes->ByteRect(0x37).center());
     QCOMPARE(pBytes->Marked(), (QVector<int>{0x36, 0x37}));
+}
+
+void TestMainWindow::TheKeyOfUndoTakesTheBlockBackFirst()
+{
+    CWorkbenchFixture workbench;
+    const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
+    workbench.window.Tree().Select({0, nInterfaceId});
+    QVERIFY(CSimulator::Instance().Hardware().SetEdidMemory(0, nInterfaceId, QByteArray(128, 1)));
+    workbench.window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&workbench.window));
+    auto* pPage = workbench.window.findChild<CEdidPage*>();
+    pPage->Document().Load({QByteArray(128, 2), enEdidOrigin::enPasted, {}, false}, QStringLiteral("paste"));
+    auto* pFields = pPage->findChild<CFieldTree*>();
+    pFields->setFocus();
+    QTest::keyClick(pFields, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(pPage->Document().Content().bytes, QByteArray(128, 1));
+    QCOMPARE(pPage->Input()->baEdid, QByteArray(128, 1));
+    QTest::keyClick(pFields, Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(pPage->Input()->baEdid.isEmpty());
 }
 
 void TestMainWindow::TheJournalShowsAndFiltersCalls()

@@ -1,39 +1,48 @@
 #include "workbench/edid/EdidPage.h"
 
 #include "SenderModuleDialog/edid/EdidSetDlg.h"
+#include "instruments/edid/BlockCuts.h"
+#include "instruments/edid/Editing.h"
 #include "instruments/edid/Writing.h"
 #include "simulator/CommonClass/Simulator.h"
 #include "workbench/ModeText.h"
 #include "workbench/SaveDialog.h"
 #include "workbench/WholeFile.h"
+#include "workbench/edid/EdidColours.h"
 #include "workbench/edid/EdidMemoryUpdater.h"
+#include "workbench/edid/EdidSources.h"
+#include "workbench/edid/FieldModel.h"
+#include "workbench/edid/FieldTree.h"
 #include "workbench/edid/FindingList.h"
 #include "workbench/edid/HexView.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QDir>
+#include <QDropEvent>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QInputDialog>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
-#include <QTreeWidget>
+#include <QStackedWidget>
+#include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <numeric>
 
 namespace {
-
-enum enColumn
-{
-    enName,
-    enValue,
-    enColumnCount
-};
-
-/// A field's place in the list of fields; groups have none.
-constexpr int c_nFieldRole = Qt::UserRole;
 
 constexpr int c_nTitleSize = 16; ///< font size of the input's name, pixels
 
@@ -62,22 +71,138 @@ QString ModeLine(const SSimulatedInput& input)
     return input.setting ? ModeText::Of(*input.setting) : CEdidPage::tr("没有设置：对话框以默认值打开");
 }
 
+/// The mode of an input, or that at which most computers start.
+SEdidSetting SettingOf(const SSimulatedInput* pInput)
+{
+    if (pInput != nullptr && pInput->setting)
+        return *pInput->setting;
+    SEdidSetting setting;
+    setting.wWidth = 1920;
+    setting.wHeight = 1080;
+    setting.byRate = 60;
+    return setting;
+}
+
+QString OriginText(const SEdidContent& content)
+{
+    switch (content.origin) {
+    case enEdidOrigin::enMemory:
+        return CEdidPage::tr("%1 的 EDID 存储器").arg(content.strName);
+    case enEdidOrigin::enFile:
+        return CEdidPage::tr("文件 %1").arg(content.strName);
+    case enEdidOrigin::enPasted:
+        return content.strName.isEmpty() ? CEdidPage::tr("粘贴的文本")
+                                         : CEdidPage::tr("粘贴的文本，%1").arg(content.strName);
+    case enEdidOrigin::enBuilt:
+        return CEdidPage::tr("为 %1 构建的块").arg(content.strName);
+    default:
+        return {};
+    }
+}
+
+QString ContentText(const SEdidContent& content)
+{
+    const int nBlocks = content.bytes.size() / c_nEdidBlockSize;
+    const QString strOrigin = OriginText(content);
+    const QString strShown = content.bEdited ? CEdidPage::tr("%1（已修改）").arg(strOrigin) : strOrigin;
+    return nBlocks > 1 ? CEdidPage::tr("%1，%2 个块").arg(strShown).arg(nBlocks) : strShown;
+}
+
+QVector<int> Range(int nOffset, int nSize)
+{
+    QVector<int> vecOffsets(nSize);
+    std::iota(vecOffsets.begin(), vecOffsets.end(), nOffset);
+    return vecOffsets;
+}
+
+/// Shows the first of some bytes in the area that scrolls them.
+void Reveal(const CHexView& view, const QVector<int>& vecOffsets)
+{
+    auto* pArea = qobject_cast<QScrollArea*>(view.parentWidget()->parentWidget());
+    if (pArea == nullptr || vecOffsets.isEmpty())
+        return;
+    const QRect rcByte = view.ByteRect(vecOffsets.constFirst());
+    pArea->ensureVisible(rcByte.center().x(), rcByte.center().y(), rcByte.width(), rcByte.height());
+}
+
+/// An area that is as wide as its bytes.
+QScrollArea* ScrolledBytes(CHexView& view)
+{
+    auto* pArea = new QScrollArea(view.parentWidget());
+    pArea->setWidget(&view);
+    pArea->setWidgetResizable(true);
+    pArea->setFrameShape(QFrame::NoFrame);
+    pArea->setFocusPolicy(Qt::NoFocus);
+    const int nBarWidth = pArea->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    pArea->setMinimumWidth(view.sizeHint().width() + nBarWidth);
+    return pArea;
+}
+
+void SetColour(QLabel& label, const QColor& clr)
+{
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::WindowText, clr);
+    label.setPalette(palette);
+}
+
 } // namespace
+
+const CEdidPage::SActionRow CEdidPage::c_arrActions[] = {
+    {enOpen, "edidOpen", QT_TR_NOOP("打开..."), QT_TR_NOOP("打开 EDID 文件；也可以把文件拖到这里"),
+     Qt::CTRL + Qt::SHIFT + Qt::Key_O, &CEdidPage::Open},
+    {enPaste, "edidPaste", QT_TR_NOOP("粘贴"),
+     QT_TR_NOOP("粘贴十六进制文本、xxd、C 数组、JSON 或 xrandr 的输出"), Qt::CTRL + Qt::Key_V,
+     &CEdidPage::Paste},
+    {enMemory, "edidMemory", QT_TR_NOOP("发送器的存储器"), QT_TR_NOOP("显示所选输入的 EDID 存储器"),
+     Qt::Key_F5, &CEdidPage::LoadMemory},
+    {enBuild, "edidBuild", QT_TR_NOOP("构建块"), nullptr, 0, &CEdidPage::Build},
+    {enCompareFile, "edidCompareFile", QT_TR_NOOP("与文件比较..."), nullptr, Qt::CTRL + Qt::SHIFT + Qt::Key_D,
+     &CEdidPage::ChooseAndCompare},
+    {enComparePaste, "edidComparePaste", QT_TR_NOOP("与剪贴板中的文本比较"), nullptr,
+     Qt::CTRL + Qt::SHIFT + Qt::Key_V, &CEdidPage::ComparePasted},
+    {enCompareMemory, "edidCompareMemory", QT_TR_NOOP("与发送器的存储器比较"), nullptr,
+     Qt::SHIFT + Qt::Key_F5, &CEdidPage::CompareMemory},
+    {enEndComparison, "edidEndComparison", QT_TR_NOOP("结束比较"), nullptr, 0, &CEdidPage::EndComparison},
+    {enNext, "edidNext", QT_TR_NOOP("下一处不同"), QT_TR_NOOP("显示下一个不同的字段"), Qt::Key_F8,
+     &CEdidPage::ShowNextDifference},
+    {enPrevious, "edidPrevious", QT_TR_NOOP("上一处不同"), nullptr, Qt::SHIFT + Qt::Key_F8,
+     &CEdidPage::ShowPreviousDifference},
+    {enUndo, "edidUndo", QT_TR_NOOP("撤销"), QT_TR_NOOP("撤销对块的更改 (Ctrl+Z)"), 0, &CEdidPage::Undo},
+    {enRedo, "edidRedo", QT_TR_NOOP("重做"), QT_TR_NOOP("重做对块的更改 (Ctrl+Shift+Z)"), 0,
+     &CEdidPage::Redo},
+    {enFix, "edidFix", QT_TR_NOOP("全部修复"), QT_TR_NOOP("更正标头、扩展块数目和校验和"), 0,
+     &CEdidPage::Fix},
+    {enSave, "edidSave", QT_TR_NOOP("保存块..."), QT_TR_NOOP("保存为二进制、十六进制文本、C 数组或 JSON"), 0,
+     &CEdidPage::ChooseFileAndSave},
+    {enWrite, "edidWrite", QT_TR_NOOP("写入存储器"), QT_TR_NOOP("写入所选输入的 EDID 存储器"), 0,
+     &CEdidPage::Write},
+};
 
 CEdidPage::CEdidPage(QWidget* pParent)
     : CWorkbenchPage(pParent)
+    , m_pDocument(new CEdidDocument(this))
+    , m_pModel(new CFieldModel(*m_pDocument, this))
     , m_pUpdater(new CEdidMemoryUpdater(this))
 {
+    setAcceptDrops(true);
+    CreateActions();
     m_pChange = new QLabel(this);
+    m_pChange->setObjectName(QStringLiteral("edidMessage"));
     m_pChange->setWordWrap(true);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(CreateHead());
-    pLayout->addWidget(CreateMemoryView(), 1);
+    pLayout->addWidget(CreateBars());
+    m_pStack = new QStackedWidget(this);
+    m_pStack->addWidget(CreateMemoryView());
+    m_pStack->addWidget(CreatePlaceholder());
+    pLayout->addWidget(m_pStack, 1);
     m_pFindings = new CFindingList(this);
     m_pFindings->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     pLayout->addWidget(m_pFindings);
-    connect(m_pFindings, &CFindingList::FindingChosen, this, &CEdidPage::MarkBytes);
     pLayout->addWidget(m_pChange);
+    connect(m_pFindings, &CFindingList::FindingChosen, this, &CEdidPage::MarkFinding);
+    connect(m_pDocument, &CEdidDocument::Changed, this, &CEdidPage::ShowDocument);
+    connect(&m_pDocument->Steps(), &QUndoStack::indexChanged, this, &CEdidPage::EnableActions);
     connect(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectChanged, this,
             &CEdidPage::Refresh);
     connect(
@@ -89,6 +214,19 @@ CEdidPage::CEdidPage(QWidget* pParent)
     CEdidPage::Retranslate();
 }
 
+void CEdidPage::CreateActions()
+{
+    for (const SActionRow& row : c_arrActions) {
+        auto* pAction = new QAction(this);
+        pAction->setObjectName(QString::fromLatin1(row.szName));
+        pAction->setShortcut(QKeySequence(row.nKey));
+        pAction->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        connect(pAction, &QAction::triggered, this, row.pDo);
+        addAction(pAction);
+        m_arrActions[row.action] = pAction;
+    }
+}
+
 QWidget* CEdidPage::CreateHead()
 {
     auto* pHead = new QWidget(this);
@@ -98,36 +236,121 @@ QWidget* CEdidPage::CreateHead()
     fontTitle.setBold(true);
     m_pInput->setFont(fontTitle);
     m_pMode = new QLabel(pHead);
+    m_pCuts = new QLabel(pHead);
+    m_pCuts->setObjectName(QStringLiteral("edidCuts"));
+    m_pCuts->setWordWrap(true);
+    SetColour(*m_pCuts, EdidColours::c_clrChanged);
     m_pLowRates = new QCheckBox(pHead);
     m_pEdit = new QPushButton(pHead);
-    m_pSave = new QPushButton(pHead);
+    auto* pRow = new QHBoxLayout;
     auto* pTexts = new QVBoxLayout;
     pTexts->addWidget(m_pInput);
     pTexts->addWidget(m_pMode);
-    auto* pLayout = new QHBoxLayout(pHead);
+    pRow->addLayout(pTexts, 1);
+    pRow->addWidget(m_pLowRates);
+    pRow->addWidget(m_pEdit);
+    auto* pLayout = new QVBoxLayout(pHead);
     pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addLayout(pTexts, 1);
-    pLayout->addWidget(m_pLowRates);
-    pLayout->addWidget(m_pEdit);
-    pLayout->addWidget(m_pSave);
+    pLayout->addLayout(pRow);
+    pLayout->addWidget(m_pCuts);
     connect(m_pEdit, &QPushButton::clicked, this, &CEdidPage::EditEdid);
-    connect(m_pSave, &QPushButton::clicked, this, &CEdidPage::ChooseFileAndSave);
     return pHead;
+}
+
+QToolButton* CEdidPage::CreateButton(enAction action)
+{
+    auto* pButton = new QToolButton(this);
+    pButton->setDefaultAction(m_arrActions[action]);
+    pButton->setObjectName(m_arrActions[action]->objectName() + QStringLiteral("Button"));
+    pButton->setFocusPolicy(Qt::StrongFocus);
+    return pButton;
+}
+
+QWidget* CEdidPage::CreateBars()
+{
+    auto* pBars = new QWidget(this);
+    m_pSource = new QLabel(pBars);
+    m_pSource->setObjectName(QStringLiteral("edidSource"));
+    m_pSource->setWordWrap(true);
+    auto* pSources = new QHBoxLayout;
+    pSources->addWidget(m_pSource, 1);
+    for (const enAction action : {enOpen, enPaste, enMemory})
+        pSources->addWidget(CreateButton(action));
+    m_pCompare = new QToolButton(pBars);
+    m_pCompare->setObjectName(QStringLiteral("edidCompareButton"));
+    m_pCompare->setPopupMode(QToolButton::InstantPopup);
+    m_pCompare->setFocusPolicy(Qt::StrongFocus);
+    auto* pMenu = new QMenu(m_pCompare);
+    for (const enAction action :
+         {enCompareFile, enComparePaste, enCompareMemory, enPrevious, enEndComparison})
+        pMenu->addAction(m_arrActions[action]);
+    m_pCompare->setMenu(pMenu);
+    auto* pWork = new QHBoxLayout;
+    pWork->addWidget(m_pCompare);
+    pWork->addWidget(CreateButton(enNext));
+    pWork->addStretch();
+    for (const enAction action : {enUndo, enRedo, enFix, enSave, enWrite})
+        pWork->addWidget(CreateButton(action));
+    auto* pLayout = new QVBoxLayout(pBars);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addLayout(pSources);
+    pLayout->addLayout(pWork);
+    return pBars;
+}
+
+QWidget* CEdidPage::CreatePlaceholder()
+{
+    auto* pPlaceholder = new QWidget(this);
+    m_pEmpty = new QLabel(pPlaceholder);
+    m_pEmpty->setObjectName(QStringLiteral("edidEmpty"));
+    m_pEmpty->setWordWrap(true);
+    m_pEmpty->setAlignment(Qt::AlignCenter);
+    auto* pLayout = new QVBoxLayout(pPlaceholder);
+    pLayout->addStretch();
+    pLayout->addWidget(m_pEmpty);
+    pLayout->addWidget(CreateButton(enBuild), 0, Qt::AlignHCenter);
+    pLayout->addStretch();
+    return pPlaceholder;
+}
+
+/// Both views scroll together: the same byte stands at the same place.
+QWidget* CEdidPage::CreateBytes()
+{
+    auto* pBytes = new QWidget;
+    m_pBytes = new CHexView(pBytes);
+    m_pOtherTitle = new QLabel(pBytes);
+    m_pOtherTitle->setWordWrap(true);
+    m_pOtherBytes = new CHexView(pBytes);
+    m_pOtherBytes->setObjectName(QStringLiteral("edidOtherBytes"));
+    QScrollArea* pArea = ScrolledBytes(*m_pBytes);
+    m_pOtherArea = ScrolledBytes(*m_pOtherBytes);
+    const QScrollBar* pBar = pArea->verticalScrollBar();
+    const QScrollBar* pOtherBar = m_pOtherArea->verticalScrollBar();
+    connect(pBar, &QScrollBar::valueChanged, pOtherBar, &QScrollBar::setValue);
+    connect(pOtherBar, &QScrollBar::valueChanged, pBar, &QScrollBar::setValue);
+    auto* pLayout = new QVBoxLayout(pBytes);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(pArea, 1);
+    pLayout->addWidget(m_pOtherTitle);
+    pLayout->addWidget(m_pOtherArea, 1);
+    return pBytes;
 }
 
 QWidget* CEdidPage::CreateMemoryView()
 {
     auto* pSplitter = new QSplitter(this);
-    m_pFields = new QTreeWidget(pSplitter);
-    m_pFields->setColumnCount(enColumnCount);
-    m_pFields->setAlternatingRowColors(true);
-    m_pFields->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_pBytes = new CHexView(pSplitter);
+    m_pFields = new CFieldTree(*m_pModel, pSplitter);
+    QHeaderView* pHeader = m_pFields->header();
+    pHeader->setStretchLastSection(false);
+    pHeader->setSectionResizeMode(CFieldModel::enField, QHeaderView::ResizeToContents);
+    pHeader->setSectionResizeMode(CFieldModel::enValue, QHeaderView::Stretch);
+    pHeader->setSectionResizeMode(CFieldModel::enOther, QHeaderView::Stretch);
     pSplitter->addWidget(m_pFields);
-    pSplitter->addWidget(m_pBytes);
+    pSplitter->addWidget(CreateBytes());
     pSplitter->setStretchFactor(0, 1);
     pSplitter->setCollapsible(1, false);
-    connect(m_pFields, &QTreeWidget::currentItemChanged, this, &CEdidPage::MarkSelectedField);
+    connect(m_pFields, &CFieldTree::CurrentMoved, this, &CEdidPage::MarkSelectedField);
+    connect(m_pFields, &CFieldTree::Refused, this, &CEdidPage::SayRefusal);
     connect(m_pBytes, &CHexView::ByteChosen, this, &CEdidPage::SelectFieldOfByte);
     return pSplitter;
 }
@@ -142,11 +365,23 @@ void CEdidPage::Retranslate()
     m_pLowRates->setText(tr("只提供低帧率"));
     m_pLowRates->setToolTip(tr("对话框不提供 50 Hz 以上的帧率"));
     m_pEdit->setText(tr("编辑 EDID..."));
-    m_pSave->setText(tr("保存块..."));
-    m_pFields->setHeaderLabels({tr("字段"), tr("值")});
+    for (const SActionRow& row : c_arrActions) {
+        QAction* pAction = m_arrActions[row.action];
+        pAction->setText(tr(row.szText));
+        // A button would leave the dots out.
+        pAction->setIconText(tr(row.szText));
+        const QString strKey = pAction->shortcut().toString(QKeySequence::NativeText);
+        const QString strTip = tr(row.szToolTip != nullptr ? row.szToolTip : row.szText);
+        pAction->setToolTip(strKey.isEmpty() ? strTip : QStringLiteral("%1 (%2)").arg(strTip, strKey));
+    }
+    m_pCompare->setText(tr("比较"));
+    m_pFields->setAccessibleName(tr("EDID 字段"));
     m_pBytes->setAccessibleName(tr("EDID 字节"));
+    m_pOtherBytes->setAccessibleName(tr("另一个 EDID 的字节"));
+    m_pModel->Retranslate();
     m_pFindings->Retranslate();
     Refresh();
+    ShowSource();
 }
 
 const SSimulatedInput* CEdidPage::Input() const
@@ -155,11 +390,19 @@ const SSimulatedInput* CEdidPage::Input() const
     return pSender == nullptr ? nullptr : pSender->FindInput(m_selection.nInterfaceId);
 }
 
+SEdidContent CEdidPage::Memory() const
+{
+    const SSimulatedInput* pInput = Input();
+    if (pInput == nullptr)
+        return {};
+    return {pInput->baEdid, enEdidOrigin::enMemory, pInput->strName, false};
+}
+
 void CEdidPage::ShowSelection(const SSelection& selection)
 {
     m_selection = selection;
-    m_pChange->clear();
-    m_pBytes->SetChanged({});
+    m_vecChanged.clear();
+    Say(QString());
     Refresh();
 }
 
@@ -168,76 +411,151 @@ void CEdidPage::Refresh()
     const SSimulatedInput* pInput = Input();
     m_pEdit->setEnabled(pInput != nullptr);
     m_pLowRates->setEnabled(pInput != nullptr);
-    m_pSave->setEnabled(pInput != nullptr && !pInput->baEdid.isEmpty());
     m_pInput->setText(pInput == nullptr ? tr("请选择一个输入") : pInput->strName);
     m_pMode->setText(pInput == nullptr ? QString() : ModeLine(*pInput));
-    ShowBlock(pInput == nullptr ? QByteArray() : pInput->baEdid);
+    ShowCuts();
+    TakeMemory();
+    m_arrActions[enBuild]->setIconText(tr("构建 %1 的块").arg(ModeText::Of(SettingOf(pInput))));
+    m_pEmpty->setText(Emptiness());
+    EnableActions();
 }
 
-void CEdidPage::ShowBlock(const QByteArray& block)
+/// Another memory replaces what is shown as long as nothing else was loaded or changed.
+void CEdidPage::TakeMemory()
 {
-    m_pBytes->SetBytes(block);
-    ShowFields(block);
-    m_pFindings->ShowFindingsOf(block);
+    const SEdidContent memory = Memory();
+    const bool bSame = memory.bytes == m_memory.bytes && memory.strName == m_memory.strName &&
+                       memory.origin == m_memory.origin;
+    m_memory = memory;
+    if (!bSame && m_pDocument->IsFollowing())
+        m_pDocument->Follow(memory);
 }
 
-void CEdidPage::ShowFields(const QByteArray& block)
+/// What the block of the input's mode does not hold.
+void CEdidPage::ShowCuts()
 {
-    const QTreeWidgetItem* pCurrent = m_pFields->currentItem();
-    const int nCurrent = pCurrent == nullptr ? -1 : pCurrent->data(enName, c_nFieldRole).toInt();
-    m_pFields->clear();
-    m_vecFields = EdidFields::Decode(block);
-    QTreeWidgetItem* pGroup = nullptr;
-    for (int i = 0; i < m_vecFields.size(); ++i) {
-        const SEdidField& field = m_vecFields.at(i);
-        if (pGroup == nullptr || pGroup->text(enName) != field.strGroup) {
-            pGroup = new QTreeWidgetItem(m_pFields, {field.strGroup});
-            pGroup->setData(enName, c_nFieldRole, -1);
-        }
-        auto* pItem = new QTreeWidgetItem(pGroup, {field.strName, field.strValue});
-        pItem->setData(enName, c_nFieldRole, i);
-        if (i == nCurrent)
-            m_pFields->setCurrentItem(pItem);
-    }
-    m_pFields->expandAll();
+    const SSimulatedInput* pInput = Input();
+    QStringList listCuts;
+    if (pInput != nullptr && pInput->setting)
+        listCuts = Edid::BlockCuts(Edid::ReducedBlockMode(pInput->setting->wWidth, pInput->setting->wHeight,
+                                                          ModeText::Rate(*pInput->setting)));
+    m_pCuts->setVisible(!listCuts.isEmpty());
+    m_pCuts->setText(tr("块不能如实保存这个模式：%1。").arg(listCuts.join(tr("；"))));
+}
+
+QString CEdidPage::Emptiness() const
+{
+    const SSimulatedInput* pInput = Input();
+    if (pInput == nullptr)
+        return tr("请在左边选择一个输入，或者打开、拖入、粘贴一个 EDID。");
+    return tr("%1 的 EDID 存储器是空的：还没有向它写入过模式。\n用“编辑 EDID...”写入一个，或者在这里构建块，"
+              "然后写入存储器。")
+        .arg(pInput->strName);
+}
+
+void CEdidPage::EnableActions()
+{
+    const bool bInput = Input() != nullptr;
+    const bool bShown = !m_pDocument->IsEmpty();
+    const bool bMemory = !m_memory.bytes.isEmpty();
+    const bool bComparing = m_pDocument->IsComparing();
+    const QUndoStack& steps = m_pDocument->Steps();
+    const std::pair<enAction, bool> arrEnabled[] = {
+        {enMemory, bMemory},
+        {enCompareFile, bShown},
+        {enComparePaste, bShown},
+        {enCompareMemory, bShown && bMemory},
+        {enEndComparison, bComparing},
+        {enNext, bComparing},
+        {enPrevious, bComparing},
+        {enUndo, steps.canUndo()},
+        {enRedo, steps.canRedo()},
+        {enFix, bShown},
+        {enSave, bShown},
+        {enWrite, bShown && bInput},
+    };
+    for (const auto& [action, bEnabled] : arrEnabled)
+        m_arrActions[action]->setEnabled(bEnabled);
+    m_pCompare->setEnabled(bShown);
+}
+
+void CEdidPage::ShowDocument()
+{
+    if (!m_pDocument->IsFollowing())
+        m_vecChanged.clear();
+    // What was said was about the values before.
+    Say(QString());
+    m_pStack->setCurrentIndex(m_pDocument->IsEmpty() ? 1 : 0);
+    m_pFields->setColumnHidden(CFieldModel::enOther, !m_pDocument->IsComparing());
+    ShowBytes();
+    m_pFindings->ShowFindingsOf(m_pDocument->Content().bytes);
+    ShowSource();
+    MarkSelectedField();
+    EnableActions();
+}
+
+void CEdidPage::ShowBytes()
+{
+    const bool bComparing = m_pDocument->IsComparing();
+    const QVector<int> vecDifferent = m_pDocument->DifferentBytes();
+    m_pBytes->SetBytes(m_pDocument->Content().bytes);
+    m_pBytes->SetChanged(bComparing ? vecDifferent : m_vecChanged);
+    m_pOtherBytes->SetBytes(m_pDocument->Other().bytes);
+    m_pOtherBytes->SetChanged(vecDifferent);
+    m_pOtherArea->setVisible(bComparing);
+    m_pOtherTitle->setVisible(bComparing);
+}
+
+void CEdidPage::ShowSource()
+{
+    const SEdidContent& content = m_pDocument->Content();
+    m_pSource->setText(content.bytes.isEmpty() ? QString() : tr("显示：%1").arg(ContentText(content)));
+    m_pOtherTitle->setText(tr("比较：%1，%2 个字段不同")
+                               .arg(ContentText(m_pDocument->Other()))
+                               .arg(m_pDocument->Differences().size()));
 }
 
 void CEdidPage::ShowChange(const QByteArray& blockBefore, const QByteArray& blockAfter)
 {
     // Without a previous block, colouring all bytes would say nothing.
     const bool bFirst = blockBefore.isEmpty();
-    const QVector<int> vecChanged =
-        bFirst ? QVector<int>() : EdidFields::ChangedBytes(blockBefore, blockAfter);
-    m_pBytes->SetChanged(vecChanged);
-    const QString strText = ChangeText(bFirst, vecChanged.size());
-    m_pChange->setText(strText);
+    m_vecChanged = bFirst ? QVector<int>() : ChangedOffsets(blockBefore, blockAfter);
+    const QString strText = ChangeText(bFirst, m_vecChanged.size());
+    ShowBytes();
+    Say(strText);
     Q_EMIT Reported(strText);
+}
+
+void CEdidPage::Say(const QString& strText)
+{
+    SetColour(*m_pChange, palette().color(QPalette::WindowText));
+    m_pChange->setText(strText);
+}
+
+void CEdidPage::SayRefusal(const QString& strText)
+{
+    SetColour(*m_pChange, EdidColours::c_clrRefused);
+    m_pChange->setText(strText);
 }
 
 void CEdidPage::MarkSelectedField()
 {
-    const QTreeWidgetItem* pItem = m_pFields->currentItem();
-    const int nField = pItem == nullptr ? -1 : pItem->data(enName, c_nFieldRole).toInt();
-    const bool bField = nField >= 0 && nField < m_vecFields.size();
-    m_pBytes->SetMarked(bField ? m_vecFields.at(nField).vecBytes : QVector<int>());
+    const QModelIndex index = m_pFields->currentIndex();
+    m_pBytes->SetMarked(m_pModel->BytesOf(index));
+    m_pOtherBytes->SetMarked(m_pModel->OtherBytesOf(index));
+    Reveal(*m_pBytes, m_pBytes->Marked());
 }
 
-void CEdidPage::MarkBytes(int nOffset, int nSize)
+void CEdidPage::MarkFinding(int nOffset, int nSize)
 {
-    QVector<int> vecOffsets(nSize);
-    std::iota(vecOffsets.begin(), vecOffsets.end(), nOffset);
-    m_pBytes->SetMarked(vecOffsets);
+    m_pFields->ShowRow(m_pModel->IndexOfByte(nOffset));
+    m_pBytes->SetMarked(Range(nOffset, nSize));
+    Reveal(*m_pBytes, m_pBytes->Marked());
 }
 
 void CEdidPage::SelectFieldOfByte(int nOffset)
 {
-    for (QTreeWidgetItemIterator it(m_pFields); *it != nullptr; ++it) {
-        const int nField = (*it)->data(enName, c_nFieldRole).toInt();
-        if (nField < 0 || !m_vecFields.at(nField).vecBytes.contains(nOffset))
-            continue;
-        m_pFields->setCurrentItem(*it);
-        return;
-    }
+    m_pFields->ShowRow(m_pModel->IndexOfByte(nOffset));
 }
 
 void CEdidPage::EditEdid()
@@ -260,6 +578,141 @@ void CEdidPage::EditEdid()
         Q_EMIT Reported(tr("写入失败，%1 的 EDID 没有改变。原因见主机调用记录。").arg(pInput->strName));
 }
 
+std::optional<SEdidContent> CEdidPage::ChosenFrom(const SEdidSource& source)
+{
+    if (!source.strError.isEmpty()) {
+        Q_EMIT Failed(source.strError);
+        return std::nullopt;
+    }
+    if (source.vecContents.size() == 1)
+        return source.vecContents.constFirst();
+    QStringList listNames;
+    for (const SEdidContent& content : source.vecContents)
+        listNames += QStringLiteral("%1. %2").arg(listNames.size() + 1).arg(content.strName);
+    bool bChosen = false;
+    const QString strChosen =
+        QInputDialog::getItem(this, tr("选择显示器"), tr("这里有几个 EDID："), listNames, 0, false, &bChosen);
+    if (!bChosen)
+        return std::nullopt;
+    return source.vecContents.at(listNames.indexOf(strChosen));
+}
+
+void CEdidPage::Load(const SEdidSource& source, const QString& strStep)
+{
+    if (const std::optional<SEdidContent> content = ChosenFrom(source))
+        m_pDocument->Load(*content, strStep);
+}
+
+void CEdidPage::Compare(const SEdidSource& source)
+{
+    if (const std::optional<SEdidContent> content = ChosenFrom(source)) {
+        m_pDocument->CompareWith(*content);
+        if (m_pDocument->DifferentBytes().isEmpty())
+            Say(tr("两个 EDID 相同。"));
+    }
+}
+
+void CEdidPage::OpenFile(const QString& strFile)
+{
+    Load(EdidSources::FromFile(strFile), tr("打开"));
+}
+
+void CEdidPage::CompareWithFile(const QString& strFile)
+{
+    Compare(EdidSources::FromFile(strFile));
+}
+
+void CEdidPage::Open()
+{
+    const QString strFile = QFileDialog::getOpenFileName(
+        this, tr("打开 EDID"), QString(), tr("EDID (*.bin *.edid *.hex *.txt *.c *.h *.json);;所有文件 (*)"));
+    if (!strFile.isEmpty())
+        OpenFile(strFile);
+}
+
+void CEdidPage::Paste()
+{
+    Load(EdidSources::FromText(QApplication::clipboard()->text()), tr("粘贴"));
+}
+
+void CEdidPage::LoadMemory()
+{
+    m_pDocument->Load(m_memory, tr("发送器的存储器"));
+}
+
+void CEdidPage::Build()
+{
+    const SEdidSetting setting = SettingOf(Input());
+    m_pDocument->Load(
+        {CEdidMemoryUpdater::BlockOf(setting), enEdidOrigin::enBuilt, ModeText::Of(setting), false},
+        tr("构建块"));
+}
+
+void CEdidPage::ChooseAndCompare()
+{
+    const QString strFile =
+        QFileDialog::getOpenFileName(this, tr("与文件比较"), QString(),
+                                     tr("EDID (*.bin *.edid *.hex *.txt *.c *.h *.json);;所有文件 (*)"));
+    if (!strFile.isEmpty())
+        CompareWithFile(strFile);
+}
+
+void CEdidPage::ComparePasted()
+{
+    Compare(EdidSources::FromText(QApplication::clipboard()->text()));
+}
+
+void CEdidPage::CompareMemory()
+{
+    Compare({{m_memory}, QString()});
+}
+
+void CEdidPage::EndComparison()
+{
+    m_pDocument->EndComparison();
+}
+
+void CEdidPage::ShowNextDifference()
+{
+    ShowDifference(true);
+}
+
+void CEdidPage::ShowPreviousDifference()
+{
+    ShowDifference(false);
+}
+
+void CEdidPage::ShowDifference(bool bForward)
+{
+    const QModelIndex index = m_pModel->NextDifference(m_pFields->currentIndex(), bForward);
+    if (!index.isValid())
+        return Say(tr("没有不同的字段。"));
+    m_pFields->ShowRow(index);
+    Reveal(*m_pOtherBytes, m_pOtherBytes->Marked());
+    Reveal(*m_pBytes, m_pBytes->Marked());
+}
+
+void CEdidPage::Undo()
+{
+    m_pDocument->Steps().undo();
+}
+
+void CEdidPage::Redo()
+{
+    m_pDocument->Steps().redo();
+}
+
+void CEdidPage::Fix()
+{
+    const QByteArray before = m_pDocument->Content().bytes;
+    m_pDocument->FixAll();
+    const int nChanged = ChangedOffsets(before, m_pDocument->Content().bytes).size();
+    const int nLeft = int(m_pFindings->Findings().size());
+    const QString strDone =
+        nChanged == 0 ? tr("标头、扩展块数目和校验和本来就正确。") : tr("更正了 %1 个字节。").arg(nChanged);
+    Say(nLeft == 0 ? strDone : strDone + tr("还有 %1 个问题，处理方法见下表。").arg(nLeft));
+}
+
 void CEdidPage::ChooseFileAndSave()
 {
     const QString strFile =
@@ -272,14 +725,90 @@ void CEdidPage::ChooseFileAndSave()
 
 bool CEdidPage::SaveBlock(const QString& strFile)
 {
-    const SSimulatedInput* pInput = Input();
-    if (pInput == nullptr)
+    if (m_pDocument->IsEmpty())
         return false;
-    const QString strError = WholeFile::Write(strFile, FormFor(strFile, pInput->baEdid));
+    const QString strError = WholeFile::Write(strFile, FormFor(strFile, m_pDocument->Content().bytes));
     const QString strName = QDir::toNativeSeparators(strFile);
     if (strError.isEmpty())
         Q_EMIT Reported(tr("已保存 %1").arg(strName));
     else
         Q_EMIT Failed(tr("无法写入 %1：%2。请选择别的位置。").arg(strName, strError));
     return strError.isEmpty();
+}
+
+bool CEdidPage::ConfirmBaseAlone(int nBlocks)
+{
+    return QMessageBox::question(this, tr("写入存储器"),
+                                 tr("输入的 EDID 存储器容纳一个 128 字节的块，这里有 %1 个。只写入基本块吗？"
+                                    "扩展块数目将为 0。")
+                                     .arg(nBlocks)) == QMessageBox::Yes;
+}
+
+void CEdidPage::Write()
+{
+    const SEdidContent before = m_memory;
+    SEdidContent stored = {m_pDocument->Content().bytes, enEdidOrigin::enMemory, before.strName, false};
+    const int nBlocks = stored.bytes.size() / c_nEdidBlockSize;
+    if (nBlocks > 1) {
+        if (!ConfirmBaseAlone(nBlocks))
+            return;
+        Edid::DropExtensions(stored.bytes);
+    }
+    bool bStored = false;
+    DoAsStep(tr("写入 EDID 存储器"), [&] {
+        bStored = CSimulator::Instance().Hardware().SetEdidMemory(m_selection.nSender,
+                                                                  m_selection.nInterfaceId, stored.bytes);
+    });
+    if (!bStored) {
+        Q_EMIT Failed(tr("无法写入 %1 的 EDID 存储器。请重新选择输入。").arg(before.strName));
+        return;
+    }
+    if (stored.bytes == m_pDocument->Content().bytes)
+        m_pDocument->MarkStored(stored.strName);
+    else
+        m_pDocument->Load(stored, tr("写入存储器"));
+    ShowChange(before.bytes, stored.bytes);
+}
+
+/// The step that a key takes back or forward; null when there is none.
+const CEdidPage::SStepKey* CEdidPage::StepOf(const QKeyEvent& event) const
+{
+    static constexpr SStepKey c_arrKeys[] = {{Qt::CTRL | Qt::Key_Z, enUndo},
+                                             {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, enRedo},
+                                             {Qt::CTRL | Qt::Key_Y, enRedo}};
+    const int nKeys = int(event.modifiers()) | event.key();
+    for (const SStepKey& key : c_arrKeys)
+        if (key.nKeys == nKeys && m_arrActions[key.action]->isEnabled())
+            return &key;
+    return nullptr;
+}
+
+bool CEdidPage::event(QEvent* pEvent)
+{
+    // The keys of the project's steps act on the block while it has steps of its own.
+    if (pEvent->type() == QEvent::ShortcutOverride && StepOf(*static_cast<QKeyEvent*>(pEvent)) != nullptr) {
+        pEvent->accept();
+        return true;
+    }
+    return CWorkbenchPage::event(pEvent);
+}
+
+void CEdidPage::keyPressEvent(QKeyEvent* pEvent)
+{
+    if (const SStepKey* pKey = StepOf(*pEvent))
+        m_arrActions[pKey->action]->trigger();
+    else
+        CWorkbenchPage::keyPressEvent(pEvent);
+}
+
+void CEdidPage::dragEnterEvent(QDragEnterEvent* pEvent)
+{
+    if (EdidSources::CanRead(*pEvent->mimeData()))
+        pEvent->acceptProposedAction();
+}
+
+void CEdidPage::dropEvent(QDropEvent* pEvent)
+{
+    Load(EdidSources::FromMime(*pEvent->mimeData()), tr("拖入"));
+    pEvent->acceptProposedAction();
 }

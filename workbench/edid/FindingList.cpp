@@ -16,7 +16,7 @@ enum enColumn
     enColumnCount
 };
 
-constexpr int c_nRowsShown = 4; ///< without scrolling, below the header
+constexpr int c_nRowsShown = 3; ///< without scrolling, below the header
 
 QString SeverityText(Edid::enRule rule)
 {

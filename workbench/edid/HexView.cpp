@@ -1,5 +1,7 @@
 #include "workbench/edid/HexView.h"
 
+#include "workbench/edid/EdidColours.h"
+
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QKeyEvent>
@@ -14,7 +16,6 @@ constexpr int c_nPadding = 3; ///< around the two digits of a byte, pixels
 const QColor c_clrText(230, 230, 230);
 const QColor c_clrOffset(140, 140, 140);
 const QColor c_clrMarked(40, 90, 150);
-const QColor c_clrChanged(255, 190, 80);
 const QColor c_clrCurrent(74, 144, 226);
 
 QString HexByte(int nValue)
@@ -116,7 +117,7 @@ void CHexView::PaintByte(QPainter& painter, int nOffset) const
         painter.setPen(c_clrCurrent);
         painter.drawRect(rcByte.adjusted(0, 0, -1, -1));
     }
-    painter.setPen(m_vecChanged.contains(nOffset) ? c_clrChanged : c_clrText);
+    painter.setPen(m_vecChanged.contains(nOffset) ? EdidColours::c_clrChanged : c_clrText);
     painter.drawText(rcByte, Qt::AlignCenter, HexByte(quint8(m_bytes.at(nOffset))));
 }
 

@@ -3,6 +3,8 @@
 #include "workbench/MainWindow.h"
 #include "workbench/SenderTree.h"
 #include "workbench/edid/EdidPage.h"
+#include "workbench/edid/FieldModel.h"
+#include "workbench/edid/FieldTree.h"
 #include "workbench/edid/HexView.h"
 #include "workbench/tour/PageTours.h"
 #include "workbench/tour/Tour.h"
@@ -93,6 +95,58 @@ void TourOfFailure(CTour& tour, CEdidPage& page)
         [nSender](SSimulatedProject& project) { project.FindSender(nSender)->faults.nEdidWriteResult = 0; });
 }
 
+QModelIndex RowOfByte(CEdidPage& page, int nOffset)
+{
+    return page.findChild<CFieldModel*>()->IndexOfByte(nOffset).siblingAtColumn(CFieldModel::enValue);
+}
+
+/// Another EDID beside the memory, a value that is refused and one that is taken, and all of it taken back.
+void TourOfWorkshop(CTour& tour, CMainWindow& window, CEdidPage& page)
+{
+    constexpr int c_nMakerOffset = 0x08;
+    constexpr int c_nGammaOffset = 0x17;
+    auto& fields = *page.findChild<CFieldTree*>();
+    auto& model = *page.findChild<CFieldModel*>();
+    const QByteArray before = page.Document().Content().bytes;
+    const QString strFile = QDir(tour.Folder()).filePath(QStringLiteral("edid.json"));
+    tour.Check(page.SaveBlock(strFile), QStringLiteral("the block cannot be saved as %1").arg(strFile));
+    tour.Check(model.setData(RowOfByte(page, c_nMakerOffset), QStringLiteral("LED")),
+               QStringLiteral("the maker LED was refused"));
+    tour.Check(!model.setData(RowOfByte(page, c_nGammaOffset), QStringLiteral("9.5")),
+               QStringLiteral("a gamma of 9.5 was taken"));
+    tour.Picture(&window, QStringLiteral("edid-refused"));
+    model.setData(RowOfByte(page, c_nGammaOffset), QStringLiteral("2.4"));
+    page.CompareWithFile(strFile);
+    tour.Check(page.Document().DifferentBytes().size() == 4, // two of the maker, gamma, checksum
+               QStringLiteral("the comparison does not show what was edited"));
+    fields.ShowRow(model.NextDifference({}, true));
+    tour.Picture(&window, QStringLiteral("edid-compared"));
+    page.Document().EndComparison();
+    while (page.Document().Steps().canUndo())
+        page.Document().Steps().undo();
+    tour.Check(page.Document().Content().bytes == before,
+               QStringLiteral("undoing everything did not bring the block back"));
+}
+
+/// What the block cannot hold is said before anything is written.
+void TourOfLargeMode(CTour& tour, CMainWindow& window, CEdidPage& page)
+{
+    const SSelection input = FirstInput();
+    const SSimulatedInput inputBefore = *page.Input();
+    const auto SetInput = [&](const SSimulatedInput& value) {
+        CSimulator::Instance().Document().Change([&](SSimulatedProject& project) {
+            *project.FindSender(input.nSender)->FindInput(input.nInterfaceId) = value;
+        });
+    };
+    SSimulatedInput inputLarge = inputBefore;
+    inputLarge.baEdid.clear();
+    inputLarge.setting->wWidth = 8192;
+    inputLarge.setting->wHeight = 1080;
+    SetInput(inputLarge);
+    tour.Picture(&window, QStringLiteral("edid-large-mode"));
+    SetInput(inputBefore);
+}
+
 } // namespace
 
 void PageTours::Edid(CTour& tour, CMainWindow& window)
@@ -110,6 +164,8 @@ void PageTours::Edid(CTour& tour, CMainWindow& window)
     tour.Check(page.findChild<CHexView*>()->Bytes() == page.Input()->baEdid,
                QStringLiteral("the page shows another block"));
     tour.Picture(&window, QStringLiteral("edid-after"));
+    TourOfWorkshop(tour, window, page);
+    TourOfLargeMode(tour, window, page);
     const QString strFile = QDir(tour.Folder()).filePath(QStringLiteral("edid.bin"));
     tour.Check(page.SaveBlock(strFile), QStringLiteral("the block cannot be saved as %1").arg(strFile));
     TourOfFailure(tour, page);
