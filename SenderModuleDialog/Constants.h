@@ -3,7 +3,7 @@
 
 /// @file
 /// Two digest placeholders, as long as a 32-character digest text with its terminator. They have internal
-/// linkage and no behaviour: no digest is computed in this library, and none may come to depend on them.
+/// linkage and no behaviour: this library computes no digest, and nothing may depend on them.
 
 /// The digest of nothing: 33 bytes 0x00.
 [[maybe_unused]] static constexpr unsigned char MD5_NULL[33] = {};

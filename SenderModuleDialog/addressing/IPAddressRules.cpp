@@ -23,7 +23,7 @@ constexpr const char* c_szOwnAddress = QT_TRANSLATE_NOOP(
 constexpr const char* c_szUnreasonable = QT_TRANSLATE_NOOP("CCustomDialog", "IP地址不合理。");
 constexpr const char* c_szDuplicates = QT_TRANSLATE_NOOP("CCustomDialog", "存在重复的IP地址。");
 
-/// Refusals by priority: of several rows with errors, the first code in this order is told.
+/// Refusals by priority: of several rows with errors, the first code in this order is shown.
 constexpr SCodeText c_arrRefusals[] = {
     {enAddressInUse, QT_TRANSLATE_NOOP("CCustomDialog", "IP地址已被使用。")},
     {enAddressStartsWithZero, QT_TRANSLATE_NOOP("CCustomDialog", "IP地址不能以0开头。")},

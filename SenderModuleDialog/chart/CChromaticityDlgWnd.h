@@ -152,8 +152,9 @@ public:
     /// @return false, with `ptOut` unchanged, for fewer than 3 points or without a crossing
     bool GetCIEIntersection(const QList<CPointEx<float>>& list, CPointEx<float> ptFrom, CPointEx<float> ptTo,
                             CPointEx<float>& ptOut);
-    /// Stops the point under the mouse at a region, seen from its group's white. `point` takes the answer;
-    /// its value plays no part in it, and it stays without one. The misspelt name is part of the interface.
+    /// Stops the point under the mouse at a region, seen from its group's white. `point` receives the
+    /// answer; its value is ignored, and it is unchanged without an answer. The misspelt name is part of
+    /// the interface.
     void GetFeasibleRegionNearstPoint(QList<CPointEx<float>>& region, CPointEx<float>& point);
     /// The same, seen from the mean of the region's vertices.
     void GetFeasibleRegionNearstPoint2(QList<CPointEx<float>>& region, CPointEx<float>& point);

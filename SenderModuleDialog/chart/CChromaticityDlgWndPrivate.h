@@ -39,7 +39,7 @@ public:
     void ConnectWndBitmapThread();
     /// Waits until the chart's own worker has ended, unless it is the caller.
     void JoinWndBitmapThread();
-    /// The last that the chart has to do with workers.
+    /// Called last: afterwards no worker uses the chart.
     void ReleaseWndBitmapThread();
     /// @}
 

@@ -178,8 +178,8 @@ SFrame Frame(const tagSCalTimingIn& in)
     return frame;
 }
 
-/// Whole lines that last at least the given time. No number of lines does when a line lasts no time at all,
-/// so it is the most that a field holds.
+/// Whole lines that last at least the given time. A line period of zero or below gives the most that a
+/// field holds.
 template <class TMode>
 float LinesLasting(float fMicroseconds, float fLinePeriod)
 {

@@ -10,7 +10,7 @@
 namespace CvtTiming {
 
 /// The blanking of a mode. Every step is rounded to single precision on its own. Any input gives a record:
-/// what no field can hold is held to the field's range.
+/// what a field cannot hold is clamped to its range.
 /// @param timing  every field is written in its place: a record of small fields that is returned in registers
 ///                would first be put together in memory
 void Calculate(const tagSCalTimingIn& in, tagSBlankTiming& timing);

@@ -79,7 +79,7 @@ constexpr Bytes<13> c_serial = {'0', '0', '0', '\n', ' ', ' ', ' ', ' ', ' ', ' 
 /// Behind the range limits: a terminator and blanks.
 constexpr Bytes<7> c_rangePadding = {'\n', ' ', ' ', ' ', ' ', ' ', ' '};
 
-/// What stands in the place of the checksum until it is calculated.
+/// The checksum byte of the template, until it is calculated.
 constexpr Byte c_byChecksumPlaceholder = 0x80;
 
 /// Fixed part of the last byte of a detailed timing: digital separate sync (VESA E-EDID, section 3.10.2).

@@ -99,7 +99,7 @@ int DepthIndex(unsigned char byFlags);
 bool StoreDepth(int nIndex, unsigned char& byFlags);
 /// How many depths the menu offers, counted from the lowest.
 int OfferedDepthCount(const SDepthSupport& support, const SInput& input);
-/// True for a video processor that has nothing but 8 bit: the project is put to that depth.
+/// True for a video processor that offers only 8 bit: the project gets that depth.
 bool HasOnly8Bit(const SDepthSupport& support);
 /// @}
 

@@ -29,8 +29,8 @@ class SENDERMODULEDIALOG_EXPORT CEdidSetDlg : public CCustomDialog
     Q_OBJECT
 
 public:
-    /// Reads the current sender, its limits and the present setting. A video processor that has nothing but
-    /// 8 bit gets colour depth 8 in its project record, as soon as the dialog opens.
+    /// Reads the current sender, its limits and the present setting. A video processor that offers only 8 bit
+    /// gets colour depth 8 in its project record, as soon as the dialog opens.
     /// @param nInterfaceId video interface, as the host numbers them
     /// @param bLowRateOnly true leaves out all rates above 50 Hz
     CEdidSetDlg(QWidget* pParent, int nInterfaceId, bool bLowRateOnly);
@@ -85,8 +85,8 @@ public:
 
     /// Creates the controls and lays them out.
     void InitControl();
-    /// Builds the menus from what sender type, interface and host offer. Here a video processor that has
-    /// nothing but 8 bit gets its project's depth.
+    /// Builds the menus from what sender type, interface and host offer. Here a video processor that offers
+    /// only 8 bit sets the depth of its project.
     void InitComboBox();
     /// Connects the controls to the slots.
     void InitControlConnect();

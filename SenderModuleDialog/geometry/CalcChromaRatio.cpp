@@ -25,8 +25,7 @@ CPointEx<float> Difference(CPointEx<float> ptA, CPointEx<float> ptB)
     return {ptA.x - ptB.x, ptA.y - ptB.y};
 }
 
-/// Whether a point lies on the segment between two others: the way over it is no longer than the way
-/// between them.
+/// Whether a point lies on the segment between two others: the path over it is not longer than the segment.
 bool IsOnEdge(CPointEx<float> pt, CPointEx<float> ptA, CPointEx<float> ptB)
 {
     const float fToA = CCalcChromaRatio::CalcDistance(pt, ptA);

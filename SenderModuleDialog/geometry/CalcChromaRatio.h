@@ -18,7 +18,7 @@ class SENDERMODULEDIALOG_EXPORT CCalcChromaRatio
 public:
     /// The part of triangle b that triangle a covers.
     /// @param vecA, vecB the triangles; not changed
-    /// @param fRatio 0 to 1. It is left alone when b has no area, and the result does not tell: preset it.
+    /// @param fRatio 0 to 1. Unchanged when b has no area, which the result does not show: preset it.
     /// @return true
     bool CalcChromaRatio(std::vector<CPointEx<float>>& vecA, std::vector<CPointEx<float>>& vecB,
                          float& fRatio);

@@ -26,7 +26,8 @@ float SideOfSecond(CPointEx<float> ptQ1, CPointEx<float> ptQ2, CPointEx<float> p
     return (ptQ2.y - ptQ1.y) * ptP.x + ptQ1.x * (ptP.y - ptQ2.y) + ptQ2.x * (ptQ1.y - ptP.y);
 }
 
-/// Whether two side values tell that their points are not across the line. The product is exact in double.
+/// Whether two side values show that their points are not on different sides of the line. The product is
+/// exact in double.
 bool IsOneSided(float fSide1, float fSide2)
 {
     const double dSide1 = double(fSide1);

@@ -24,7 +24,7 @@ class SENDERMODULEDIALOG_EXPORT CSetDepthRateDlg : public CCustomDialog
 
 public:
     /// Reads rate and depth from the current sender's record, and what its hardware offers. A video processor
-    /// that offers nothing but 8 bit gets colour depth 8 in its project record, as soon as the dialog opens.
+    /// that offers only 8 bit gets colour depth 8 in its project record, as soon as the dialog opens.
     /// @param pParent owner of the dialog; may be null
     explicit CSetDepthRateDlg(QWidget* pParent);
     ~CSetDepthRateDlg() override;

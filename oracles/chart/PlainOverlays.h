@@ -4,8 +4,8 @@
 class CChromaticityDlgWnd;
 class QPainter;
 
-/// The chart's layers painted step by step from the chart's state, with nothing kept from paint to paint but
-/// the dots' radii: what the layers are compared with.
+/// The chart's layers painted step by step from the chart's state, keeping only the dots' radii between
+/// paints: what the layers are compared with.
 class CPlainOverlays
 {
 public:

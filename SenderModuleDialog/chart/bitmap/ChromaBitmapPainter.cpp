@@ -345,8 +345,7 @@ public:
 private:
     using RowChanges = std::array<SChanges, c_nComponents>;
 
-    /// For all rows in one go: searching between two rows' painting takes the processor several times
-    /// as long.
+    /// All rows at once: alternating between searching and painting takes several times as long.
     void FindAllChanges(const QRect& rcBox)
     {
         m_vecChanges.resize(size_t(rcBox.height()));

@@ -114,8 +114,8 @@ private:
 
     static constexpr float Factor(bool bQuickRoot) { return bQuickRoot ? TLanes::c_fQuickFactor : 1.0F; }
 
-    /// Adds a component to the pixels by its estimate, and takes the least of the fractions. A term that its
-    /// roundings have moved across the line has no root; then there is no fraction either, which is in doubt.
+    /// Adds a component to the pixels by its estimate, and takes the least of the fractions. Rounding can
+    /// move a term across the line: it then has no root and no fraction, and the pixel is in doubt.
     template <bool bGrows, int nShift, bool bQuickRoot>
     static void AddEstimate(const SRampLanes<TLanes>& ramp, Floats x, Integers& pixels, Integers& fractions)
     {

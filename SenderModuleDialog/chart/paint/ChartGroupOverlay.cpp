@@ -116,8 +116,8 @@ void DrawGroupLines(QPainter& painter, const CChartMapping& mapping, const SChro
         DrawTriangle(painter, pt1 + pt2 - pt0, pt2 + pt0 - pt1, pt1 + pt0 - pt2);
 }
 
-/// Where a place is beyond all pixels, the other side, start + size - 1, still has to be a number. The size
-/// of a dot that has shrunk is 0 or below.
+/// Keeps the other side, start + size - 1, within the range of int for a place beyond all pixels. The size of
+/// a dot that has shrunk is 0 or below.
 int DiscStart(double dStart, int nSize)
 {
     using Limits = std::numeric_limits<int>;

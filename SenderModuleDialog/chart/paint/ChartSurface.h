@@ -28,9 +28,8 @@ public:
     /// redirected to a picture with another ratio than the widget's.
     static double DevicePixelRatio(const QPainter& painter);
 
-    /// Whether copies are sure to give the pixels that painting gives. They are not on devices that are no
-    /// 32-bit raster images, nor under a clip, an opacity, a composition mode or a transformation other than
-    /// whole pixels.
+    /// Whether copying is certain to give the pixels that painting gives: only on 32-bit raster images, and
+    /// without clip, opacity, composition mode or any transformation other than by whole pixels.
     bool CanCopy() const { return m_bCanCopy; }
 
     /// Only where `CanCopy()` is true.

@@ -59,7 +59,7 @@ public:
 
     /// Makes one point of a group in RGB mode legal. Negative coordinates of the three colour points become 0
     /// whatever else happens.
-    /// @param nPoint 0 to 3; with any other index nothing but the clamping is done
+    /// @param nPoint 0 to 3; any other index only clamps
     /// @return false for a white outside the locus, which stays, and for an index that names no point
     bool ReCalRGB(SChromaGroupInfo& group, int nPoint, QPointF& ptNearest);
 

@@ -54,8 +54,7 @@ std::optional<CPointEx<float>> CLocusEdges::LastCrossing(CPointEx<float> ptFrom,
     return std::nullopt;
 }
 
-/// A segment that is no segment (a coordinate is not a number) lies everywhere: only the full test knows what
-/// it makes of it.
+/// A segment with a NaN coordinate gets the box of the whole plane, so that the full test decides.
 CLocusEdges::SBox CLocusEdges::BoxOf(CPointEx<float> ptFirst, CPointEx<float> ptSecond)
 {
     if (std::isunordered(ptFirst.x, ptSecond.x) || std::isunordered(ptFirst.y, ptSecond.y))
