@@ -61,6 +61,72 @@
     </message>
 </context>
 <context>
+    <name>CAdditionReportText</name>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 至 %2</source>
+        <translation>%1 to %2</translation>
+    </message>
+    <message>
+        <source>已添加 %1 个地址：%2。</source>
+        <translation>Addresses added (%1): %2.</translation>
+    </message>
+    <message>
+        <source>略过 %1 个：%2（%3）。</source>
+        <translation>Left out (%1): %2 (%3).</translation>
+    </message>
+</context>
+<context>
+    <name>CAddressEditor</name>
+    <message>
+        <source>批量添加地址</source>
+        <translation>Add a batch of addresses</translation>
+    </message>
+    <message>
+        <source>设置地址</source>
+        <translation>Set addresses</translation>
+    </message>
+    <message>
+        <source>修改地址</source>
+        <translation>Change address</translation>
+    </message>
+    <message>
+        <source>地址已修改。</source>
+        <translation>The address has been changed.</translation>
+    </message>
+    <message>
+        <source>恢复原地址</source>
+        <translation>Reset addresses</translation>
+    </message>
+    <message>
+        <source>已恢复为 %1。</source>
+        <translation>Back to %1.</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>删除 %1 个地址</source>
+        <translation>Remove addresses (%1)</translation>
+    </message>
+    <message>
+        <source>已删除 %1 个地址。</source>
+        <translation>Addresses removed: %1.</translation>
+    </message>
+    <message>
+        <source>手动添加主控</source>
+        <translation>Add processors by hand</translation>
+    </message>
+    <message>
+        <source>已添加 %1 个主控，各有 %2 个输出口。</source>
+        <translation>%1 processors added, each with %2 output ports.</translation>
+    </message>
+</context>
+<context>
     <name>CAddressListModel</name>
     <message>
         <source>改为 %1，尚未应用</source>
@@ -122,10 +188,6 @@
         <translation>Addresses</translation>
     </message>
     <message>
-        <source>要设置的主控数量</source>
-        <translation>Number of processors to set</translation>
-    </message>
-    <message>
         <source>检查地址</source>
         <translation>Check an address</translation>
     </message>
@@ -134,16 +196,16 @@
         <translation>Address to check</translation>
     </message>
     <message>
-        <source>地址已修改。</source>
-        <translation>The address has been changed.</translation>
+        <source>逐个设置地址</source>
+        <translation>Set one by one</translation>
     </message>
     <message>
-        <source>已恢复为 %1。</source>
-        <translation>Restored to %1.</translation>
+        <source>主控数量</source>
+        <translation>Processors</translation>
     </message>
     <message>
-        <source>已添加 %1 个主控，各有 %2 个输出口。</source>
-        <translation>Added %1 processors with %2 output ports each.</translation>
+        <source>主控的地址</source>
+        <translation>Addresses of the processors</translation>
     </message>
 </context>
 <context>

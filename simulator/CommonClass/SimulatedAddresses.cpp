@@ -3,6 +3,8 @@
 #include "simulator/CommonClass/AddressText.h"
 #include "simulator/CommonClass/ProjectDocument.h"
 
+#include <algorithm>
+#include <functional>
 #include <utility>
 
 CSimulatedAddresses::CSimulatedAddresses(CProjectDocument& document)
@@ -44,14 +46,17 @@ const QSet<unsigned int>& CSimulatedAddresses::Used()
     return m_setUsed;
 }
 
-void CSimulatedAddresses::Remove(int nIndex)
+void CSimulatedAddresses::Remove(const QList<int>& listRows)
 {
-    if (nIndex < 0 || nIndex >= m_document.Project().addresses.listStored.size())
-        return;
-    m_document.Change([nIndex](SSimulatedProject& project) {
+    // The last first: the others then keep their rows.
+    QList<int> listDescending = listRows;
+    std::sort(listDescending.begin(), listDescending.end(), std::greater<>());
+    m_document.Change([&listDescending](SSimulatedProject& project) {
         SAddressLists& lists = project.addresses;
-        for (QStringList* pList : {&lists.listStored, &lists.listOriginal, &lists.listCurSet})
-            pList->removeAt(nIndex);
+        for (const int nRow : listDescending)
+            for (QStringList* pList : {&lists.listStored, &lists.listOriginal, &lists.listCurSet})
+                if (nRow >= 0 && nRow < pList->size())
+                    pList->removeAt(nRow);
     });
 }
 

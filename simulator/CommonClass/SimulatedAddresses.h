@@ -27,8 +27,8 @@ public:
 
     /// Checks an address as the dialogs do.
     enAddressVerdict Judge(unsigned int nAddress);
-    /// Removes an entry from all three address lists.
-    void Remove(int nIndex);
+    /// Removes entries from all three address lists; rows without an entry are ignored.
+    void Remove(const QList<int>& listRows);
     /// Puts the list being set in force.
     void ApplyCurrentSet();
     /// Discards the changes of the list being set.

@@ -261,8 +261,8 @@ void TestAddresses::RemovingAnEntryRemovesItFromAllLists()
 {
     GetConfigData()->AddSpecifiedIP(Text("10.0.0.1"), QString());
     GetConfigData()->AddSpecifiedIP(Text("10.0.0.2"), QString());
-    CSimulator::Instance().Addresses().Remove(0);
-    CSimulator::Instance().Addresses().Remove(7);
+    CSimulator::Instance().Addresses().Remove({0});
+    CSimulator::Instance().Addresses().Remove({7});
     const SAddressLists& lists = CSimulator::Instance().Project().addresses;
     const QStringList listExpected = {Text("10.0.0.2()")};
     QCOMPARE(lists.listStored, listExpected);

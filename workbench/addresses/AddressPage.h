@@ -1,21 +1,23 @@
 #ifndef WORKBENCH_ADDRESSES_ADDRESSPAGE_H
 #define WORKBENCH_ADDRESSES_ADDRESSPAGE_H
 
+#include "workbench/Captions.h"
 #include "workbench/WorkbenchPage.h"
 
 #include <functional>
 #include <vector>
 
+class CAddressEditor;
 class CAddressListModel;
 class CCustomIPEdit;
-class CCustomAddProcessorDlg;
+class QAction;
 class QLabel;
 class QPushButton;
 class QSpinBox;
 class QTableView;
 
-/// The list of processor addresses with the dialogs that add, set and change them, the demo project, and a
-/// live view of why an address is refused.
+/// The list of processor addresses, buttons for what the editor can do to it, and a live view of why an
+/// address is refused.
 class CAddressPage : public CWorkbenchPage
 {
     Q_OBJECT
@@ -30,17 +32,7 @@ public:
     void ShowSelection(const SSelection& selection) override;
     void Retranslate() override;
 
-    /// @name What the buttons do
-    /// @{
-    void AddBatch();
-    void SetAddresses();
-    void ModifySelected();
-    void ResetSelected();
-    void RemoveSelected();
-    void AddByHand();
-    void StartDemo();
-    /// @}
-
+    CAddressEditor& Editor() { return *m_pEditor; }
     /// Selects an entry of the list.
     void SelectRow(int nRow);
     /// Puts an address into the check field.
@@ -49,31 +41,41 @@ public:
     QString ShownVerdict() const;
 
 private:
-    struct SAction
+    /// How many entries have to be selected for a button.
+    enum class enNeeds
     {
-        QPushButton* pButton;
+        enOneEntry,
+        enEntries
+    };
+
+    /// What a button does to selected entries, also in the list's context menu.
+    struct SEntryAction
+    {
+        QAction* pAction;
         const char* szText;
-        bool bNeedsEntry; ///< enabled only while an entry is selected
+        enNeeds needs;
     };
 
     QWidget* CreateButtons();
+    QWidget* CreateSetBox();
     QWidget* CreateCheckRow();
-    void AddAction(const char* szText, bool bNeedsEntry, void (CAddressPage::*pAction)());
+    QPushButton* CreateButton(const char* szName, const char* szText, const std::function<void()>& funcDo);
+    QPushButton* CreateEntryButton(const char* szName, const char* szText, enNeeds needs,
+                                   const QList<QKeySequence>& listKeys, const std::function<void()>& funcDo);
     void Refresh();
-    void EnableButtons();
+    void EnableActions();
     void ShowVerdict();
-    int SelectedRow() const;
-    void TakeProcessors(const CCustomAddProcessorDlg& dialog);
+    QList<int> SelectedRows() const;
 
-    const std::function<bool()> m_funcMayLeave;
+    CAddressEditor* m_pEditor = nullptr;
     CAddressListModel* m_pModel = nullptr;
     QTableView* m_pTable = nullptr;
-    QLabel* m_pCountCaption = nullptr;
     QSpinBox* m_pCount = nullptr;
-    QLabel* m_pCheckCaption = nullptr;
     CCustomIPEdit* m_pCheck = nullptr;
     QLabel* m_pVerdict = nullptr;
-    std::vector<SAction> m_vecActions;
+    QLabel* m_pReport = nullptr;
+    CCaptions m_captions;
+    std::vector<SEntryAction> m_vecEntryActions;
 };
 
 #endif // WORKBENCH_ADDRESSES_ADDRESSPAGE_H

@@ -2,11 +2,15 @@
 #include "host/OrviControl/CustomIPEdit.h"
 #include "simulator/CommonClass/Simulator.h"
 #include "tests/workbench/DialogOperator.h"
+#include "workbench/ProjectHistory.h"
 #include "workbench/addresses/AddressPage.h"
 
 #include <QDialog>
+#include <QGroupBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTableView>
 #include <QtTest>
 
@@ -27,14 +31,19 @@ QStringList Stored()
     return CSimulator::Instance().Project().addresses.listStored;
 }
 
-/// A list of three entries, made by the batch dialog.
+void Click(CAddressPage& page, const char* szButton)
+{
+    QTest::mouseClick(page.findChild<QPushButton*>(QString::fromLatin1(szButton)), Qt::LeftButton);
+}
+
+/// A list of sixteen entries, made by the batch dialog.
 void MakeList(CAddressPage& page)
 {
     const CDialogOperator dialogOperator([](QDialog* pDialog) {
         EnterAddress(pDialog, "192.168.1.20");
         Press(pDialog, "确定");
     });
-    page.AddBatch();
+    Click(page, "batch");
 }
 
 } // namespace
@@ -56,6 +65,13 @@ private Q_SLOTS:
     void TheCheckFieldSaysWhyAnAddressIsRefused_data();
     void TheCheckFieldSaysWhyAnAddressIsRefused();
     void ButtonsOfAnEntryNeedOne();
+    void DeleteRemovesTheSelectedAddressesInOneStep();
+    void AfterDeleteTheNextAddressIsSelected();
+    void TheAddressIsModifiedFromTheList_data();
+    void TheAddressIsModifiedFromTheList();
+    void ABatchTellsWhatItAddedAndLeftOut();
+    void ACancelledBatchTellsNothing();
+    void TheNumberOfProcessorsBelongsToSetAddresses();
 };
 
 void TestAddressPage::initTestCase()
@@ -92,7 +108,7 @@ void TestAddressPage::ModifyingPutsTheEntryIntoForce()
         EnterAddress(pDialog, "192.168.1.99");
         Press(pDialog, "确定");
     });
-    page.ModifySelected();
+    Click(page, "modify");
     QCOMPARE(Stored().at(1), QStringLiteral("192.168.1.99()"));
 }
 
@@ -106,11 +122,11 @@ void TestAddressPage::ResettingBringsTheFirstAddressBack()
             EnterAddress(pDialog, "192.168.1.99");
             Press(pDialog, "确定");
         });
-        page.ModifySelected();
+        Click(page, "modify");
     }
     page.SelectRow(1);
     QSignalSpy spy(&page, &CWorkbenchPage::Reported);
-    page.ResetSelected();
+    Click(page, "reset");
     QCOMPARE(Stored().at(1), QStringLiteral("192.168.1.21()"));
     QVERIFY(spy.last().first().toString().contains(QStringLiteral("192.168.1.21(IP21)")));
 }
@@ -128,7 +144,7 @@ void TestAddressPage::AddingByHandAddsSendersAndAddresses()
         EnterAddress(pDialog, "192.168.1.50");
         Press(pDialog, "确定");
     });
-    page.AddByHand();
+    Click(page, "byHand");
     QCOMPARE(CSimulator::Instance().Project().listSenders.size(), nBefore + 3);
     QCOMPARE(Stored(), (QStringList{QStringLiteral("192.168.1.50()"), QStringLiteral("192.168.1.51()"),
                                     QStringLiteral("192.168.1.52()")}));
@@ -141,7 +157,7 @@ void TestAddressPage::ProcessorsAddedByHandAreAnnouncedOnce()
     CAddressPage page(Leave);
     QSignalSpy spyChanged(&CSimulator::Instance().Document(), &CProjectDocument::OnProjectChanged);
     const CDialogOperator dialogOperator([](QDialog* pDialog) { Press(pDialog, "确定"); });
-    page.AddByHand();
+    Click(page, "byHand");
     QCOMPARE(spyChanged.count(), 1);
     QCOMPARE(spyChanged.first().first().value<SProjectChange>().setSenderIds.size(), 3);
 }
@@ -150,7 +166,7 @@ void TestAddressPage::StartingTheDemoReplacesTheProject()
 {
     CAddressPage page(Leave);
     const CDialogOperator dialogOperator([](QDialog* pDialog) { Press(pDialog, "确认"); });
-    page.StartDemo();
+    Click(page, "demo");
     QCOMPARE(int(CSimulator::Instance().Project().listSenders.size()), 1);
     QCOMPARE(CSimulator::Instance().Project().listSenders[0].capability.nType, 21);
     QVERIFY(CSimulator::Instance().Project().bDemoMode);
@@ -160,7 +176,7 @@ void TestAddressPage::TheDemoIsNotStartedWhenTheOperatorWantsToStay()
 {
     CAddressPage page([] { return false; });
     const std::size_t nSenders = CSimulator::Instance().Project().listSenders.size();
-    page.StartDemo();
+    Click(page, "demo");
     QCOMPARE(CSimulator::Instance().Project().listSenders.size(), nSenders);
 }
 
@@ -197,17 +213,128 @@ void TestAddressPage::TheCheckFieldSaysWhyAnAddressIsRefused()
 void TestAddressPage::ButtonsOfAnEntryNeedOne()
 {
     CAddressPage page(Leave);
-    const auto funcEnabled = [&page](const char* szText) {
-        for (const QPushButton* pButton : page.findChildren<QPushButton*>())
-            if (pButton->text() == QString::fromUtf8(szText))
-                return pButton->isEnabled();
-        return false;
+    const auto IsEnabled = [&page](const char* szButton) {
+        return page.findChild<QPushButton*>(QString::fromLatin1(szButton))->isEnabled();
     };
-    QVERIFY(!funcEnabled("修改..."));
+    QVERIFY(!IsEnabled("modify"));
     MakeList(page);
     page.SelectRow(0);
-    QVERIFY(funcEnabled("修改..."));
-    QVERIFY(funcEnabled("删除"));
+    QVERIFY(IsEnabled("modify"));
+    QVERIFY(IsEnabled("remove"));
+    page.findChild<QTableView*>()->selectAll();
+    QVERIFY(!IsEnabled("modify"));
+    QVERIFY(IsEnabled("remove"));
+}
+
+/// The page on the screen with a list, its table focused, and the history of the project.
+struct SFocusedList
+{
+    CAddressPage page{Leave};
+    CProjectHistory history;
+    QTableView* pTable = page.findChild<QTableView*>();
+
+    SFocusedList()
+    {
+        history.Follow(page);
+        MakeList(page);
+        page.resize(800, 600);
+        page.show();
+        QApplication::setActiveWindow(&page);
+        if (!QTest::qWaitForWindowActive(&page))
+            qFatal("The page did not become active.");
+        pTable->setFocus();
+        page.SelectRow(0);
+    }
+
+    void Click(int nRow, Qt::KeyboardModifiers modifiers)
+    {
+        QTest::mouseClick(pTable->viewport(), Qt::LeftButton, modifiers,
+                          pTable->visualRect(pTable->model()->index(nRow, 0)).center());
+    }
+};
+
+void TestAddressPage::DeleteRemovesTheSelectedAddressesInOneStep()
+{
+    SFocusedList shown;
+    const QStringList listBefore = Stored();
+    shown.Click(1, Qt::NoModifier);
+    shown.Click(3, Qt::ShiftModifier);
+    shown.Click(5, Qt::ControlModifier);
+    const int nSteps = shown.history.Steps().count();
+    QTest::keyClick(shown.pTable, Qt::Key_Delete);
+    QCOMPARE(Stored(), (QStringList{listBefore[0], listBefore[4]} + listBefore.mid(6)));
+    QCOMPARE(shown.history.Steps().count(), nSteps + 1);
+    shown.history.Undo();
+    QCOMPARE(Stored(), listBefore);
+    shown.history.Undo();
+    QVERIFY(Stored().isEmpty());
+    shown.history.Redo();
+    QCOMPARE(Stored(), listBefore);
+}
+
+void TestAddressPage::AfterDeleteTheNextAddressIsSelected()
+{
+    const SFocusedList shown;
+    QTest::keyClick(shown.pTable, Qt::Key_Delete);
+    QTest::keyClick(shown.pTable, Qt::Key_Delete);
+    QCOMPARE(Stored().first(), QStringLiteral("192.168.1.22()"));
+}
+
+void TestAddressPage::TheAddressIsModifiedFromTheList_data()
+{
+    QTest::addColumn<bool>("byMouse");
+    QTest::newRow("Enter") << false;
+    QTest::newRow("double click") << true;
+}
+
+void TestAddressPage::TheAddressIsModifiedFromTheList()
+{
+    QFETCH(bool, byMouse);
+    SFocusedList shown;
+    const CDialogOperator dialogOperator([](QDialog* pDialog) {
+        EnterAddress(pDialog, "192.168.1.99");
+        Press(pDialog, "确定");
+    });
+    // As a mouse does: the first click chooses the row.
+    shown.Click(0, Qt::NoModifier);
+    if (byMouse)
+        QTest::mouseDClick(shown.pTable->viewport(), Qt::LeftButton, Qt::NoModifier,
+                           shown.pTable->visualRect(shown.pTable->model()->index(0, 0)).center());
+    else
+        QTest::keyClick(shown.pTable, Qt::Key_Return);
+    QCOMPARE(Stored().first(), QStringLiteral("192.168.1.99()"));
+}
+
+void TestAddressPage::ABatchTellsWhatItAddedAndLeftOut()
+{
+    CAddressPage page(Leave);
+    const CDialogOperator dialogOperator([](QDialog* pDialog) {
+        EnterAddress(pDialog, "192.168.1.5");
+        Press(pDialog, "确定");
+    });
+    Click(page, "batch");
+    const QString strReport = page.findChild<QLabel*>(QStringLiteral("report"))->text();
+    QCOMPARE(strReport, QStringLiteral("已添加 16 个地址：192.168.1.5 至 192.168.1.21。 "
+                                       "略过 1 个：192.168.1.10（本机的地址：需要确认）。"));
+}
+
+void TestAddressPage::ACancelledBatchTellsNothing()
+{
+    CAddressPage page(Leave);
+    const CDialogOperator dialogOperator([](QDialog* pDialog) { pDialog->reject(); });
+    Click(page, "batch");
+    QVERIFY(page.findChild<QLabel*>(QStringLiteral("report"))->text().isEmpty());
+}
+
+void TestAddressPage::TheNumberOfProcessorsBelongsToSetAddresses()
+{
+    CAddressPage page(Leave);
+    const auto* pCount = page.findChild<QSpinBox*>(QStringLiteral("count"));
+    const auto* pSet = page.findChild<QPushButton*>(QStringLiteral("set"));
+    const auto* pBatch = page.findChild<QPushButton*>(QStringLiteral("batch"));
+    QVERIFY(qobject_cast<QGroupBox*>(pCount->parentWidget()) != nullptr);
+    QCOMPARE(pSet->parentWidget(), pCount->parentWidget());
+    QVERIFY(pBatch->parentWidget() != pCount->parentWidget());
 }
 
 QTEST_MAIN(TestAddressPage)

@@ -2,6 +2,7 @@
 #include "SenderModuleDialog/addressing/AddressGenerators.h"
 #include "simulator/CommonClass/AddressText.h"
 #include "simulator/CommonClass/Simulator.h"
+#include "workbench/addresses/AddressEditor.h"
 #include "workbench/addresses/AddressPage.h"
 #include "workbench/addresses/HandAddition.h"
 
@@ -141,7 +142,7 @@ void TestHandAddition::ThePageSaysWhyInsteadOfOpeningTheDialog()
     CSimulator::Instance().Addresses().SetNetworkFacts(EveryAddressIsAGateway);
     CAddressPage page([] { return true; });
     QSignalSpy spyFailed(&page, &CWorkbenchPage::Failed);
-    page.AddByHand();
+    page.Editor().AddByHand();
     QCOMPARE(spyFailed.count(), 1);
     QCOMPARE(spyFailed.first().first().toString(), HandAddition::Obstacle());
 }
