@@ -269,10 +269,6 @@
         <source>图的背景颜色</source>
         <translation>Background of the chart</translation>
     </message>
-    <message>
-        <source>单击放置顶点，双击或回车完成，退格键撤回一个顶点，Esc 取消。</source>
-        <translation>Click to set corners. Double-click or Enter closes the region, Backspace takes a corner back, Esc cancels.</translation>
-    </message>
 </context>
 <context>
     <name>CChartEditor</name>
@@ -2811,10 +2807,6 @@ Write one with &quot;Edit EDID...&quot;, or build the block here and write it in
         <translation>Screen colour space</translation>
     </message>
     <message>
-        <source>键 %1</source>
-        <translation>Key %1</translation>
-    </message>
-    <message>
         <source>更改%1</source>
         <translation>Change %1</translation>
     </message>
@@ -2825,6 +2817,10 @@ Write one with &quot;Edit EDID...&quot;, or build the block here and write it in
     <message>
         <source>白点必须在光谱轨迹以内。</source>
         <translation>The white point must lie inside the spectral locus.</translation>
+    </message>
+    <message>
+        <source>%1，键 %2</source>
+        <translation>%1, key %2</translation>
     </message>
 </context>
 <context>
@@ -3449,6 +3445,33 @@ Choose another picture.</translation>
     </message>
 </context>
 <context>
+    <name>CPictureSizeDialog</name>
+    <message>
+        <source>宽</source>
+        <translation>Width</translation>
+    </message>
+    <message>
+        <source> 像素</source>
+        <translation> pixels</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>Height</translation>
+    </message>
+    <message>
+        <source>分辨率</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>分辨率越高，线条和文字占的像素越多；屏幕为 96 dpi</source>
+        <translation>At a higher resolution lines and letters have more pixels; a screen has 96 dpi</translation>
+    </message>
+</context>
+<context>
     <name>CPointReadingsModel</name>
     <message>
         <source>红</source>
@@ -3676,6 +3699,21 @@ Choose another picture.</translation>
     <message>
         <source>波长 %1 nm</source>
         <translation>wavelength %1 nm</translation>
+    </message>
+</context>
+<context>
+    <name>CRegionOverlay</name>
+    <message>
+        <source>单击放置第一个顶点。Esc 取消。</source>
+        <translation>Click to set the first corner. Esc cancels.</translation>
+    </message>
+    <message>
+        <source>单击放置下一个顶点，至少三个。退格键撤回一个，Esc 取消。</source>
+        <translation>Click to set the next corner, three or more. Backspace takes one back, Esc cancels.</translation>
+    </message>
+    <message>
+        <source>双击或回车完成区域。退格键撤回一个顶点，Esc 取消。</source>
+        <translation>Double-click or Enter closes the region. Backspace takes a corner back, Esc cancels.</translation>
     </message>
 </context>
 <context>

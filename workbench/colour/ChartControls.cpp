@@ -176,7 +176,6 @@ void CChartControls::DrawRegion()
 {
     m_view.Overlay().StartDrawing();
     Refresh();
-    Q_EMIT Reported(tr("单击放置顶点，双击或回车完成，退格键撤回一个顶点，Esc 取消。"));
 }
 
 void CChartControls::ClearRegion()

@@ -11,12 +11,14 @@
 
 namespace {
 
+constexpr double c_dMetersPerInch = 0.0254;
+
 /// Paints a separate chart with the same contents: the one on the screen follows the mouse.
-void Paint(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, QPainter& painter)
+void Paint(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, QSize size, QPainter& painter)
 {
     CChromaticityDlgWnd copy(nullptr);
-    copy.resize(chart.size());
-    copy.SetSize(chart.m_nWndWidth, chart.m_nWndHeight);
+    copy.resize(size);
+    copy.SetSize(size.width(), size.height());
     copy.SetBackgroundColor(chart.m_clrBackground);
     copy.SetGridLineAlpha(chart.m_nGridAlpha);
     copy.ShowCIEStandard(chart.m_nGroupIndex, enColorStandard(chart.m_nStandard), chart.m_bShowStandard);
@@ -27,29 +29,41 @@ void Paint(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, QPai
 
 } // namespace
 
-QImage ChartExport::Picture(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, double dRatio)
+SPictureSize ChartExport::ScreenSize(const CChromaticityDlgWnd& chart)
 {
-    QImage image((QSizeF(chart.m_nWndWidth, chart.m_nWndHeight) * dRatio).toSize(), QImage::Format_RGB32);
-    image.setDevicePixelRatio(dRatio);
+    const double dRatio = chart.devicePixelRatioF();
+    return {(QSizeF(chart.m_nWndWidth, chart.m_nWndHeight) * dRatio).toSize(),
+            qRound(dRatio * c_nScreenResolution)};
+}
+
+QImage ChartExport::Picture(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region,
+                            const SPictureSize& size)
+{
+    QImage image(size.size, QImage::Format_RGB32);
+    image.setDevicePixelRatio(size.Ratio());
     image.fill(chart.m_clrBackground);
     QPainter painter(&image);
-    Paint(chart, region, painter);
+    Paint(chart, region, size.Layout(), painter);
+    painter.end();
+    // Not before: sizes of letters would follow it.
+    const int nDotsPerMeter = qRound(size.nResolution / c_dMetersPerInch);
+    image.setDotsPerMeterX(nDotsPerMeter);
+    image.setDotsPerMeterY(nDotsPerMeter);
     return image;
 }
 
-QString ChartExport::SavePng(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, double dRatio,
-                             const QString& strFile)
+QString ChartExport::SavePng(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region,
+                             const SPictureSize& size, const QString& strFile)
 {
     QByteArray baContent;
     QBuffer buffer(&baContent);
-    Picture(chart, region, dRatio).save(&buffer, "PNG");
+    Picture(chart, region, size).save(&buffer, "PNG");
     return WholeFile::Write(strFile, baContent);
 }
 
-QString ChartExport::SaveSvg(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region,
+QString ChartExport::SaveSvg(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, QSize size,
                              const QString& strFile)
 {
-    const QSize size(chart.m_nWndWidth, chart.m_nWndHeight);
     QByteArray baContent;
     QBuffer buffer(&baContent);
     QSvgGenerator generator;
@@ -59,7 +73,7 @@ QString ChartExport::SaveSvg(const CChromaticityDlgWnd& chart, const CFeasibleRe
     // Font sizes are in points: fonts must be as large as on the screen.
     generator.setResolution(chart.logicalDpiY());
     QPainter painter(&generator);
-    Paint(chart, region, painter);
+    Paint(chart, region, size, painter);
     painter.end();
     return WholeFile::Write(strFile, baContent);
 }

@@ -2,29 +2,33 @@
 #define WORKBENCH_COLOUR_CHARTEXPORT_H
 
 #include "workbench/colour/FeasibleRegion.h"
+#include "workbench/colour/PictureSize.h"
 
 #include <QImage>
 #include <QString>
 
 class CChromaticityDlgWnd;
 
-/// Pictures of a chart as it stands, with the region and the standard's name over it, but without what
+/// Pictures of a chart with its contents, with the region and the standard's name over it, but without what
 /// follows the mouse: no cross hair, no tips, no enlarged dot.
 namespace ChartExport {
 
-/// A picture in the chart's size.
-/// @param dRatio pixels of the picture for each of the chart's
-QImage Picture(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, double dRatio);
+/// The size that a chart has on its screen.
+SPictureSize ScreenSize(const CChromaticityDlgWnd& chart);
+
+QImage Picture(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, const SPictureSize& size);
 
 /// Writes the picture as PNG, whole or not at all.
 /// @return empty when it was written, else why not
-QString SavePng(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, double dRatio,
+QString SavePng(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, const SPictureSize& size,
                 const QString& strFile);
 
 /// Writes the chart as SVG, whole or not at all. Lines and texts stay lines and texts; the coloured bitmap
 /// goes in as a picture.
+/// @param size pixels of the layout
 /// @return empty when it was written, else why not
-QString SaveSvg(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, const QString& strFile);
+QString SaveSvg(const CChromaticityDlgWnd& chart, const CFeasibleRegion& region, QSize size,
+                const QString& strFile);
 
 } // namespace ChartExport
 

@@ -86,9 +86,11 @@ bool CChartView::eventFilter(QObject* pWatched, QEvent* pEvent)
         return static_cast<const QMouseEvent*>(pEvent)->button() == Qt::LeftButton;
     };
     if (pEvent->type() == QEvent::MouseButtonPress && IsLeft())
-        m_pEditor->BeginDrag();
+        TakePoint(static_cast<const QMouseEvent*>(pEvent)->pos());
     else if (pEvent->type() == QEvent::MouseMove)
         RememberPlace();
+    else if (pEvent->type() == QEvent::Leave)
+        Q_EMIT MouseLeft();
     else if (pEvent->type() == QEvent::MouseButtonRelease && IsLeft()) {
         EndDrag();
         SelectDragged();
@@ -112,6 +114,16 @@ void CChartView::Answer(int nGroup, int nPoint, bool& bSuccessed)
         m_pChart->ReCalCMY(pGroup);
     // The point reaches its final place only after the answer is read.
     QMetaObject::invokeMethod(m_pEditor, &CChartEditor::Changed, Qt::QueuedConnection);
+}
+
+void CChartView::TakePoint(QPoint pos)
+{
+    m_pEditor->BeginDrag();
+    int nGroup = -1;
+    int nPoint = enNoPoint;
+    m_pChart->HitTest(pos, nGroup, nPoint);
+    if (nPoint != enNoPoint)
+        Q_EMIT PointTaken(nGroup);
 }
 
 void CChartView::SelectDragged()

@@ -53,6 +53,10 @@ public:
 Q_SIGNALS:
     /// The mouse moved over the chart, and the chart has handled it.
     void MouseMoved();
+    /// The mouse left the chart.
+    void MouseLeft();
+    /// The operator took hold of a point of this group.
+    void PointTaken(int nGroup);
 
 protected:
     void resizeEvent(QResizeEvent* pEvent) override;
@@ -61,6 +65,7 @@ private:
     void LayOut();
     void Answer(int nGroup, int nPoint, bool& bSuccessed);
     void RememberPlace();
+    void TakePoint(QPoint pos);
     void SelectDragged();
     void AskForStandard();
 

@@ -6,12 +6,15 @@
 #include "workbench/colour/ChartExport.h"
 #include "workbench/colour/ChartView.h"
 #include "workbench/colour/DiagramOverlay.h"
+#include "workbench/colour/DiagramPair.h"
 #include "workbench/colour/GroupPanel.h"
 #include "workbench/colour/MeasuredWall.h"
+#include "workbench/colour/PictureSizeDialog.h"
 #include "workbench/colour/PointKeys.h"
 #include "workbench/colour/PointReadout.h"
 #include "workbench/colour/ProjectColours.h"
 #include "workbench/colour/ReadingsPanel.h"
+#include "workbench/colour/RegionOverlay.h"
 #include "workbench/colour/UcsView.h"
 #include "workbench/colour/WallPanel.h"
 
@@ -22,7 +25,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
-#include <QStackedWidget>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -47,8 +49,8 @@ CColourPage::CColourPage(QWidget* pParent)
     connect(m_pGroups, &CGroupPanel::Reported, this, &CColourPage::Reported);
     connect(m_pGroups, &CGroupPanel::StandardChosen, m_pView, &CChartView::PreferStandard);
     connect(m_pControls, &CChartControls::Reported, this, &CColourPage::Reported);
-    connect(m_pView, &CChartView::MouseMoved, this, &CColourPage::ShowReadout);
-    connect(&m_pView->Keys(), &CPointKeys::Told, m_pReadout, &QLabel::setText);
+    connect(m_pView, &CChartView::PointTaken, m_pGroups, &CGroupPanel::SelectKey);
+    ConnectReadout();
     m_pProject = new CProjectColours(*m_pView, this);
     connect(m_pControls, &CChartControls::RegionChanged, m_pProject, &CProjectColours::StoreRegion);
     const auto funcBegin = [this](const QString& strText) { Q_EMIT StepBegan(strText); };
@@ -62,18 +64,36 @@ CColourPage::CColourPage(QWidget* pParent)
     Retranslate();
 }
 
+void CColourPage::ConnectReadout()
+{
+    const CPointKeys* const pKeys = &m_pView->Keys();
+    connect(m_pView, &CChartView::MouseMoved, this, [this] { DescribeOther(enUnderMouse); });
+    connect(m_pView, &CChartView::MouseLeft, this,
+            [this, pKeys] { DescribeOther(pKeys->hasFocus() ? enFocusedPoint : enNothing); });
+    connect(pKeys, &CPointKeys::Told, this, [this](const QString& strText) {
+        DescribeOther(strText.isEmpty() ? enNothing : enFocusedPoint);
+    });
+    // A drag tells of each step by itself.
+    connect(&m_pView->Editor(), &CChartEditor::Changed, this, [this] {
+        if (!m_pView->Editor().IsDragging())
+            ShowReadout();
+    });
+    connect(&m_pView->Overlay(), &CRegionOverlay::DrawingStarted, this, &CColourPage::ShowReadout);
+    connect(&m_pView->Overlay(), &CRegionOverlay::DrawingEnded, this, &CColourPage::ShowReadout);
+}
+
 QWidget* CColourPage::CreateChart()
 {
     auto* pChart = new QWidget(this);
     auto* pLayout = new QVBoxLayout(pChart);
     pLayout->setContentsMargins(0, 0, 0, 0);
-    m_pDiagrams = new QStackedWidget(pChart);
-    m_pDiagrams->addWidget(m_pView);
+    m_pDiagrams = new CDiagramPair(pChart);
     m_pUcsShown = new QPushButton(pChart);
     m_pUcsShown->setCheckable(true);
     connect(m_pUcsShown, &QPushButton::toggled, this, &CColourPage::ShowUcs);
     // A long text breaks instead of widening the page.
     m_pReadout->setWordWrap(true);
+    m_pReadout->setObjectName(QStringLiteral("readout"));
     auto* pFoot = new QHBoxLayout;
     pFoot->addWidget(m_pReadout, 1);
     pFoot->addWidget(m_pUcsShown);
@@ -113,16 +133,18 @@ QWidget* CColourPage::CreateWall()
     m_pDiagramOverlay = new CDiagramOverlay(*m_pWall, *m_pView);
     connect(m_pWallPanel, &CWallPanel::ShownOnChart, m_pDiagramOverlay, &CDiagramOverlay::SetWallShown);
     m_pUcs = new CUcsView(m_pView->Editor(), *m_pWall, this);
-    m_pDiagrams->addWidget(m_pUcs);
+    m_pDiagrams->SetDiagrams(m_pView, m_pUcs);
+    connect(m_pDiagrams, &CDiagramPair::RoomChanged, m_pUcsShown, &QWidget::setHidden);
     connect(m_pWallPanel, &CWallPanel::ShownOnChart, m_pUcs, &CUcsView::SetWallShown);
     connect(m_pWallPanel, &CWallPanel::Reported, this, &CColourPage::Reported);
+    connect(m_pWallPanel, &CWallPanel::Failed, this, &CColourPage::Failed);
     return m_pWallPanel;
 }
 
 void CColourPage::ShowUcs(bool bShown)
 {
     m_pUcsShown->setChecked(bShown);
-    m_pDiagrams->setCurrentWidget(bShown ? static_cast<QWidget*>(m_pUcs) : m_pView);
+    m_pDiagrams->ShowUcs(bShown);
 }
 
 void CColourPage::ShowTab(enTab tab)
@@ -141,8 +163,8 @@ QWidget* CColourPage::CreateExports()
     for (QPushButton* pButton : {m_pCopy, m_pPng, m_pSvg})
         pLayout->addWidget(pButton);
     connect(m_pCopy, &QPushButton::clicked, this, &CColourPage::CopyPicture);
-    connect(m_pPng, &QPushButton::clicked, this, [this] { ChooseFileAndSave(false); });
-    connect(m_pSvg, &QPushButton::clicked, this, [this] { ChooseFileAndSave(true); });
+    connect(m_pPng, &QPushButton::clicked, this, &CColourPage::ExportPng);
+    connect(m_pSvg, &QPushButton::clicked, this, &CColourPage::ExportSvg);
     return pExports;
 }
 
@@ -175,43 +197,79 @@ void CColourPage::Retranslate()
     m_pSvg->setText(tr("导出 SVG..."));
 }
 
+void CColourPage::DescribeOther(enDescribed described)
+{
+    m_described = described;
+    ShowReadout();
+}
+
+/// Read from the chart each time: the line follows undo, removed groups and another language too.
+QString CColourPage::Readout() const
+{
+    const SGroupPoint focused = m_pView->Keys().Current();
+    switch (m_described) {
+    case enUnderMouse:
+        return PointReadout::Of(m_pView->Chart());
+    case enFocusedPoint:
+        return PointReadout::OfPoint(m_pView->Chart(), focused.nGroup, focused.nPoint);
+    case enNothing:
+        break;
+    }
+    return {};
+}
+
 void CColourPage::ShowReadout()
 {
-    const QString strReadout = PointReadout::Of(m_pView->Chart());
-    m_pReadout->setText(strReadout.isEmpty()
-                            ? tr("拖动白边的点，或用 Tab 键选点、方向键移动；灰边的点不能移动。")
-                            : strReadout);
+    const QString strReadout = Readout();
+    if (m_pView->Overlay().IsDrawing())
+        m_pReadout->clear();
+    else if (strReadout.isEmpty())
+        m_pReadout->setText(tr("拖动白边的点，或用 Tab 键选点、方向键移动；灰边的点不能移动。"));
+    else
+        m_pReadout->setText(strReadout);
 }
 
 void CColourPage::CopyPicture()
 {
     QGuiApplication::clipboard()->setImage(
-        ChartExport::Picture(m_pView->Chart(), m_pView->Region(), devicePixelRatioF()));
+        ChartExport::Picture(m_pView->Chart(), m_pView->Region(), ChartExport::ScreenSize(m_pView->Chart())));
     Q_EMIT Reported(tr("图片已复制到剪贴板。"));
 }
 
-void CColourPage::ChooseFileAndSave(bool bSvg)
+void CColourPage::ExportPng()
 {
-    const QString strFile =
-        bSvg ? SaveDialog::Ask(this, tr("导出 SVG"), QStringLiteral("chart.svg"), tr("SVG 图形 (*.svg)"))
-             : SaveDialog::Ask(this, tr("导出 PNG"), QStringLiteral("chart.png"), tr("PNG 图片 (*.png)"));
-    if (strFile.isEmpty())
+    const QString strTitle = tr("导出 PNG");
+    const auto size = CPictureSizeDialog::Ask(ChartExport::ScreenSize(m_pView->Chart()),
+                                              CPictureSizeDialog::enPixels, strTitle, this);
+    if (!size)
         return;
-    if (bSvg)
-        SaveSvg(strFile);
-    else
-        SavePng(strFile);
+    const QString strFile =
+        SaveDialog::Ask(this, strTitle, QStringLiteral("chart.png"), tr("PNG 图片 (*.png)"));
+    if (!strFile.isEmpty())
+        SavePng(strFile, *size);
 }
 
-bool CColourPage::SavePng(const QString& strFile)
+void CColourPage::ExportSvg()
 {
-    return ReportSaved(
-        strFile, ChartExport::SavePng(m_pView->Chart(), m_pView->Region(), devicePixelRatioF(), strFile));
+    const QString strTitle = tr("导出 SVG");
+    const auto size =
+        CPictureSizeDialog::Ask({m_pView->Chart().size()}, CPictureSizeDialog::enLines, strTitle, this);
+    if (!size)
+        return;
+    const QString strFile =
+        SaveDialog::Ask(this, strTitle, QStringLiteral("chart.svg"), tr("SVG 图形 (*.svg)"));
+    if (!strFile.isEmpty())
+        SaveSvg(strFile, size->size);
 }
 
-bool CColourPage::SaveSvg(const QString& strFile)
+bool CColourPage::SavePng(const QString& strFile, const SPictureSize& size)
 {
-    return ReportSaved(strFile, ChartExport::SaveSvg(m_pView->Chart(), m_pView->Region(), strFile));
+    return ReportSaved(strFile, ChartExport::SavePng(m_pView->Chart(), m_pView->Region(), size, strFile));
+}
+
+bool CColourPage::SaveSvg(const QString& strFile, QSize size)
+{
+    return ReportSaved(strFile, ChartExport::SaveSvg(m_pView->Chart(), m_pView->Region(), size, strFile));
 }
 
 bool CColourPage::ReportSaved(const QString& strFile, const QString& strError)

@@ -2,6 +2,7 @@
 #define WORKBENCH_COLOUR_COLOURPAGE_H
 
 #include "workbench/WorkbenchPage.h"
+#include "workbench/colour/PictureSize.h"
 
 class CChartControls;
 class CChartView;
@@ -11,10 +12,10 @@ class CProjectColours;
 class CReadingsPanel;
 class CUcsView;
 class CDiagramOverlay;
+class CDiagramPair;
 class CWallPanel;
 class QLabel;
 class QPushButton;
-class QStackedWidget;
 class QTabWidget;
 
 /// The chromaticity chart with its groups in a table beside it, its settings, the readings of the selected
@@ -44,15 +45,15 @@ public:
         enWallTab,
     };
     void ShowTab(enTab tab);
-    /// Shows the CIE 1976 (u', v') diagram instead of the chart, or the chart again.
+    /// Shows the CIE 1976 (u', v') diagram instead of the chart, or the chart again; a wide page shows both.
     void ShowUcs(bool bShown);
 
     /// @name Pictures of the chart
     /// @return false when the file could not be written; the status line says why
     /// @{
     void CopyPicture();
-    bool SavePng(const QString& strFile);
-    bool SaveSvg(const QString& strFile);
+    bool SavePng(const QString& strFile, const SPictureSize& size);
+    bool SaveSvg(const QString& strFile, QSize size);
     /// @}
 
 private:
@@ -61,8 +62,19 @@ private:
     QWidget* CreateGroups();
     QWidget* CreateWall();
     QWidget* CreateExports();
-    void ChooseFileAndSave(bool bSvg);
+    void ExportPng();
+    void ExportSvg();
     bool ReportSaved(const QString& strFile, const QString& strError);
+    /// What the line below the chart describes.
+    enum enDescribed
+    {
+        enNothing,
+        enUnderMouse,
+        enFocusedPoint,
+    };
+    void ConnectReadout();
+    void DescribeOther(enDescribed described);
+    QString Readout() const;
     void ShowReadout();
 
     CChartView* m_pView = nullptr;
@@ -73,11 +85,12 @@ private:
     CWallPanel* m_pWallPanel = nullptr;
     CDiagramOverlay* m_pDiagramOverlay = nullptr;
     CChartControls* m_pControls = nullptr;
-    QStackedWidget* m_pDiagrams = nullptr;
+    CDiagramPair* m_pDiagrams = nullptr;
     CUcsView* m_pUcs = nullptr;
     QPushButton* m_pUcsShown = nullptr;
     CProjectColours* m_pProject = nullptr;
     QLabel* m_pReadout = nullptr;
+    enDescribed m_described = enNothing;
     QPushButton* m_pCopy = nullptr;
     QPushButton* m_pPng = nullptr;
     QPushButton* m_pSvg = nullptr;

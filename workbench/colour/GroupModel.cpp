@@ -89,6 +89,7 @@ void CGroupModel::Refresh()
         return;
     Q_EMIT dataChanged(index(0, 0), index(enRowCount - 1, m_listKeys.size() - 1));
     Q_EMIT headerDataChanged(Qt::Vertical, 0, enRowCount - 1);
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, m_listKeys.size() - 1);
 }
 
 SChromaGroupInfo* CGroupModel::Group(int nColumn) const
@@ -162,9 +163,14 @@ Qt::ItemFlags CGroupModel::flags(const QModelIndex& index) const
 
 QVariant CGroupModel::headerData(int nSection, Qt::Orientation orientation, int nRole) const
 {
-    if (nRole != Qt::DisplayRole)
+    if (orientation == Qt::Vertical)
+        return nRole == Qt::DisplayRole ? RowName(nSection) : QVariant();
+    const SChromaGroupInfo* pGroup = Group(nSection);
+    if (pGroup == nullptr)
         return {};
-    return orientation == Qt::Vertical ? RowName(nSection) : tr("键 %1").arg(Key(nSection));
+    if (nRole == Qt::ToolTipRole)
+        return tr("%1，键 %2").arg(GroupName(*pGroup)).arg(pGroup->nGroupKey);
+    return nRole == Qt::DisplayRole ? GroupName(*pGroup) : QVariant();
 }
 
 bool CGroupModel::setData(const QModelIndex& index, const QVariant& value, int nRole)

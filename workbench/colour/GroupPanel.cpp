@@ -88,6 +88,7 @@ void CGroupPanel::CreateTable()
     m_pTable->setSelectionMode(QAbstractItemView::SingleSelection);
     m_pTable->setAlternatingRowColors(true);
     m_pTable->horizontalHeader()->setDefaultSectionSize(c_nColumnWidth);
+    m_pTable->horizontalHeader()->setTextElideMode(Qt::ElideRight);
     m_pTable->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(m_pTable, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
         if (index.row() == CGroupModel::enColour)
@@ -132,8 +133,11 @@ int CGroupPanel::SelectedKey() const
 void CGroupPanel::SelectKey(int nKey)
 {
     const int nColumn = m_pModel->Column(nKey);
-    if (nColumn >= 0)
-        m_pTable->setCurrentIndex(m_pModel->index(qMax(0, m_pTable->currentIndex().row()), nColumn));
+    if (nColumn < 0)
+        return;
+    const QModelIndex index = m_pModel->index(qMax(0, m_pTable->currentIndex().row()), nColumn);
+    m_pTable->setCurrentIndex(index);
+    m_pTable->scrollTo(index);
 }
 
 void CGroupPanel::AddStandard(enColorStandard standard)

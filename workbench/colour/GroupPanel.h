@@ -38,7 +38,7 @@ public:
     void ChooseColour();
     /// @}
 
-    /// Selects the group with the key.
+    /// Selects the group with the key and scrolls its column into view.
     void SelectKey(int nKey);
     /// Key of the selected group, -1 for none.
     int SelectedKey() const;

@@ -104,6 +104,7 @@ void CPointKeys::focusOutEvent(QFocusEvent* /*pEvent*/)
 {
     EndBurst();
     update();
+    Q_EMIT Told(QString());
 }
 
 bool CPointKeys::event(QEvent* pEvent)

@@ -37,7 +37,8 @@ public:
     QVector<SGroupPoint> Points() const;
 
 Q_SIGNALS:
-    /// A point has the focus, or the focused one moved: its name and place in words.
+    /// A point has the focus, or the focused one moved: its name and place in words; empty when the focus is
+    /// gone.
     void Told(const QString& strText);
 
 protected:

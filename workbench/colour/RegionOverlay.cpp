@@ -17,6 +17,11 @@ constexpr double c_dHaloWidth = 4.0;    ///< pixels: the region's line crosses e
 constexpr double c_dLineWidth = 2.0;    ///< pixels
 constexpr double c_dCornerRadius = 4.0; ///< pixels
 
+const QColor c_clrHint(0, 0, 0, 200);
+constexpr double c_dHintMargin = 36.0; ///< pixels from the edges: clear of the numbers of the axes
+constexpr double c_dHintPadding = 6.0; ///< pixels around the words
+constexpr int c_nHintFlags = Qt::AlignRight | Qt::AlignBottom | Qt::TextWordWrap;
+
 /// 54 dots per inch: the letters of the standards' names are then no higher than the font's size in points.
 constexpr int c_nNameDotsPerMeter = 2126;
 
@@ -101,8 +106,10 @@ void CRegionOverlay::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QPainter painter(this);
     Paint(painter, m_chart, m_region);
-    if (m_bDrawing)
-        PaintDraft(painter);
+    if (!m_bDrawing)
+        return;
+    PaintDraft(painter);
+    PaintHint(painter);
 }
 
 void CRegionOverlay::PaintDraft(QPainter& painter) const
@@ -119,6 +126,28 @@ void CRegionOverlay::PaintDraft(QPainter& painter) const
         painter.drawEllipse(pt, c_dCornerRadius, c_dCornerRadius);
 }
 
+QString CRegionOverlay::Hint() const
+{
+    if (!m_bDrawing)
+        return {};
+    if (m_draft.isEmpty())
+        return tr("单击放置第一个顶点。Esc 取消。");
+    if (m_draft.size() < CFeasibleRegion::c_nMinVertices)
+        return tr("单击放置下一个顶点，至少三个。退格键撤回一个，Esc 取消。");
+    return tr("双击或回车完成区域。退格键撤回一个顶点，Esc 取消。");
+}
+
+void CRegionOverlay::PaintHint(QPainter& painter) const
+{
+    painter.setPen(Qt::white);
+    const QRectF rcRoom =
+        QRectF(rect()).adjusted(c_dHintMargin, c_dHintMargin, -c_dHintMargin, -c_dHintMargin);
+    const QRectF rcText = painter.boundingRect(rcRoom, c_nHintFlags, Hint());
+    painter.fillRect(rcText.adjusted(-c_dHintPadding, -c_dHintPadding, c_dHintPadding, c_dHintPadding),
+                     c_clrHint);
+    painter.drawText(rcText, c_nHintFlags, Hint());
+}
+
 void CRegionOverlay::StartDrawing()
 {
     m_draft.clear();
@@ -127,6 +156,7 @@ void CRegionOverlay::StartDrawing()
     setCursor(Qt::CrossCursor);
     setFocus(Qt::OtherFocusReason);
     update();
+    Q_EMIT DrawingStarted();
 }
 
 void CRegionOverlay::EndDrawing()

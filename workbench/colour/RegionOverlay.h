@@ -9,8 +9,8 @@ class CChromaticityDlgWnd;
 class QPainter;
 
 /// Lies over the chart and shows the standard's name and the feasible region. While a region is being drawn
-/// it takes the mouse and the keys: a click sets a corner, a double click or Enter closes the region,
-/// Backspace takes the last corner back, Escape keeps the region as it was.
+/// it takes the mouse and the keys, and says what they do: a click sets a corner, a double click or Enter
+/// closes the region, Backspace takes the last corner back, Escape keeps the region as it was.
 class CRegionOverlay : public QWidget
 {
     Q_OBJECT
@@ -21,11 +21,14 @@ public:
     /// Lets the operator draw a region.
     void StartDrawing();
     bool IsDrawing() const { return m_bDrawing; }
+    /// What the next click or key does; empty while nothing is drawn.
+    QString Hint() const;
 
     /// Paints what the overlay shows on any device, in the chart's widget pixels.
     static void Paint(QPainter& painter, CChromaticityDlgWnd& chart, const CFeasibleRegion& region);
 
 Q_SIGNALS:
+    void DrawingStarted();
     /// A new region was closed.
     void RegionDrawn();
     /// Drawing has ended, with a new region or without.
@@ -40,6 +43,7 @@ protected:
 
 private:
     void PaintDraft(QPainter& painter) const;
+    void PaintHint(QPainter& painter) const;
     void CloseRegion();
     void RemoveLastCorner();
     void EndDrawing();

@@ -2,6 +2,7 @@
 
 #include "SenderModuleDialog/colour/ColourStandards.h"
 #include "reports/WallReport.h"
+#include "workbench/SaveDialog.h"
 #include "workbench/WholeFile.h"
 #include "workbench/colour/MeasurementProblem.h"
 #include "workbench/colour/ModuleModel.h"
@@ -211,8 +212,8 @@ bool CWallPanel::ImportFile(const QString& strFile)
     QFile file(strFile);
     const bool bRead = file.open(QIODevice::ReadOnly) && file.size() <= c_nLargestFile;
     if (!bRead) {
-        Q_EMIT Reported(tr("无法读取 %1：%2。请选择别的文件。")
-                            .arg(QDir::toNativeSeparators(strFile), file.errorString()));
+        Q_EMIT Failed(tr("无法读取 %1：%2。请选择别的文件。")
+                          .arg(QDir::toNativeSeparators(strFile), file.errorString()));
         return false;
     }
     return Report(m_wall.Import(file.readAll()));
@@ -240,8 +241,10 @@ bool CWallPanel::Save(const QString& strFile, const QByteArray& content)
 {
     const QString strError = WholeFile::Write(strFile, content);
     const QString strName = QDir::toNativeSeparators(strFile);
-    Q_EMIT Reported(strError.isEmpty() ? tr("已保存 %1").arg(strName)
-                                       : tr("无法写入 %1：%2。请选择别的位置。").arg(strName, strError));
+    if (strError.isEmpty())
+        Q_EMIT Reported(tr("已保存 %1").arg(strName));
+    else
+        Q_EMIT Failed(tr("无法写入 %1：%2。请选择别的位置。").arg(strName, strError));
     return strError.isEmpty();
 }
 
@@ -261,15 +264,15 @@ void CWallPanel::ChooseImport()
 void CWallPanel::ChooseReport()
 {
     const QString strFile =
-        QFileDialog::getSaveFileName(this, tr("保存报告"), QStringLiteral("wall.pdf"), tr("报告 (*.pdf)"));
+        SaveDialog::Ask(this, tr("保存报告"), QStringLiteral("wall.pdf"), tr("报告 (*.pdf)"));
     if (!strFile.isEmpty())
         SaveReport(strFile);
 }
 
 void CWallPanel::ChooseExport()
 {
-    const QString strFile = QFileDialog::getSaveFileName(this, tr("导出测量数据"), QStringLiteral("wall.csv"),
-                                                         tr("测量数据 (*.csv)"));
+    const QString strFile =
+        SaveDialog::Ask(this, tr("导出测量数据"), QStringLiteral("wall.csv"), tr("测量数据 (*.csv)"));
     if (!strFile.isEmpty())
         ExportFile(strFile);
 }

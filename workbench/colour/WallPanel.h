@@ -24,7 +24,7 @@ public:
     CModuleModel& Model() { return *m_pModel; }
 
     /// @name What the buttons do
-    /// @return false when it could not be done; the status line and the panel say why
+    /// @return false when it could not be done; a message or the panel says why
     /// @{
     bool ImportFile(const QString& strFile);
     bool Paste();
@@ -40,6 +40,8 @@ public:
 Q_SIGNALS:
     /// One line for the status bar.
     void Reported(const QString& strText);
+    /// A file could not be read or written: what, why and what to do.
+    void Failed(const QString& strText);
     /// Whether the modules are shown on the chart.
     void ShownOnChart(bool bShown);
 

@@ -242,12 +242,13 @@ void TourOfWall(CTour& tour, CColourPage& page)
 void TourOfFiles(CTour& tour, CColourPage& page)
 {
     const QDir folder(tour.Folder());
-    tour.Check(page.SavePng(folder.filePath(QStringLiteral("chart.png"))),
+    const SPictureSize size = ChartExport::ScreenSize(page.View().Chart());
+    tour.Check(page.SavePng(folder.filePath(QStringLiteral("chart.png")), size),
                QStringLiteral("no PNG was saved"));
-    tour.Check(page.SaveSvg(folder.filePath(QStringLiteral("chart.svg"))),
+    tour.Check(page.SaveSvg(folder.filePath(QStringLiteral("chart.svg")), size.size),
                QStringLiteral("no SVG was saved"));
     tour.WithMessage(QStringLiteral("chart-not-saved"), 0, [&] {
-        tour.Check(!page.SavePng(folder.filePath(QStringLiteral("missing/chart.png"))),
+        tour.Check(!page.SavePng(folder.filePath(QStringLiteral("missing/chart.png")), size),
                    QStringLiteral("a PNG was saved in a folder that is not there"));
     });
 }

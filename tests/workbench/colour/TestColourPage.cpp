@@ -1,14 +1,24 @@
 #include "simulator/CommonClass/Simulator.h"
+#include "tests/workbench/DialogOperator.h"
 #include "tests/workbench/colour/ShownColourPage.h"
+#include "workbench/colour/ChartExport.h"
 #include "workbench/colour/GroupModel.h"
 #include "workbench/colour/GroupPanel.h"
+#include "workbench/colour/PictureSizeDialog.h"
+#include "workbench/colour/PointKeys.h"
 #include "workbench/colour/PointReadout.h"
 #include "workbench/colour/UcsView.h"
 
+#include <QCheckBox>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QSvgRenderer>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -63,6 +73,18 @@ private Q_SLOTS:
     void FilesHoldTheChart();
     void AFileThatCannotBeWrittenIsTold();
     void AnExportLeavesTheChartAsItWas();
+    void TakingHoldOfAPointSelectsItsGroup();
+    void AGroupIsHeadedByItsName();
+    void DrawingAndClearingARegionAreStepsOfTheirOwn();
+    void ConfiningThePointsCanBeUndoneAndTheTickFollows();
+    void TheHintStandsAtTheChartAndFollowsTheCorners();
+    void TheHintGoesWithTheDrawing();
+    void TheLineBelowTheChartFollowsUndo();
+    void TheLineBelowTheChartForgetsTheMouseThatLeft();
+    void TheLineBelowTheChartForgetsARemovedGroup();
+    void AWidePageShowsBothDiagrams();
+    void AnExportAsksForSizeAndResolution();
+    void ALessReadableSizeIsNotOffered();
 };
 
 /// The groups belong to the project, which outlives a page.
@@ -343,13 +365,13 @@ void TestColourPage::FilesHoldTheChart()
     SShownColourPage shown;
     const QTemporaryDir folder;
     const QString strPng = folder.filePath(QStringLiteral("chart.png"));
-    QVERIFY(shown.page.SavePng(strPng));
+    QVERIFY(shown.page.SavePng(strPng, ChartExport::ScreenSize(shown.Chart())));
     const QImage image(strPng);
     QCOMPARE(image.size(), shown.Chart().size());
     const QPoint ptGreen = shown.View().PixelOf(shown.Screen().ptGreen);
     QCOMPARE(image.pixelColor(ptGreen), QColor(Qt::green));
     const QString strSvg = folder.filePath(QStringLiteral("chart.svg"));
-    QVERIFY(shown.page.SaveSvg(strSvg));
+    QVERIFY(shown.page.SaveSvg(strSvg, shown.Chart().size()));
     const QSvgRenderer renderer(strSvg);
     QVERIFY(renderer.isValid());
     QCOMPARE(renderer.viewBox().size(), shown.Chart().size());
@@ -361,10 +383,11 @@ void TestColourPage::AFileThatCannotBeWrittenIsTold()
     SShownColourPage shown;
     const QTemporaryDir folder;
     QSignalSpy spy(&shown.page, &CColourPage::Failed);
+    const SPictureSize size = ChartExport::ScreenSize(shown.Chart());
     for (const char* szName : {"missing/chart.png", "missing/chart.svg"}) {
         const QString strFile = folder.filePath(QString::fromLatin1(szName));
-        QVERIFY(!(strFile.endsWith(QStringLiteral("svg")) ? shown.page.SaveSvg(strFile)
-                                                          : shown.page.SavePng(strFile)));
+        QVERIFY(!(strFile.endsWith(QStringLiteral("svg")) ? shown.page.SaveSvg(strFile, size.size)
+                                                          : shown.page.SavePng(strFile, size)));
         QCOMPARE(spy.count(), 1);
         QVERIFY(spy.takeFirst().first().toString().contains(strFile));
     }
@@ -380,6 +403,206 @@ void TestColourPage::AnExportLeavesTheChartAsItWas()
     shown.page.CopyPicture();
     QCOMPARE(shown.Chart().m_nHoverPoint, nHover);
     QVERIFY(ColourGroups::AreSame(ColourGroups::Take(shown.Chart()), groups));
+}
+
+void TestColourPage::TakingHoldOfAPointSelectsItsGroup()
+{
+    SShownColourPage shown;
+    for (int i = 0; i < 6; ++i)
+        shown.page.Groups().AddStandard(enStandardSRGB);
+    auto* pTable = shown.page.Groups().findChild<QTableView*>();
+    pTable->scrollTo(pTable->model()->index(0, 0));
+    shown.page.Groups().SelectKey(0);
+    shown.Drag(shown.Screen().ptGreen, {0.30F, 0.60F});
+    QCOMPARE(shown.page.Groups().SelectedKey(), int(enScreenColorSpace));
+    QVERIFY(pTable->viewport()->rect().contains(pTable->visualRect(pTable->currentIndex())));
+}
+
+void TestColourPage::AGroupIsHeadedByItsName()
+{
+    SShownColourPage shown;
+    shown.page.Groups().AddStandard(enStandardSRGB);
+    CGroupModel& model = shown.page.Groups().Model();
+    const int nColumn = model.Column(shown.page.Groups().SelectedKey());
+    QCOMPARE(model.headerData(nColumn, Qt::Horizontal, Qt::DisplayRole), QVariant(QStringLiteral("sRGB")));
+    QSignalSpy spy(&model, &CGroupModel::headerDataChanged);
+    QVERIFY(model.setData(model.index(CGroupModel::enName, nColumn), QStringLiteral("stage"), Qt::EditRole));
+    QCOMPARE(model.headerData(nColumn, Qt::Horizontal, Qt::DisplayRole), QVariant(QStringLiteral("stage")));
+    QVERIFY(!spy.isEmpty());
+}
+
+void TestColourPage::DrawingAndClearingARegionAreStepsOfTheirOwn()
+{
+    SShownColourPage shown;
+    shown.Draw(Pentagon());
+    QTest::keyClick(&shown.View().Overlay(), Qt::Key_Return);
+    QCOMPARE(shown.Steps().count(), 1);
+    shown.page.Controls().ClearRegion();
+    QCOMPARE(shown.Steps().count(), 2);
+    QVERIFY(!shown.View().Region().IsRegion());
+    shown.history.Undo();
+    QCOMPARE(shown.View().Region().Polygon().size(), Pentagon().size());
+    QVERIFY(shown.View().Region().IsOn());
+    shown.history.Undo();
+    QVERIFY(!shown.View().Region().IsRegion());
+    shown.history.Redo();
+    QVERIFY(shown.View().Region().IsOn());
+    QVERIFY(CSimulator::Instance().Project().colour->bRegionOn);
+}
+
+void TestColourPage::ConfiningThePointsCanBeUndoneAndTheTickFollows()
+{
+    SShownColourPage shown;
+    shown.Draw(Pentagon());
+    QTest::keyClick(&shown.View().Overlay(), Qt::Key_Return);
+    const QList<QCheckBox*> listBoxes = shown.page.Controls().findChildren<QCheckBox*>();
+    auto* pTick = *std::find_if(listBoxes.cbegin(), listBoxes.cend(), [](const QCheckBox* pBox) {
+        return pBox->text() == QString::fromUtf8("点留在区域内");
+    });
+    QVERIFY(pTick->isChecked());
+    pTick->click();
+    QVERIFY(!shown.View().Region().IsOn());
+    shown.history.Undo();
+    QVERIFY(shown.View().Region().IsOn());
+    QVERIFY(pTick->isChecked());
+}
+
+void TestColourPage::TheHintStandsAtTheChartAndFollowsTheCorners()
+{
+    SShownColourPage shown;
+    CRegionOverlay& overlay = shown.View().Overlay();
+    QSignalSpy spy(&shown.page, &CColourPage::Reported);
+    QStringList listHints;
+    shown.page.Controls().DrawRegion();
+    const QImage imgWithHint = overlay.grab().toImage();
+    for (const QPointF& pt : Pentagon()) {
+        listHints.append(overlay.Hint());
+        QTest::mouseClick(&overlay, Qt::LeftButton, Qt::NoModifier,
+                          shown.Chart().Mapping().ToPixel(pt).toPoint());
+    }
+    QVERIFY(listHints[0].contains(QString::fromUtf8("第一个")));
+    QVERIFY(listHints[2].contains(QString::fromUtf8("下一个")));
+    QVERIFY(listHints[3].contains(QString::fromUtf8("双击")));
+    QCOMPARE(spy.count(), 0);
+    QTest::keyClick(&overlay, Qt::Key_Escape);
+    QVERIFY(overlay.grab().toImage() != imgWithHint);
+}
+
+void TestColourPage::TheHintGoesWithTheDrawing()
+{
+    SShownColourPage shown;
+    CRegionOverlay& overlay = shown.View().Overlay();
+    const QImage imgBefore = overlay.grab().toImage();
+    shown.page.Controls().DrawRegion();
+    QVERIFY(overlay.grab().toImage() != imgBefore);
+    QTest::keyClick(&overlay, Qt::Key_Escape);
+    QCOMPARE(overlay.Hint(), QString());
+    QCOMPARE(overlay.grab().toImage(), imgBefore);
+}
+
+namespace {
+
+/// The line below the chart.
+QString Line(SShownColourPage& shown)
+{
+    QCoreApplication::processEvents();
+    return shown.page.findChild<QLabel*>(QStringLiteral("readout"))->text();
+}
+
+} // namespace
+
+void TestColourPage::TheLineBelowTheChartFollowsUndo()
+{
+    SShownColourPage shown;
+    const QString strBefore = Text(shown.Screen().ptGreen);
+    shown.Press(shown.Screen().ptGreen);
+    shown.Pull({0.30F, 0.60F});
+    QVERIFY(Line(shown).contains(Text(shown.Screen().ptGreen)));
+    shown.Release({0.30F, 0.60F});
+    QVERIFY(Line(shown).contains(Text(shown.Screen().ptGreen)));
+    shown.history.Undo();
+    QVERIFY(Line(shown).contains(strBefore));
+}
+
+void TestColourPage::TheLineBelowTheChartForgetsTheMouseThatLeft()
+{
+    SShownColourPage shown;
+    shown.page.Groups().findChild<QTableView*>()->setFocus();
+    const QString strHint = Line(shown);
+    shown.Move({0.3F, 0.3F});
+    QVERIFY(Line(shown) != strHint);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&shown.Chart(), &leave);
+    QCOMPARE(Line(shown), strHint);
+}
+
+void TestColourPage::TheLineBelowTheChartForgetsARemovedGroup()
+{
+    SShownColourPage shown;
+    shown.page.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&shown.page));
+    shown.page.Groups().findChild<QTableView*>()->setFocus();
+    const QString strHint = Line(shown);
+    shown.View().Keys().setFocus();
+    QVERIFY(Line(shown) != strHint);
+    shown.page.Groups().SelectKey(enScreenColorSpace);
+    shown.page.Groups().RemoveSelected();
+    QCOMPARE(Line(shown), strHint);
+}
+
+void TestColourPage::AWidePageShowsBothDiagrams()
+{
+    SShownColourPage shown;
+    auto* pUcs = shown.page.findChild<CUcsView*>();
+    QVERIFY(!pUcs->isVisible());
+    shown.page.resize(3000, 1000);
+    QCoreApplication::processEvents();
+    QVERIFY(shown.View().isVisible());
+    QVERIFY(pUcs->isVisible());
+    // Each diagram gets the width that its height can use.
+    QVERIFY(shown.View().width() >= int(0.95 * shown.View().height()));
+    QVERIFY(pUcs->width() >= int(0.95 * pUcs->height()));
+    shown.page.resize(1000, 640);
+    QCoreApplication::processEvents();
+    QVERIFY(shown.View().isVisible());
+    QVERIFY(!pUcs->isVisible());
+}
+
+void TestColourPage::AnExportAsksForSizeAndResolution()
+{
+    SShownColourPage shown;
+    const QTemporaryDir folder;
+    const QList<QPushButton*> listButtons = shown.page.findChildren<QPushButton*>();
+    auto* pExport = *std::find_if(listButtons.cbegin(), listButtons.cend(), [](const QPushButton* pButton) {
+        return pButton->text() == QString::fromUtf8("导出 PNG...");
+    });
+    std::unique_ptr<CDialogOperator> pFile;
+    const CDialogOperator sizeOperator([&](QDialog* pDialog) {
+        const auto Set = [pDialog](const char* szName, int nValue) {
+            pDialog->findChild<QSpinBox*>(QString::fromLatin1(szName))->setValue(nValue);
+        };
+        Set("resolution", 192);
+        Set("width", 1200);
+        Set("height", 1000);
+        pFile = std::make_unique<CDialogOperator>([&](QDialog* pFileDialog) {
+            auto* pName = pFileDialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            pName->setText(folder.filePath(QStringLiteral("wall")));
+            QTest::keyClick(pName, Qt::Key_Return);
+        });
+        QTest::keyClick(pDialog, Qt::Key_Return);
+    });
+    QTest::mouseClick(pExport, Qt::LeftButton);
+    const QImage image(folder.filePath(QStringLiteral("wall.png")));
+    QCOMPARE(image.size(), QSize(1200, 1000));
+    QCOMPARE(image.dotsPerMeterX(), 7559);
+}
+
+void TestColourPage::ALessReadableSizeIsNotOffered()
+{
+    CPictureSizeDialog dialog({QSize(600, 600)}, CPictureSizeDialog::enPixels, QString(), nullptr);
+    dialog.findChild<QSpinBox*>(QStringLiteral("resolution"))->setValue(480);
+    QCOMPARE(dialog.Size().size, QSize(1000, 1000));
+    QCOMPARE(dialog.Size().Layout(), QSize(200, 200));
 }
 
 QTEST_MAIN(TestColourPage)

@@ -140,7 +140,7 @@ void TestWallPanel::AReportIsSaved()
 void TestWallPanel::AFileThatIsNotThereIsTold()
 {
     SWallPage shown;
-    QSignalSpy spy(&shown.page, &CWorkbenchPage::Reported);
+    QSignalSpy spy(&shown.page, &CWorkbenchPage::Failed);
     QVERIFY(!shown.Wall().ImportFile(QStringLiteral("/nowhere/wall.csv")));
     QVERIFY(spy.last().first().toString().contains(QStringLiteral("/nowhere/wall.csv")));
 }
