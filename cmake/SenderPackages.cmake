@@ -32,6 +32,8 @@ macro(sender_package COMPONENT NAME SECTION SUMMARY TEXT)
     endif()
 endmacro()
 
+# The workbench in Chinese has Qt's own buttons in Chinese with it.
+set(CPACK_DEBIAN_APPLICATIONS_PACKAGE_RECOMMENDS "qttranslations5-l10n")
 set(SAME "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 sender_package(library libsendermoduledialog1 libs
     "settings dialogs and chromaticity chart for LED-display senders"

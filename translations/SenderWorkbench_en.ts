@@ -2919,6 +2919,10 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
         <source>清空</source>
         <translation>Clear</translation>
     </message>
+    <message>
+        <source>合并重复的读取</source>
+        <translation>Fold repeated reads</translation>
+    </message>
 </context>
 <context>
     <name>CKeysDialog</name>

@@ -16,12 +16,30 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr int c_nMargins = 16; ///< of a cell's text on both sides, pixels
+
+/// A text for which a column has room; the call takes what is left.
+struct SColumnWidth
+{
+    int nColumn;
+    const char* szSample;
+};
+
+constexpr SColumnWidth c_arrColumnWidths[] = {
+    {CHostJournal::enColumnNumber, "20000"},           {CHostJournal::enColumnTime, "00:00:00.000"},
+    {CHostJournal::enColumnCategory, "write"},         {CHostJournal::enColumnObject, "CVideoSourceLogic"},
+    {CHostJournal::enColumnResult, "failed 12345678"}, {CHostJournal::enColumnDuration, "1000.000"},
+};
+
+} // namespace
+
 CJournalDock::CJournalDock(QWidget* pParent)
     : QDockWidget(pParent)
-    , m_pFilter(new CJournalFilter(this))
+    , m_pFilter(new CJournalFilter(CSimulator::Instance().Journal(), this))
 {
     setObjectName(QStringLiteral("journalDock"));
-    m_pFilter->setSourceModel(&CSimulator::Instance().Journal());
     auto* pContent = new QWidget(this);
     auto* pLayout = new QVBoxLayout(pContent);
     pLayout->setContentsMargins(4, 4, 4, 4);
@@ -38,16 +56,22 @@ QWidget* CJournalDock::CreateBar()
     m_pText->setClearButtonEnabled(true);
     m_pReads = new QCheckBox(pBar);
     m_pReads->setChecked(true);
+    m_pFold = new QCheckBox(pBar);
+    m_pFold->setObjectName(QStringLiteral("foldReads"));
+    m_pFold->setChecked(true);
     m_pCopy = new QPushButton(pBar);
     m_pClear = new QPushButton(pBar);
     auto* pLayout = new QHBoxLayout(pBar);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(m_pText, 1);
     pLayout->addWidget(m_pReads);
+    pLayout->addWidget(m_pFold);
     pLayout->addWidget(m_pCopy);
     pLayout->addWidget(m_pClear);
     connect(m_pText, &QLineEdit::textChanged, m_pFilter, &CJournalFilter::SetText);
     connect(m_pReads, &QCheckBox::toggled, m_pFilter, &CJournalFilter::SetReadsShown);
+    connect(m_pFold, &QCheckBox::toggled, m_pFilter, &CJournalFilter::SetRepeatsFolded);
+    connect(m_pReads, &QCheckBox::toggled, m_pFold, &QCheckBox::setEnabled);
     connect(m_pCopy, &QPushButton::clicked, this, &CJournalDock::CopySelected);
     connect(m_pClear, &QPushButton::clicked, this, [] { CSimulator::Instance().Journal().Clear(); });
     return pBar;
@@ -64,6 +88,10 @@ QWidget* CJournalDock::CreateTable()
     m_pTable->verticalHeader()->hide();
     m_pTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     m_pTable->horizontalHeader()->setSectionResizeMode(CHostJournal::enColumnCall, QHeaderView::Stretch);
+    for (const SColumnWidth& column : c_arrColumnWidths)
+        m_pTable->setColumnWidth(column.nColumn,
+                                 fontMetrics().horizontalAdvance(QString::fromLatin1(column.szSample)) +
+                                     c_nMargins);
     auto* pCopyAction = new QAction(m_pTable);
     pCopyAction->setShortcut(QKeySequence::Copy);
     pCopyAction->setShortcutContext(Qt::WidgetShortcut);
@@ -78,6 +106,8 @@ void CJournalDock::Retranslate()
     setWindowTitle(tr("主机调用记录"));
     m_pText->setPlaceholderText(tr("筛选"));
     m_pReads->setText(tr("显示读取"));
+    m_pFold->setText(tr("合并重复的读取"));
+    m_pTable->setAccessibleName(windowTitle());
     m_pCopy->setText(tr("复制"));
     m_pClear->setText(tr("清空"));
 }

@@ -10,7 +10,8 @@ class QLineEdit;
 class QPushButton;
 class QTableView;
 
-/// Shows every host call in order: filtered by text and kind, and copied to the clipboard as lines.
+/// Shows the host calls in order: filtered by text and kind, repeated reads once with their count, and copied
+/// to the clipboard as lines.
 class CJournalDock : public QDockWidget
 {
     Q_OBJECT
@@ -34,6 +35,7 @@ private:
     CJournalFilter* m_pFilter = nullptr;
     QLineEdit* m_pText = nullptr;
     QCheckBox* m_pReads = nullptr;
+    QCheckBox* m_pFold = nullptr;
     QPushButton* m_pCopy = nullptr;
     QPushButton* m_pClear = nullptr;
     QTableView* m_pTable = nullptr;

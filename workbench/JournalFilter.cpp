@@ -4,9 +4,39 @@
 
 #include <QColor>
 
-CJournalFilter::CJournalFilter(QObject* pParent)
+CJournalFilter::CJournalFilter(CHostJournal& journal, QObject* pParent)
     : QSortFilterProxyModel(pParent)
-{}
+    , m_journal(journal)
+{
+    // Connected before the base class is, so that the repeats are known when it asks about new rows.
+    connect(&journal, &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex& /*parent*/, int nFirst, int nLast) { TakeRows(nFirst, nLast); });
+    connect(&journal, &QAbstractItemModel::rowsRemoved, this, &CJournalFilter::TakeAll);
+    connect(&journal, &QAbstractItemModel::modelReset, this, &CJournalFilter::TakeAll);
+    TakeAll();
+    setSourceModel(&journal);
+}
+
+void CJournalFilter::TakeRows(int nFirst, int nLast)
+{
+    for (int nRow = nFirst; nRow <= nLast; ++nRow) {
+        const SJournalEntry& entry = m_journal.At(nRow);
+        const int nShown = m_reads.Append(entry.category == enJournalRead,
+                                          entry.strObject + entry.CallText() + entry.strResult);
+        const QModelIndex index = nShown == nRow ? QModelIndex() : mapFromSource(m_journal.index(nShown, 0));
+        if (index.isValid())
+            Q_EMIT dataChanged(index, index.siblingAtColumn(columnCount() - 1));
+    }
+}
+
+void CJournalFilter::TakeAll()
+{
+    m_reads.Clear();
+    TakeRows(0, m_journal.GetCount() - 1);
+    // The base class is still taking over the same change.
+    QMetaObject::invokeMethod(
+        this, [this] { invalidateFilter(); }, Qt::QueuedConnection);
+}
 
 void CJournalFilter::SetText(const QString& strText)
 {
@@ -20,20 +50,38 @@ void CJournalFilter::SetReadsShown(bool bShown)
     invalidateFilter();
 }
 
+void CJournalFilter::SetRepeatsFolded(bool bFolded)
+{
+    m_bRepeatsFolded = bFolded;
+    invalidateFilter();
+}
+
+int CJournalFilter::Count(const QModelIndex& index) const
+{
+    const int nRow = mapToSource(index).row();
+    return m_bRepeatsFolded && nRow >= 0 && nRow < m_reads.Size() ? m_reads.Count(nRow) : 1;
+}
+
 QVariant CJournalFilter::data(const QModelIndex& index, int nRole) const
 {
     // Light enough to read on both row colours of the dark theme.
     constexpr QRgb c_clrFailed = qRgb(255, 138, 128);
-    if (nRole == Qt::ForegroundRole &&
-        QSortFilterProxyModel::data(index, CHostJournal::enRoleFailed).toBool())
-        return QColor(c_clrFailed);
-    return QSortFilterProxyModel::data(index, nRole);
+    const QVariant value = QSortFilterProxyModel::data(index, nRole);
+    if (nRole == Qt::ForegroundRole)
+        return QSortFilterProxyModel::data(index, CHostJournal::enRoleFailed).toBool()
+                   ? QVariant(QColor(c_clrFailed))
+                   : value;
+    const bool bCounts = nRole == CHostJournal::enRoleLine ||
+                         (nRole == Qt::DisplayRole && index.column() == CHostJournal::enColumnCall);
+    const int nCount = bCounts ? Count(index) : 1;
+    return nCount > 1 ? QVariant(QStringLiteral("%1  ×%2").arg(value.toString()).arg(nCount)) : value;
 }
 
 bool CJournalFilter::filterAcceptsRow(int nRow, const QModelIndex& parent) const
 {
     const QModelIndex index = sourceModel()->index(nRow, 0, parent);
-    if (!m_bReadsShown && index.data(CHostJournal::enRoleCategory).toInt() == enJournalRead)
+    if (index.data(CHostJournal::enRoleCategory).toInt() == enJournalRead &&
+        (!m_bReadsShown || (m_bRepeatsFolded && m_reads.Count(nRow) == 0)))
         return false;
     return index.data(CHostJournal::enRoleLine).toString().contains(m_strText, Qt::CaseInsensitive);
 }

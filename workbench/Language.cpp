@@ -1,21 +1,24 @@
 #include "workbench/Language.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 
 namespace {
 
-/// A translation that is built into the workbench. The library's texts and the workbench's are Chinese in the
-/// source, the simulator's are English.
+/// A translation. The library's texts and the workbench's are Chinese in the source, the simulator's and
+/// those of Qt itself (buttons, file dialogs) are English.
 struct STranslation
 {
     enLanguage language;
     const char* szFile;
+    bool bOfQt; ///< installed with Qt, not built into the workbench
 };
 
 constexpr STranslation c_arrTranslations[] = {
-    {enLanguage::enEnglish, ":/translations/SenderModuleDialog_en.qm"},
-    {enLanguage::enEnglish, ":/translations/SenderWorkbench_en.qm"},
-    {enLanguage::enChinese, ":/translations/SenderSimulator_zh.qm"},
+    {enLanguage::enEnglish, ":/translations/SenderModuleDialog_en.qm", false},
+    {enLanguage::enEnglish, ":/translations/SenderWorkbench_en.qm", false},
+    {enLanguage::enChinese, ":/translations/SenderSimulator_zh.qm", false},
+    {enLanguage::enChinese, "qtbase_zh_CN.qm", true},
 };
 
 } // namespace
@@ -57,8 +60,12 @@ void CLanguage::InstallTranslators()
         if (row.language != m_language)
             continue;
         auto pTranslator = std::make_unique<QTranslator>();
-        if (!pTranslator->load(QString::fromLatin1(row.szFile))) {
-            qWarning("The translation %s is missing from the program.", row.szFile);
+        const QString strFolder =
+            row.bOfQt ? QLibraryInfo::location(QLibraryInfo::TranslationsPath) : QString();
+        if (!pTranslator->load(QString::fromLatin1(row.szFile), strFolder)) {
+            // Without Qt's translations everything works; its buttons are English.
+            if (!row.bOfQt)
+                qWarning("The translation %s is missing from the program.", row.szFile);
             continue;
         }
         QCoreApplication::installTranslator(pTranslator.get());

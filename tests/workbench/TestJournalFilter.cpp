@@ -24,6 +24,12 @@ private Q_SLOTS:
     void CallsThatHoldTheTextArePassed();
     void ReadsCanBeLeftOut();
     void AWriteThatDidNotTakeIsMarked();
+    void RepeatedReadsAreOneRowWithACount();
+    void AWriteStartsAfresh();
+    void EveryReadCanBeShownInItsPlace();
+    void ReadsWithAnotherResultAreAnotherRow();
+    void AfterTheOldestGoTheRestIsCountedAgain();
+    void AClearedJournalStartsAfresh();
 };
 
 void TestJournalFilter::CallsThatHoldTheTextArePassed()
@@ -31,8 +37,7 @@ void TestJournalFilter::CallsThatHoldTheTextArePassed()
     CHostJournal journal;
     Append(journal, enJournalRead, "GetSenderType");
     Append(journal, enJournalWrite, "SetOutput50Hz");
-    CJournalFilter filter;
-    filter.setSourceModel(&journal);
+    CJournalFilter filter(journal);
     QCOMPARE(filter.rowCount(), 2);
     filter.SetText(QStringLiteral("output"));
     QCOMPARE(filter.rowCount(), 1);
@@ -46,8 +51,7 @@ void TestJournalFilter::ReadsCanBeLeftOut()
     Append(journal, enJournalRead, "GetSenderType");
     Append(journal, enJournalWrite, "SetOutput50Hz");
     Append(journal, enJournalEvent, "PostLabelEvent");
-    CJournalFilter filter;
-    filter.setSourceModel(&journal);
+    CJournalFilter filter(journal);
     filter.SetReadsShown(false);
     QCOMPARE(filter.rowCount(), 2);
 }
@@ -55,8 +59,7 @@ void TestJournalFilter::ReadsCanBeLeftOut()
 void TestJournalFilter::AWriteThatDidNotTakeIsMarked()
 {
     CHostJournal journal;
-    CJournalFilter filter;
-    filter.setSourceModel(&journal);
+    CJournalFilter filter(journal);
     Append(journal, enJournalWrite, "SetEdidSetting");
     const QModelIndex index = filter.index(0, CHostJournal::enColumnResult);
     QVERIFY(!index.data(Qt::ForegroundRole).isValid());
@@ -64,6 +67,84 @@ void TestJournalFilter::AWriteThatDidNotTakeIsMarked()
     QVERIFY(index.data(Qt::ForegroundRole).isValid());
     QCOMPARE(index.data().toString(), QStringLiteral("failed"));
     QVERIFY(index.data(CHostJournal::enRoleLine).toString().endsWith(QStringLiteral("failed")));
+}
+
+QStringList Shown(const CJournalFilter& filter)
+{
+    QStringList listShown;
+    for (int i = 0; i < filter.rowCount(); ++i)
+        listShown.append(filter.index(i, CHostJournal::enColumnCall).data().toString());
+    return listShown;
+}
+
+void TestJournalFilter::RepeatedReadsAreOneRowWithACount()
+{
+    CHostJournal journal;
+    CJournalFilter filter(journal);
+    const QSignalSpy spy(&filter, &QAbstractItemModel::dataChanged);
+    for (int i = 0; i < 3; ++i) {
+        Append(journal, enJournalRead, "GetSender");
+        Append(journal, enJournalRead, "GetSenderType");
+    }
+    QCOMPARE(Shown(filter),
+             (QStringList{QStringLiteral("GetSender()  ×3"), QStringLiteral("GetSenderType()  ×3")}));
+    QCOMPARE(spy.count(), 4);
+    QVERIFY(filter.index(0, 0).data(CHostJournal::enRoleLine).toString().endsWith(QStringLiteral("×3")));
+}
+
+void TestJournalFilter::AWriteStartsAfresh()
+{
+    CHostJournal journal;
+    const CJournalFilter filter(journal);
+    Append(journal, enJournalRead, "GetSender");
+    Append(journal, enJournalWrite, "SetOutput50Hz");
+    Append(journal, enJournalWrite, "SetOutput50Hz");
+    Append(journal, enJournalRead, "GetSender");
+    QCOMPARE(filter.rowCount(), 4);
+}
+
+void TestJournalFilter::EveryReadCanBeShownInItsPlace()
+{
+    CHostJournal journal;
+    Append(journal, enJournalRead, "GetSender");
+    Append(journal, enJournalRead, "GetSender");
+    CJournalFilter filter(journal);
+    QCOMPARE(filter.rowCount(), 1);
+    filter.SetRepeatsFolded(false);
+    QCOMPARE(Shown(filter), (QStringList{QStringLiteral("GetSender()"), QStringLiteral("GetSender()")}));
+}
+
+void TestJournalFilter::ReadsWithAnotherResultAreAnotherRow()
+{
+    CHostJournal journal;
+    const CJournalFilter filter(journal);
+    for (const char* szResult : {"1", "2"}) {
+        SJournalEntry entry;
+        entry.strOperation = QStringLiteral("GetSender");
+        entry.strResult = QString::fromLatin1(szResult);
+        journal.Append(entry);
+    }
+    QCOMPARE(filter.rowCount(), 2);
+}
+
+void TestJournalFilter::AfterTheOldestGoTheRestIsCountedAgain()
+{
+    CHostJournal journal;
+    journal.SetCapacity(4);
+    const CJournalFilter filter(journal);
+    for (int i = 0; i < 5; ++i)
+        Append(journal, enJournalRead, "GetSender");
+    QTRY_COMPARE(Shown(filter), QStringList{QStringLiteral("GetSender()  ×4")});
+}
+
+void TestJournalFilter::AClearedJournalStartsAfresh()
+{
+    CHostJournal journal;
+    const CJournalFilter filter(journal);
+    Append(journal, enJournalRead, "GetSender");
+    journal.Clear();
+    Append(journal, enJournalRead, "GetSender");
+    QCOMPARE(Shown(filter), QStringList{QStringLiteral("GetSender()")});
 }
 
 QTEST_MAIN(TestJournalFilter)

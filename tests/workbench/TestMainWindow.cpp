@@ -12,6 +12,7 @@
 #include "workbench/edid/HexView.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QLineEdit>
 #include <QMenu>
@@ -64,6 +65,7 @@ private Q_SLOTS:
     void TheTabBarShowsItsFocus();
     void EveryMenuEntryHasAKeyOfItsOwn_data();
     void EveryMenuEntryHasAKeyOfItsOwn();
+    void QtsOwnTextsFollowTheLanguage();
     void F1ShowsStepsAndKeys();
     void AboutTellsTheProgram();
     void SaveAsHasItsKey();
@@ -372,6 +374,29 @@ void TestMainWindow::EveryMenuEntryHasAKeyOfItsOwn()
     workbench.language.Set(enLanguage(language));
     QCoreApplication::processEvents();
     QCOMPARE(EntriesWithoutOwnKey(workbench.window.menuBar()->actions()), QStringList());
+}
+
+/// Texts of the buttons in the dialog that opens a project.
+QString TextsOfOpenDialog(CMainWindow& window)
+{
+    QStringList listTexts;
+    const CDialogOperator dialogOperator([&listTexts](QDialog* pDialog) {
+        for (const QAbstractButton* pButton : pDialog->findChild<QDialogButtonBox*>()->buttons())
+            listTexts.append(pButton->text());
+    });
+    QApplication::setActiveWindow(&window);
+    QTest::keyClick(&window, Qt::Key_O, Qt::ControlModifier);
+    return listTexts.join(QLatin1Char(' '));
+}
+
+void TestMainWindow::QtsOwnTextsFollowTheLanguage()
+{
+    CWorkbenchFixture workbench;
+    workbench.Activate();
+    QCOMPARE(TextsOfOpenDialog(workbench.window), QStringLiteral("打开(&O) 取消"));
+    workbench.language.Set(enLanguage::enEnglish);
+    QCoreApplication::processEvents();
+    QCOMPARE(TextsOfOpenDialog(workbench.window), QStringLiteral("&Open Cancel"));
 }
 
 void TestMainWindow::F1ShowsStepsAndKeys()
