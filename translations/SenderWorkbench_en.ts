@@ -2270,6 +2270,350 @@ Write one with &quot;Edit EDID...&quot;, or build the block here and write it in
         <source>描述符 %1：%2</source>
         <translation>Descriptor %1: %2</translation>
     </message>
+    <message>
+        <source>动态元数据</source>
+        <translation>Dynamic metadata</translation>
+    </message>
+    <message>
+        <source>元数据类型</source>
+        <translation>Metadata type</translation>
+    </message>
+    <message>
+        <source>三维声音的音频格式</source>
+        <translation>Audio format with 3D sound</translation>
+    </message>
+    <message>
+        <source>同时的音频流</source>
+        <translation>Audio streams at once</translation>
+    </message>
+    <message>
+        <source>不混合的音频流</source>
+        <translation>Streams that are not mixed</translation>
+    </message>
+    <message>
+        <source>三维声音的音频格式数</source>
+        <translation>Audio formats with 3D sound</translation>
+    </message>
+    <message>
+        <source>给出显示器的位置</source>
+        <translation>Place of the display is told</translation>
+    </message>
+    <message>
+        <source>给出扬声器的数目</source>
+        <translation>Number of speakers is told</translation>
+    </message>
+    <message>
+        <source>给出房间的尺寸</source>
+        <translation>Size of the room is told</translation>
+    </message>
+    <message>
+        <source>扬声器数</source>
+        <translation>Speakers</translation>
+    </message>
+    <message>
+        <source>房间的半宽</source>
+        <translation>Half width of the room</translation>
+    </message>
+    <message>
+        <source>房间的半深</source>
+        <translation>Half depth of the room</translation>
+    </message>
+    <message>
+        <source>房间的半高</source>
+        <translation>Half height of the room</translation>
+    </message>
+    <message>
+        <source>显示器的位置 x</source>
+        <translation>Place of the display, x</translation>
+    </message>
+    <message>
+        <source>显示器的位置 y</source>
+        <translation>Place of the display, y</translation>
+    </message>
+    <message>
+        <source>显示器的位置 z</source>
+        <translation>Place of the display, z</translation>
+    </message>
+    <message>
+        <source>给出位置</source>
+        <translation>Place is told</translation>
+    </message>
+    <message>
+        <source>使用中</source>
+        <translation>In use</translation>
+    </message>
+    <message>
+        <source>声道号</source>
+        <translation>Channel</translation>
+    </message>
+    <message>
+        <source>扬声器</source>
+        <translation>Speaker</translation>
+    </message>
+    <message>
+        <source>位置 x</source>
+        <translation>Place, x</translation>
+    </message>
+    <message>
+        <source>位置 y</source>
+        <translation>Place, y</translation>
+    </message>
+    <message>
+        <source>位置 z</source>
+        <translation>Place, z</translation>
+    </message>
+    <message>
+        <source>VII 型时序</source>
+        <translation>Type VII timing</translation>
+    </message>
+    <message>
+        <source>名称的长度</source>
+        <translation>Length of the name</translation>
+    </message>
+    <message>
+        <source>原生宽度</source>
+        <translation>Native width</translation>
+    </message>
+    <message>
+        <source>原生高度</source>
+        <translation>Native height</translation>
+    </message>
+    <message>
+        <source>视频接口带音频</source>
+        <translation>Audio on the video interface</translation>
+    </message>
+    <message>
+        <source>单独的音频输入</source>
+        <translation>Separate audio inputs</translation>
+    </message>
+    <message>
+        <source>音频输入优先</source>
+        <translation>Audio input override</translation>
+    </message>
+    <message>
+        <source>电源管理</source>
+        <translation>Power management</translation>
+    </message>
+    <message>
+        <source>固定时序</source>
+        <translation>Fixed timing</translation>
+    </message>
+    <message>
+        <source>固定像素格式</source>
+        <translation>Fixed pixel format</translation>
+    </message>
+    <message>
+        <source>去隔行</source>
+        <translation>Removes interlacing</translation>
+    </message>
+    <message>
+        <source>每色位数（总）</source>
+        <translation>Bits per colour, overall</translation>
+    </message>
+    <message>
+        <source>每色位数（原生）</source>
+        <translation>Bits per colour, native</translation>
+    </message>
+    <message>
+        <source>同一外壳</source>
+        <translation>One enclosure</translation>
+    </message>
+    <message>
+        <source>给出边框宽度</source>
+        <translation>Bezels are told</translation>
+    </message>
+    <message>
+        <source>只有部分拼接屏有图像时</source>
+        <translation>When only some tiles get a picture</translation>
+    </message>
+    <message>
+        <source>只有一个拼接屏有图像时</source>
+        <translation>When one tile alone gets a picture</translation>
+    </message>
+    <message>
+        <source>每行拼接屏数</source>
+        <translation>Tiles in a row</translation>
+    </message>
+    <message>
+        <source>每列拼接屏数</source>
+        <translation>Tiles in a column</translation>
+    </message>
+    <message>
+        <source>在行中的位置</source>
+        <translation>Place in the row</translation>
+    </message>
+    <message>
+        <source>在列中的位置</source>
+        <translation>Place in the column</translation>
+    </message>
+    <message>
+        <source>拼接屏宽度</source>
+        <translation>Width of a tile</translation>
+    </message>
+    <message>
+        <source>拼接屏高度</source>
+        <translation>Height of a tile</translation>
+    </message>
+    <message>
+        <source>边框的乘数</source>
+        <translation>Multiplier of the bezels</translation>
+    </message>
+    <message>
+        <source>上边框，乘以乘数</source>
+        <translation>Top bezel, times the multiplier</translation>
+    </message>
+    <message>
+        <source>下边框，乘以乘数</source>
+        <translation>Bottom bezel, times the multiplier</translation>
+    </message>
+    <message>
+        <source>右边框，乘以乘数</source>
+        <translation>Right bezel, times the multiplier</translation>
+    </message>
+    <message>
+        <source>左边框，乘以乘数</source>
+        <translation>Left bezel, times the multiplier</translation>
+    </message>
+    <message>
+        <source>图像在其拼接屏的位置</source>
+        <translation>image at the place of its tile</translation>
+    </message>
+    <message>
+        <source>图像铺满全部拼接屏</source>
+        <translation>image over all tiles</translation>
+    </message>
+    <message>
+        <source>图像在每个拼接屏上</source>
+        <translation>image on every tile</translation>
+    </message>
+    <message>
+        <source>前左</source>
+        <translation>front left</translation>
+    </message>
+    <message>
+        <source>前右</source>
+        <translation>front right</translation>
+    </message>
+    <message>
+        <source>前置中央</source>
+        <translation>front centre</translation>
+    </message>
+    <message>
+        <source>低频效果 1</source>
+        <translation>low frequency effects 1</translation>
+    </message>
+    <message>
+        <source>后左</source>
+        <translation>back left</translation>
+    </message>
+    <message>
+        <source>后右</source>
+        <translation>back right</translation>
+    </message>
+    <message>
+        <source>前中偏左</source>
+        <translation>front left of centre</translation>
+    </message>
+    <message>
+        <source>前中偏右</source>
+        <translation>front right of centre</translation>
+    </message>
+    <message>
+        <source>后置中央</source>
+        <translation>back centre</translation>
+    </message>
+    <message>
+        <source>低频声道 2</source>
+        <translation>low frequency effects 2</translation>
+    </message>
+    <message>
+        <source>侧左</source>
+        <translation>side left</translation>
+    </message>
+    <message>
+        <source>侧右</source>
+        <translation>side right</translation>
+    </message>
+    <message>
+        <source>顶前左</source>
+        <translation>top front left</translation>
+    </message>
+    <message>
+        <source>顶前右</source>
+        <translation>top front right</translation>
+    </message>
+    <message>
+        <source>顶前中央</source>
+        <translation>top front centre</translation>
+    </message>
+    <message>
+        <source>顶部中央</source>
+        <translation>top centre</translation>
+    </message>
+    <message>
+        <source>顶后左</source>
+        <translation>top back left</translation>
+    </message>
+    <message>
+        <source>顶后右</source>
+        <translation>top back right</translation>
+    </message>
+    <message>
+        <source>顶侧左</source>
+        <translation>top side left</translation>
+    </message>
+    <message>
+        <source>顶侧右</source>
+        <translation>top side right</translation>
+    </message>
+    <message>
+        <source>顶后中央</source>
+        <translation>top back centre</translation>
+    </message>
+    <message>
+        <source>底前中央</source>
+        <translation>bottom front centre</translation>
+    </message>
+    <message>
+        <source>底前左</source>
+        <translation>bottom front left</translation>
+    </message>
+    <message>
+        <source>底前右</source>
+        <translation>bottom front right</translation>
+    </message>
+    <message>
+        <source>前左宽</source>
+        <translation>front left wide</translation>
+    </message>
+    <message>
+        <source>前右宽</source>
+        <translation>front right wide</translation>
+    </message>
+    <message>
+        <source>左环绕</source>
+        <translation>left surround</translation>
+    </message>
+    <message>
+        <source>右环绕</source>
+        <translation>right surround</translation>
+    </message>
+    <message>
+        <source>详细时序 </source>
+        <translation>detailed timing </translation>
+    </message>
+    <message>
+        <source>VII 型时序 </source>
+        <translation>type VII timing </translation>
+    </message>
+    <message>
+        <source>VIII 型时序 </source>
+        <translation>type VIII timing </translation>
+    </message>
+    <message>
+        <source>保留值</source>
+        <translation>reserved</translation>
+    </message>
 </context>
 <context>
     <name>CFieldModel</name>

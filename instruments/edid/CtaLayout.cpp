@@ -154,6 +154,92 @@ constexpr SFieldType c_arrHdmiForum[] = {
     Split("vrr_max", "Highest variable rate", enKind::enNumber, {10, 7, 0}, {9, 7, 6}).Unit("Hz"),
 };
 
+constexpr SFieldType c_arrHdrDynamic[] = {
+    Whole("metadata_length", "Length", enKind::enNumber, 0).Unit("bytes"),
+    Whole("metadata_type", "Metadata type", enKind::enNumber, 1, 2),
+    Part("metadata_version", "Version", enKind::enNumber, 3, 3, 0),
+};
+
+constexpr SFieldType c_arrHdmiAudio[] = {
+    Part("streams", "Audio streams at once", enKind::enNumber, 2, 1, 0).Scaled(1, 0, "", 1),
+    Flag("non_mixed", "Streams that are not mixed", 2, 2),
+    Part("formats_3d", "Audio formats with 3D sound", enKind::enNumber, 3, 2, 0),
+};
+
+constexpr SFieldType c_arrHdmiAudio3D[] = {
+    Part("format", "Format", enKind::enChoice, 0, 3, 0).Of(c_arrAudioFormats),
+    Part("channels", "Channels", enKind::enNumber, 1, 4, 0).Scaled(1, 0, "", 1),
+    Flag("khz_192", "192 kHz", 2, 6),
+    Flag("khz_176", "176.4 kHz", 2, 5),
+    Flag("khz_96", "96 kHz", 2, 4),
+    Flag("khz_88", "88.2 kHz", 2, 3),
+    Flag("khz_48", "48 kHz", 2, 2),
+    Flag("khz_44", "44.1 kHz", 2, 1),
+    Flag("khz_32", "32 kHz", 2, 0),
+    Flag("bits_24", "24 bit", 3, 2).When(enLinearPcm),
+    Flag("bits_20", "20 bit", 3, 1).When(enLinearPcm),
+    Flag("bits_16", "16 bit", 3, 0).When(enLinearPcm),
+};
+
+/// A coordinate in 64ths of the room's half size, negative to the left, back and bottom.
+constexpr SFieldType RoomCoordinate(const char* szKey, const char* szLabel, int nOffset, quint32 nWhen)
+{
+    return Whole(szKey, szLabel, enKind::enSigned, nOffset).Scaled(1.0 / 64.0, 3, "").When(nWhen);
+}
+
+constexpr SFieldType c_arrRoom[] = {
+    Flag("display_place", "Place of the display is told", 2, 7),
+    Flag("speaker_count", "Number of speakers is told", 2, 6),
+    Flag("room_size", "Size of the room is told", 2, 5),
+    Part("speakers", "Speakers", enKind::enNumber, 2, 4, 0).Scaled(1, 0, "", 1),
+    Flag("flw_frw", "Front left and right wide", 3, 7),
+    Flag("rlc_rrc", "Rear left and right of centre", 3, 6),
+    Flag("flc_frc", "Front left and right of centre", 3, 5),
+    Flag("bc", "Back centre", 3, 4),
+    Flag("bl_br", "Back left and right", 3, 3),
+    Flag("fc", "Front centre", 3, 2),
+    Flag("lfe", "Low frequency effects", 3, 1),
+    Flag("fl_fr", "Front left and right", 3, 0),
+    Flag("tpsil_tpsir", "Top side left and right", 4, 7),
+    Flag("sil_sir", "Side left and right", 4, 6),
+    Flag("tpbc", "Top back centre", 4, 5),
+    Flag("lfe2", "Low frequency effects 2", 4, 4),
+    Flag("ls_rs", "Left and right surround", 4, 3),
+    Flag("tpfc", "Top front centre", 4, 2),
+    Flag("tpc", "Top centre", 4, 1),
+    Flag("tpfl_tpfr", "Top front left and right", 4, 0),
+    Flag("tpls_tprs", "Top left and right surround", 5, 3),
+    Flag("btfl_btfr", "Bottom front left and right", 5, 2),
+    Flag("btfc", "Bottom front centre", 5, 1),
+    Flag("tpbl_tpbr", "Top back left and right", 5, 0),
+    Whole("x_max", "Half width of the room", enKind::enNumber, 6).Unit("dm").When(enHasPlace),
+    Whole("y_max", "Half depth of the room", enKind::enNumber, 7).Unit("dm").When(enHasPlace),
+    Whole("z_max", "Half height of the room", enKind::enNumber, 8).Unit("dm").When(enHasPlace),
+    RoomCoordinate("display_x", "Place of the display, x", 9, enHasDisplayPlace),
+    RoomCoordinate("display_y", "Place of the display, y", 10, enHasDisplayPlace),
+    RoomCoordinate("display_z", "Place of the display, z", 11, enHasDisplayPlace),
+};
+
+constexpr SChoice c_arrSpeakerNames[] = {
+    {0, "front left"}, {1, "front right"}, {2, "front centre"}, {3, "low frequency effects 1"}, {4, "back left"},
+    {5, "back right"}, {6, "front left of centre"}, {7, "front right of centre"}, {8, "back centre"},
+    {9, "low frequency effects 2"}, {10, "side left"}, {11, "side right"}, {12, "top front left"},
+    {13, "top front right"}, {14, "top front centre"}, {15, "top centre"}, {16, "top back left"},
+    {17, "top back right"}, {18, "top side left"}, {19, "top side right"}, {20, "top back centre"},
+    {21, "bottom front centre"}, {22, "bottom front left"}, {23, "bottom front right"}, {24, "front left wide"},
+    {25, "front right wide"}, {26, "left surround"}, {27, "right surround"},
+};
+
+constexpr SFieldType c_arrSpeakerLocation[] = {
+    Flag("has_place", "Place is told", 0, 6),
+    Flag("active", "In use", 0, 5),
+    Part("channel", "Channel", enKind::enNumber, 0, 4, 0),
+    Part("speaker", "Speaker", enKind::enChoice, 1, 4, 0).Of(c_arrSpeakerNames),
+    RoomCoordinate("x", "Place, x", 2, enHasPlace),
+    RoomCoordinate("y", "Place, y", 3, enHasPlace),
+    RoomCoordinate("z", "Place, z", 4, enHasPlace),
+};
+
 constexpr SChoice c_arrTags[] = {
     {enCtaReserved, "Reserved data block"}, {enCtaAudio, "Audio data block"}, {enCtaVideo, "Video data block"},
     {enCtaVendor, "Vendor data block"}, {enCtaSpeakers, "Speaker allocation data block"},
@@ -192,6 +278,11 @@ const SLayout c_layoutColorimetry = c_arrColorimetry;
 const SLayout c_layoutHdrStatic = c_arrHdrStatic;
 const SLayout c_layoutHdmi = c_arrHdmi;
 const SLayout c_layoutHdmiForum = c_arrHdmiForum;
+const SLayout c_layoutHdrDynamic = c_arrHdrDynamic;
+const SLayout c_layoutHdmiAudio = c_arrHdmiAudio;
+const SLayout c_layoutHdmiAudio3D = c_arrHdmiAudio3D;
+const SLayout c_layoutRoom = c_arrRoom;
+const SLayout c_layoutSpeakerLocation = c_arrSpeakerLocation;
 
 const SFieldType c_fieldOui = Whole("oui", "Organisation", enKind::enOui, 1, 3);
 

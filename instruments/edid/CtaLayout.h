@@ -35,14 +35,25 @@ enum enCtaExtendedTag
     enCtaVideoCapability = 0x00,
     enCtaColorimetry = 0x05,
     enCtaHdrStatic = 0x06,
+    enCtaHdrDynamic = 0x07,
     enCtaVideoPreference = 0x0D,
     enCta420Video = 0x0E,
     enCta420Map = 0x0F,
+    enCtaHdmiAudio = 0x12,
+    enCtaRoom = 0x13,
+    enCtaSpeakerLocation = 0x14,
     enCtaHdmiForumSink = 0x79,
 };
 
 constexpr quint32 c_nHdmiOui = 0x000C03;
 constexpr quint32 c_nHdmiForumOui = 0xC45DD8;
+
+/// Conditions of the rows of a room's configuration and of a speaker's location.
+enum enPlaceWhen : quint32
+{
+    enHasPlace = 0x1,
+    enHasDisplayPlace = 0x2,
+};
 
 /// Conditions of the rows of a short audio descriptor.
 enum enAudioWhen : quint32
@@ -60,6 +71,11 @@ extern const SLayout c_layoutColorimetry;
 extern const SLayout c_layoutHdrStatic;
 extern const SLayout c_layoutHdmi;
 extern const SLayout c_layoutHdmiForum;
+extern const SLayout c_layoutHdrDynamic; ///< one type of metadata, from the byte with its length
+extern const SLayout c_layoutHdmiAudio;
+extern const SLayout c_layoutHdmiAudio3D; ///< one audio format with three-dimensional sound, four bytes
+extern const SLayout c_layoutRoom;
+extern const SLayout c_layoutSpeakerLocation; ///< one speaker, two bytes, or five with its place
 
 /// The name of a data block, from its tag and, for the tag 7, the extended one.
 const char* CtaBlockName(int nTag, int nExtendedTag);

@@ -13,6 +13,8 @@ namespace {
 
 /// Unit of the pixel clock in both forms, Hz.
 constexpr qint64 c_nClockUnit = 10000;
+/// Hz; of a type VII timing
+constexpr int c_nTypeVIIClockUnit = 1000;
 
 /// Digital separate sync, the only kind that tells both polarities.
 constexpr int c_nDigitalSeparate = 3;
@@ -175,6 +177,13 @@ SModeTiming ReadTypeI(const quint8* pTiming)
     vertical = {Get1(pTiming, enTypeIVActive), Get1(pTiming, enTypeIVFront), Get1(pTiming, enTypeIVSync), 0,
                 Is(enTypeIVPositive)};
     vertical.nBack = Get1(pTiming, enTypeIVBlank) - vertical.nFront - vertical.nSync;
+    return timing;
+}
+
+SModeTiming ReadTypeVII(const quint8* pTiming)
+{
+    SModeTiming timing = ReadTypeI(pTiming);
+    timing.nClock = Get1(pTiming, enTypeIClock) * c_nTypeVIIClockUnit;
     return timing;
 }
 

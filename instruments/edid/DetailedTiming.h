@@ -25,6 +25,9 @@ void WriteDetailed(quint8* pDescriptor, const SModeTiming& timing, int nWidthMm,
 /// Reads a type I timing (VESA DisplayID 1.3, section 4.4.1), 20 bytes.
 SModeTiming ReadTypeI(const quint8* pTiming);
 
+/// Reads a type VII timing (VESA DisplayID 2.0, section 4.3), 20 bytes.
+SModeTiming ReadTypeVII(const quint8* pTiming);
+
 /// Whether a type I timing can hold a timing without cutting it.
 bool FitsTypeI(const SModeTiming& timing);
 

@@ -52,6 +52,98 @@ constexpr SFieldType c_arrTypeI[] = {
     Whole("v_sync", "Vertical sync", enKind::enNumber, 18, 2).Scaled(1, 0, "lines", 1),
 };
 
+/// Type VII is type I with another step of the clock.
+constexpr SFieldType c_typeVIIClock = Whole("clock", "Pixel clock", enKind::enNumber, 0, 3).Scaled(0.001, 3, "MHz", 0.001);
+
+constexpr SFieldType c_arrTypeVII[] = {
+    c_typeVIIClock,
+    c_arrTypeI[enTypeIPreferred],
+    c_arrTypeI[enTypeIStereo],
+    c_arrTypeI[enTypeIInterlaced],
+    c_arrTypeI[enTypeIAspect],
+    c_arrTypeI[enTypeIHActive],
+    c_arrTypeI[enTypeIHBlank],
+    c_arrTypeI[enTypeIHFront],
+    c_arrTypeI[enTypeIHPositive],
+    c_arrTypeI[enTypeIHSync],
+    c_arrTypeI[enTypeIVActive],
+    c_arrTypeI[enTypeIVBlank],
+    c_arrTypeI[enTypeIVFront],
+    c_arrTypeI[enTypeIVPositive],
+    c_arrTypeI[enTypeIVSync],
+};
+
+constexpr SFieldType c_arrProductId[] = {
+    Whole("vendor", "Maker", enKind::enText, 3, 3),
+    Whole("product", "Product code", enKind::enHex, 6, 2),
+    Whole("serial", "Serial number", enKind::enNumber, 8, 4),
+    Whole("week", "Week", enKind::enWeek, 12),
+    Whole("year", "Year of manufacture", enKind::enNumber, 13).Scaled(1, 0, "", 2000),
+    Whole("name_length", "Length of the name", enKind::enNumber, 14).Unit("bytes"),
+};
+
+constexpr SFieldType c_arrProductId2[] = {
+    Triple("oui", "Organisation", enKind::enOui, 3),
+    Whole("product", "Product code", enKind::enHex, 6, 2),
+    Whole("serial", "Serial number", enKind::enNumber, 8, 4),
+    Whole("week", "Week", enKind::enWeek, 12),
+    Whole("year", "Year of manufacture", enKind::enNumber, 13).Scaled(1, 0, "", 2000),
+    Whole("name_length", "Length of the name", enKind::enNumber, 14).Unit("bytes"),
+};
+
+constexpr SFieldType c_arrParameters[] = {
+    Whole("width_mm", "Image width", enKind::enNumber, 3, 2).Scaled(0.1, 1, "mm"),
+    Whole("height_mm", "Image height", enKind::enNumber, 5, 2).Scaled(0.1, 1, "mm"),
+    Whole("h_native", "Native width", enKind::enNumber, 7, 2).Unit("pixels"),
+    Whole("v_native", "Native height", enKind::enNumber, 9, 2).Unit("lines"),
+    Flag("audio", "Audio on the video interface", 11, 7),
+    Flag("audio_inputs", "Separate audio inputs", 11, 6),
+    Flag("audio_override", "Audio input override", 11, 5),
+    Flag("power_management", "Power management", 11, 4),
+    Flag("fixed_timing", "Fixed timing", 11, 3),
+    Flag("fixed_format", "Fixed pixel format", 11, 2),
+    Flag("ai", "Takes ACP and ISRC packets", 11, 1),
+    Flag("deinterlacing", "Removes interlacing", 11, 0),
+    Whole("gamma", "Gamma", enKind::enGamma, 12).Scaled(0.01, 2, "", 1.0),
+    Whole("aspect", "Aspect ratio", enKind::enNumber, 13).Scaled(0.01, 2, ":1", 1.0),
+    Part("bits_overall", "Bits per colour, overall", enKind::enNumber, 14, 7, 4).Scaled(1, 0, "", 1),
+    Part("bits_native", "Bits per colour, native", enKind::enNumber, 14, 3, 0).Scaled(1, 0, "", 1),
+};
+
+constexpr SChoice c_arrSomeTiles[] = {
+    {0, "undefined"}, {1, "image at the place of its tile"},
+};
+
+constexpr SChoice c_arrOneTile[] = {
+    {0, "undefined"}, {1, "image at the place of its tile"}, {2, "image over all tiles"}, {3, "image on every tile"},
+};
+
+constexpr SFieldType Bezel(const char* szKey, const char* szLabel, int nOffset)
+{
+    return Whole(szKey, szLabel, enKind::enNumber, nOffset).Scaled(0.1, 1, "");
+}
+
+constexpr SFieldType c_arrTiledDisplay[] = {
+    Flag("one_enclosure", "One enclosure", 3, 7),
+    Flag("bezels", "Bezels are told", 3, 6),
+    Part("some_tiles", "When only some tiles get a picture", enKind::enChoice, 3, 4, 3).Of(c_arrSomeTiles),
+    Part("one_tile", "When one tile alone gets a picture", enKind::enChoice, 3, 2, 0).Of(c_arrOneTile),
+    Split("h_tiles", "Tiles in a row", enKind::enNumber, {4, 7, 4}, {6, 7, 6}).Scaled(1, 0, "", 1),
+    Split("v_tiles", "Tiles in a column", enKind::enNumber, {4, 3, 0}, {6, 5, 4}).Scaled(1, 0, "", 1),
+    Split("h_place", "Place in the row", enKind::enNumber, {5, 7, 4}, {6, 3, 2}),
+    Split("v_place", "Place in the column", enKind::enNumber, {5, 3, 0}, {6, 1, 0}),
+    Whole("tile_width", "Width of a tile", enKind::enNumber, 7, 2).Scaled(1, 0, "pixels", 1),
+    Whole("tile_height", "Height of a tile", enKind::enNumber, 9, 2).Scaled(1, 0, "lines", 1),
+    Whole("bezel_multiplier", "Multiplier of the bezels", enKind::enNumber, 11),
+    Bezel("bezel_top", "Top bezel, times the multiplier", 12),
+    Bezel("bezel_bottom", "Bottom bezel, times the multiplier", 13),
+    Bezel("bezel_right", "Right bezel, times the multiplier", 14),
+    Bezel("bezel_left", "Left bezel, times the multiplier", 15),
+    Whole("vendor", "Maker", enKind::enText, 16, 3),
+    Whole("product", "Product code", enKind::enHex, 19, 2),
+    Whole("serial", "Serial number", enKind::enNumber, 21, 4),
+};
+
 constexpr SChoice c_arrTags[] = {
     {0x00, "Product identification"}, {0x01, "Display parameters"}, {0x02, "Colour characteristics"},
     {0x03, "Type I timings, detailed"}, {0x04, "Type II timings, detailed"}, {0x05, "Type III timings, short"},
@@ -73,6 +165,11 @@ constexpr SChoice c_arrTags[] = {
 const SLayout c_layoutSection = c_arrSection;
 const SLayout c_layoutDataBlock = c_arrDataBlock;
 const SLayout c_layoutTypeI = c_arrTypeI;
+const SLayout c_layoutTypeVII = c_arrTypeVII;
+const SLayout c_layoutProductId = c_arrProductId;
+const SLayout c_layoutProductId2 = c_arrProductId2;
+const SLayout c_layoutParameters = c_arrParameters;
+const SLayout c_layoutTiledDisplay = c_arrTiledDisplay;
 
 const char* DisplayIdBlockName(quint8 byTag)
 {

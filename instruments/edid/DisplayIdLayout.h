@@ -50,6 +50,19 @@ enum enTypeIRow
 /// A type I detailed timing (section 4.4.1), 20 bytes, in the order of `enTypeIRow`.
 extern const SLayout c_layoutTypeI;
 
+/// A type VII detailed timing (DisplayID 2.0, section 4.3), 20 bytes: type I with the clock in steps of 1
+/// kHz.
+constexpr int c_nTypeVIISize = 20;
+extern const SLayout c_layoutTypeVII;
+
+/// Rows of data blocks, from the data block's first byte.
+/// @{
+extern const SLayout c_layoutProductId;    ///< up to the name (DisplayID 1.3, section 4.1)
+extern const SLayout c_layoutProductId2;   ///< up to the name (DisplayID 2.0, section 4.1)
+extern const SLayout c_layoutParameters;   ///< DisplayID 1.3, section 4.2
+extern const SLayout c_layoutTiledDisplay; ///< DisplayID 1.3, section 4.14
+/// @}
+
 /// What a data block's tag announces.
 const char* DisplayIdBlockName(quint8 byTag);
 

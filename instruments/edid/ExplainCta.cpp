@@ -16,7 +16,10 @@ constexpr SFieldType c_fieldHead = Whole("head", "Tag and length", enKind::enHex
 constexpr SFieldType c_fieldExtendedTag = Whole("extended_tag", "Extended tag", enKind::enHex, 1);
 constexpr SFieldType c_fieldAudio = Title("audio", "Audio format");
 constexpr SFieldType c_fieldVideoCode = Whole("vic", "Video code", enKind::enVideoCode, 0);
-constexpr SFieldType c_fieldPreference = Whole("preference", "Preferred", enKind::enVideoCode, 0);
+constexpr SFieldType c_fieldPreference = Whole("preference", "Preferred", enKind::enPreference, 0);
+constexpr SFieldType c_fieldDynamic = Title("metadata", "Dynamic metadata");
+constexpr SFieldType c_fieldAudio3D = Title("audio_3d", "Audio format with 3D sound");
+constexpr SFieldType c_fieldSpeaker = Title("speaker_location", "Speaker");
 constexpr SFieldType c_fieldHdmiCode = Whole("hdmi_vic", "HDMI video code", enKind::enHdmiCode, 0);
 constexpr SFieldType c_fieldLatency = Whole("latency_code", "Latency code", enKind::enNumber, 0);
 constexpr SFieldType c_fieldHdmiVideo = Whole("hdmi_video_flags", "3D and image size", enKind::enHex, 0);
@@ -52,6 +55,17 @@ Explained ExplainAudio(CFieldList& list, const SDataBlock& block)
     return nEntry;
 }
 
+quint32 ConditionIf(bool bHolds, quint32 nCondition)
+{
+    return bHolds ? nCondition : quint32(enAlways);
+}
+
+/// Behind the tags.
+int ContentBegin(const SDataBlock& block)
+{
+    return block.nOffset + (block.nExtendedTag < 0 ? 1 : 2);
+}
+
 /// One code a byte up to the end of the block.
 Explained ExplainCodes(CFieldList& list, const SFieldType& type, int nFirst, int nEnd)
 {
@@ -75,20 +89,83 @@ Explained ExplainPreference(CFieldList& list, const SDataBlock& block)
     return ExplainCodes(list, c_fieldPreference, block.nOffset + 2, block.End());
 }
 
-/// The bytes of a block that its layout covers.
-int EndOf(const SLayout& layout, const SDataBlock& block)
-{
-    int nEnd = block.nOffset + 1;
-    for (const SFieldType& type : layout)
-        nEnd = std::max(nEnd, std::min(block.nOffset + type.nOffset + type.nSize, block.End()));
-    return nEnd;
-}
-
+/// Rows that a short block has no room for are left out.
 template <const SLayout& c_layout>
 Explained ExplainByLayout(CFieldList& list, const SDataBlock& block)
 {
-    list.Record(c_layout, block.nOffset, block.nSize);
-    return EndOf(c_layout, block);
+    return std::max(list.RecordTo(c_layout, block.nOffset, block.End()), ContentBegin(block));
+}
+
+/// Each type begins with the number of bytes that follow.
+Explained ExplainHdrDynamic(CFieldList& list, const SDataBlock& block)
+{
+    constexpr int c_nLeast = 3;
+    constexpr int c_nLastWithVersion = 4;
+    int nEntry = block.nOffset + 2;
+    for (int nIndex = 1; nEntry + c_nLeast <= block.End(); ++nIndex) {
+        const int nEnd = nEntry + 1 + *list.At(nEntry);
+        if (nEnd < nEntry + c_nLeast || nEnd > block.End())
+            break;
+        list.Open(c_fieldDynamic, nEntry, nEnd - nEntry, nIndex);
+        const bool bVersion = Get(list.At(nEntry), c_layoutHdrDynamic[1]) <= c_nLastWithVersion;
+        const int nNext = list.RecordTo(c_layoutHdrDynamic, nEntry, bVersion ? nEnd : nEntry + c_nLeast);
+        list.Bytes(c_fieldUnexplained, nNext, nEnd - nNext);
+        list.Close();
+        nEntry = nEnd;
+    }
+    return nEntry;
+}
+
+/// Audio formats, then the speakers that they are for.
+Explained ExplainHdmiAudio(CFieldList& list, const SDataBlock& block)
+{
+    constexpr int c_nEntrySize = 4;
+    constexpr int c_nPcm = 1;
+    constexpr int c_nCountRow = 2;
+    constexpr int c_nCountOffset = 3;
+    int nEntry = list.RecordTo(c_layoutHdmiAudio, block.nOffset, block.End());
+    nEntry = std::max(nEntry, ContentBegin(block));
+    if (block.nSize <= c_nCountOffset || Get(list.At(block.nOffset), c_layoutHdmiAudio[c_nCountRow]) == 0)
+        return nEntry;
+    // The last four bytes are the speakers.
+    for (int nIndex = 1; nEntry + 2 * c_nEntrySize <= block.End(); nEntry += c_nEntrySize, ++nIndex) {
+        list.Open(c_fieldAudio3D, nEntry, c_nEntrySize, nIndex);
+        const bool bPcm = Get(list.At(nEntry), c_layoutHdmiAudio3D[0]) == c_nPcm;
+        list.Record(c_layoutHdmiAudio3D, nEntry, c_nEntrySize, ConditionIf(bPcm, enLinearPcm));
+        list.Close();
+    }
+    // The rows of a speaker allocation count from the byte before it.
+    return nEntry + c_nEntrySize == block.End() ? list.RecordTo(c_layoutSpeakers, nEntry - 1, block.End() - 1)
+                                                : nEntry;
+}
+
+Explained ExplainRoom(CFieldList& list, const SDataBlock& block)
+{
+    constexpr int c_nFlags = 2;
+    constexpr unsigned c_nDisplayPlace = 0x80;
+    constexpr unsigned c_nRoomSize = 0x20;
+    const unsigned nFlags = block.nSize > c_nFlags ? *list.At(block.nOffset + c_nFlags) : 0U;
+    const quint32 nConditions = ConditionIf((nFlags & c_nRoomSize) != 0, enHasPlace) |
+                                ConditionIf((nFlags & c_nDisplayPlace) != 0, enHasDisplayPlace);
+    return std::max(list.RecordTo(c_layoutRoom, block.nOffset, block.End(), nConditions),
+                    ContentBegin(block));
+}
+
+Explained ExplainSpeakerLocations(CFieldList& list, const SDataBlock& block)
+{
+    constexpr int c_nShort = 2;
+    constexpr int c_nLong = 5;
+    int nEntry = block.nOffset + 2;
+    for (int nIndex = 1; nEntry + c_nShort <= block.End(); ++nIndex) {
+        const bool bPlace =
+            Get(list.At(nEntry), c_layoutSpeakerLocation[0]) != 0 && nEntry + c_nLong <= block.End();
+        const int nSize = bPlace ? c_nLong : c_nShort;
+        list.Open(c_fieldSpeaker, nEntry, nSize, nIndex);
+        list.Record(c_layoutSpeakerLocation, nEntry, nSize, ConditionIf(bPlace, enHasPlace));
+        list.Close();
+        nEntry += nSize;
+    }
+    return nEntry;
 }
 
 /// Latencies, then the video codes: what stands here depends on the flags before it.
@@ -146,7 +223,11 @@ constexpr SDataBlockKind c_arrKinds[] = {
     {enCtaExtended, enCtaVideoCapability, &ExplainByLayout<c_layoutVideoCapability>},
     {enCtaExtended, enCtaColorimetry, &ExplainByLayout<c_layoutColorimetry>},
     {enCtaExtended, enCtaHdrStatic, &ExplainByLayout<c_layoutHdrStatic>},
+    {enCtaExtended, enCtaHdrDynamic, &ExplainHdrDynamic},
     {enCtaExtended, enCtaVideoPreference, &ExplainPreference},
+    {enCtaExtended, enCtaHdmiAudio, &ExplainHdmiAudio},
+    {enCtaExtended, enCtaRoom, &ExplainRoom},
+    {enCtaExtended, enCtaSpeakerLocation, &ExplainSpeakerLocations},
     {enCtaExtended, enCta420Video, &Explain420Video},
     {enCtaExtended, enCtaHdmiForumSink, &ExplainByLayout<c_layoutHdmiForum>},
 };
@@ -157,7 +238,7 @@ int ExplainContent(CFieldList& list, const SDataBlock& block)
     for (const SDataBlockKind& kind : c_arrKinds)
         if (kind.nTag == block.nTag && kind.nExtendedTag == block.nExtendedTag)
             return kind.pExplain(list, block);
-    return block.nOffset + 1 + (block.nExtendedTag != c_nNone ? 1 : 0);
+    return ContentBegin(block);
 }
 
 void ExplainDataBlocks(CFieldList& list, int nBlock)

@@ -10,34 +10,96 @@ namespace Edid {
 namespace {
 
 constexpr SFieldType c_fieldBlock = Title("data_block", "Data block", enKind::enSectionBlock);
-constexpr SFieldType c_fieldTiming = Title("timing", "Type I timing", enKind::enTypeIMode);
+constexpr SFieldType c_fieldTypeI = Title("timing", "Type I timing", enKind::enTypeIMode);
+constexpr SFieldType c_fieldTypeVII = Title("timing", "Type VII timing", enKind::enTypeVIIMode);
+constexpr SFieldType c_fieldName = Title("name", "Name", enKind::enText);
 constexpr SFieldType c_fieldDisplayMode = Whole("dmt", "Display timing", enKind::enDisplayMode, 0);
 constexpr SFieldType c_fieldText = Title("text", "Text", enKind::enText);
 constexpr SFieldType c_fieldSectionChecksum =
     Whole("section_checksum", "Checksum of the section", enKind::enHex, 0);
 
-constexpr quint8 c_bySerialTag = 0x0A;
-constexpr quint8 c_byTextTag = 0x0B;
-constexpr quint8 c_byTypeIVTag = 0x06;
-
-/// The content of a data block: from after its head to its end.
-void ExplainContent(CFieldList& list, quint8 byTag, int nFirst, int nEnd)
+/// A data block, from its first byte to behind its last.
+struct SBlockPlace
 {
-    int nNext = nFirst;
-    if (byTag == c_byTypeITag) {
-        for (int nIndex = 1; nNext + c_nTypeISize <= nEnd; nNext += c_nTypeISize, ++nIndex) {
-            list.Open(c_fieldTiming, nNext, c_nTypeISize, nIndex);
-            ExplainTypeI(list, nNext);
-            list.Close();
-        }
-    } else if (byTag == c_byTypeIVTag) {
-        for (int nIndex = 1; nNext < nEnd; ++nNext, ++nIndex)
-            list.Row(c_fieldDisplayMode, nNext, nIndex);
-    } else if (byTag == c_byTextTag || byTag == c_bySerialTag) {
-        list.Bytes(c_fieldText, nNext, nEnd - nNext);
-        nNext = nEnd;
+    int nBegin;
+    int nEnd;
+
+    int Content() const { return nBegin + c_nDataBlockHeadSize; }
+};
+
+/// What was explained ends here; the rest is shown as bytes.
+using Explained = int;
+
+template <const SFieldType& c_field, int c_nSize, void (*pExplain)(CFieldList& list, int nRecord)>
+Explained ExplainTimings(CFieldList& list, const SBlockPlace& block)
+{
+    int nNext = block.Content();
+    for (int nIndex = 1; nNext + c_nSize <= block.nEnd; nNext += c_nSize, ++nIndex) {
+        list.Open(c_field, nNext, c_nSize, nIndex);
+        pExplain(list, nNext);
+        list.Close();
     }
-    list.Bytes(c_fieldUnexplained, nNext, nEnd - nNext);
+    return nNext;
+}
+
+Explained ExplainDisplayModes(CFieldList& list, const SBlockPlace& block)
+{
+    for (int nNext = block.Content(); nNext < block.nEnd; ++nNext)
+        list.Row(c_fieldDisplayMode, nNext, nNext - block.Content() + 1);
+    return block.nEnd;
+}
+
+Explained ExplainText(CFieldList& list, const SBlockPlace& block)
+{
+    list.Bytes(c_fieldText, block.Content(), block.nEnd - block.Content());
+    return block.nEnd;
+}
+
+template <const SLayout& c_layout>
+Explained ExplainByLayout(CFieldList& list, const SBlockPlace& block)
+{
+    return std::max(list.RecordTo(c_layout, block.nBegin, block.nEnd), block.Content());
+}
+
+/// Numbers, then a name of its own length.
+template <const SLayout& c_layout>
+Explained ExplainProduct(CFieldList& list, const SBlockPlace& block)
+{
+    const SFieldType& length = c_layout[c_layout.nCount - 1];
+    const int nName = ExplainByLayout<c_layout>(list, block);
+    if (nName <= block.nBegin + length.nOffset)
+        return nName;
+    const int nSize = std::min(int(Get(list.At(block.nBegin), length)), block.nEnd - nName);
+    list.Bytes(c_fieldName, nName, nSize);
+    return nName + nSize;
+}
+
+struct SDataBlockKind
+{
+    quint8 byTag;
+    Explained (*pExplain)(CFieldList& list, const SBlockPlace& block);
+};
+
+constexpr SDataBlockKind c_arrKinds[] = {
+    {0x00, &ExplainProduct<c_layoutProductId>},
+    {0x01, &ExplainByLayout<c_layoutParameters>},
+    {c_byTypeITag, &ExplainTimings<c_fieldTypeI, c_nTypeISize, &ExplainTypeI>},
+    {0x06, &ExplainDisplayModes},
+    {0x0A, &ExplainText},
+    {0x0B, &ExplainText},
+    {0x12, &ExplainByLayout<c_layoutTiledDisplay>},
+    {0x20, &ExplainProduct<c_layoutProductId2>},
+    {0x22, &ExplainTimings<c_fieldTypeVII, c_nTypeVIISize, &ExplainTypeVII>},
+};
+
+/// The content of a data block; what nobody explains is all bytes.
+void ExplainContent(CFieldList& list, quint8 byTag, const SBlockPlace& block)
+{
+    int nNext = block.Content();
+    for (const SDataBlockKind& kind : c_arrKinds)
+        if (kind.byTag == byTag)
+            nNext = kind.pExplain(list, block);
+    list.Bytes(c_fieldUnexplained, nNext, block.nEnd - nNext);
 }
 
 /// Data blocks up to the first that does not fit; zeros fill the section to its end.
@@ -51,7 +113,7 @@ int ExplainDataBlocks(CFieldList& list, int nNext, int nEnd)
             break;
         list.Open(c_fieldBlock, nNext, nBlockEnd - nNext, nIndex, pBlock[0]);
         list.Record(c_layoutDataBlock, nNext, c_nDataBlockHeadSize);
-        ExplainContent(list, pBlock[0], nNext + c_nDataBlockHeadSize, nBlockEnd);
+        ExplainContent(list, pBlock[0], {nNext, nBlockEnd});
         list.Close();
         nNext = nBlockEnd;
     }
@@ -64,6 +126,12 @@ void ExplainTypeI(CFieldList& list, int nRecord)
 {
     list.Record(c_layoutTypeI, nRecord, c_nTypeISize);
     list.Rates(ReadTypeI(list.At(nRecord)), nRecord, c_nTypeISize);
+}
+
+void ExplainTypeVII(CFieldList& list, int nRecord)
+{
+    list.Record(c_layoutTypeVII, nRecord, c_nTypeVIISize);
+    list.Rates(ReadTypeVII(list.At(nRecord)), nRecord, c_nTypeVIISize, enKind::enTypeVIIModeline);
 }
 
 void ExplainDisplayId(CFieldList& list, int nBlock)

@@ -281,6 +281,7 @@ constexpr SEditKind c_arrKinds[] = {
     {enKind::enEstablished, &CodeText, &SetCode},
     {enKind::enChoice, &CodeText, &SetCode},
     {enKind::enVideoCode, &CodeText, &SetCode},
+    {enKind::enPreference, &CodeText, &SetCode},
     {enKind::enHdmiCode, &CodeText, &SetCode},
     {enKind::enDisplayMode, &CodeText, &SetCode},
     {enKind::enWeek, &CodeText, &SetWeek},

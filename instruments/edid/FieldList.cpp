@@ -2,6 +2,8 @@
 
 #include "instruments/edid/Checksum.h"
 
+#include <algorithm>
+
 namespace Edid {
 
 namespace {
@@ -10,6 +12,7 @@ constexpr SFieldType c_fieldLineRate =
     Title("line_rate", "Line rate", enKind::enReal).Scaled(0.001, 3, "kHz");
 constexpr SFieldType c_fieldRate = Title("rate", "Rate", enKind::enReal).Scaled(1.0, 4, "Hz");
 constexpr SFieldType c_fieldModeline = Title("modeline", "Modeline", enKind::enModeline);
+constexpr SFieldType c_fieldTypeVIIModeline = Title("modeline", "Modeline", enKind::enTypeVIIModeline);
 
 } // namespace
 
@@ -34,7 +37,11 @@ void CFieldList::Open(const SFieldType& type, int nOffset, int nSize, int nIndex
 void CFieldList::Row(const SFieldType& type, int nRecord, int nIndex)
 {
     const qint64 nRaw = Get(m_pBytes + nRecord, type);
-    Add(type, nRecord + type.nOffset, type.nSize, nIndex, nRaw, double(nRaw) * type.dScale + type.dAdd);
+    constexpr qint64 c_nFirstNegative = 0x80;
+    constexpr qint64 c_nByteValues = 0x100;
+    const bool bNegative = type.kind == enKind::enSigned && nRaw >= c_nFirstNegative;
+    const qint64 nValue = bNegative ? nRaw - c_nByteValues : nRaw;
+    Add(type, nRecord + type.nOffset, type.nSize, nIndex, nRaw, double(nValue) * type.dScale + type.dAdd);
 }
 
 void CFieldList::Rows(const SLayout& layout, int nFirst, int nLast, int nRecord, quint32 nConditions)
@@ -46,9 +53,20 @@ void CFieldList::Rows(const SLayout& layout, int nFirst, int nLast, int nRecord,
 
 void CFieldList::Record(const SLayout& layout, int nRecord, int nSize, quint32 nConditions)
 {
-    for (const SFieldType& type : layout)
-        if ((type.nWhen & ~nConditions) == 0 && type.nOffset + type.nSize <= nSize)
-            Row(type, nRecord);
+    RecordTo(layout, nRecord, nRecord + nSize, nConditions);
+}
+
+int CFieldList::RecordTo(const SLayout& layout, int nRecord, int nEnd, quint32 nConditions)
+{
+    int nLast = nRecord;
+    for (const SFieldType& type : layout) {
+        const int nRowEnd = nRecord + type.nOffset + type.nSize;
+        if ((type.nWhen & ~nConditions) != 0 || nRowEnd > nEnd)
+            continue;
+        Row(type, nRecord);
+        nLast = std::max(nLast, nRowEnd);
+    }
+    return nLast;
 }
 
 void CFieldList::Calculated(const SFieldType& type, int nRecord, int nSize, double dValue)
@@ -62,11 +80,12 @@ void CFieldList::Bytes(const SFieldType& type, int nOffset, int nSize)
         Add(type, nOffset, nSize, 0, 0, 0.0);
 }
 
-void CFieldList::Rates(const SModeTiming& timing, int nRecord, int nSize)
+void CFieldList::Rates(const SModeTiming& timing, int nRecord, int nSize, enKind modeline)
 {
     Calculated(c_fieldLineRate, nRecord, nSize, timing.LineRate());
     Calculated(c_fieldRate, nRecord, nSize, timing.Rate());
-    Calculated(c_fieldModeline, nRecord, nSize, 0.0);
+    const bool bTypeVII = modeline == enKind::enTypeVIIModeline;
+    Calculated(bTypeVII ? c_fieldTypeVIIModeline : c_fieldModeline, nRecord, nSize, 0.0);
 }
 
 } // namespace Edid

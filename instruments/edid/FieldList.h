@@ -28,12 +28,16 @@ public:
     void Rows(const SLayout& layout, int nFirst, int nLast, int nRecord, quint32 nConditions);
     /// All rows of a layout whose conditions hold and that a short record has room for.
     void Record(const SLayout& layout, int nRecord, int nSize, quint32 nConditions = enAlways);
+    /// `Record` up to an end.
+    /// @return where the last of its rows ends; `nRecord` when there is none
+    int RecordTo(const SLayout& layout, int nRecord, int nEnd, quint32 nConditions = enAlways);
     /// A number that is calculated from a record.
     void Calculated(const SFieldType& type, int nRecord, int nSize, double dValue);
     /// Bytes that are not looked into; nothing for none.
     void Bytes(const SFieldType& type, int nOffset, int nSize);
     /// The rates of a timing and its modeline.
-    void Rates(const SModeTiming& timing, int nRecord, int nSize);
+    /// @param modeline  how the line is made of the record
+    void Rates(const SModeTiming& timing, int nRecord, int nSize, enKind modeline = enKind::enModeline);
 
     /// The field that was put last, to adjust its number.
     SField& Last() { return m_vecFields.back(); }
@@ -55,6 +59,8 @@ void ExplainDisplayId(CFieldList& list, int nBlock);
 void ExplainDetailed(CFieldList& list, int nRecord);
 /// A 20-byte type I timing's rows.
 void ExplainTypeI(CFieldList& list, int nRecord);
+/// A 20-byte type VII timing's rows.
+void ExplainTypeVII(CFieldList& list, int nRecord);
 /// @}
 
 /// @name Rows that every block has

@@ -157,6 +157,29 @@ QString VideoCodeValue(const SSource& source)
            (bNative ? QStringLiteral(", native") : QString());
 }
 
+/// Short video references of the preference block (CTA-861-H, section 7.5.12).
+QString PreferenceValue(const SSource& source)
+{
+    struct SRange
+    {
+        int nFirst;
+        int nLast;
+        int nBefore; ///< the first one's number is one more
+        const char* szText;
+    };
+    static constexpr SRange c_arrRanges[] = {
+        {129, 144, 128, "detailed timing %1"},  {145, 160, 144, "type VII timing %1"},
+        {254, 254, 253, "type VIII timing %1"}, {0, 0, 0, "reserved (%1)"},
+        {128, 128, 0, "reserved (%1)"},         {161, 192, 0, "reserved (%1)"},
+        {255, 255, 0, "reserved (%1)"},
+    };
+    const int nCode = int(source.field.nRaw);
+    for (const SRange& range : c_arrRanges)
+        if (nCode >= range.nFirst && nCode <= range.nLast)
+            return Latin(range.szText).arg(nCode - range.nBefore);
+    return VideoCodeValue(source);
+}
+
 QString HdmiCodeValue(const SSource& source)
 {
     return ListedText(HdmiVideoCodes(), int(source.field.nRaw),
@@ -177,6 +200,16 @@ QString DetailedModeValue(const SSource& source)
 QString TypeIModeValue(const SSource& source)
 {
     return ModeText(ReadTypeI(source.Record()));
+}
+
+QString TypeVIIModeValue(const SSource& source)
+{
+    return ModeText(ReadTypeVII(source.Record()));
+}
+
+QString TypeVIIModelineValue(const SSource& source)
+{
+    return Modeline(ReadTypeVII(source.Record()));
 }
 
 QString ModelineValue(const SSource& source)
@@ -212,6 +245,7 @@ struct SValueKind
 
 constexpr SValueKind c_arrKinds[] = {
     {enKind::enNumber, &NumberValue},
+    {enKind::enSigned, &NumberValue},
     {enKind::enHex, &HexValue},
     {enKind::enFlag, &FlagValue},
     {enKind::enChoice, &ChoiceValue},
@@ -226,11 +260,14 @@ constexpr SValueKind c_arrKinds[] = {
     {enKind::enStandard, &StandardValue},
     {enKind::enCvtCode, &CvtCodeValue},
     {enKind::enVideoCode, &VideoCodeValue},
+    {enKind::enPreference, &PreferenceValue},
     {enKind::enHdmiCode, &HdmiCodeValue},
     {enKind::enEstablished, &FlagValue},
     {enKind::enModeline, &ModelineValue},
     {enKind::enMode, &DetailedModeValue},
     {enKind::enTypeIMode, &TypeIModeValue},
+    {enKind::enTypeVIIMode, &TypeVIIModeValue},
+    {enKind::enTypeVIIModeline, &TypeVIIModelineValue},
     {enKind::enDataBlock, &NoValue},
     {enKind::enSectionBlock, &NoValue},
     {enKind::enCoverage, &CoverageValue},
@@ -352,6 +389,7 @@ QJsonValue ValueJson(const SField& field, const quint8* pBytes, const MakerNames
 {
     switch (field.pType->kind) {
     case enKind::enNumber:
+    case enKind::enSigned:
     case enKind::enReal:
         return field.dValue;
     case enKind::enFlag:

@@ -13,33 +13,37 @@ namespace Edid {
 /// How the bits of a field are read and shown.
 enum class enKind : quint8
 {
-    enNumber,       ///< scaled, with a unit
-    enHex,          ///< a number that is a code
-    enFlag,         ///< one bit
-    enChoice,       ///< a name from a list
-    enText,         ///< characters up to the line feed
-    enBytes,        ///< bytes that are not looked into
-    enGroup,        ///< fields that belong together, or the whole of a record
-    enDescriptor,   ///< a group with the name of its display descriptor
-    enMaker,        ///< three letters of five bits
-    enWeek,         ///< week of manufacture, or the mark of a model year
-    enGamma,        ///< gamma, or the mark that it stands elsewhere
-    enChecksum,     ///< right, or what would be right
-    enStandard,     ///< two bytes of a standard timing
-    enCvtCode,      ///< three bytes of a CVT code
-    enVideoCode,    ///< a VIC with its native mark
-    enHdmiCode,     ///< a video code of the HDMI vendor block
-    enEstablished,  ///< a flag that stands for a timing
-    enModeline,     ///< a line for X.org, from the bytes of a detailed timing
-    enMode,         ///< size and rate, from the bytes of a detailed timing
-    enTypeIMode,    ///< size and rate, from the bytes of a type I timing
-    enDataBlock,    ///< a group with the name of its CTA data block
-    enSectionBlock, ///< a group with the name of its DisplayID data block
-    enCoverage,     ///< the colour standards that the primaries cover
-    enTemperature,  ///< correlated colour temperature of the white
-    enReal,         ///< calculated, no bits of its own
-    enDisplayMode,  ///< a DMT number
-    enOui,          ///< an organisation's number
+    enNumber,          ///< scaled, with a unit
+    enSigned,          ///< a number of one byte that may be negative
+    enHex,             ///< a number that is a code
+    enFlag,            ///< one bit
+    enChoice,          ///< a name from a list
+    enText,            ///< characters up to the line feed
+    enBytes,           ///< bytes that are not looked into
+    enGroup,           ///< fields that belong together, or the whole of a record
+    enDescriptor,      ///< a group with the name of its display descriptor
+    enMaker,           ///< three letters of five bits
+    enWeek,            ///< week of manufacture, or the mark of a model year
+    enGamma,           ///< gamma, or the mark that it stands elsewhere
+    enChecksum,        ///< right, or what would be right
+    enStandard,        ///< two bytes of a standard timing
+    enCvtCode,         ///< three bytes of a CVT code
+    enVideoCode,       ///< a VIC with its native mark
+    enPreference,      ///< a VIC or the number of another timing
+    enHdmiCode,        ///< a video code of the HDMI vendor block
+    enEstablished,     ///< a flag that stands for a timing
+    enModeline,        ///< a line for X.org, from the bytes of a timing
+    enTypeVIIModeline, ///< a line for X.org, from the bytes of a type VII timing
+    enMode,            ///< size and rate, from the bytes of a detailed timing
+    enTypeIMode,       ///< size and rate, from the bytes of a type I timing
+    enTypeVIIMode,     ///< size and rate, from the bytes of a type VII timing
+    enDataBlock,       ///< a group with the name of its CTA data block
+    enSectionBlock,    ///< a group with the name of its DisplayID data block
+    enCoverage,        ///< the colour standards that the primaries cover
+    enTemperature,     ///< correlated colour temperature of the white
+    enReal,            ///< calculated, no bits of its own
+    enDisplayMode,     ///< a DMT number
+    enOui,             ///< an organisation's number
 };
 
 /// When a field has the meaning that its row gives it. A row applies while all its conditions hold.
@@ -220,10 +224,13 @@ constexpr SFieldType Split(const char* szKey, const char* szLabel, enKind kind, 
 }
 
 /// A number of three bytes, the highest first.
-constexpr SFieldType Triple(const char* szKey, const char* szLabel, enKind kind)
+constexpr SFieldType Triple(const char* szKey, const char* szLabel, enKind kind, int nOffset = 0)
 {
-    SFieldType type = Whole(szKey, szLabel, kind, 0, 3);
-    type.arrPieces = {{{2, 7, 0}, {1, 7, 0}, {0, 7, 0}}};
+    SFieldType type = Whole(szKey, szLabel, kind, nOffset, 3);
+    const auto byFirst = static_cast<quint8>(nOffset);
+    type.arrPieces = {{{static_cast<quint8>(byFirst + 2), 7, 0},
+                       {static_cast<quint8>(byFirst + 1), 7, 0},
+                       {byFirst, 7, 0}}};
     type.nPieces = 3;
     return type;
 }

@@ -59,7 +59,8 @@ bool IsNeutral(const QString& strText)
                                              QStringLiteral("MPEG-H 3D Audio"),
                                              QStringLiteral("AC-4"),
                                              QStringLiteral("L-PCM 3D Audio")};
-    static const QRegularExpression s_numbers(QStringLiteral("^[0-9.:/ ]*([A-Z]|kHz|Hz|MHz|mm|cm|kbit/s)?$"));
+    static const QRegularExpression s_numbers(
+        QStringLiteral("^[0-9.:/ ]*([A-Z]|kHz|Hz|MHz|mm|cm|dm|kbit/s)?$"));
     return s_setNames.contains(strText) || s_numbers.match(strText).hasMatch();
 }
 
@@ -86,13 +87,16 @@ QStringList UnknownTexts(const SFieldType& type)
 const std::vector<const Edid::SLayout*>& Layouts()
 {
     static const std::vector<const Edid::SLayout*> s_vecLayouts = {
-        &Edid::c_layoutBase,        &Edid::c_layoutDetailed,  &Edid::c_layoutRange,
-        &Edid::c_layoutWhitePoint,  &Edid::c_layoutColour,    &Edid::c_layoutName,
-        &Edid::c_layoutSerial,      &Edid::c_layoutText,      &Edid::c_layoutCta,
-        &Edid::c_layoutAudio,       &Edid::c_layoutSpeakers,  &Edid::c_layoutVideoCapability,
-        &Edid::c_layoutColorimetry, &Edid::c_layoutHdrStatic, &Edid::c_layoutHdmi,
-        &Edid::c_layoutHdmiForum,   &Edid::c_layoutSection,   &Edid::c_layoutDataBlock,
-        &Edid::c_layoutTypeI};
+        &Edid::c_layoutBase,        &Edid::c_layoutDetailed,       &Edid::c_layoutRange,
+        &Edid::c_layoutWhitePoint,  &Edid::c_layoutColour,         &Edid::c_layoutName,
+        &Edid::c_layoutSerial,      &Edid::c_layoutText,           &Edid::c_layoutCta,
+        &Edid::c_layoutAudio,       &Edid::c_layoutSpeakers,       &Edid::c_layoutVideoCapability,
+        &Edid::c_layoutColorimetry, &Edid::c_layoutHdrStatic,      &Edid::c_layoutHdmi,
+        &Edid::c_layoutHdmiForum,   &Edid::c_layoutSection,        &Edid::c_layoutDataBlock,
+        &Edid::c_layoutTypeI,       &Edid::c_layoutTypeVII,        &Edid::c_layoutProductId,
+        &Edid::c_layoutProductId2,  &Edid::c_layoutParameters,     &Edid::c_layoutTiledDisplay,
+        &Edid::c_layoutHdrDynamic,  &Edid::c_layoutHdmiAudio,      &Edid::c_layoutHdmiAudio3D,
+        &Edid::c_layoutRoom,        &Edid::c_layoutSpeakerLocation};
     return s_vecLayouts;
 }
 
