@@ -31,6 +31,9 @@ install(TARGETS sender-workbench sender-tool
 install(FILES "${PROJECT_SOURCE_DIR}/workbench/sender-workbench.desktop"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/applications"
     COMPONENT applications)
+install(FILES "${PROJECT_SOURCE_DIR}/workbench/sender-workbench.svg"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps"
+    COMPONENT applications)
 
 install(EXPORT SenderModuleDialogTargets
     NAMESPACE SenderModuleDialog::

@@ -58,7 +58,7 @@ library. sender-tool calculates EDID blocks, timings, temperatures and
 gamuts, and paints the chromaticity chart."
     "libsendermoduledialog1 ${SAME}, libsendermoduledialog-simulator ${SAME}")
 
-# The manual page and the shells' completions come from the table of subcommands.
+# The tool's manual page and the shells' completions come from the table of subcommands.
 find_program(GZIP gzip REQUIRED)
 set(SENDER_PAGES "${PROJECT_BINARY_DIR}/packaging")
 file(MAKE_DIRECTORY "${SENDER_PAGES}")
@@ -72,6 +72,11 @@ add_custom_command(
     VERBATIM)
 # gzip -n omits name and time, so two builds give the same bytes.
 add_custom_command(
+    OUTPUT "${SENDER_PAGES}/sender-workbench.1.gz"
+    COMMAND "${GZIP}" -9nc "${PROJECT_SOURCE_DIR}/workbench/sender-workbench.1" > "${SENDER_PAGES}/sender-workbench.1.gz"
+    DEPENDS "${PROJECT_SOURCE_DIR}/workbench/sender-workbench.1"
+    VERBATIM)
+add_custom_command(
     OUTPUT "${SENDER_PAGES}/changelog.gz" "${SENDER_PAGES}/changelog.Debian.gz"
     COMMAND "${GZIP}" -9nc "${PROJECT_SOURCE_DIR}/CHANGELOG.md" > "${SENDER_PAGES}/changelog.gz"
     COMMAND "${GZIP}" -9nc "${PROJECT_SOURCE_DIR}/packaging/changelog.Debian" > "${SENDER_PAGES}/changelog.Debian.gz"
@@ -79,8 +84,8 @@ add_custom_command(
     VERBATIM)
 add_custom_target(sender_pages ALL DEPENDS
     "${SENDER_PAGES}/sender-tool.1.gz" "${SENDER_PAGES}/sender-tool.bash" "${SENDER_PAGES}/_sender-tool"
-    "${SENDER_PAGES}/changelog.gz" "${SENDER_PAGES}/changelog.Debian.gz")
-install(FILES "${SENDER_PAGES}/sender-tool.1.gz"
+    "${SENDER_PAGES}/changelog.gz" "${SENDER_PAGES}/changelog.Debian.gz" "${SENDER_PAGES}/sender-workbench.1.gz")
+install(FILES "${SENDER_PAGES}/sender-tool.1.gz" "${SENDER_PAGES}/sender-workbench.1.gz"
     DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT applications)
 install(FILES "${SENDER_PAGES}/sender-tool.bash"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME sender-tool COMPONENT applications)

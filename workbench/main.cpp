@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 
 #include <algorithm>
 #include <cstdio>
@@ -80,6 +81,7 @@ int main(int argc, char* argv[])
     QApplication::setStyle(Theme::CreateStyle());
     QApplication::setPalette(Theme::Palette());
     QApplication::setFont(Theme::Font());
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/workbench/sender-workbench.svg")));
     const SWorkbenchOptions options = ReadOptions(application);
     return options.strTourFolder.isEmpty() ? RunWorkbench(options) : RunTour(options);
 }

@@ -47,6 +47,7 @@ run("${WORK_FOLDER}/build/examples/wall-matrices" "${WORK_FOLDER}/wall.csv")
 # What is installed runs where it is, and names no place of the build.
 run("${PREFIX}/bin/sender-tool" cct 6500)
 require_file("${PREFIX}/share/applications/sender-workbench.desktop")
+require_file("${PREFIX}/share/icons/hicolor/scalable/apps/sender-workbench.svg")
 file(GLOB_RECURSE PC_FILE "${PREFIX}/SenderModuleDialog.pc")
 file(GLOB_RECURSE CONFIG_FILES "${PREFIX}/SenderModuleDialogTargets*.cmake")
 foreach(FILE ${PC_FILE} ${CONFIG_FILES})
