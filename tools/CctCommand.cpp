@@ -6,6 +6,9 @@
 #include "tools/Chromaticity.h"
 #include "tools/Output.h"
 #include "tools/Report.h"
+#include "tools/Values.h"
+
+#include <climits>
 
 namespace {
 
@@ -66,24 +69,55 @@ QString NamedTemperatures(const QString& strDaylight,
                     correlated->IsMeaningful() ? QString() : QStringLiteral("; too far to mean much"));
 }
 
-QString TemperatureText(const QString& strPoint, bool bExact)
+/// The temperatures of a chromaticity.
+struct STemperatures
+{
+    QString strDaylight;
+    CColourResult<PlanckianLocus::STemperature> correlated;
+};
+
+STemperatures TemperaturesOf(const QString& strPoint, bool bExact)
 {
     const QPointF pt = ParseChromaticity(strPoint);
     const auto correlated = PlanckianLocus::TemperatureOf({pt.x(), pt.y()});
     float fCCT = 0.0F;
     if (!CCCT2ColorCoord().TriangAlgCalcRelativeCCT(pt, &fCCT, bExact))
         ThrowOutOfRange(strPoint, correlated);
-    const QString strDaylight = KelvinText(double(fCCT));
-    return strDaylight + QLatin1Char('\n') + NamedTemperatures(strDaylight, correlated);
+    return {KelvinText(double(fCCT)), correlated};
+}
+
+QString AllLines(const STemperatures& temperatures)
+{
+    return temperatures.strDaylight + QLatin1Char('\n') +
+           NamedTemperatures(temperatures.strDaylight, temperatures.correlated);
+}
+
+/// The same in one line, which begins as the several lines do.
+QString OneLine(const STemperatures& temperatures)
+{
+    if (!temperatures.correlated)
+        return temperatures.strDaylight;
+    return QStringLiteral("%1, correlated %2, Duv %3")
+        .arg(temperatures.strDaylight, KelvinText(temperatures.correlated->dKelvin),
+             DuvText(*temperatures.correlated));
+}
+
+using FuncText = QString (*)(const STemperatures& temperatures);
+
+QByteArray Result(const QString& strValue, bool bExact, FuncText pTemperatureText)
+{
+    const bool bPoint = strValue.contains(QLatin1Char(','));
+    return (bPoint ? pTemperatureText(TemperaturesOf(strValue, bExact)) : PointText(strValue, bExact))
+        .toLatin1();
 }
 
 void Run(const CArguments& arguments)
 {
-    const QString strValue = arguments.Positional().constFirst();
     const bool bExact = arguments.Has("exact");
-    const bool bPoint = strValue.contains(QLatin1Char(','));
-    const QString strText = bPoint ? TemperatureText(strValue, bExact) : PointText(strValue, bExact);
-    Output::ToStandardOutput(strText.toLatin1() + '\n');
+    const FuncText pTemperatureText = Values::AreMany(arguments) ? &OneLine : &AllLines;
+    Output::ToStandardOutput(Values::Lines(Values::Of(arguments), [=](const QString& strValue) {
+        return Result(strValue, bExact, pTemperatureText);
+    }));
 }
 
 } // namespace
@@ -92,15 +126,17 @@ SSubcommand CctSubcommand()
 {
     return {
         "cct",
-        "KELVIN|X,Y",
+        "KELVIN|X,Y...",
         1,
-        1,
+        INT_MAX,
         "turn a colour temperature into a chromaticity, or back",
         "KELVIN, from 4000 to 25000, gives the chromaticity x,y of daylight of that temperature (CIE 1931).\n"
         "X,Y gives the temperature of the nearest daylight, which must lie in the same range, in the first\n"
         "line; then the correlated colour temperature on the Planckian locus, from 1000 to 20000, and the\n"
         "distance Duv from that locus, positive toward green. 6500 K and the D65 point 0.3127,0.3290 give\n"
-        "each other.\n",
+        "each other.\n"
+        "\n"
+        "Several values give one line each; '-' stands for the lines of standard input.\n",
         {
             {"exact", 0, nullptr, "calculate also at 6500 K and D65"},
         },

@@ -8,6 +8,9 @@
 #include "tools/Output.h"
 #include "tools/Report.h"
 #include "tools/StoredMode.h"
+#include "tools/Values.h"
+
+#include <climits>
 
 namespace {
 
@@ -64,18 +67,50 @@ void RejectConformOptions(const CArguments& arguments)
                 QStringLiteral("option --%1 needs --conform").arg(QString::fromLatin1(szOption)));
 }
 
-void Run(const CArguments& arguments)
+/// The EDID that the options ask for.
+QByteArray EdidOf(const CArguments& arguments, const SVideoMode& mode)
+{
+    return arguments.Has("conform") ? ConformingBlocks(arguments, mode) : Block(mode);
+}
+
+/// What the block of a mode cannot hold; a conforming one holds everything.
+QStringList Cuts(const CArguments& arguments, const SVideoMode& mode)
+{
+    return arguments.Has("conform") ? QStringList() : Edid::BlockCuts(StoredInBlock(mode).InBlock());
+}
+
+void RunOne(const CArguments& arguments, const QString& strFormat)
 {
     const SVideoMode mode = ParseVideoMode(arguments.Positional().constFirst());
-    const QString strFormat = arguments.Value("format", EdidFormat::Names().constFirst());
-    if (arguments.Has("conform")) {
-        const QByteArray edid = ConformingBlocks(arguments, mode);
-        return Output::To(arguments.Value("output"), EdidFormat::Format(strFormat, edid, mode));
-    }
-    RejectConformOptions(arguments);
-    Output::To(arguments.Value("output"), EdidFormat::Format(strFormat, Block(mode), mode));
-    for (const QString& strCut : Edid::BlockCuts(StoredInBlock(mode).InBlock()))
+    const QByteArray edid = EdidOf(arguments, mode);
+    Output::To(arguments.Value("output"), EdidFormat::Format(strFormat, edid, mode));
+    for (const QString& strCut : Cuts(arguments, mode))
         Report::Warning(strCut);
+}
+
+void RunMany(const CArguments& arguments, const QString& strFormat)
+{
+    QStringList listWarnings;
+    const QByteArray lines = Values::Lines(Values::Of(arguments), [&](const QString& strMode) {
+        const SVideoMode mode = ParseVideoMode(strMode);
+        for (const QString& strCut : Cuts(arguments, mode))
+            listWarnings += QStringLiteral("mode '%1': %2").arg(strMode, strCut);
+        return EdidFormat::Line(strFormat, EdidOf(arguments, mode), mode);
+    });
+    Output::To(arguments.Value("output"), lines);
+    for (const QString& strWarning : listWarnings)
+        Report::Warning(strWarning);
+}
+
+void Run(const CArguments& arguments)
+{
+    if (!arguments.Has("conform"))
+        RejectConformOptions(arguments);
+    const QString strFormat = arguments.Value("format", EdidFormat::Names().constFirst());
+    if (Values::AreMany(arguments))
+        RunMany(arguments, strFormat);
+    else
+        RunOne(arguments, strFormat);
 }
 
 } // namespace
@@ -84,9 +119,9 @@ SSubcommand EdidSubcommand()
 {
     return {
         "edid",
-        "WIDTHxHEIGHT@RATE",
+        "WIDTHxHEIGHT@RATE...",
         1,
-        1,
+        INT_MAX,
         "build the 128-byte EDID block of a mode",
         "RATE may have a fraction, for example 59.94. The mode gets reduced blanking. What the block\n"
         "cannot hold is cut and said on standard error, one line each.\n"
@@ -94,7 +129,10 @@ SSubcommand EdidSubcommand()
         "--conform makes an EDID that any computer accepts instead: letters for the maker, a terminated "
         "name,\n"
         "range limits that contain the mode. A mode wider or higher than 4095, or with a clock above\n"
-        "655.35 MHz, gets a second block, DisplayID; the base block then offers 1920x1080 at 60 Hz.\n",
+        "655.35 MHz, gets a second block, DisplayID; the base block then offers 1920x1080 at 60 Hz.\n"
+        "\n"
+        "Several modes give a line each, in the formats hex and json; '-' stands for the lines of standard\n"
+        "input.\n",
         {
             {"output", 'o', "FILE", "write to FILE instead of standard output, whole or not at all"},
             {"conform", 0, nullptr, "make an EDID that any computer accepts"},

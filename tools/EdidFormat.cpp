@@ -2,6 +2,7 @@
 
 #include "instruments/edid/Writing.h"
 #include "tools/Report.h"
+#include "tools/Values.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -43,18 +44,41 @@ QByteArray Json(const QByteArray& block, const SVideoMode& mode)
     return QJsonDocument(object).toJson();
 }
 
+QByteArray HexLine(const QByteArray& block, const SVideoMode&)
+{
+    return block.toHex();
+}
+
+QByteArray JsonLine(const QByteArray& block, const SVideoMode& mode)
+{
+    return Values::CompactJson(Json(block, mode));
+}
+
+using FuncFormat = QByteArray (*)(const QByteArray& block, const SVideoMode& mode);
+
 struct SFormat
 {
     const char* szName;
-    QByteArray (*pFormat)(const QByteArray& block, const SVideoMode& mode);
+    FuncFormat pFormat;
+    FuncFormat pLine; ///< in one line; null where that is impossible
 };
 
 constexpr SFormat c_arrFormats[] = {
-    {"hex", &Hex},
-    {"bin", &Binary},
-    {"c", &CSource},
-    {"json", &Json},
+    {"hex", &Hex, &HexLine},
+    {"bin", &Binary, nullptr},
+    {"c", &CSource, nullptr},
+    {"json", &Json, &JsonLine},
 };
+
+const SFormat& Find(const QString& strName)
+{
+    const auto HasName = [&](const SFormat& format) { return strName == QLatin1String(format.szName); };
+    const auto it = std::find_if(std::begin(c_arrFormats), std::end(c_arrFormats), HasName);
+    if (it == std::end(c_arrFormats))
+        throw CToolError(QStringLiteral("unknown format '%1'; give one of: %2")
+                             .arg(strName, Names().join(QStringLiteral(", "))));
+    return *it;
+}
 
 } // namespace
 
@@ -68,12 +92,17 @@ QStringList Names()
 
 QByteArray Format(const QString& strName, const QByteArray& block, const SVideoMode& mode)
 {
-    const auto HasName = [&](const SFormat& format) { return strName == QLatin1String(format.szName); };
-    const auto it = std::find_if(std::begin(c_arrFormats), std::end(c_arrFormats), HasName);
-    if (it == std::end(c_arrFormats))
-        throw CToolError(QStringLiteral("unknown format '%1'; give one of: %2")
-                             .arg(strName, Names().join(QStringLiteral(", "))));
-    return it->pFormat(block, mode);
+    return Find(strName).pFormat(block, mode);
+}
+
+QByteArray Line(const QString& strName, const QByteArray& block, const SVideoMode& mode)
+{
+    const FuncFormat pLine = Find(strName).pLine;
+    if (pLine == nullptr)
+        throw CToolError(
+            QStringLiteral("the format '%1' has several lines; give one mode, or the format hex or json")
+                .arg(strName));
+    return pLine(block, mode);
 }
 
 } // namespace EdidFormat

@@ -6,9 +6,12 @@
 #include "tools/Report.h"
 #include "tools/StoredMode.h"
 #include "tools/TimingComparison.h"
+#include "tools/Values.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <climits>
 
 namespace {
 
@@ -169,28 +172,72 @@ QByteArray Json(const CStoredMode& stored, const SKind& kind)
 }
 
 /// The timings of others, with their differences to ours.
-void RunOthers(const CArguments& arguments, const CStoredMode& stored, const SKind& kind)
+QByteArray Others(const CArguments& arguments, const CStoredMode& stored, const SKind& kind)
 {
     const bool bJson = arguments.Has("json");
     if (arguments.Has("compare"))
-        return Output::ToStandardOutput(bJson ? TimingComparison::AllJson(stored, kind.bInterlaced)
-                                              : TimingComparison::AllText(stored, kind.bInterlaced));
+        return bJson ? TimingComparison::AllJson(stored, kind.bInterlaced)
+                     : TimingComparison::AllText(stored, kind.bInterlaced);
     const Edid::enTimingStandard standard = TimingComparison::ParseStandard(arguments.Value("standard"));
     const Edid::SModeTiming timing = TimingComparison::TimingBy(standard, stored.Mode(), kind.bInterlaced);
-    Output::ToStandardOutput(bJson ? TimingComparison::Json(standard, timing, stored)
-                                   : TimingComparison::Text(standard, timing, stored));
+    return bJson ? TimingComparison::Json(standard, timing, stored)
+                 : TimingComparison::Text(standard, timing, stored);
+}
+
+bool WantsOthers(const CArguments& arguments)
+{
+    return arguments.Has("standard") || arguments.Has("compare");
+}
+
+SKind KindOf(const CArguments& arguments)
+{
+    return {arguments.Has("normal"), arguments.Has("interlaced"), arguments.Has("margins")};
+}
+
+void RunOne(const CArguments& arguments)
+{
+    const SKind kind = KindOf(arguments);
+    const CStoredMode stored = Calculate(ParseVideoMode(arguments.Positional().constFirst()), kind);
+    if (WantsOthers(arguments))
+        return Output::ToStandardOutput(Others(arguments, stored, kind));
+    Output::ToStandardOutput(arguments.Has("json") ? Json(stored, kind) : Text(stored, kind));
+    for (const QString& strCut : Edid::ClockCuts(stored.InBlock()))
+        Report::Warning(strCut);
+}
+
+/// A modeline, or the JSON object in one line.
+QByteArray Line(const CArguments& arguments, const CStoredMode& stored, const SKind& kind)
+{
+    if (WantsOthers(arguments))
+        return Values::CompactJson(Others(arguments, stored, kind));
+    return arguments.Has("json") ? Values::CompactJson(Json(stored, kind))
+                                 : Modeline(stored, kind).toLatin1();
+}
+
+void RunMany(const CArguments& arguments)
+{
+    if (WantsOthers(arguments) && !arguments.Has("json"))
+        throw CToolError(
+            QStringLiteral("the timings of other standards take several lines; give one mode, or --json"));
+    const SKind kind = KindOf(arguments);
+    QStringList listWarnings;
+    const QByteArray lines = Values::Lines(Values::Of(arguments), [&](const QString& strMode) {
+        const CStoredMode stored = Calculate(ParseVideoMode(strMode), kind);
+        for (const QString& strCut : Edid::ClockCuts(stored.InBlock()))
+            listWarnings += QStringLiteral("mode '%1': %2").arg(strMode, strCut);
+        return Line(arguments, stored, kind);
+    });
+    Output::ToStandardOutput(lines);
+    for (const QString& strWarning : listWarnings)
+        Report::Warning(strWarning);
 }
 
 void Run(const CArguments& arguments)
 {
-    const SVideoMode mode = ParseVideoMode(arguments.Positional().constFirst());
-    const SKind kind = {arguments.Has("normal"), arguments.Has("interlaced"), arguments.Has("margins")};
-    const CStoredMode stored = Calculate(mode, kind);
-    if (arguments.Has("standard") || arguments.Has("compare"))
-        return RunOthers(arguments, stored, kind);
-    Output::ToStandardOutput(arguments.Has("json") ? Json(stored, kind) : Text(stored, kind));
-    for (const QString& strCut : Edid::ClockCuts(stored.InBlock()))
-        Report::Warning(strCut);
+    if (Values::AreMany(arguments))
+        RunMany(arguments);
+    else
+        RunOne(arguments);
 }
 
 } // namespace
@@ -199,9 +246,9 @@ SSubcommand TimingSubcommand()
 {
     return {
         "timing",
-        "WIDTHxHEIGHT@RATE",
+        "WIDTHxHEIGHT@RATE...",
         1,
-        1,
+        INT_MAX,
         "calculate the blanking of a mode and the rate that it really has",
         "RATE may have a fraction, for example 59.94. The stored clock is what a detailed timing of the\n"
         "block holds, whole units of 10 kHz; line rate and actual frame rate follow from it. Totals are\n"
@@ -211,7 +258,10 @@ SSubcommand TimingSubcommand()
         "cvt-rb2\n"
         "and cvt-rb3 are the versions of VESA CVT, gtf is VESA GTF, dmt and cea are the lists of VESA and "
         "CTA.\n"
-        "With --interlaced RATE is that of the fields there. --compare shows all of them.\n",
+        "With --interlaced RATE is that of the fields there. --compare shows all of them.\n"
+        "\n"
+        "Several modes give a line each, the modeline or with --json an object; '-' stands for the lines of\n"
+        "standard input.\n",
         {
             {"normal", 0, nullptr, "normal blanking instead of reduced"},
             {"interlaced", 0, nullptr, "interlaced video"},

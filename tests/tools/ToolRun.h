@@ -17,13 +17,16 @@ struct SToolRun
 };
 
 /// Runs the tool of this build with these words, given in UTF-8.
-inline SToolRun RunTool(const QByteArrayList& listWords)
+/// @param input what it reads on standard input
+inline SToolRun RunTool(const QByteArrayList& listWords, const QByteArray& input = QByteArray())
 {
     QStringList listArguments;
     for (const QByteArray& word : listWords)
         listArguments += QString::fromUtf8(word);
     QProcess process;
     process.start(QStringLiteral(SENDER_TOOL), listArguments);
+    process.write(input);
+    process.closeWriteChannel();
     SToolRun run;
     if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit)
         run.nStatus = process.exitCode();
