@@ -1,6 +1,7 @@
 #include "SenderModuleDialog/SenderModuleDialogInit.h"
 #include "simulator/CommonClass/Simulator.h"
 #include "simulator/OrviControl/Theme.h"
+#include "tests/robot/LongDrag.h"
 #include "tests/robot/Robot.h"
 #include "tests/robot/RobotScenes.h"
 
@@ -35,6 +36,7 @@ constexpr double c_dMostGrowth = 1.05;
 struct SOptions
 {
     int nEvents;
+    int nDrags; ///< moves of the mouse on a chart, instead of events; 0 for none
     unsigned int nSeed;
 };
 
@@ -46,16 +48,22 @@ SOptions ReadOptions(const QApplication& application)
     parser.addHelpOption();
     const QCommandLineOption eventsOption(QStringLiteral("events"), QStringLiteral("How many actions to do."),
                                           QStringLiteral("number"), QString::number(c_nDefaultEvents));
+    const QCommandLineOption dragsOption(
+        QStringLiteral("drags"),
+        QStringLiteral("Drags the points of a chart with that many moves of the mouse instead."),
+        QStringLiteral("number"), QStringLiteral("0"));
     const QCommandLineOption seedOption(QStringLiteral("seed"),
                                         QStringLiteral("Repeats the run that printed this seed."),
                                         QStringLiteral("number"), QStringLiteral("1"));
-    parser.addOptions({eventsOption, seedOption});
+    parser.addOptions({eventsOption, dragsOption, seedOption});
     parser.process(application);
     bool bEvents = false;
+    bool bDrags = false;
     bool bSeed = false;
     const SOptions options = {parser.value(eventsOption).toInt(&bEvents),
+                              parser.value(dragsOption).toInt(&bDrags),
                               parser.value(seedOption).toUInt(&bSeed)};
-    if (!bEvents || !bSeed || options.nEvents < 1) {
+    if (!bEvents || !bDrags || !bSeed || options.nEvents < 1 || options.nDrags < 0) {
         std::fprintf(stderr, "sender-robot: give whole numbers above 0, see --help\n");
         std::exit(c_nUsageError);
     }
@@ -94,6 +102,13 @@ bool Report(CRobot& robot)
     return watch.Failures().isEmpty();
 }
 
+bool OperateAll(int nEvents, unsigned int nSeed)
+{
+    CRobot robot(nSeed, nEvents);
+    PlayScenes(robot);
+    return Report(robot);
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -114,7 +129,7 @@ int main(int argc, char* argv[])
     std::printf("seed %u\n", options.nSeed);
     std::fflush(stdout);
     SenderModuleDialogInit(CSimulator::Instance().Label());
-    CRobot robot(options.nSeed, options.nEvents);
-    PlayScenes(robot);
-    return Report(robot) ? EXIT_SUCCESS : EXIT_FAILURE;
+    const bool bGood = options.nDrags > 0 ? DragForLong(options.nDrags, options.nSeed)
+                                          : OperateAll(options.nEvents, options.nSeed);
+    return bGood ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -1,10 +1,11 @@
 #include "tests/robot/RobotWatch.h"
 
+#include "tests/robot/ProcessorTime.h"
+
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <iterator>
 
 #include <unistd.h>
@@ -65,11 +66,9 @@ void TakeMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QS
 }
 
 /// Milliseconds of processor time that this thread has used.
-qint64 ProcessorTime()
+qint64 Milliseconds()
 {
-    timespec time = {};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return qint64(time.tv_sec) * 1000 + qint64(time.tv_nsec) / 1000000;
+    return ProcessorTime() / 1000;
 }
 
 } // namespace
@@ -111,7 +110,7 @@ void CRobotWatch::NoteMemory(double dDone)
 CRobotWatch::CTimedAction::CTimedAction(CRobotWatch& watch)
     : m_watch(watch)
     , m_strAction(watch.Action())
-    , m_nStart(ProcessorTime())
+    , m_nStart(Milliseconds())
     , m_nOuterInner(watch.m_nInner)
 {
     m_watch.m_nInner = 0;
@@ -119,7 +118,7 @@ CRobotWatch::CTimedAction::CTimedAction(CRobotWatch& watch)
 
 CRobotWatch::CTimedAction::~CTimedAction()
 {
-    const qint64 nElapsed = ProcessorTime() - m_nStart;
+    const qint64 nElapsed = Milliseconds() - m_nStart;
     const qint64 nOwn = nElapsed - m_watch.m_nInner;
     m_watch.m_nSlowest = std::max(m_watch.m_nSlowest, nOwn);
     if (nOwn > c_nLongestAction) {
