@@ -164,18 +164,6 @@
         <translation>Set addresses...</translation>
     </message>
     <message>
-        <source>修改...</source>
-        <translation>Modify...</translation>
-    </message>
-    <message>
-        <source>恢复原样</source>
-        <translation>Restore</translation>
-    </message>
-    <message>
-        <source>删除</source>
-        <translation>Remove</translation>
-    </message>
-    <message>
         <source>手动添加主控...</source>
         <translation>Add processors by hand...</translation>
     </message>
@@ -206,6 +194,18 @@
     <message>
         <source>主控的地址</source>
         <translation>Addresses of the processors</translation>
+    </message>
+    <message>
+        <source>修改(&amp;M)...</source>
+        <translation>&amp;Modify...</translation>
+    </message>
+    <message>
+        <source>恢复原样(&amp;R)</source>
+        <translation>Res&amp;tore</translation>
+    </message>
+    <message>
+        <source>删除(&amp;D)</source>
+        <translation>&amp;Remove</translation>
     </message>
 </context>
 <context>
@@ -519,10 +519,6 @@
         <translation>The EDID memory was empty; 128 bytes have been written.</translation>
     </message>
     <message>
-        <source>写入失败，%1 的 EDID 没有改变。原因见主机调用记录。</source>
-        <translation>The write failed and the EDID of %1 did not change. The journal of host calls says why.</translation>
-    </message>
-    <message>
         <source>EDID 块 (*.bin);;十六进制文本 (*.hex *.txt);;C 数组 (*.c *.h);;JSON (*.json);;所有文件 (*)</source>
         <translation>EDID block (*.bin);;Hexadecimal text (*.hex *.txt);;C array (*.c *.h);;JSON (*.json);;All files (*)</translation>
     </message>
@@ -587,32 +583,12 @@
         <translation>Build the block</translation>
     </message>
     <message>
-        <source>与文件比较...</source>
-        <translation>Compare with a file...</translation>
-    </message>
-    <message>
-        <source>与剪贴板中的文本比较</source>
-        <translation>Compare with the text of the clipboard</translation>
-    </message>
-    <message>
-        <source>与发送器的存储器比较</source>
-        <translation>Compare with the sender&apos;s memory</translation>
-    </message>
-    <message>
-        <source>结束比较</source>
-        <translation>End the comparison</translation>
-    </message>
-    <message>
         <source>下一处不同</source>
         <translation>Next difference</translation>
     </message>
     <message>
         <source>显示下一个不同的字段</source>
         <translation>Show the next field that is different</translation>
-    </message>
-    <message>
-        <source>上一处不同</source>
-        <translation>Previous difference</translation>
     </message>
     <message>
         <source>撤销</source>
@@ -751,6 +727,26 @@ Write one with &quot;Edit EDID...&quot;, or build the block here and write it in
     <message>
         <source>拖入</source>
         <translation>Drop</translation>
+    </message>
+    <message>
+        <source>与文件比较(&amp;F)...</source>
+        <translation>Compare with a &amp;file...</translation>
+    </message>
+    <message>
+        <source>与剪贴板中的文本比较(&amp;T)</source>
+        <translation>Compare with the &amp;text of the clipboard</translation>
+    </message>
+    <message>
+        <source>与发送器的存储器比较(&amp;M)</source>
+        <translation>Compare with the sender&apos;s &amp;memory</translation>
+    </message>
+    <message>
+        <source>结束比较(&amp;E)</source>
+        <translation>&amp;End the comparison</translation>
+    </message>
+    <message>
+        <source>上一处不同(&amp;P)</source>
+        <translation>&amp;Previous difference</translation>
     </message>
 </context>
 <context>
@@ -3174,10 +3170,6 @@ Write one with &quot;Edit EDID...&quot;, or build the block here and write it in
         <translation>Add</translation>
     </message>
     <message>
-        <source>输出和屏幕色彩空间</source>
-        <translation>Output and screen colour space</translation>
-    </message>
-    <message>
         <source>预设</source>
         <translation>Preset</translation>
     </message>
@@ -3225,6 +3217,10 @@ Write one with &quot;Edit EDID...&quot;, or build the block here and write it in
         <source>组的颜色</source>
         <translation>Colour of the group</translation>
     </message>
+    <message>
+        <source>输出和屏幕色彩空间(&amp;O)</source>
+        <translation>&amp;Output and screen colour space</translation>
+    </message>
 </context>
 <context>
     <name>CHandAdditionText</name>
@@ -3266,6 +3262,17 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
     <message>
         <source>合并重复的读取</source>
         <translation>Fold repeated reads</translation>
+    </message>
+    <message>
+        <source>复制(&amp;C)</source>
+        <translation>&amp;Copy</translation>
+    </message>
+</context>
+<context>
+    <name>CJournalFilter</name>
+    <message>
+        <source>写入失败</source>
+        <translation>failed write</translation>
     </message>
 </context>
 <context>
@@ -4622,6 +4629,23 @@ Choose another picture.</translation>
     <message>
         <source>还有 %1 个</source>
         <translation>%1 more</translation>
+    </message>
+</context>
+<context>
+    <name>CWriteProblem</name>
+    <message>
+        <source>发送器没有采用新的模式</source>
+        <translation>the sender did not apply the new mode</translation>
+    </message>
+    <message>
+        <source>发送器返回错误 %1</source>
+        <translation>the sender returned error %1</translation>
+    </message>
+    <message>
+        <source>没有写入 %1 的 EDID：%2。原来的模式仍然有效。
+请检查发送器，然后重试。模拟的故障在“模拟”页关闭。</source>
+        <translation>The EDID of %1 was not written: %2. The old mode is still in force.
+Check the sender, then try again. The page &quot;Simulation&quot; switches simulated faults off.</translation>
     </message>
 </context>
 </TS>

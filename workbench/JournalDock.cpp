@@ -92,11 +92,12 @@ QWidget* CJournalDock::CreateTable()
         m_pTable->setColumnWidth(column.nColumn,
                                  fontMetrics().horizontalAdvance(QString::fromLatin1(column.szSample)) +
                                      c_nMargins);
-    auto* pCopyAction = new QAction(m_pTable);
-    pCopyAction->setShortcut(QKeySequence::Copy);
-    pCopyAction->setShortcutContext(Qt::WidgetShortcut);
-    m_pTable->addAction(pCopyAction);
-    connect(pCopyAction, &QAction::triggered, this, &CJournalDock::CopySelected);
+    m_pCopyAction = new QAction(m_pTable);
+    m_pCopyAction->setShortcut(QKeySequence::Copy);
+    m_pCopyAction->setShortcutContext(Qt::WidgetShortcut);
+    m_pTable->addAction(m_pCopyAction);
+    m_pTable->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(m_pCopyAction, &QAction::triggered, this, &CJournalDock::CopySelected);
     connect(m_pFilter, &QAbstractItemModel::rowsInserted, m_pTable, &QTableView::scrollToBottom);
     return m_pTable;
 }
@@ -108,6 +109,7 @@ void CJournalDock::Retranslate()
     m_pReads->setText(tr("显示读取"));
     m_pFold->setText(tr("合并重复的读取"));
     m_pTable->setAccessibleName(windowTitle());
+    m_pCopyAction->setText(tr("复制(&C)"));
     m_pCopy->setText(tr("复制"));
     m_pClear->setText(tr("清空"));
 }

@@ -5,6 +5,7 @@
 #include <QModelIndexList>
 
 class CJournalFilter;
+class QAction;
 class QCheckBox;
 class QLineEdit;
 class QPushButton;
@@ -39,6 +40,7 @@ private:
     QPushButton* m_pCopy = nullptr;
     QPushButton* m_pClear = nullptr;
     QTableView* m_pTable = nullptr;
+    QAction* m_pCopyAction = nullptr;
 };
 
 #endif // WORKBENCH_JOURNALDOCK_H

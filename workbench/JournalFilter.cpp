@@ -2,7 +2,29 @@
 
 #include "simulator/CommonClass/HostJournal.h"
 
+#include <QApplication>
 #include <QColor>
+#include <QIcon>
+#include <QStyle>
+
+namespace {
+
+/// How a cell of a failed write differs from another one.
+QVariant FailedCell(int nColumn, int nRole)
+{
+    // Light enough to read on both row colours of the dark theme.
+    constexpr QRgb c_clrFailed = qRgb(255, 138, 128);
+    if (nRole == Qt::ForegroundRole)
+        return QColor(c_clrFailed);
+    if (nRole == Qt::AccessibleDescriptionRole)
+        return CJournalFilter::tr("写入失败");
+    // A sign beside the word: colours alone do not reach everyone.
+    if (nRole == Qt::DecorationRole && nColumn == CHostJournal::enColumnResult)
+        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxCritical);
+    return {};
+}
+
+} // namespace
 
 CJournalFilter::CJournalFilter(CHostJournal& journal, QObject* pParent)
     : QSortFilterProxyModel(pParent)
@@ -17,12 +39,16 @@ CJournalFilter::CJournalFilter(CHostJournal& journal, QObject* pParent)
     setSourceModel(&journal);
 }
 
+int CJournalFilter::Count(const SJournalEntry& entry)
+{
+    return m_reads.Append(entry.category == enJournalRead,
+                          entry.strObject + entry.CallText() + entry.strResult);
+}
+
 void CJournalFilter::TakeRows(int nFirst, int nLast)
 {
     for (int nRow = nFirst; nRow <= nLast; ++nRow) {
-        const SJournalEntry& entry = m_journal.At(nRow);
-        const int nShown = m_reads.Append(entry.category == enJournalRead,
-                                          entry.strObject + entry.CallText() + entry.strResult);
+        const int nShown = Count(m_journal.At(nRow));
         const QModelIndex index = nShown == nRow ? QModelIndex() : mapFromSource(m_journal.index(nShown, 0));
         if (index.isValid())
             Q_EMIT dataChanged(index, index.siblingAtColumn(columnCount() - 1));
@@ -32,7 +58,8 @@ void CJournalFilter::TakeRows(int nFirst, int nLast)
 void CJournalFilter::TakeAll()
 {
     m_reads.Clear();
-    TakeRows(0, m_journal.GetCount() - 1);
+    for (int nRow = 0; nRow < m_journal.GetCount(); ++nRow)
+        Count(m_journal.At(nRow));
     // The base class is still taking over the same change.
     QMetaObject::invokeMethod(
         this, [this] { invalidateFilter(); }, Qt::QueuedConnection);
@@ -56,7 +83,7 @@ void CJournalFilter::SetRepeatsFolded(bool bFolded)
     invalidateFilter();
 }
 
-int CJournalFilter::Count(const QModelIndex& index) const
+int CJournalFilter::CountAt(const QModelIndex& index) const
 {
     const int nRow = mapToSource(index).row();
     return m_bRepeatsFolded && nRow >= 0 && nRow < m_reads.Size() ? m_reads.Count(nRow) : 1;
@@ -64,16 +91,12 @@ int CJournalFilter::Count(const QModelIndex& index) const
 
 QVariant CJournalFilter::data(const QModelIndex& index, int nRole) const
 {
-    // Light enough to read on both row colours of the dark theme.
-    constexpr QRgb c_clrFailed = qRgb(255, 138, 128);
     const QVariant value = QSortFilterProxyModel::data(index, nRole);
-    if (nRole == Qt::ForegroundRole)
-        return QSortFilterProxyModel::data(index, CHostJournal::enRoleFailed).toBool()
-                   ? QVariant(QColor(c_clrFailed))
-                   : value;
+    if (!value.isValid() && QSortFilterProxyModel::data(index, CHostJournal::enRoleFailed).toBool())
+        return FailedCell(index.column(), nRole);
     const bool bCounts = nRole == CHostJournal::enRoleLine ||
                          (nRole == Qt::DisplayRole && index.column() == CHostJournal::enColumnCall);
-    const int nCount = bCounts ? Count(index) : 1;
+    const int nCount = bCounts ? CountAt(index) : 1;
     return nCount > 1 ? QVariant(QStringLiteral("%1  ×%2").arg(value.toString()).arg(nCount)) : value;
 }
 

@@ -99,8 +99,11 @@ void CMainWindow::ConnectPage(CWorkbenchPage* pPage)
 {
     m_pHistory->Follow(*pPage);
     connect(pPage, &CWorkbenchPage::Reported, this, &CMainWindow::Report);
-    connect(pPage, &CWorkbenchPage::Failed, this,
-            [this, pPage](const QString& strText) { QMessageBox::warning(this, pPage->Title(), strText); });
+    connect(pPage, &CWorkbenchPage::Failed, this, [this, pPage](const QString& strText) {
+        // A success that is still told there would read like that of what failed.
+        statusBar()->clearMessage();
+        QMessageBox::warning(this, pPage->Title(), strText);
+    });
     connect(pPage, &CWorkbenchPage::SelectionWanted, m_pTree, &CSenderTree::Select);
 }
 

@@ -104,6 +104,16 @@ const SJournalEntry& CHostJournal::At(int nRow) const
     return m_entries.at(size_t(nRow));
 }
 
+std::optional<SJournalEntry> CHostJournal::LastFailed(qint64 nAfter) const
+{
+    const auto itFound = std::find_if(m_entries.crbegin(), m_entries.crend(), [nAfter](const auto& entry) {
+        return entry.bFailed || entry.nNumber <= nAfter;
+    });
+    if (itFound == m_entries.crend() || itFound->nNumber <= nAfter)
+        return std::nullopt;
+    return *itFound;
+}
+
 QStringList CHostJournal::Calls() const
 {
     QStringList listCalls;

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <deque>
+#include <optional>
 
 /// What a host call does.
 enum enJournalCategory
@@ -84,6 +85,10 @@ public:
     int GetCount() const { return int(m_entries.size()); }
     /// The entry of a row, 0 being the oldest; faults outside the rows.
     const SJournalEntry& At(int nRow) const;
+    /// Number of the latest call, 0 before the first.
+    qint64 LastNumber() const { return m_nLastNumber; }
+    /// The latest failed write with a greater number.
+    std::optional<SJournalEntry> LastFailed(qint64 nAfter) const;
     /// The calls as text, oldest first.
     QStringList Calls() const;
     /// The calls of one category as text, oldest first.

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void ItIsAProperTableModel();
     void ColumnsShowTheEntry();
     void CallsCanBeFilteredByKind();
+    void TheLatestFailureSinceACallIsFound();
     void ACallIsNotedWithResultAndTime();
     void OutArgumentsShowWhatCameBack();
     void ANullArgumentIsNoted();
@@ -138,6 +139,20 @@ void TestJournal::CallsCanBeFilteredByKind()
     QCOMPARE(simulator.Journal().Calls(enJournalRead), QStringList{Text("GetDemoModeEnable()")});
     QCOMPARE(simulator.Journal().Calls(enJournalWrite), QStringList{Text("SetDemoModeEnable(false)")});
     QCOMPARE(simulator.Journal().Calls(enJournalEvent), QStringList{Text("PostLabelEvent(0xc00, 0, 1, 0)")});
+}
+
+void TestJournal::TheLatestFailureSinceACallIsFound()
+{
+    CHostJournal journal;
+    journal.Append(Entry("First"));
+    journal.MarkLastFailed();
+    const qint64 nFirst = journal.LastNumber();
+    journal.Append(Entry("Second"));
+    QCOMPARE(journal.LastFailed(0)->strOperation, Text("First"));
+    QVERIFY(!journal.LastFailed(nFirst));
+    journal.MarkLastFailed();
+    journal.Append(Entry("Third"));
+    QCOMPARE(journal.LastFailed(nFirst)->strOperation, Text("Second"));
 }
 
 void TestJournal::ACallIsNotedWithResultAndTime()

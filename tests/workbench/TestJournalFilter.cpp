@@ -1,6 +1,10 @@
 #include "simulator/CommonClass/HostJournal.h"
+#include "simulator/OrviControl/Theme.h"
+#include "tests/support/Contrast.h"
 #include "workbench/JournalFilter.h"
 
+#include <QAccessible>
+#include <QTableView>
 #include <QtTest>
 
 namespace {
@@ -14,6 +18,13 @@ void Append(CHostJournal& journal, enJournalCategory category, const char* szOpe
     journal.Append(entry);
 }
 
+QStringList s_listWarnings;
+
+void NoteWarning(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& strText)
+{
+    s_listWarnings.append(strText);
+}
+
 } // namespace
 
 class TestJournalFilter : public QObject
@@ -24,12 +35,15 @@ private Q_SLOTS:
     void CallsThatHoldTheTextArePassed();
     void ReadsCanBeLeftOut();
     void AWriteThatDidNotTakeIsMarked();
+    void AFailedRowCanBeReadOnEachRowColour();
+    void AssistiveToolsAreToldOfAFailedRow();
     void RepeatedReadsAreOneRowWithACount();
     void AWriteStartsAfresh();
     void EveryReadCanBeShownInItsPlace();
     void ReadsWithAnotherResultAreAnotherRow();
     void AfterTheOldestGoTheRestIsCountedAgain();
     void AClearedJournalStartsAfresh();
+    void AJournalWithRepeatedReadsIsTakenWithoutAWarning();
 };
 
 void TestJournalFilter::CallsThatHoldTheTextArePassed()
@@ -63,10 +77,39 @@ void TestJournalFilter::AWriteThatDidNotTakeIsMarked()
     Append(journal, enJournalWrite, "SetEdidSetting");
     const QModelIndex index = filter.index(0, CHostJournal::enColumnResult);
     QVERIFY(!index.data(Qt::ForegroundRole).isValid());
+    QVERIFY(!index.data(Qt::DecorationRole).isValid());
     journal.MarkLastFailed();
-    QVERIFY(index.data(Qt::ForegroundRole).isValid());
+    QVERIFY(!index.data(Qt::DecorationRole).value<QIcon>().isNull());
     QCOMPARE(index.data().toString(), QStringLiteral("failed"));
     QVERIFY(index.data(CHostJournal::enRoleLine).toString().endsWith(QStringLiteral("failed")));
+}
+
+void TestJournalFilter::AFailedRowCanBeReadOnEachRowColour()
+{
+    CHostJournal journal;
+    const CJournalFilter filter(journal);
+    Append(journal, enJournalWrite, "SetEdidSetting");
+    journal.MarkLastFailed();
+    const QRgb rgbText =
+        filter.index(0, CHostJournal::enColumnCall).data(Qt::ForegroundRole).value<QColor>().rgb();
+    const QPalette palette = Theme::Palette();
+    QVERIFY(Contrast(rgbText, palette.color(QPalette::Base).rgb()) >= c_dTextContrast);
+    QVERIFY(Contrast(rgbText, palette.color(QPalette::AlternateBase).rgb()) >= c_dTextContrast);
+}
+
+void TestJournalFilter::AssistiveToolsAreToldOfAFailedRow()
+{
+    CHostJournal journal;
+    CJournalFilter filter(journal);
+    Append(journal, enJournalWrite, "SetOutput50Hz");
+    Append(journal, enJournalWrite, "SetEdidSetting");
+    journal.MarkLastFailed();
+    QTableView table;
+    table.setModel(&filter);
+    QAccessibleTableInterface* pTable = QAccessible::queryAccessibleInterface(&table)->tableInterface();
+    QCOMPARE(pTable->cellAt(0, CHostJournal::enColumnCall)->text(QAccessible::Description), QString());
+    QCOMPARE(pTable->cellAt(1, CHostJournal::enColumnCall)->text(QAccessible::Description),
+             QStringLiteral("写入失败"));
 }
 
 QStringList Shown(const CJournalFilter& filter)
@@ -145,6 +188,21 @@ void TestJournalFilter::AClearedJournalStartsAfresh()
     journal.Clear();
     Append(journal, enJournalRead, "GetSender");
     QCOMPARE(Shown(filter), QStringList{QStringLiteral("GetSender()")});
+}
+
+void TestJournalFilter::AJournalWithRepeatedReadsIsTakenWithoutAWarning()
+{
+    CHostJournal journal;
+    journal.SetCapacity(3);
+    Append(journal, enJournalRead, "GetSender");
+    Append(journal, enJournalRead, "GetSender");
+    s_listWarnings.clear();
+    const QtMessageHandler pBefore = qInstallMessageHandler(NoteWarning);
+    const CJournalFilter filter(journal);
+    Append(journal, enJournalRead, "GetSender");
+    Append(journal, enJournalRead, "GetSender");
+    qInstallMessageHandler(pBefore);
+    QCOMPARE(s_listWarnings, QStringList());
 }
 
 QTEST_MAIN(TestJournalFilter)

@@ -57,8 +57,9 @@ private Q_SLOTS:
     void AWrittenSettingFillsTheMemoryAndShowsTheChange();
     void ABlockIsSavedWhole();
     void ABlockThatCannotBeSavedIsTold();
-    void AWriteIsReportedAsItEnded_data();
-    void AWriteIsReportedAsItEnded();
+    void AWriteThatTookIsReported();
+    void AFailedWriteIsAMessageWithReasonAndRemedy_data();
+    void AFailedWriteIsAMessageWithReasonAndRemedy();
     void TabGoesFromTheTreeToTabsPageAndJournal_data();
     void TabGoesFromTheTreeToTabsPageAndJournal();
     void ControlAndADigitShowAPage();
@@ -261,30 +262,66 @@ public:
     }
 };
 
-void TestMainWindow::AWriteIsReportedAsItEnded_data()
+/// What the window told about a write of the first input's EDID.
+struct SWriteOutcome
 {
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QString>("report");
-    QTest::newRow("it took") << 0 << QStringLiteral("当前模式");
-    QTest::newRow("it failed") << 5 << QStringLiteral("写入失败");
-}
+    QString strStatus;
+    QString strMessage;
+};
 
-void TestMainWindow::AWriteIsReportedAsItEnded()
+/// Writes with such a sender, from a status bar that tells of an earlier success.
+SWriteOutcome WriteWith(const std::function<void(SSimulatedSender&)>& funcChange)
 {
-    QFETCH(int, result);
-    QFETCH(QString, report);
     CWorkbenchFixture workbench;
-    CSimulator::Instance().Document().Change([result](SSimulatedProject& project) {
+    workbench.Activate();
+    CSimulator::Instance().Document().Change([&funcChange](SSimulatedProject& project) {
         project.bDemoMode = true;
-        project.listSenders[0].faults.nEdidWriteResult = result;
+        funcChange(project.listSenders[0]);
     });
     const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
     workbench.window.Tree().Select({0, nInterfaceId});
-    auto* pPage = workbench.window.findChild<CEdidPage*>();
-    QSignalSpy spyReported(pPage, &CWorkbenchPage::Reported);
+    workbench.window.statusBar()->showMessage(QStringLiteral("当前模式：1 × 1 @ 60 Hz"));
     const CWriteOperator writeOperator;
-    pPage->EditEdid();
-    QVERIFY(spyReported.last().first().toString().contains(report));
+    const CMessageAnswer answer("OK");
+    workbench.window.findChild<CEdidPage*>()->EditEdid();
+    return {workbench.window.statusBar()->currentMessage(), answer.strText};
+}
+
+void TestMainWindow::AWriteThatTookIsReported()
+{
+    const SWriteOutcome outcome = WriteWith([](SSimulatedSender& sender) {
+        sender.listInputs[0].setting = SEdidSetting();
+        sender.listInputs[0].setting->wWidth = 1280;
+        sender.listInputs[0].setting->wHeight = 720;
+        sender.listInputs[0].setting->byRate = 60;
+    });
+    QCOMPARE(outcome.strStatus, QStringLiteral("当前模式：1280 × 720 @ 60 Hz"));
+    QVERIFY(outcome.strMessage.isEmpty());
+}
+
+void TestMainWindow::AFailedWriteIsAMessageWithReasonAndRemedy_data()
+{
+    QTest::addColumn<bool>("fullRecord");
+    QTest::addColumn<int>("result");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("a full record is refused") << true << 5 << QStringLiteral("发送器返回错误 5");
+    QTest::newRow("a basic record is refused") << false << 7 << QStringLiteral("发送器返回错误 7");
+    QTest::newRow("a basic record does not take") << false << 0 << QStringLiteral("发送器没有采用新的模式");
+}
+
+void TestMainWindow::AFailedWriteIsAMessageWithReasonAndRemedy()
+{
+    QFETCH(bool, fullRecord);
+    QFETCH(int, result);
+    QFETCH(QString, reason);
+    const SWriteOutcome outcome = WriteWith([&](SSimulatedSender& sender) {
+        sender.capability.bExtendedEdid = fullRecord;
+        sender.faults.nEdidWriteResult = result;
+        sender.faults.bBasicEdidFails = true;
+    });
+    QVERIFY2(outcome.strMessage.contains(reason), qPrintable(outcome.strMessage));
+    QVERIFY(outcome.strMessage.contains(QStringLiteral("请检查发送器")));
+    QCOMPARE(outcome.strStatus, QString());
 }
 
 /// Which part of the window has the focus.
@@ -354,10 +391,22 @@ QStringList EntriesWithoutOwnKey(const QList<QAction*>& listEntries)
         if (!pEntry->isSeparator() && (key.isEmpty() || setKeys.contains(chKey)))
             listFaults.append(pEntry->text());
         setKeys.insert(chKey);
-        if (pEntry->menu() != nullptr)
-            listFaults += EntriesWithoutOwnKey(pEntry->menu()->actions());
     }
     return listFaults;
+}
+
+/// The entries of each menu of a window: of the menu bar, of buttons, and of what is selected.
+std::vector<QList<QAction*>> AllMenus(const QMainWindow& window)
+{
+    std::vector<QList<QAction*>> vecMenus = {window.menuBar()->actions()};
+    for (QMenu* pMenu : window.findChildren<QMenu*>()) {
+        Q_EMIT pMenu->aboutToShow();
+        vecMenus.push_back(pMenu->actions());
+    }
+    for (const QWidget* pWidget : window.findChildren<QWidget*>())
+        if (pWidget->contextMenuPolicy() == Qt::ActionsContextMenu)
+            vecMenus.push_back(pWidget->actions());
+    return vecMenus;
 }
 
 void TestMainWindow::EveryMenuEntryHasAKeyOfItsOwn_data()
@@ -369,11 +418,17 @@ void TestMainWindow::EveryMenuEntryHasAKeyOfItsOwn_data()
 
 void TestMainWindow::EveryMenuEntryHasAKeyOfItsOwn()
 {
+    constexpr std::size_t c_nMenus = 15; // bar, its 6 with 2 in them, 3 of buttons, 3 of what is selected
     QFETCH(int, language);
     CWorkbenchFixture workbench;
     workbench.language.Set(enLanguage(language));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
-    QCOMPARE(EntriesWithoutOwnKey(workbench.window.menuBar()->actions()), QStringList());
+    workbench.window.Project().RecentFiles().Note(workbench.File("a.json"));
+    const std::vector<QList<QAction*>> vecMenus = AllMenus(workbench.window);
+    QVERIFY(vecMenus.size() >= c_nMenus);
+    for (const QList<QAction*>& listEntries : vecMenus)
+        QCOMPARE(EntriesWithoutOwnKey(listEntries), QStringList());
 }
 
 /// Texts of the buttons in the dialog that opens a project.

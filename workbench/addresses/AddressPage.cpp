@@ -108,12 +108,12 @@ QWidget* CAddressPage::CreateButtons()
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(CreateButton("batch", QT_TR_NOOP("批量添加..."), [this] { m_pEditor->AddBatch(); }));
     pLayout->addWidget(CreateSetBox());
-    pLayout->addWidget(CreateEntryButton("modify", QT_TR_NOOP("修改..."), enNeeds::enOneEntry,
+    pLayout->addWidget(CreateEntryButton("modify", QT_TR_NOOP("修改(&M)..."), enNeeds::enOneEntry,
                                          {Qt::Key_Return, Qt::Key_Enter},
                                          [this] { m_pEditor->Modify(SelectedRows().first()); }));
-    pLayout->addWidget(CreateEntryButton("reset", QT_TR_NOOP("恢复原样"), enNeeds::enEntries, {},
+    pLayout->addWidget(CreateEntryButton("reset", QT_TR_NOOP("恢复原样(&R)"), enNeeds::enEntries, {},
                                          [this] { m_pEditor->Reset(SelectedRows()); }));
-    pLayout->addWidget(CreateEntryButton("remove", QT_TR_NOOP("删除"), enNeeds::enEntries,
+    pLayout->addWidget(CreateEntryButton("remove", QT_TR_NOOP("删除(&D)"), enNeeds::enEntries,
                                          {QKeySequence::Delete},
                                          [this] { m_pEditor->Remove(SelectedRows()); }));
     pLayout->addWidget(

@@ -26,8 +26,9 @@ QMenu* StandardsMenu(QWidget* pParent, const std::function<void(enColorStandard)
 {
     auto* pMenu = new QMenu(pParent);
     for (int i = 0; i < c_nColorStandardCount; ++i)
-        pMenu->addAction(QString::fromLatin1(c_arrColourStandards[i].szName), pParent,
-                         [funcChosen, i] { funcChosen(enColorStandard(i)); });
+        pMenu->addAction(
+            QStringLiteral("&%1 %2").arg(i + 1).arg(QString::fromLatin1(c_arrColourStandards[i].szName)),
+            pParent, [funcChosen, i] { funcChosen(enColorStandard(i)); });
     return pMenu;
 }
 
@@ -100,7 +101,7 @@ void CGroupPanel::CreateTable()
 void CGroupPanel::Retranslate()
 {
     m_pAdd->setText(tr("添加"));
-    m_pAddPair->setText(tr("输出和屏幕色彩空间"));
+    m_pAddPair->setText(tr("输出和屏幕色彩空间(&O)"));
     m_pPreset->setText(tr("预设"));
     m_pPreset->setToolTip(tr("所选的组取标准的色度坐标"));
     m_pRemove->setText(tr("删除"));

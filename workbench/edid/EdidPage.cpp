@@ -15,6 +15,7 @@
 #include "workbench/edid/FieldTree.h"
 #include "workbench/edid/FindingList.h"
 #include "workbench/edid/HexView.h"
+#include "workbench/edid/WriteProblem.h"
 
 #include <QAction>
 #include <QApplication>
@@ -156,16 +157,16 @@ const CEdidPage::SActionRow CEdidPage::c_arrActions[] = {
     {enMemory, "edidMemory", QT_TR_NOOP("发送器的存储器"), QT_TR_NOOP("显示所选输入的 EDID 存储器"),
      Qt::Key_F5, &CEdidPage::LoadMemory},
     {enBuild, "edidBuild", QT_TR_NOOP("构建块"), nullptr, 0, &CEdidPage::Build},
-    {enCompareFile, "edidCompareFile", QT_TR_NOOP("与文件比较..."), nullptr, Qt::CTRL + Qt::SHIFT + Qt::Key_D,
-     &CEdidPage::ChooseAndCompare},
-    {enComparePaste, "edidComparePaste", QT_TR_NOOP("与剪贴板中的文本比较"), nullptr,
+    {enCompareFile, "edidCompareFile", QT_TR_NOOP("与文件比较(&F)..."), nullptr,
+     Qt::CTRL + Qt::SHIFT + Qt::Key_D, &CEdidPage::ChooseAndCompare},
+    {enComparePaste, "edidComparePaste", QT_TR_NOOP("与剪贴板中的文本比较(&T)"), nullptr,
      Qt::CTRL + Qt::SHIFT + Qt::Key_V, &CEdidPage::ComparePasted},
-    {enCompareMemory, "edidCompareMemory", QT_TR_NOOP("与发送器的存储器比较"), nullptr,
+    {enCompareMemory, "edidCompareMemory", QT_TR_NOOP("与发送器的存储器比较(&M)"), nullptr,
      Qt::SHIFT + Qt::Key_F5, &CEdidPage::CompareMemory},
-    {enEndComparison, "edidEndComparison", QT_TR_NOOP("结束比较"), nullptr, 0, &CEdidPage::EndComparison},
+    {enEndComparison, "edidEndComparison", QT_TR_NOOP("结束比较(&E)"), nullptr, 0, &CEdidPage::EndComparison},
     {enNext, "edidNext", QT_TR_NOOP("下一处不同"), QT_TR_NOOP("显示下一个不同的字段"), Qt::Key_F8,
      &CEdidPage::ShowNextDifference},
-    {enPrevious, "edidPrevious", QT_TR_NOOP("上一处不同"), nullptr, Qt::SHIFT + Qt::Key_F8,
+    {enPrevious, "edidPrevious", QT_TR_NOOP("上一处不同(&P)"), nullptr, Qt::SHIFT + Qt::Key_F8,
      &CEdidPage::ShowPreviousDifference},
     {enUndo, "edidUndo", QT_TR_NOOP("撤销"), QT_TR_NOOP("撤销对块的更改 (Ctrl+Z)"), 0, &CEdidPage::Undo},
     {enRedo, "edidRedo", QT_TR_NOOP("重做"), QT_TR_NOOP("重做对块的更改 (Ctrl+Shift+Z)"), 0,
@@ -563,6 +564,7 @@ void CEdidPage::EditEdid()
     // The dialog also accepts a failed write, and its flag stays false after a successful full write: only a
     // write to the memory proves success.
     bool bTook = false;
+    const qint64 nLastCall = CSimulator::Instance().Journal().LastNumber();
     const auto connection =
         connect(m_pUpdater, &CEdidMemoryUpdater::BlockStored, this, [&bTook] { bTook = true; });
     CEdidSetDlg dialog(this, m_selection.nInterfaceId, m_pLowRates->isChecked());
@@ -575,7 +577,8 @@ void CEdidPage::EditEdid()
     if (bTook && pInput->setting)
         Q_EMIT Reported(tr("当前模式：%1").arg(ModeText::Of(*pInput->setting)));
     else
-        Q_EMIT Reported(tr("写入失败，%1 的 EDID 没有改变。原因见主机调用记录。").arg(pInput->strName));
+        Q_EMIT Failed(
+            WriteProblem::Text(pInput->strName, CSimulator::Instance().Journal().LastFailed(nLastCall)));
 }
 
 std::optional<SEdidContent> CEdidPage::ChosenFrom(const SEdidSource& source)

@@ -6,6 +6,7 @@
 #include "host/OrviControl/CustomSwitchButton.h"
 #include "host/OrviControl/Style.h"
 #include "simulator/OrviControl/Theme.h"
+#include "tests/support/Contrast.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -27,26 +28,6 @@
 #include <memory>
 
 namespace {
-
-/// What the Web Content Accessibility Guidelines 2.1 demand, level AA. Disabled controls are exempt there.
-constexpr double c_dTextContrast = 4.5;
-constexpr double c_dOutlineContrast = 3.0;
-
-/// Relative luminance of an sRGB colour, as the guidelines define it.
-double Luminance(QRgb rgb)
-{
-    const auto Linear = [](int nChannel) {
-        const double dValue = nChannel / 255.0;
-        return dValue <= 0.03928 ? dValue / 12.92 : std::pow((dValue + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * Linear(qRed(rgb)) + 0.7152 * Linear(qGreen(rgb)) + 0.0722 * Linear(qBlue(rgb));
-}
-
-double Contrast(QRgb rgbOne, QRgb rgbOther)
-{
-    const auto [dDark, dLight] = std::minmax({Luminance(rgbOne), Luminance(rgbOther)});
-    return (dLight + 0.05) / (dDark + 0.05);
-}
 
 /// Greatest contrast of a part of a picture to a colour.
 double GreatestContrast(const QImage& image, const QRect& rcPart, QRgb rgbGround)
