@@ -3338,10 +3338,6 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
         <translation>Give the processors their addresses on the page &quot;Addresses&quot;.</translation>
     </message>
     <message>
-        <source>保存工程。没有画面时，看下面的主机调用记录：失败的写入是红色的。</source>
-        <translation>Save the project. Without a picture, look at the journal below: failed writes are red.</translation>
-    </message>
-    <message>
         <source>按键和步骤</source>
         <translation>Steps and keys</translation>
     </message>
@@ -3360,6 +3356,10 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
     <message>
         <source>EDID 页：编辑字段、粘贴 EDID、发送器的存储器、下一处不同</source>
         <translation>Page EDID: edit a field, paste an EDID, the sender&apos;s memory, the next difference</translation>
+    </message>
+    <message>
+        <source>保存工程。没有画面时，看下面的主机调用记录：失败的写入有红色标记。</source>
+        <translation>Save the project. Without a picture, look at the journal below: failed writes have a red mark.</translation>
     </message>
 </context>
 <context>
@@ -4353,7 +4353,7 @@ Choose another picture.</translation>
     </message>
     <message>
         <source>类型或接口</source>
-        <translation>Type or interface</translation>
+        <translation>Type or ID</translation>
     </message>
 </context>
 <context>

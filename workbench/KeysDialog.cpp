@@ -36,10 +36,10 @@ constexpr const char* c_arrSteps[] = {
     QT_TRANSLATE_NOOP("CKeysDialog", "在左边选择一个输入，双击它，设置它的 EDID。"),
     QT_TRANSLATE_NOOP("CKeysDialog", "在“输出”页设置画布、帧率和色深。"),
     QT_TRANSLATE_NOOP("CKeysDialog", "在“地址”页给主控分配地址。"),
-    QT_TRANSLATE_NOOP("CKeysDialog", "保存工程。没有画面时，看下面的主机调用记录：失败的写入是红色的。"),
+    QT_TRANSLATE_NOOP("CKeysDialog", "保存工程。没有画面时，看下面的主机调用记录：失败的写入有红色标记。"),
 };
 
-constexpr QSize c_sizeFirst(620, 560);
+constexpr QSize c_sizeFirst(640, 620);
 
 } // namespace
 

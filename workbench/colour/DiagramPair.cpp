@@ -7,6 +7,10 @@ namespace {
 /// Width of a diagram that fills a height, as a part of it: the axes of the chart reach to 0.8 and 0.9.
 constexpr double c_dUsefulWidth = 0.95;
 
+/// A diagram that shrinks to this part of its size makes room for the other one: both show more than one
+/// beside an empty half.
+constexpr double c_dLeastSize = 0.75;
+
 } // namespace
 
 CDiagramPair::CDiagramPair(QWidget* pParent)
@@ -27,7 +31,7 @@ void CDiagramPair::SetDiagrams(QWidget* pChart, QWidget* pUcs)
 
 bool CDiagramPair::HasRoomForBoth() const
 {
-    return width() - layout()->spacing() >= 2.0 * c_dUsefulWidth * height();
+    return width() - layout()->spacing() >= 2.0 * c_dUsefulWidth * c_dLeastSize * height();
 }
 
 void CDiagramPair::ShowUcs(bool bShown)

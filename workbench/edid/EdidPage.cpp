@@ -212,6 +212,8 @@ CEdidPage::CEdidPage(QWidget* pParent)
             if (nSender == m_selection.nSender && nInterfaceId == m_selection.nInterfaceId)
                 ShowChange(blockBefore, blockAfter);
         });
+    // An empty document announces no change when the first selection has no memory either.
+    ShowDocument();
     CEdidPage::Retranslate();
 }
 
@@ -343,7 +345,6 @@ QWidget* CEdidPage::CreateMemoryView()
     m_pFields = new CFieldTree(*m_pModel, pSplitter);
     QHeaderView* pHeader = m_pFields->header();
     pHeader->setStretchLastSection(false);
-    pHeader->setSectionResizeMode(CFieldModel::enField, QHeaderView::ResizeToContents);
     pHeader->setSectionResizeMode(CFieldModel::enValue, QHeaderView::Stretch);
     pHeader->setSectionResizeMode(CFieldModel::enOther, QHeaderView::Stretch);
     pSplitter->addWidget(m_pFields);

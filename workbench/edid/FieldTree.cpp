@@ -6,6 +6,15 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include <algorithm>
+
+namespace {
+
+constexpr int c_nIndentation = 12;      ///< of a level, pixels
+constexpr double c_dMostOfNames = 0.55; ///< part of the width that names take at most
+
+} // namespace
+
 CFieldTree::CFieldTree(CFieldModel& model, QWidget* pParent)
     : QTreeView(pParent)
     , m_model(model)
@@ -13,6 +22,7 @@ CFieldTree::CFieldTree(CFieldModel& model, QWidget* pParent)
     setModel(&model);
     setAlternatingRowColors(true);
     setUniformRowHeights(true);
+    setIndentation(c_nIndentation);
     // The keys and the double click go to the value, whichever column is current.
     setEditTriggers(NoEditTriggers);
     setExpandsOnDoubleClick(true);
@@ -71,6 +81,20 @@ void CFieldTree::RestorePlace()
     Unfold({});
     if (m_nKeptByte >= 0)
         ShowRow(m_model.IndexOfByte(m_nKeptByte));
+    FitNames();
+}
+
+void CFieldTree::resizeEvent(QResizeEvent* pEvent)
+{
+    QTreeView::resizeEvent(pEvent);
+    FitNames();
+}
+
+/// Long names leave room for the values.
+void CFieldTree::FitNames()
+{
+    const int nMost = int(viewport()->width() * c_dMostOfNames);
+    header()->resizeSection(CFieldModel::enField, std::min(sizeHintForColumn(CFieldModel::enField), nMost));
 }
 
 /// Groups that only say what is not there stay folded.

@@ -26,6 +26,7 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent* pEvent) override;
     void mouseDoubleClickEvent(QMouseEvent* pEvent) override;
+    void resizeEvent(QResizeEvent* pEvent) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
@@ -33,6 +34,7 @@ private:
     void KeepPlace();
     void RestorePlace();
     void Unfold(const QModelIndex& parent);
+    void FitNames();
 
     CFieldModel& m_model;
     int m_nKeptByte = -1; ///< first byte of the current row, over a reset

@@ -19,6 +19,8 @@
 
 namespace {
 
+constexpr int c_nMaxWidth = 800; ///< of the forms, pixels: a value stays near its caption
+
 /// Shows a value in the editor of its property.
 void ShowValue(const SSenderProperty& property, QWidget* pEditor, const QVariant& value)
 {
@@ -80,6 +82,7 @@ CSimulationPage::CSimulationPage(QWidget* pParent)
     }
     pColumn->addStretch();
     auto* pScroll = new QScrollArea(this);
+    m_pForms->setMaximumWidth(c_nMaxWidth);
     pScroll->setWidget(m_pForms);
     pScroll->setWidgetResizable(true);
     pScroll->setFrameShape(QFrame::NoFrame);

@@ -83,6 +83,7 @@ private Q_SLOTS:
     void TheLineBelowTheChartForgetsTheMouseThatLeft();
     void TheLineBelowTheChartForgetsARemovedGroup();
     void AWidePageShowsBothDiagrams();
+    void AScreenOf3840By2160ShowsBothDiagrams();
     void AnExportAsksForSizeAndResolution();
     void ALessReadableSizeIsNotOffered();
 };
@@ -566,6 +567,16 @@ void TestColourPage::AWidePageShowsBothDiagrams()
     QCoreApplication::processEvents();
     QVERIFY(shown.View().isVisible());
     QVERIFY(!pUcs->isVisible());
+}
+
+void TestColourPage::AScreenOf3840By2160ShowsBothDiagrams()
+{
+    SShownColourPage shown;
+    // What tree, menu and journal leave to the page.
+    shown.page.resize(3460, 1850);
+    QCoreApplication::processEvents();
+    QVERIFY(shown.View().isVisible());
+    QVERIFY(shown.page.findChild<CUcsView*>()->isVisible());
 }
 
 void TestColourPage::AnExportAsksForSizeAndResolution()

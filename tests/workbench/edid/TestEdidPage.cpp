@@ -14,6 +14,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QFile>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -67,6 +68,8 @@ private Q_SLOTS:
     void TheSuffixNamesTheForm();
     void AnEmptyMemorySaysWhyAndOffersTheBlock();
     void WithoutAnInputThePageSaysWhatToDo();
+    void BeforeAnythingIsSelectedThePageSaysWhatToDo();
+    void OnANarrowPageValuesKeepAUsefulWidth();
     void WhatTheBlockCutsIsSaidBeforeAndAfterWriting();
     void ADroppedFileIsShown();
     void DroppedTextIsShown();
@@ -265,6 +268,24 @@ void TestEdidPage::WithoutAnInputThePageSaysWhatToDo()
     m_page->ShowSelection({});
     QVERIFY(Text("edidEmpty").contains(QStringLiteral("请在左边选择一个输入")));
     QVERIFY(!m_page->findChild<QToolButton*>(QStringLiteral("edidWriteButton"))->isEnabled());
+}
+
+void TestEdidPage::BeforeAnythingIsSelectedThePageSaysWhatToDo()
+{
+    m_page->ShowSelection({0, -1});
+    m_page->show();
+    QVERIFY(m_page->findChild<QLabel*>(QStringLiteral("edidEmpty"))->isVisible());
+}
+
+void TestEdidPage::OnANarrowPageValuesKeepAUsefulWidth()
+{
+    constexpr double c_dLeast = 0.4; // of the width of names and values
+    ShowPage();
+    m_page->resize(700, 600);
+    QCoreApplication::processEvents();
+    const QHeaderView* pHeader = Fields().header();
+    QVERIFY(pHeader->sectionSize(CFieldModel::enValue) >= c_dLeast * Fields().viewport()->width());
+    QVERIFY(pHeader->length() <= Fields().viewport()->width());
 }
 
 void TestEdidPage::WhatTheBlockCutsIsSaidBeforeAndAfterWriting()

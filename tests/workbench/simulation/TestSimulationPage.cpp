@@ -61,6 +61,7 @@ private Q_SLOTS:
     void WhatANumberStandsForIsSaidInWords();
     void FaultsStandFirst();
     void AllGroupsShareOneColumnGrid();
+    void OnAWideScreenValuesStayNearTheirCaptions();
 };
 
 void TestSimulationPage::init()
@@ -153,6 +154,16 @@ void TestSimulationPage::AllGroupsShareOneColumnGrid()
     for (const QCheckBox* pEditor : page.findChildren<QCheckBox*>())
         setLeft.insert(pEditor->mapTo(&page, QPoint()).x());
     QCOMPARE(setLeft.size(), 1);
+}
+
+void TestSimulationPage::OnAWideScreenValuesStayNearTheirCaptions()
+{
+    CSimulationPage page;
+    page.resize(3400, 1800);
+    page.ShowSelection({3, -1});
+    page.show();
+    for (const QSpinBox* pEditor : page.findChildren<QSpinBox*>())
+        QVERIFY(pEditor->mapTo(&page, pEditor->rect().topRight()).x() < 1000);
 }
 
 QTEST_MAIN(TestSimulationPage)
