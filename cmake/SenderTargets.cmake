@@ -41,12 +41,17 @@ function(sender_host_library NAME)
     sender_public_headers(${NAME} ${ARG_PUBLIC_HEADERS})
 endfunction()
 
-# sender_add_test(NAME SOURCES ... LINK ... [LABELS ...] [ARGS ...] [TIMEOUT seconds]): one Qt Test class.
-# Tests need no screen and may run side by side.
+# sender_add_test(NAME SOURCES ... LINK ... [DEFINITIONS ...] [LABELS ...] [ARGS ...] [TIMEOUT seconds]): one Qt Test
+# class. Tests need no screen and may run side by side.
 function(sender_add_test NAME)
-    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK;LABELS;ARGS;ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK;DEFINITIONS;LABELS;ARGS;ENVIRONMENT" ${ARGN})
+    # A project that takes a part of the tree names the tests that this part can run.
+    if(DEFINED SENDER_ONLY_TESTS AND NOT NAME IN_LIST SENDER_ONLY_TESTS)
+        return()
+    endif()
     add_executable(${NAME} ${ARG_SOURCES})
     target_link_libraries(${NAME} PRIVATE sender_compile_options ${ARG_LINK} Qt5::Test)
+    target_compile_definitions(${NAME} PRIVATE ${ARG_DEFINITIONS})
     set_target_properties(${NAME} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
     add_test(NAME ${NAME} COMMAND ${NAME} ${ARG_ARGS})
     if(NOT ARG_TIMEOUT)

@@ -127,6 +127,7 @@ BENCHMARK(BM_Fill)->Apply(Sizes);
 BENCHMARK_TEMPLATE(BM_Paint, ChromaBitmap::enPlainInstructions)->Apply(Sizes);
 BENCHMARK_TEMPLATE(BM_Paint, ChromaBitmap::enSse2Instructions)->Apply(Sizes);
 BENCHMARK_TEMPLATE(BM_Paint, ChromaBitmap::enAvx2Instructions)->Apply(Sizes);
+BENCHMARK_TEMPLATE(BM_Paint, ChromaBitmap::enNeonInstructions)->Apply(Sizes);
 
 } // namespace
 

@@ -210,6 +210,10 @@ FuncPaintPiece PiecePainter(ChromaBitmap::enInstructions instructions)
     if (instructions == ChromaBitmap::enSse2Instructions)
         return &ChromaBitmap::PaintPieceSse2;
 #endif
+#ifdef SENDER_CHART_NEON
+    if (instructions == ChromaBitmap::enNeonInstructions)
+        return &ChromaBitmap::PaintPieceNeon;
+#endif
     Q_UNUSED(instructions)
     return &ChromaBitmap::PaintPiecePlain;
 }
@@ -493,12 +497,16 @@ bool ChromaBitmap::HasInstructions(enInstructions instructions)
     if (instructions == enSse2Instructions)
         return true;
 #endif
+#ifdef SENDER_CHART_NEON
+    if (instructions == enNeonInstructions)
+        return true;
+#endif
     return instructions == enPlainInstructions;
 }
 
 ChromaBitmap::enInstructions ChromaBitmap::BestInstructions()
 {
-    for (const enInstructions instructions : {enAvx2Instructions, enSse2Instructions}) {
+    for (const enInstructions instructions : {enAvx2Instructions, enSse2Instructions, enNeonInstructions}) {
         if (HasInstructions(instructions))
             return instructions;
     }

@@ -45,7 +45,8 @@ enum enInstructions
 {
     enPlainInstructions, ///< any processor
     enSse2Instructions,  ///< x86-64
-    enAvx2Instructions   ///< x86-64 with AVX2
+    enAvx2Instructions,  ///< x86-64 with AVX2
+    enNeonInstructions   ///< AArch64
 };
 
 /// The widest instruction set that this processor has.

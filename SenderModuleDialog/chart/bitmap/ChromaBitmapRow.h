@@ -55,6 +55,9 @@ void PaintPiecePlain(std::uint32_t* pRow, int nWidth, const SRamp* arrRamps, con
 void PaintPieceSse2(std::uint32_t* pRow, int nWidth, const SRamp* arrRamps, const SRowPiece& piece);
 void PaintPieceAvx2(std::uint32_t* pRow, int nWidth, const SRamp* arrRamps, const SRowPiece& piece);
 #endif
+#ifdef SENDER_CHART_NEON
+void PaintPieceNeon(std::uint32_t* pRow, int nWidth, const SRamp* arrRamps, const SRowPiece& piece);
+#endif
 
 } // namespace ChromaBitmap
 

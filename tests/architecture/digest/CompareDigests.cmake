@@ -1,5 +1,8 @@
-# Builds the digest program with two compilers at several optimisation levels and fails unless all print the same.
-# cmake -D SOURCE_DIR=... -D BINARY_DIR=... -D COMPILERS="g++;clang++" [-D LAUNCHER=ccache] -P CompareDigests.cmake
+# Builds the digest program with several compilers at several optimisation levels and fails unless all print the same.
+# cmake -D SOURCE_DIR=... -D BINARY_DIR=... -D COMPILERS="g++;clang++" [-D LAUNCHER=ccache]
+#     [-D CROSS_TOOLCHAIN=... -D CROSS_EMULATOR=...] -P CompareDigests.cmake
+# A compiler that is named for another processor, such as aarch64-linux-gnu-g++, takes the toolchain file, and its
+# programs run under the emulator.
 
 set(LEVELS O0 O2 O3)
 set(REFERENCE "")
@@ -20,16 +23,23 @@ foreach(COMPILER IN LISTS COMPILERS)
     endif()
     get_filename_component(COMPILER_NAME "${COMPILER}" NAME)
     set(BUILD "${BINARY_DIR}/${COMPILER_NAME}")
+    set(TOOLCHAIN "")
+    set(EMULATOR "")
+    if(COMPILER_NAME MATCHES "-linux-gnu-")
+        set(TOOLCHAIN "-DCMAKE_TOOLCHAIN_FILE=${CROSS_TOOLCHAIN}")
+        set(EMULATOR ${CROSS_EMULATOR})
+    endif()
     run("Configuring for ${COMPILER}" "${CMAKE_COMMAND}" -S "${SOURCE_DIR}" -B "${BUILD}"
         -G "Ninja Multi-Config"
         "-DCMAKE_CXX_COMPILER=${COMPILER_PATH}"
+        ${TOOLCHAIN}
         "-DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}"
         "-DCMAKE_CONFIGURATION_TYPES=O0\;O2\;O3"
         -DCMAKE_CXX_FLAGS_O0=-O0 -DCMAKE_CXX_FLAGS_O2=-O2 -DCMAKE_CXX_FLAGS_O3=-O3)
     foreach(LEVEL IN LISTS LEVELS)
         run("Building with ${COMPILER} -${LEVEL}"
             "${CMAKE_COMMAND}" --build "${BUILD}" --config ${LEVEL} --parallel --target sender_digest)
-        execute_process(COMMAND "${BUILD}/${LEVEL}/sender_digest"
+        execute_process(COMMAND ${EMULATOR} "${BUILD}/${LEVEL}/sender_digest"
             OUTPUT_VARIABLE DIGESTS RESULT_VARIABLE RESULT)
         if(NOT RESULT EQUAL 0)
             message(FATAL_ERROR "The digest program built with ${COMPILER} -${LEVEL} ended with ${RESULT}.")

@@ -63,7 +63,11 @@ int OpaqueCount(const QImage& image)
 }
 
 const std::pair<const char*, enInstructions> c_arrInstructions[] = {
-    {"plain", enPlainInstructions}, {"SSE2", enSse2Instructions}, {"AVX2", enAvx2Instructions}};
+    {"plain", enPlainInstructions},
+    {"SSE2", enSse2Instructions},
+    {"AVX2", enAvx2Instructions},
+    {"NEON", enNeonInstructions},
+};
 
 } // namespace
 
@@ -90,6 +94,7 @@ private Q_SLOTS:
     void NoSizeGivesNoImage_data();
     void NoSizeGivesNoImage();
     void ThePlainInstructionsAreAlwaysThere();
+    void WideInstructionsAreThereOnTheProcessorsThatHaveThem();
 
 private:
     SSource Source(QSize sizeBitmap, QSize sizeWidget) const
@@ -311,6 +316,17 @@ void TestChromaBitmapPainter::ThePlainInstructionsAreAlwaysThere()
 {
     QVERIFY(HasInstructions(enPlainInstructions));
     QVERIFY(HasInstructions(BestInstructions()));
+}
+
+void TestChromaBitmapPainter::WideInstructionsAreThereOnTheProcessorsThatHaveThem()
+{
+#if defined(Q_PROCESSOR_X86_64)
+    QVERIFY(HasInstructions(enSse2Instructions));
+    QVERIFY(!HasInstructions(enNeonInstructions));
+#elif defined(Q_PROCESSOR_ARM_64)
+    QVERIFY(HasInstructions(enNeonInstructions));
+    QCOMPARE(BestInstructions(), enNeonInstructions);
+#endif
 }
 
 QTEST_APPLESS_MAIN(TestChromaBitmapPainter)
