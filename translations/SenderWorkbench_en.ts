@@ -3091,6 +3091,230 @@ Write one with &quot;Edit EDID...&quot;, or build the block here and write it in
         <source>数据段的校验和是 %1，应为 %2</source>
         <translation>The checksum of the section is %1 and should be %2</translation>
     </message>
+    <message>
+        <source>扩展块的修订 %1 无人使用</source>
+        <translation>The extension has revision %1, which nothing uses</translation>
+    </message>
+    <message>
+        <source>写入修订 3</source>
+        <translation>Write revision 3</translation>
+    </message>
+    <message>
+        <source>字节 3 是 %1，而同类的第一个扩展块中是 %2</source>
+        <translation>Byte 3 is %1, but %2 in the first extension of this kind</translation>
+    </message>
+    <message>
+        <source>在每个扩展块中写入相同的标志和本机时序数目</source>
+        <translation>Write the same flags and number of native timings into each</translation>
+    </message>
+    <message>
+        <source>字节 3 是 %1，但修订 1 没有标志</source>
+        <translation>Byte 3 is %1, but revision 1 has no flags</translation>
+    </message>
+    <message>
+        <source>写入 0，或修订 3</source>
+        <translation>Write 0, or revision 3</translation>
+    </message>
+    <message>
+        <source>声明有 %1 个本机详细时序，实际只有 %2 个</source>
+        <translation>%1 detailed timings are called native, but there are %2</translation>
+    </message>
+    <message>
+        <source>最多给出详细时序的数目</source>
+        <translation>Give at most the number of detailed timings</translation>
+    </message>
+    <message>
+        <source>数据块的内容有 %1 个字节，至少需要 %2 个</source>
+        <translation>A data block has %1 bytes of content and needs at least %2</translation>
+    </message>
+    <message>
+        <source>补全该数据块，或删除它</source>
+        <translation>Complete the data block, or remove it</translation>
+    </message>
+    <message>
+        <source>同类数据块只能有一个，这里是第二个</source>
+        <translation>There is a second data block of a kind of which there may be only one</translation>
+    </message>
+    <message>
+        <source>删除其中一个</source>
+        <translation>Remove one of them</translation>
+    </message>
+    <message>
+        <source>数据块与 IT 格式欠扫描的标志矛盾</source>
+        <translation>The data block contradicts the flag for underscanned IT formats</translation>
+    </message>
+    <message>
+        <source>设置或清除字节 3 的第 7 位，使两者一致</source>
+        <translation>Set or clear bit 7 of byte 3 to agree with it</translation>
+    </message>
+    <message>
+        <source>有音频数据，但基本音频的标志未设置</source>
+        <translation>There is data about audio, but the flag of basic audio is clear</translation>
+    </message>
+    <message>
+        <source>设置字节 3 的第 6 位</source>
+        <translation>Set bit 6 of byte 3</translation>
+    </message>
+    <message>
+        <source>音频数据块的 %1 个字节不是由三个字节的完整格式组成</source>
+        <translation>The %1 bytes of an audio data block are not whole formats of three bytes</translation>
+    </message>
+    <message>
+        <source>音频格式 0 是保留的</source>
+        <translation>The audio format 0 is reserved</translation>
+    </message>
+    <message>
+        <source>给出 1 到 15 的格式</source>
+        <translation>Give a format from 1 to 15</translation>
+    </message>
+    <message>
+        <source>音频格式的保留位被设置</source>
+        <translation>Reserved bits of an audio format are set</translation>
+    </message>
+    <message>
+        <source>清除第二个字节的第 7 位，线性 PCM 还要清除第三个字节的第 7 到 3 位</source>
+        <translation>Clear bit 7 of its second byte, and for linear PCM bits 7 to 3 of the third</translation>
+    </message>
+    <message>
+        <source>视频代码 %1 是保留的</source>
+        <translation>The video code %1 is reserved</translation>
+    </message>
+    <message>
+        <source>使用 1 到 127 或 193 到 219 的代码</source>
+        <translation>Use a code from 1 to 127 or 193 to 219</translation>
+    </message>
+    <message>
+        <source>视频代码 %1 前面已经列出</source>
+        <translation>The video code %1 is listed before</translation>
+    </message>
+    <message>
+        <source>每个代码只列一次</source>
+        <translation>List each code once</translation>
+    </message>
+    <message>
+        <source>视频代码 %1 既列为仅 4:2:0，又列为普通代码</source>
+        <translation>The video code %1 is listed as 4:2:0 only and as a regular one</translation>
+    </message>
+    <message>
+        <source>保留其中之一</source>
+        <translation>Keep one of the two</translation>
+    </message>
+    <message>
+        <source>最高 TMDS 时钟 %1 MHz 高于 340 MHz</source>
+        <translation>The highest TMDS clock of %1 MHz is above 340 MHz</translation>
+    </message>
+    <message>
+        <source>这里最多给出 340 MHz，更高的值写在 HDMI Forum 的数据块中</source>
+        <translation>Give at most 340 MHz here, and more in the data block of the HDMI Forum</translation>
+    </message>
+    <message>
+        <source>最高 TMDS 速率 %1 MHz 不在 340 MHz 以上、600 MHz 以下</source>
+        <translation>The highest TMDS rate of %1 MHz is not above 340 MHz and up to 600 MHz</translation>
+    </message>
+    <message>
+        <source>给出这样的速率，或用 0 表示不高于 340 MHz</source>
+        <translation>Give such a rate, or 0 for none above 340 MHz</translation>
+    </message>
+    <message>
+        <source>HDMI Forum 的数据块没有紧跟在 HDMI 的数据块之后</source>
+        <translation>The data block of the HDMI Forum does not follow that of HDMI</translation>
+    </message>
+    <message>
+        <source>把它直接放在 00-0C-03 的厂商数据块之后</source>
+        <translation>Put it directly behind the vendor block with 00-0C-03</translation>
+    </message>
+    <message>
+        <source>有第二个 HDMI Forum 的数据块</source>
+        <translation>There is a second data block of the HDMI Forum</translation>
+    </message>
+    <message>
+        <source>详细时序之后的字节不全为零</source>
+        <translation>The bytes behind the detailed timings are not all zeros</translation>
+    </message>
+    <message>
+        <source>数据段的产品类型不能是 %1</source>
+        <translation>The section cannot have the product type %1</translation>
+    </message>
+    <message>
+        <source>在第一个数据段给出产品类型，其后的写 0</source>
+        <translation>Give the type of the product in the first section, and 0 in those that follow</translation>
+    </message>
+    <message>
+        <source>数据段声明其后还有 %1 个，实际有 %2 个</source>
+        <translation>The section announces %1 that follow, but there are %2</translation>
+    </message>
+    <message>
+        <source>写入其后数据段的数目</source>
+        <translation>Write the number of sections that follow</translation>
+    </message>
+    <message>
+        <source>缺少此类产品需要的数据块，标记为 %1</source>
+        <translation>The data block with the tag %1, which such a product needs, is missing</translation>
+    </message>
+    <message>
+        <source>添加该数据块</source>
+        <translation>Add the data block</translation>
+    </message>
+    <message>
+        <source>各数据段中没有首选时序</source>
+        <translation>No timing of the sections is the preferred one</translation>
+    </message>
+    <message>
+        <source>把一个时序标为首选</source>
+        <translation>Mark a timing as preferred</translation>
+    </message>
+    <message>
+        <source>标记 %1 属于另一个版本的 DisplayID</source>
+        <translation>The tag %1 belongs to another version of DisplayID</translation>
+    </message>
+    <message>
+        <source>使用与数据段版本相符的数据块</source>
+        <translation>Use a data block of the section&apos;s version</translation>
+    </message>
+    <message>
+        <source>数据块的内容有 %1 个字节，应为 %2 个</source>
+        <translation>The data block has %1 bytes of content instead of %2</translation>
+    </message>
+    <message>
+        <source>更正长度和内容</source>
+        <translation>Correct the length and the content</translation>
+    </message>
+    <message>
+        <source>产品标识不是第一个数据块</source>
+        <translation>The product identification is not the first data block</translation>
+    </message>
+    <message>
+        <source>把它放在最前面</source>
+        <translation>Put it first</translation>
+    </message>
+    <message>
+        <source>显示参数给出了两次</source>
+        <translation>The display parameters are given twice</translation>
+    </message>
+    <message>
+        <source>删除两个数据块之一</source>
+        <translation>Remove one of the two data blocks</translation>
+    </message>
+    <message>
+        <source>时序的立体方式或宽高比是保留值</source>
+        <translation>Stereo or aspect ratio of the timing has a reserved value</translation>
+    </message>
+    <message>
+        <source>给出标准中的值</source>
+        <translation>Give one of the values of the standard</translation>
+    </message>
+    <message>
+        <source>数据块超出了数据段的剩余空间</source>
+        <translation>A data block is longer than the rest of its section</translation>
+    </message>
+    <message>
+        <source>数据块之后的字节不全为零</source>
+        <translation>The bytes behind the data blocks are not all zeros</translation>
+    </message>
+    <message>
+        <source>数据段之后的字节不全为零</source>
+        <translation>The bytes behind the section are not all zeros</translation>
+    </message>
 </context>
 <context>
     <name>CGroupModel</name>

@@ -148,9 +148,9 @@ struct SSize
     bool IsPartlyKnown() const { return nWidth != 0 || nHeight != 0; }
 };
 
-SSize DisplaySize(const SBase& base)
+SSize DisplaySize(const CCheckContext& context)
 {
-    return {base.Raw(enWidthCm), base.Raw(enHeightCm)};
+    return {context.Raw(c_layoutBase[enWidthCm], 0), context.Raw(c_layoutBase[enHeightCm], 0)};
 }
 
 /// A centimetre either way is what rounding leaves; a smaller image may keep one edge.
@@ -163,21 +163,6 @@ bool IsMismatch(const SSize& display, const SSize& imageMm)
     const bool bSmaller =
         imageMm.nWidth <= displayMm.nWidth - c_nMm && imageMm.nHeight <= displayMm.nHeight - c_nMm;
     return bLarger || bSmaller;
-}
-
-void CheckImageSize(const SBase& base, int nRecord)
-{
-    const SSize display = DisplaySize(base);
-    const SSize image = {base.context.Raw(c_layoutDetailed[enWidthMm], nRecord),
-                         base.context.Raw(c_layoutDetailed[enHeightMm], nRecord)};
-    const int nOffset = nRecord + c_layoutDetailed[enWidthMm].nOffset;
-    constexpr int c_nSizeBytes = 3;
-    if (display.IsKnown() && !image.IsKnown())
-        base.context.AddBytes(enRule::enSizeMissing, nOffset, c_nSizeBytes);
-    if (display.IsKnown() && image.IsPartlyKnown() && IsMismatch(display, image))
-        base.context.AddBytes(enRule::enSizeMismatch, nOffset, c_nSizeBytes);
-    if (!display.IsKnown() && image.IsKnown())
-        base.context.AddBytes(enRule::enSizeUndeclared, nOffset, c_nSizeBytes);
 }
 
 bool IsPrintable(quint8 by)
@@ -395,7 +380,7 @@ void CheckDescriptors(const SBase& base)
             base.context.AddBytes(enRule::enDescriptorOrder, nRecord, c_nDescriptorSize);
         CheckDetailed(base.context, nRecord);
         if (IsPlausibleClock(base.context.At(nRecord)))
-            CheckImageSize(base, nRecord);
+            CheckImageSize(base.context, nRecord);
     }
 }
 
@@ -442,6 +427,21 @@ void CheckExtensionCount(const SBase& base)
 }
 
 } // namespace
+
+void CheckImageSize(CCheckContext& context, int nRecord)
+{
+    const SSize display = DisplaySize(context);
+    const SSize image = {context.Raw(c_layoutDetailed[enWidthMm], nRecord),
+                         context.Raw(c_layoutDetailed[enHeightMm], nRecord)};
+    const int nOffset = nRecord + c_layoutDetailed[enWidthMm].nOffset;
+    constexpr int c_nSizeBytes = 3;
+    if (display.IsKnown() && !image.IsKnown())
+        context.AddBytes(enRule::enSizeMissing, nOffset, c_nSizeBytes);
+    if (display.IsKnown() && image.IsPartlyKnown() && IsMismatch(display, image))
+        context.AddBytes(enRule::enSizeMismatch, nOffset, c_nSizeBytes);
+    if (!display.IsKnown() && image.IsKnown())
+        context.AddBytes(enRule::enSizeUndeclared, nOffset, c_nSizeBytes);
+}
 
 void CheckDetailed(CCheckContext& context, int nRecord)
 {

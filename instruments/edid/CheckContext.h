@@ -4,6 +4,8 @@
 #include "instruments/edid/FieldType.h"
 #include "instruments/edid/Rules.h"
 
+#include <bitset>
+
 namespace Edid {
 
 /// What a check looks at and where it writes.
@@ -42,13 +44,33 @@ private:
     std::vector<SFinding>& m_vecFindings;
 };
 
+/// What the CTA extensions before one have told.
+struct SCtaSeen
+{
+    int nFirstBlock = 0;              ///< where the first extension begins; 0 before there is any
+    std::bitset<256> setCodes;        ///< video codes that are offered
+    std::bitset<256> setCodes420;     ///< video codes that are offered as 4:2:0 only
+    std::bitset<256> setTags;         ///< of data blocks
+    std::bitset<256> setExtendedTags; ///< of extended data blocks
+    bool bHdmiForum = false;          ///< whether there is a block of the HDMI Forum
+};
+
+/// What the DisplayID sections before one have told.
+struct SSectionsSeen
+{
+    int nFirstBlock = 0;      ///< where the first extension begins; 0 before there is any
+    std::bitset<256> setTags; ///< of data blocks
+};
+
 /// @name Judging one block, which begins at an offset
 /// @{
 void CheckBase(CCheckContext& context);
-void CheckCta(CCheckContext& context, int nBlock);
-void CheckDisplayId(CCheckContext& context, int nBlock);
+void CheckCta(CCheckContext& context, SCtaSeen& seen, int nBlock);
+void CheckDisplayId(CCheckContext& context, SSectionsSeen& seen, int nBlock);
 /// An 18-byte detailed timing, wherever it stands.
 void CheckDetailed(CCheckContext& context, int nRecord);
+/// The image size of a detailed timing, beside the size of the display.
+void CheckImageSize(CCheckContext& context, int nRecord);
 /// @}
 
 } // namespace Edid

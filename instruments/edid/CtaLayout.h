@@ -29,19 +29,27 @@ enum enCtaTag
     enCtaExtended = 7,
 };
 
-/// Tags of extended data blocks, their second byte. Those that the explanation looks into.
+/// Tags of extended data blocks, their second byte.
 enum enCtaExtendedTag
 {
     enCtaVideoCapability = 0x00,
+    enCtaVendorVideo = 0x01,
+    enCtaVesaDevice = 0x02,
     enCtaColorimetry = 0x05,
     enCtaHdrStatic = 0x06,
     enCtaHdrDynamic = 0x07,
+    enCtaNativeResolution = 0x08,
     enCtaVideoPreference = 0x0D,
     enCta420Video = 0x0E,
     enCta420Map = 0x0F,
+    enCtaVendorAudio = 0x11,
     enCtaHdmiAudio = 0x12,
     enCtaRoom = 0x13,
     enCtaSpeakerLocation = 0x14,
+    enCtaInfoFrame = 0x20,
+    enCtaTypeVIITiming = 0x22,
+    enCtaTypeXTiming = 0x2A,
+    enCtaHdmiForumOverride = 0x78,
     enCtaHdmiForumSink = 0x79,
 };
 

@@ -2,6 +2,7 @@
 #include "instruments/edid/DetailedTiming.h"
 #include "instruments/edid/DisplayIdLayout.h"
 #include "instruments/edid/FieldList.h"
+#include "instruments/edid/SectionBlocks.h"
 
 #include <algorithm>
 
@@ -105,17 +106,13 @@ void ExplainContent(CFieldList& list, quint8 byTag, const SBlockPlace& block)
 /// Data blocks up to the first that does not fit; zeros fill the section to its end.
 int ExplainDataBlocks(CFieldList& list, int nNext, int nEnd)
 {
-    for (int nIndex = 1; nNext + c_nDataBlockHeadSize <= nEnd; ++nIndex) {
-        const quint8* pBlock = list.At(nNext);
-        const int nBlockEnd = nNext + c_nDataBlockHeadSize + pBlock[2];
-        const bool bFiller = pBlock[0] == 0 && pBlock[1] == 0 && pBlock[2] == 0;
-        if (bFiller || nBlockEnd > nEnd)
-            break;
-        list.Open(c_fieldBlock, nNext, nBlockEnd - nNext, nIndex, pBlock[0]);
+    int nIndex = 0;
+    while (const std::optional<SSectionBlock> block = SectionBlockAt(list.At(0), nNext, nEnd)) {
+        list.Open(c_fieldBlock, nNext, block->End() - nNext, ++nIndex, block->byTag);
         list.Record(c_layoutDataBlock, nNext, c_nDataBlockHeadSize);
-        ExplainContent(list, pBlock[0], {nNext, nBlockEnd});
+        ExplainContent(list, block->byTag, {nNext, block->End()});
         list.Close();
-        nNext = nBlockEnd;
+        nNext = block->End();
     }
     return nNext;
 }
@@ -139,9 +136,8 @@ void ExplainDisplayId(CFieldList& list, int nBlock)
     const int nSection = nBlock + c_nSectionOffset;
     list.Row(c_fieldTag, nBlock);
     list.Record(c_layoutSection, nSection, c_nSectionHeadSize);
-    const int nLength = std::min(int(*list.At(nSection + 1)), c_nMaxSectionBytes);
-    const int nEnd = nSection + c_nSectionHeadSize + nLength;
-    const int nNext = ExplainDataBlocks(list, nSection + c_nSectionHeadSize, nEnd);
+    const int nEnd = SectionEnd(list.At(0), nSection);
+    const int nNext = ExplainDataBlocks(list, SectionBegin(nSection), nEnd);
     list.Bytes(c_fieldPadding, nNext, nEnd - nNext);
     list.Row(c_fieldSectionChecksum, nEnd);
     list.Bytes(c_fieldPadding, nEnd + 1, nBlock + c_nChecksumOffset - nEnd - 1);

@@ -144,17 +144,11 @@ QString ListedText(STimingList list, int nId, const QString& strName)
         .arg(pListed->aspect.nHeight);
 }
 
-/// Codes 129 to 192 are 1 to 64 with the mark of a native format (CTA-861-H, section 7.5.1).
 QString VideoCodeValue(const SSource& source)
 {
-    constexpr int c_nFirstNative = 129;
-    constexpr int c_nLastNative = 192;
-    constexpr int c_nMark = 128;
-    const int nCode = int(source.field.nRaw);
-    const bool bNative = nCode >= c_nFirstNative && nCode <= c_nLastNative;
-    const int nVic = bNative ? nCode - c_nMark : nCode;
-    return ListedText(VideoCodes(), nVic, QStringLiteral("VIC %1").arg(nVic)) +
-           (bNative ? QStringLiteral(", native") : QString());
+    const SVideoCode code = VideoCodeOf(int(source.field.nRaw));
+    return ListedText(VideoCodes(), code.nVic, QStringLiteral("VIC %1").arg(code.nVic)) +
+           (code.bNative ? QStringLiteral(", native") : QString());
 }
 
 /// Short video references of the preference block (CTA-861-H, section 7.5.12).

@@ -21,6 +21,15 @@ SAxis AxisOf(const quint16 (&arrParts)[4], char chPolarity)
 
 } // namespace
 
+SVideoCode VideoCodeOf(int nByte)
+{
+    constexpr int c_nFirstNative = 129;
+    constexpr int c_nLastNative = 192;
+    constexpr int c_nMark = 128;
+    const bool bNative = nByte >= c_nFirstNative && nByte <= c_nLastNative;
+    return {bNative ? nByte - c_nMark : nByte, bNative};
+}
+
 const SListedTiming* FindListed(STimingList list, int nId)
 {
     return Find(list, [=](const SListedTiming& listed) { return listed.nId == nId; });

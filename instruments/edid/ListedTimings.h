@@ -30,7 +30,6 @@ struct SListedTiming
     /// Polarities of horizontal and vertical sync, then letters: 'i' interlaced, 'w' fields of whole lines,
     /// 'r' reduced blanking.
     const char* szFlags;
-    ///< half line, 'r' reduced blanking
 };
 
 /// Rows of a table.
@@ -49,6 +48,16 @@ STimingList VideoCodes();
 STimingList HdmiVideoCodes();
 /// Display monitor timings (VESA DMT 1.13).
 STimingList DisplayTimings();
+
+/// A byte that stands for a video code: 129 to 192 are the codes 1 to 64 of a native format (CTA-861-H,
+/// section 7.5.1).
+struct SVideoCode
+{
+    int nVic;
+    bool bNative;
+};
+
+SVideoCode VideoCodeOf(int nByte);
 
 /// The row with a number, null without any.
 const SListedTiming* FindListed(STimingList list, int nId);

@@ -64,18 +64,51 @@ constexpr std::array<SRule, std::size_t(enRule::enCount)> c_arrRules = {{
     {"base.extensions", c_error, "the block announces %1 extension blocks, but there are %2", "write the number of blocks; 'fix' does it"},
     {"base.checksum", c_error, "the checksum is %1 and should be %2", "write the checksum; 'fix' does it"},
     {"extension.tag", c_warning, "the extension's tag %1 is not known", "see whether the bytes are whole"},
+    {"cta.revision", c_error, "the extension has revision %1, which nothing uses", "write revision 3"},
     {"cta.timings", c_error, "the detailed timings of the extension begin at byte %1, where none can be", "give 0, or a byte from 4 to 127"},
+    {"cta.flags", c_error, "byte 3 is %1, but %2 in the first extension of this kind", "write the same flags and number of native timings into each"},
+    {"cta.flags_age", c_error, "byte 3 is %1, but revision 1 has no flags", "write 0, or revision 3"},
+    {"cta.native_count", c_error, "%1 detailed timings are called native, but there are %2", "give at most the number of detailed timings"},
     {"cta.block", c_error, "a data block is longer than the room before the detailed timings", "correct its length"},
+    {"cta.block_short", c_error, "a data block has %1 bytes of content and needs at least %2", "complete the data block, or remove it"},
+    {"cta.block_twice", c_error, "there is a second data block of a kind of which there may be only one", "remove one of them"},
+    {"cta.scan", c_error, "the data block contradicts the flag for underscanned IT formats", "set or clear bit 7 of byte 3 to agree with it"},
+    {"audio.basic", c_error, "there is data about audio, but the flag of basic audio is clear", "set bit 6 of byte 3"},
+    {"audio.length", c_error, "the %1 bytes of an audio data block are not whole formats of three bytes", "correct its length"},
+    {"audio.format", c_error, "the audio format 0 is reserved", "give a format from 1 to 15"},
+    {"audio.reserved", c_error, "reserved bits of an audio format are set", "clear bit 7 of its second byte, and for linear PCM bits 7 to 3 of the third"},
+    {"video.code", c_error, "the video code %1 is reserved", "use a code from 1 to 127 or 193 to 219"},
+    {"video.twice", c_error, "the video code %1 is listed before", "list each code once"},
+    {"video.only_420", c_error, "the video code %1 is listed as 4:2:0 only and as a regular one", "keep one of the two"},
+    {"hdmi.clock", c_error, "the highest TMDS clock of %1 MHz is above 340 MHz", "give at most 340 MHz here, and more in the data block of the HDMI Forum"},
+    {"hdmi.forum_clock", c_error, "the highest TMDS rate of %1 MHz is not above 340 MHz and up to 600 MHz", "give such a rate, or 0 for none above 340 MHz"},
+    {"hdmi.forum_place", c_error, "the data block of the HDMI Forum does not follow that of HDMI", "put it directly behind the vendor block with 00-0C-03"},
+    {"hdmi.forum_twice", c_error, "there is a second data block of the HDMI Forum", "remove one of them"},
+    {"cta.padding", c_error, "the bytes behind the detailed timings are not all zeros", "write zeros"},
     {"displayid.length", c_error, "the section of %1 bytes does not fit its block", "a section of one block has at most 121 bytes"},
+    {"displayid.product", c_error, "the section cannot have the product type %1", "give the type of the product in the first section, and 0 in those that follow"},
+    {"displayid.sections", c_error, "the section announces %1 that follow, but there are %2", "write the number of sections that follow"},
+    {"displayid.missing", c_error, "the data block with the tag %1, which such a product needs, is missing", "add the data block"},
+    {"displayid.preferred", c_error, "no timing of the sections is the preferred one", "mark a timing as preferred"},
+    {"displayid.age", c_error, "the tag %1 belongs to another version of DisplayID", "use a data block of the section's version"},
+    {"displayid.block_length", c_error, "the data block has %1 bytes of content instead of %2", "correct the length and the content"},
+    {"displayid.order", c_error, "the product identification is not the first data block", "put it first"},
+    {"displayid.block_twice", c_error, "the display parameters are given twice", "remove one of the two data blocks"},
+    {"displayid.reserved", c_error, "stereo or aspect ratio of the timing has a reserved value", "give one of the values of the standard"},
+    {"displayid.block", c_error, "a data block is longer than the rest of its section", "correct its length"},
+    {"displayid.filler", c_error, "the bytes behind the data blocks are not all zeros", "write zeros"},
     {"displayid.checksum", c_error, "the checksum of the section is %1 and should be %2", "write the checksum; 'fix' does it"},
+    {"displayid.padding", c_error, "the bytes behind the section are not all zeros", "write zeros"},
 }};
 // clang-format on
 
 /// Rules whose numbers are bytes.
 bool ShowsBytes(enRule rule)
 {
-    constexpr enRule c_arrBytes[] = {enRule::enDescriptorTag, enRule::enTextCharacter, enRule::enChecksum,
-                                     enRule::enExtensionTag, enRule::enSectionChecksum};
+    constexpr enRule c_arrBytes[] = {
+        enRule::enDescriptorTag, enRule::enTextCharacter,   enRule::enChecksum,
+        enRule::enExtensionTag,  enRule::enSectionChecksum, enRule::enCtaFlags,
+        enRule::enCtaFlagsAge,   enRule::enSectionMissing,  enRule::enSectionAge};
     return std::find(std::begin(c_arrBytes), std::end(c_arrBytes), rule) != std::end(c_arrBytes);
 }
 
