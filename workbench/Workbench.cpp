@@ -17,8 +17,6 @@
 
 namespace {
 
-constexpr QSize c_sizePictures(1920, 1040); ///< the screen that the tour's pictures are made for
-
 enLanguage LanguageOf(const SWorkbenchOptions& options, const QSettings& settings)
 {
     const QString strCode = options.strLanguage.isEmpty()
@@ -44,6 +42,17 @@ void PassMessage(QtMsgType type, const QMessageLogContext& context, const QStrin
 {
     if (!strText.startsWith(QLatin1String("This plugin does not support")))
         s_pMessageHandler(type, context, strText);
+}
+
+void TourOfPages(CTour& tour, CLanguage& language, QSettings& settings)
+{
+    CSimulator::Instance().Document().NewProject();
+    CMainWindow window(language, settings);
+    window.ArrangeFor(CTour::c_sizeScreen);
+    window.show();
+    PageTours::Everything(tour, window);
+    if (language.Current() == enLanguage::enEnglish)
+        LeaveFiles(tour, window);
 }
 
 int Report(const CTour& tour)
@@ -88,13 +97,8 @@ int RunTour(const SWorkbenchOptions& options)
     for (const enLanguage current : {enLanguage::enChinese, enLanguage::enEnglish}) {
         language.Set(current);
         tour.SetPrefix(CLanguage::Code(current));
-        CSimulator::Instance().Document().NewProject();
-        CMainWindow window(language, settings);
-        window.ArrangeFor(c_sizePictures);
-        window.show();
-        PageTours::Everything(tour, window);
-        if (current == enLanguage::enEnglish)
-            LeaveFiles(tour, window);
+        TourOfPages(tour, language, settings);
+        PageTours::Journeys(tour, language, settings);
     }
     return Report(tour);
 }

@@ -97,8 +97,10 @@ QGroupBox* COutputFacts::CreateOutputGroup()
     AddFact(pGrid, 4, enProject, enDepthProject);
     AddFact(pGrid, 4, enHardware, enDepthHardware);
     auto* pButtons = new QHBoxLayout;
-    pButtons->addWidget(CreateButton(pGroup, QT_TR_NOOP("画布大小..."), &COutputFacts::CanvasWanted));
-    pButtons->addWidget(CreateButton(pGroup, QT_TR_NOOP("帧率和色深..."), &COutputFacts::RateAndDepthWanted));
+    pButtons->addWidget(
+        CreateButton(pGroup, "canvas", QT_TR_NOOP("画布大小..."), &COutputFacts::CanvasWanted));
+    pButtons->addWidget(
+        CreateButton(pGroup, "rateAndDepth", QT_TR_NOOP("帧率和色深..."), &COutputFacts::RateAndDepthWanted));
     pGrid->addLayout(pButtons, pGrid->rowCount(), 0, 1, -1);
     return pGroup;
 }
@@ -123,8 +125,9 @@ QGroupBox* COutputFacts::CreatePictureGroup()
         AddFact(pGrid, nRow, 1, row.fact);
         ++nRow;
     }
-    pGrid->addWidget(CreateButton(pGroup, QT_TR_NOOP("设置背景图片..."), &COutputFacts::BackgroundWanted),
-                     nRow, 0, 1, -1);
+    pGrid->addWidget(
+        CreateButton(pGroup, "background", QT_TR_NOOP("设置背景图片..."), &COutputFacts::BackgroundWanted),
+        nRow, 0, 1, -1);
     return pGroup;
 }
 
@@ -142,9 +145,11 @@ void COutputFacts::AddFact(QGridLayout* pGrid, int nRow, int nColumn, enFact fac
     m_arrFacts[fact] = pLabel;
 }
 
-QPushButton* COutputFacts::CreateButton(QWidget* pParent, const char* szText, void (COutputFacts::*pSignal)())
+QPushButton* COutputFacts::CreateButton(QWidget* pParent, const char* szName, const char* szText,
+                                        void (COutputFacts::*pSignal)())
 {
     auto* pButton = new QPushButton(pParent);
+    pButton->setObjectName(QString::fromLatin1(szName));
     connect(pButton, &QPushButton::clicked, this, pSignal);
     m_captions.Add(pButton, "text", szText);
     m_vecButtons.push_back(pButton);

@@ -58,7 +58,8 @@ private:
     QGroupBox* CreatePictureGroup();
     void AddCaption(QGridLayout* pGrid, int nRow, int nColumn, const char* szText);
     void AddFact(QGridLayout* pGrid, int nRow, int nColumn, enFact fact);
-    QPushButton* CreateButton(QWidget* pParent, const char* szText, void (COutputFacts::*pSignal)());
+    QPushButton* CreateButton(QWidget* pParent, const char* szName, const char* szText,
+                              void (COutputFacts::*pSignal)());
     void EnableButtons(bool bEnabled);
     void ShowOutput(const SSimulatedSender& sender);
     void ShowPicture(const SSimulatedSender& sender, const SCanvasPicture& picture);

@@ -7,6 +7,7 @@
 #include "workbench/addresses/AddressPage.h"
 #include "workbench/tour/PageTours.h"
 #include "workbench/tour/Tour.h"
+#include "workbench/tour/TourNetwork.h"
 
 namespace {
 
@@ -22,15 +23,6 @@ constexpr SMode c_arrModes[] = {{"address-batch", -1, true},
                                 {"address-set-one", 1, true},
                                 {"address-set-two", 2, true},
                                 {"address-modify", 1, false}};
-
-/// A network of a few addresses, so that the pictures are the same on every machine.
-SNetworkFacts TourNetwork()
-{
-    SNetworkFacts facts;
-    facts.listLocal = {{0xC0A8010A, 0xFFFFFF00, 0xC0A801FF}};
-    facts.listGateways = {0xC0A80101};
-    return facts;
-}
 
 void PictureOfHandDialog(CTour& tour, QWidget* pParent, bool bExisting, bool bAddresses)
 {
@@ -52,7 +44,7 @@ void PageTours::Addresses(CTour& tour, CMainWindow& window)
 {
     CAddressPage& page = *window.findChild<CAddressPage*>();
     CSimulator& simulator = CSimulator::Instance();
-    simulator.Addresses().SetNetworkFacts(TourNetwork);
+    const CTourNetwork network;
     {
         CSetIPOfflineDlg dialog(0, -1, true, false, &page);
         tour.WithDialog(dialog, [&] {
@@ -85,5 +77,4 @@ void PageTours::Addresses(CTour& tour, CMainWindow& window)
     page.CheckAddress(QStringLiteral("192.168.1.255"));
     tour.Picture(&window, QStringLiteral("addresses"));
     page.CheckAddress(QString());
-    simulator.Addresses().SetNetworkFacts(MachineNetworkFacts);
 }

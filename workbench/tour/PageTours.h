@@ -1,8 +1,10 @@
 #ifndef WORKBENCH_TOUR_PAGETOURS_H
 #define WORKBENCH_TOUR_PAGETOURS_H
 
+class CLanguage;
 class CMainWindow;
 class CTour;
+class QSettings;
 
 /// Walks through the workbench, one for each page. Each finds its page in the window and operates it.
 namespace PageTours {
@@ -15,6 +17,9 @@ void Simulation(CTour& tour, CMainWindow& window);
 
 /// The whole window, then each page in turn, in the current language.
 void Everything(CTour& tour, CMainWindow& window);
+
+/// The journeys of the README in windows of their own, by mouse and by keys, in the current language.
+void Journeys(CTour& tour, CLanguage& language, QSettings& settings);
 
 } // namespace PageTours
 

@@ -86,7 +86,7 @@ bool CTour::eventFilter(QObject* pWatched, QEvent* pEvent)
     auto* pMessage = qobject_cast<QDialog*>(pWatched);
     const bool bMessage = qobject_cast<CCustomMessageBox*>(pWatched) != nullptr ||
                           qobject_cast<QMessageBox*>(pWatched) != nullptr;
-    if (bMessage && pEvent->type() == QEvent::Show)
+    if (bMessage && !m_bMessagesLeft && pEvent->type() == QEvent::Show)
         QMetaObject::invokeMethod(
             pMessage, [this, pMessage] { AnswerMessage(pMessage); }, Qt::QueuedConnection);
     return QObject::eventFilter(pWatched, pEvent);

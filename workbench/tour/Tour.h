@@ -2,6 +2,7 @@
 #define WORKBENCH_TOUR_TOUR_H
 
 #include <QObject>
+#include <QSize>
 #include <QStringList>
 #include <QTimer>
 
@@ -16,6 +17,8 @@ class CTour : public QObject
     Q_OBJECT
 
 public:
+    static constexpr QSize c_sizeScreen{1920, 1040}; ///< of the screen that the pictures are made for
+
     /// @param strFolder where the pictures go; created when it does not exist
     explicit CTour(const QString& strFolder);
     ~CTour() override;
@@ -34,6 +37,9 @@ public:
     /// button of `CCustomMessageBox` with that value is pressed.
     void WithMessage(const QString& strName, int nButton, const std::function<void()>& funcAction);
 
+    /// Leaves the messages that appear to a hand that presses their buttons.
+    void LeaveMessages(bool bLeft) { m_bMessagesLeft = bLeft; }
+
     QStringList Failures() const { return m_listFailures; }
     QStringList Pictures() const { return m_listPictures; }
 
@@ -48,6 +54,7 @@ private:
     QString m_strPrefix;
     QString m_strMessageName;
     int m_nMessageButton = 0;
+    bool m_bMessagesLeft = false;
     QStringList m_listFailures;
     QStringList m_listPictures;
 };
