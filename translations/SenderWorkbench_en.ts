@@ -3491,6 +3491,10 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
         <source>复制(&amp;C)</source>
         <translation>&amp;Copy</translation>
     </message>
+    <message>
+        <source>筛选主机调用</source>
+        <translation>Filter of host calls</translation>
+    </message>
 </context>
 <context>
     <name>CJournalFilter</name>
@@ -4578,6 +4582,10 @@ Choose another picture.</translation>
     <message>
         <source>类型或接口</source>
         <translation>Type or ID</translation>
+    </message>
+    <message>
+        <source>发送器和输入</source>
+        <translation>Senders and inputs</translation>
     </message>
 </context>
 <context>

@@ -106,6 +106,7 @@ void CJournalDock::Retranslate()
 {
     setWindowTitle(tr("主机调用记录"));
     m_pText->setPlaceholderText(tr("筛选"));
+    m_pText->setAccessibleName(tr("筛选主机调用"));
     m_pReads->setText(tr("显示读取"));
     m_pFold->setText(tr("合并重复的读取"));
     m_pTable->setAccessibleName(windowTitle());

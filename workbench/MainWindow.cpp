@@ -1,6 +1,7 @@
 #include "workbench/MainWindow.h"
 
 #include "simulator/CommonClass/Simulator.h"
+#include "workbench/ElidedTips.h"
 #include "workbench/JournalDock.h"
 #include "workbench/MainMenu.h"
 #include "workbench/PageTabs.h"
@@ -69,6 +70,7 @@ CMainWindow::CMainWindow(CLanguage& language, QSettings& settings)
     m_pJournal = new CJournalDock(this);
     addDockWidget(Qt::BottomDockWidgetArea, m_pJournal);
     new CWheelGuard(this);
+    new CElidedTips(this);
     // Made now, so that the first message does not move the layout.
     statusBar();
     m_pMenu = new CMainMenu(*this, m_language, {m_pProject, m_pHistory, m_pSenders, m_pJournal, &m_vecPages});

@@ -17,6 +17,13 @@ QString FileFilter()
     return CProjectActions::tr("工程 (*.json);;所有文件 (*)");
 }
 
+/// The present file: what is opened or saved next is mostly beside it.
+QString ProposedFile()
+{
+    const QString strFile = CSimulator::Instance().Document().FilePath();
+    return strFile.isEmpty() ? QStringLiteral("project.json") : strFile;
+}
+
 } // namespace
 
 CProjectActions::CProjectActions(QWidget* pWindow, QSettings& settings)
@@ -52,7 +59,8 @@ bool CProjectActions::ChooseAndOpen()
 {
     if (!MayLeave())
         return false;
-    const QString strFile = QFileDialog::getOpenFileName(m_pWindow, tr("打开工程"), QString(), FileFilter());
+    const QString strFile = QFileDialog::getOpenFileName(
+        m_pWindow, tr("打开工程"), QFileInfo(ProposedFile()).absolutePath(), FileFilter());
     return !strFile.isEmpty() && OpenWithoutAsking(strFile);
 }
 
@@ -83,8 +91,7 @@ bool CProjectActions::Save()
 
 bool CProjectActions::ChooseAndSave()
 {
-    const QString strFile =
-        SaveDialog::Ask(m_pWindow, tr("保存工程"), QStringLiteral("project.json"), FileFilter());
+    const QString strFile = SaveDialog::Ask(m_pWindow, tr("保存工程"), ProposedFile(), FileFilter());
     return !strFile.isEmpty() && SaveAs(strFile);
 }
 

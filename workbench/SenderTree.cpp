@@ -190,6 +190,7 @@ void CSenderTree::Select(const SSelection& selection)
 
 void CSenderTree::Retranslate()
 {
+    setAccessibleName(tr("发送器和输入"));
     setHeaderLabels({tr("发送器"), tr("类型或接口"), tr("状态")});
     for (int i = 0; i < topLevelItemCount(); ++i)
         ShowSender(topLevelItem(i), Senders()[std::size_t(i)]);

@@ -11,9 +11,11 @@
 #include "workbench/edid/FieldTree.h"
 #include "workbench/edid/HexView.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -62,6 +64,8 @@ private Q_SLOTS:
     void AFailedWriteIsAMessageWithReasonAndRemedy();
     void TabGoesFromTheTreeToTabsPageAndJournal_data();
     void TabGoesFromTheTreeToTabsPageAndJournal();
+    void EachStopOfTabHasAName_data();
+    void EachStopOfTabHasAName();
     void ControlAndADigitShowAPage();
     void TheTabBarShowsItsFocus();
     void EveryMenuEntryHasAKeyOfItsOwn_data();
@@ -70,6 +74,7 @@ private Q_SLOTS:
     void F1ShowsStepsAndKeys();
     void AboutTellsTheProgram();
     void SaveAsHasItsKey();
+    void SaveAsProposesThePresentFile();
     void SmallScreensStartWithoutTheJournal_data();
     void SmallScreensStartWithoutTheJournal();
     void TheArrangementIsKeptForTheScreen();
@@ -339,6 +344,16 @@ QString PartWithFocus(CMainWindow& window)
     return QStringLiteral("page");
 }
 
+/// A page about an input whose memory holds a block, and the journal below.
+void ShowFilledPage(CMainWindow& window, int nPage)
+{
+    const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
+    QVERIFY(CSimulator::Instance().Hardware().SetEdidMemory(0, nInterfaceId, QByteArray(128, 1)));
+    window.Tree().Select({0, nInterfaceId});
+    window.ShowPage(window.Pages()[std::size_t(nPage)]);
+    window.Journal().show();
+}
+
 void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal_data()
 {
     QTest::addColumn<int>("page");
@@ -351,10 +366,7 @@ void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal()
     constexpr int c_nMostStops = 100;
     QFETCH(int, page);
     CWorkbenchFixture workbench;
-    workbench.window.Tree().Select(
-        {0, CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId});
-    workbench.window.ShowPage(workbench.window.Pages()[std::size_t(page)]);
-    workbench.window.Journal().show();
+    ShowFilledPage(workbench.window, page);
     workbench.Activate();
     workbench.window.Tree().setFocus();
     QStringList listParts;
@@ -367,6 +379,29 @@ void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal()
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
     QCOMPARE(listParts.join(QLatin1Char(' ')), QStringLiteral("tree tabs page journal"));
+}
+
+void TestMainWindow::EachStopOfTabHasAName_data()
+{
+    TabGoesFromTheTreeToTabsPageAndJournal_data();
+}
+
+void TestMainWindow::EachStopOfTabHasAName()
+{
+    QFETCH(int, page);
+    CWorkbenchFixture workbench;
+    ShowFilledPage(workbench.window, page);
+    workbench.Activate();
+    workbench.window.Tree().setFocus();
+    do {
+        const QWidget* pFocus = QApplication::focusWidget();
+        // Of tabs, each has a name.
+        const bool bTabs = qobject_cast<const QTabBar*>(pFocus) != nullptr;
+        const QString strName =
+            QAccessible::queryAccessibleInterface(QApplication::focusWidget())->text(QAccessible::Name);
+        QVERIFY2(bTabs || !strName.isEmpty(), pFocus->metaObject()->className());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    } while (QApplication::focusWidget() != &workbench.window.Tree());
 }
 
 void TestMainWindow::ControlAndADigitShowAPage()
@@ -491,6 +526,18 @@ void TestMainWindow::SaveAsHasItsKey()
     });
     QTest::keyClick(&workbench.window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     QTRY_VERIFY(QFile::exists(strFile + QStringLiteral(".json")));
+}
+
+void TestMainWindow::SaveAsProposesThePresentFile()
+{
+    CWorkbenchFixture workbench;
+    QVERIFY(workbench.window.Project().SaveAs(workbench.File("wall.json")));
+    QStringList listProposed;
+    const CDialogOperator dialogOperator([&listProposed](QDialog* pDialog) {
+        listProposed = qobject_cast<QFileDialog*>(pDialog)->selectedFiles();
+    });
+    QVERIFY(!workbench.window.Project().ChooseAndSave());
+    QCOMPARE(listProposed, QStringList{workbench.File("wall.json")});
 }
 
 void TestMainWindow::SmallScreensStartWithoutTheJournal_data()

@@ -75,11 +75,14 @@ void CChartControls::LayOut()
     auto* pGrid = new QHBoxLayout;
     pGrid->addWidget(m_pGridCaption);
     pGrid->addWidget(m_pGrid, 1);
-    auto* pRegion = new QHBoxLayout;
-    pRegion->addWidget(m_pRegionCaption);
-    pRegion->addWidget(m_pRegionOn, 1);
-    pRegion->addWidget(m_pDraw);
-    pRegion->addWidget(m_pClear);
+    // Two rows: one would be wider than anything else beside the chart.
+    auto* pRegion = new QGridLayout;
+    pRegion->addWidget(m_pRegionCaption, 0, 0);
+    pRegion->addWidget(m_pRegionOn, 0, 1, 1, 2);
+    pRegion->addWidget(m_pDraw, 1, 1);
+    pRegion->addWidget(m_pClear, 1, 2);
+    pRegion->setColumnStretch(1, 1);
+    pRegion->setColumnStretch(2, 1);
     auto* pLayout = new QGridLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(m_pTemperature, 0, 0);

@@ -30,7 +30,8 @@
 
 namespace {
 
-constexpr int c_nSideWidth = 430; ///< pixels: two groups with their captions, or the table of modules
+constexpr int c_nLeastSideWidth = 372;  ///< pixels: the headings of the readings
+constexpr int c_nLeastChartWidth = 300; ///< pixels: below it, points can hardly be told apart
 
 } // namespace
 
@@ -88,6 +89,7 @@ QWidget* CColourPage::CreateChart()
     auto* pLayout = new QVBoxLayout(pChart);
     pLayout->setContentsMargins(0, 0, 0, 0);
     m_pDiagrams = new CDiagramPair(pChart);
+    m_pDiagrams->setMinimumWidth(c_nLeastChartWidth);
     m_pUcsShown = new QPushButton(pChart);
     m_pUcsShown->setCheckable(true);
     connect(m_pUcsShown, &QPushButton::toggled, this, &CColourPage::ShowUcs);
@@ -105,7 +107,7 @@ QWidget* CColourPage::CreateChart()
 QWidget* CColourPage::CreateSide()
 {
     m_pTabs = new QTabWidget(this);
-    m_pTabs->setMinimumWidth(c_nSideWidth);
+    m_pTabs->setMinimumWidth(c_nLeastSideWidth);
     m_pTabs->addTab(CreateGroups(), QString());
     m_pReadings = new CReadingsPanel(m_pView->Editor(), this);
     m_pTabs->addTab(m_pReadings, QString());

@@ -38,6 +38,8 @@ CPictureSizeDialog::CPictureSizeDialog(const SPictureSize& proposal, enPictureKi
     SetLimits();
     m_pWidth->setValue(proposal.size.width());
     m_pHeight->setValue(proposal.size.height());
+    // The first field has the focus: what is typed replaces the proposal.
+    m_pWidth->selectAll();
     auto* pButtons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(pButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);

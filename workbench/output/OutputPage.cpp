@@ -78,6 +78,7 @@ QWidget* COutputPage::CreateFacts()
     pScroll->setWidget(pColumn);
     pScroll->setWidgetResizable(true);
     pScroll->setFrameShape(QFrame::NoFrame);
+    pScroll->setFocusPolicy(Qt::NoFocus);
     pColumn->setAutoFillBackground(false);
     pScroll->viewport()->setAutoFillBackground(false);
     pScroll->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding);

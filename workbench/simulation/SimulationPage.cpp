@@ -86,6 +86,8 @@ CSimulationPage::CSimulationPage(QWidget* pParent)
     pScroll->setWidget(m_pForms);
     pScroll->setWidgetResizable(true);
     pScroll->setFrameShape(QFrame::NoFrame);
+    // It follows the focus; a stop of its own would show nothing.
+    pScroll->setFocusPolicy(Qt::NoFocus);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(pScroll);

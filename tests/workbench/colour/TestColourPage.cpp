@@ -84,6 +84,8 @@ private Q_SLOTS:
     void TheLineBelowTheChartForgetsARemovedGroup();
     void AWidePageShowsBothDiagrams();
     void AScreenOf3840By2160ShowsBothDiagrams();
+    void ANarrowPageLeavesRoomForTheChart();
+    void TheFirstSideOfAPictureIsTypedOver();
     void AnExportAsksForSizeAndResolution();
     void ALessReadableSizeIsNotOffered();
 };
@@ -577,6 +579,24 @@ void TestColourPage::AScreenOf3840By2160ShowsBothDiagrams()
     QCoreApplication::processEvents();
     QVERIFY(shown.View().isVisible());
     QVERIFY(shown.page.findChild<CUcsView*>()->isVisible());
+}
+
+void TestColourPage::ANarrowPageLeavesRoomForTheChart()
+{
+    SShownColourPage shown;
+    shown.page.resize(700, 600);
+    QCoreApplication::processEvents();
+    QCOMPARE(shown.page.width(), 700);
+    QVERIFY(shown.View().width() >= 300);
+}
+
+void TestColourPage::TheFirstSideOfAPictureIsTypedOver()
+{
+    CPictureSizeDialog dialog({QSize(600, 500)}, CPictureSizeDialog::enPixels, QString(), nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("1200"));
+    QCOMPARE(dialog.Size().size, QSize(1200, 500));
 }
 
 void TestColourPage::AnExportAsksForSizeAndResolution()
