@@ -41,6 +41,10 @@ run("${WORK_FOLDER}/build/examples/edid-file" 1920 1080 60 "${WORK_FOLDER}/block
 run("${PREFIX}/bin/sender-tool" edid 1920x1080@60 --format bin -o "${WORK_FOLDER}/expected.bin")
 run("${CMAKE_COMMAND}" -E compare_files "${WORK_FOLDER}/block.bin" "${WORK_FOLDER}/expected.bin")
 run("${WORK_FOLDER}/build/drive-minimal-host")
+run("${WORK_FOLDER}/build/drive-canvas-dialog")
+if(NOT OUTPUT MATCHES "canvas 2560 x 1440")
+    message(FATAL_ERROR "canvas-dialog printed: ${OUTPUT}")
+endif()
 execute_process(COMMAND "${EXAMPLES}/../docs/make-wall.sh" OUTPUT_FILE "${WORK_FOLDER}/wall.csv" COMMAND_ERROR_IS_FATAL ANY)
 run("${WORK_FOLDER}/build/examples/wall-matrices" "${WORK_FOLDER}/wall.csv")
 

@@ -120,7 +120,7 @@ void TourOfWorkshop(CTour& tour, CMainWindow& window, CEdidPage& page)
     tour.Check(page.Document().DifferentBytes().size() == 4, // two of the maker, gamma, checksum
                QStringLiteral("the comparison does not show what was edited"));
     fields.ShowRow(model.NextDifference({}, true));
-    tour.Picture(&window, QStringLiteral("edid-compared"));
+    tour.Picture(&page, QStringLiteral("edid-compared"));
     page.Document().EndComparison();
     while (page.Document().Steps().canUndo())
         page.Document().Steps().undo();

@@ -50,7 +50,7 @@ QPoint PlaceToPress(const QWidget& button)
 
 void CMouseHand::ChooseInMenu(const QStringList& listTexts)
 {
-    const QString strMenu = listTexts.first();
+    const QString& strMenu = listTexts.first();
     Note(QStringLiteral("the menu %1").arg(strMenu), Find::Only<QMenuBar>(), [strMenu](QWidget* pWidget) {
         auto* pBar = qobject_cast<QMenuBar*>(pWidget);
         QAction* pMenu = Find::Entry(*pBar, strMenu);
