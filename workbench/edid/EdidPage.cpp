@@ -149,33 +149,32 @@ void SetColour(QLabel& label, const QColor& clr)
 } // namespace
 
 const CEdidPage::SActionRow CEdidPage::c_arrActions[] = {
-    {enOpen, "edidOpen", QT_TR_NOOP("打开..."), QT_TR_NOOP("打开 EDID 文件；也可以把文件拖到这里"),
-     Qt::CTRL + Qt::SHIFT + Qt::Key_O, &CEdidPage::Open},
-    {enPaste, "edidPaste", QT_TR_NOOP("粘贴"),
-     QT_TR_NOOP("粘贴十六进制文本、xxd、C 数组、JSON 或 xrandr 的输出"), Qt::CTRL + Qt::Key_V,
-     &CEdidPage::Paste},
-    {enMemory, "edidMemory", QT_TR_NOOP("发送器的存储器"), QT_TR_NOOP("显示所选输入的 EDID 存储器"),
-     Qt::Key_F5, &CEdidPage::LoadMemory},
-    {enBuild, "edidBuild", QT_TR_NOOP("构建块"), nullptr, 0, &CEdidPage::Build},
-    {enCompareFile, "edidCompareFile", QT_TR_NOOP("与文件比较(&F)..."), nullptr,
-     Qt::CTRL + Qt::SHIFT + Qt::Key_D, &CEdidPage::ChooseAndCompare},
-    {enComparePaste, "edidComparePaste", QT_TR_NOOP("与剪贴板中的文本比较(&T)"), nullptr,
-     Qt::CTRL + Qt::SHIFT + Qt::Key_V, &CEdidPage::ComparePasted},
-    {enCompareMemory, "edidCompareMemory", QT_TR_NOOP("与发送器的存储器比较(&M)"), nullptr,
-     Qt::SHIFT + Qt::Key_F5, &CEdidPage::CompareMemory},
-    {enEndComparison, "edidEndComparison", QT_TR_NOOP("结束比较(&E)"), nullptr, 0, &CEdidPage::EndComparison},
-    {enNext, "edidNext", QT_TR_NOOP("下一处不同"), QT_TR_NOOP("显示下一个不同的字段"), Qt::Key_F8,
+    {"edidOpen", QT_TR_NOOP("打开..."), QT_TR_NOOP("打开 EDID 文件；也可以把文件拖到这里"),
+     Qt::CTRL + Qt::SHIFT + Qt::Key_O, enOpen, &CEdidPage::Open},
+    {"edidPaste", QT_TR_NOOP("粘贴"), QT_TR_NOOP("粘贴十六进制文本、xxd、C 数组、JSON 或 xrandr 的输出"),
+     Qt::CTRL + Qt::Key_V, enPaste, &CEdidPage::Paste},
+    {"edidMemory", QT_TR_NOOP("发送器的存储器"), QT_TR_NOOP("显示所选输入的 EDID 存储器"), Qt::Key_F5,
+     enMemory, &CEdidPage::LoadMemory},
+    {"edidBuild", QT_TR_NOOP("构建块"), nullptr, 0, enBuild, &CEdidPage::Build},
+    {"edidCompareFile", QT_TR_NOOP("与文件比较(&F)..."), nullptr, Qt::CTRL + Qt::SHIFT + Qt::Key_D,
+     enCompareFile, &CEdidPage::ChooseAndCompare},
+    {"edidComparePaste", QT_TR_NOOP("与剪贴板中的文本比较(&T)"), nullptr, Qt::CTRL + Qt::SHIFT + Qt::Key_V,
+     enComparePaste, &CEdidPage::ComparePasted},
+    {"edidCompareMemory", QT_TR_NOOP("与发送器的存储器比较(&M)"), nullptr, Qt::SHIFT + Qt::Key_F5,
+     enCompareMemory, &CEdidPage::CompareMemory},
+    {"edidEndComparison", QT_TR_NOOP("结束比较(&E)"), nullptr, 0, enEndComparison, &CEdidPage::EndComparison},
+    {"edidNext", QT_TR_NOOP("下一处不同"), QT_TR_NOOP("显示下一个不同的字段"), Qt::Key_F8, enNext,
      &CEdidPage::ShowNextDifference},
-    {enPrevious, "edidPrevious", QT_TR_NOOP("上一处不同(&P)"), nullptr, Qt::SHIFT + Qt::Key_F8,
+    {"edidPrevious", QT_TR_NOOP("上一处不同(&P)"), nullptr, Qt::SHIFT + Qt::Key_F8, enPrevious,
      &CEdidPage::ShowPreviousDifference},
-    {enUndo, "edidUndo", QT_TR_NOOP("撤销"), QT_TR_NOOP("撤销对块的更改 (Ctrl+Z)"), 0, &CEdidPage::Undo},
-    {enRedo, "edidRedo", QT_TR_NOOP("重做"), QT_TR_NOOP("重做对块的更改 (Ctrl+Shift+Z)"), 0,
+    {"edidUndo", QT_TR_NOOP("撤销"), QT_TR_NOOP("撤销对块的更改 (Ctrl+Z)"), 0, enUndo, &CEdidPage::Undo},
+    {"edidRedo", QT_TR_NOOP("重做"), QT_TR_NOOP("重做对块的更改 (Ctrl+Shift+Z)"), 0, enRedo,
      &CEdidPage::Redo},
-    {enFix, "edidFix", QT_TR_NOOP("全部修复"), QT_TR_NOOP("更正标头、扩展块数目和校验和"), 0,
+    {"edidFix", QT_TR_NOOP("全部修复"), QT_TR_NOOP("更正标头、扩展块数目和校验和"), 0, enFix,
      &CEdidPage::Fix},
-    {enSave, "edidSave", QT_TR_NOOP("保存块..."), QT_TR_NOOP("保存为二进制、十六进制文本、C 数组或 JSON"), 0,
+    {"edidSave", QT_TR_NOOP("保存块..."), QT_TR_NOOP("保存为二进制、十六进制文本、C 数组或 JSON"), 0, enSave,
      &CEdidPage::ChooseFileAndSave},
-    {enWrite, "edidWrite", QT_TR_NOOP("写入存储器"), QT_TR_NOOP("写入所选输入的 EDID 存储器"), 0,
+    {"edidWrite", QT_TR_NOOP("写入存储器"), QT_TR_NOOP("写入所选输入的 EDID 存储器"), 0, enWrite,
      &CEdidPage::Write},
 };
 
@@ -488,7 +487,7 @@ void CEdidPage::ShowDocument()
     // What was said was about the values before.
     Say(QString());
     m_pStack->setCurrentIndex(m_pDocument->IsEmpty() ? 1 : 0);
-    m_pFields->setColumnHidden(CFieldModel::enOther, !m_pDocument->IsComparing());
+    m_pFields->ShowOther(m_pDocument->IsComparing());
     ShowBytes();
     m_pFindings->ShowFindingsOf(m_pDocument->Content().bytes);
     ShowSource();

@@ -79,11 +79,11 @@ private:
     /// An action of the page: its texts, its key and what it does.
     struct SActionRow
     {
-        enAction action;
         const char* szName; ///< object name
         const char* szText;
         const char* szToolTip; ///< null for the text alone
         int nKey;              ///< 0 for none
+        enAction action;
         void (CEdidPage::*pDo)();
     };
 

@@ -10,8 +10,11 @@
 
 namespace {
 
-constexpr int c_nIndentation = 12;      ///< of a level, pixels
-constexpr double c_dMostOfNames = 0.55; ///< part of the width that names take at most
+constexpr int c_nIndentation = 12; ///< of a level, pixels
+
+/// Part of the width that names take at most, beside the values and beside the values of two EDIDs.
+constexpr double c_dMostOfOne = 0.55;
+constexpr double c_dMostOfTwo = 0.4;
 
 } // namespace
 
@@ -39,6 +42,12 @@ void CFieldTree::ShowRow(const QModelIndex& index)
 {
     setCurrentIndex(index);
     scrollTo(index);
+}
+
+void CFieldTree::ShowOther(bool bShown)
+{
+    setColumnHidden(CFieldModel::enOther, !bShown);
+    FitNames();
 }
 
 bool CFieldTree::EditRow(const QModelIndex& index)
@@ -93,7 +102,8 @@ void CFieldTree::resizeEvent(QResizeEvent* pEvent)
 /// Long names leave room for the values.
 void CFieldTree::FitNames()
 {
-    const int nMost = int(viewport()->width() * c_dMostOfNames);
+    const double dMost = isColumnHidden(CFieldModel::enOther) ? c_dMostOfOne : c_dMostOfTwo;
+    const int nMost = int(viewport()->width() * dMost);
     header()->resizeSection(CFieldModel::enField, std::min(sizeHintForColumn(CFieldModel::enField), nMost));
 }
 

@@ -16,6 +16,8 @@ public:
 
     /// Makes a row current and shows it.
     void ShowRow(const QModelIndex& index);
+    /// Shows or hides the values of the EDID that the fields are compared with.
+    void ShowOther(bool bShown);
 
 Q_SIGNALS:
     /// Another row is current.

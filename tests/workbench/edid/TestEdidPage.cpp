@@ -70,6 +70,7 @@ private Q_SLOTS:
     void WithoutAnInputThePageSaysWhatToDo();
     void BeforeAnythingIsSelectedThePageSaysWhatToDo();
     void OnANarrowPageValuesKeepAUsefulWidth();
+    void OnANarrowPageBothValuesOfAComparisonShow();
     void WhatTheBlockCutsIsSaidBeforeAndAfterWriting();
     void ADroppedFileIsShown();
     void DroppedTextIsShown();
@@ -286,6 +287,19 @@ void TestEdidPage::OnANarrowPageValuesKeepAUsefulWidth()
     const QHeaderView* pHeader = Fields().header();
     QVERIFY(pHeader->sectionSize(CFieldModel::enValue) >= c_dLeast * Fields().viewport()->width());
     QVERIFY(pHeader->length() <= Fields().viewport()->width());
+}
+
+void TestEdidPage::OnANarrowPageBothValuesOfAComparisonShow()
+{
+    constexpr double c_dLeast = 0.25; // of the width of names and values
+    ShowPage();
+    m_page->resize(700, 600);
+    QGuiApplication::clipboard()->setText(QString::fromLatin1(Memory().toHex()));
+    m_page->findChild<QAction*>(QStringLiteral("edidComparePaste"))->trigger();
+    QCoreApplication::processEvents();
+    const QHeaderView* pHeader = Fields().header();
+    for (const int nColumn : {CFieldModel::enValue, CFieldModel::enOther})
+        QVERIFY(pHeader->sectionSize(nColumn) >= c_dLeast * Fields().viewport()->width());
 }
 
 void TestEdidPage::WhatTheBlockCutsIsSaidBeforeAndAfterWriting()
