@@ -1,8 +1,10 @@
-// Any bytes as an EDID: explaining and judging stay inside them, and every text can be made.
+// Any bytes as an EDID: explaining and judging stay inside them, and texts can be made. Texts take a hundred
+// times as long as explaining: the last byte of the input chooses the field and the finding whose texts are
+// made.
 
 #include "SenderModuleDialog/Fault.h"
 #include "host/CommonClass/EdidBlockSize.h"
-#include "instruments/edid/ExplanationText.h"
+#include "instruments/edid/FieldText.h"
 #include "instruments/edid/Rules.h"
 
 #include <cstddef>
@@ -12,27 +14,43 @@ namespace {
 
 constexpr int c_nMaxBytes = 3 * c_nEdidBlockSize;
 
-void CheckFields(const QByteArray& edid)
+std::vector<Edid::SField> FieldsOf(const QByteArray& edid)
 {
     std::vector<Edid::SField> vecFields;
-    const auto* pBytes = reinterpret_cast<const quint8*>(edid.constData());
-    Edid::Explain(pBytes, edid.size(), vecFields);
+    Edid::Explain(reinterpret_cast<const quint8*>(edid.constData()), edid.size(), vecFields);
+    return vecFields;
+}
+
+void CheckFields(const QByteArray& edid, unsigned nChoice)
+{
+    const std::vector<Edid::SField> vecFields = FieldsOf(edid);
     for (const Edid::SField& field : vecFields) {
         Require(field.nOffset >= 0 && field.nOffset + field.nSize <= edid.size(),
                 "a field lies in the bytes");
     }
-    Require(Edid::ExplanationText(edid, {}).isEmpty() == edid.isEmpty(), "bytes are told");
+    Require(vecFields.empty() == edid.isEmpty(), "bytes are told");
+    if (vecFields.empty())
+        return;
+    const Edid::SField& field = vecFields[nChoice % vecFields.size()];
+    const auto* pBytes = reinterpret_cast<const quint8*>(edid.constData());
+    Require(!Edid::LabelText(field).isEmpty(), "a field has a label");
+    Edid::ValueText(field, pBytes, {});
+    Edid::ValueJson(field, pBytes, {});
+    Edid::FieldHex(field, pBytes);
 }
 
-void CheckFindings(const QByteArray& edid)
+void CheckFindings(const QByteArray& edid, unsigned nChoice)
 {
     std::vector<Edid::SFinding> vecFindings;
     Edid::Check(reinterpret_cast<const quint8*>(edid.constData()), edid.size(), {2026}, vecFindings);
     for (const Edid::SFinding& finding : vecFindings) {
         Require(finding.nOffset >= 0 && finding.nSize > 0 && finding.nOffset + finding.nSize <= edid.size(),
                 "a finding lies in the bytes");
-        Require(!Edid::WrongText(finding).contains(QLatin1Char('%')), "every number of a finding is told");
     }
+    if (vecFindings.empty())
+        return;
+    const Edid::SFinding& finding = vecFindings[nChoice % vecFindings.size()];
+    Require(!Edid::WrongText(finding).contains(QLatin1Char('%')), "every number of a finding is told");
 }
 
 } // namespace
@@ -41,7 +59,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSi
 {
     const int nBytes = int(nSize < std::size_t(c_nMaxBytes) ? nSize : std::size_t(c_nMaxBytes));
     const QByteArray edid(reinterpret_cast<const char*>(pData), nBytes);
-    CheckFields(edid);
-    CheckFindings(edid);
+    const unsigned nChoice = nSize == 0 ? 0 : pData[nSize - 1];
+    CheckFields(edid, nChoice);
+    CheckFindings(edid, nChoice);
     return 0;
 }

@@ -13,10 +13,13 @@ double Cross(const QPointF& ptA, const QPointF& ptB, const QPointF& ptC)
     return (ptB.x() - ptA.x()) * (ptC.y() - ptA.y()) - (ptB.y() - ptA.y()) * (ptC.x() - ptA.x());
 }
 
+/// Checking a hull takes edges times points; more points find nothing else.
+constexpr int c_nMostPoints = 64;
+
 QVector<QPointF> Cloud(CFuzzInput input)
 {
     QVector<QPointF> vecPoints;
-    while (input.Left() >= 2) {
+    while (input.Left() >= 2 && vecPoints.size() < c_nMostPoints) {
         const double dX = double(input.Take<std::uint8_t>());
         const double dY = double(input.Take<std::uint8_t>());
         vecPoints.append(QPointF(dX, dY));

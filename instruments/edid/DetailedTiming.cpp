@@ -13,8 +13,8 @@ namespace {
 
 /// Unit of the pixel clock in both forms, Hz.
 constexpr qint64 c_nClockUnit = 10000;
-/// Hz; of a type VII timing
-constexpr int c_nTypeVIIClockUnit = 1000;
+/// Hz; of a type VII timing, whose highest clock is above what 32 bits hold
+constexpr qint64 c_nTypeVIIClockUnit = 1000;
 
 /// Digital separate sync, the only kind that tells both polarities.
 constexpr int c_nDigitalSeparate = 3;

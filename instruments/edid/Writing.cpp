@@ -22,11 +22,12 @@ QByteArray Lines(const QStringList& listRows)
 QStringList ByteRows(const QByteArray& edid, int nColumns, const QString& strPrefix,
                      const QString& strSeparator)
 {
+    const QString strDigits = QString::fromLatin1(edid.toHex().toUpper());
     QStringList listRows;
     for (int nStart = 0; nStart < edid.size(); nStart += nColumns) {
         QStringList listBytes;
-        for (const char ch : edid.mid(nStart, nColumns))
-            listBytes += strPrefix + QString::asprintf("%02X", static_cast<unsigned char>(ch));
+        for (int i = nStart; i < qMin(nStart + nColumns, edid.size()); ++i)
+            listBytes += strPrefix + strDigits.midRef(2 * i, 2);
         listRows += listBytes.join(strSeparator);
     }
     return listRows;

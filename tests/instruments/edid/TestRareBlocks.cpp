@@ -128,6 +128,10 @@ void TestRareBlocks::TheDecoderReadsTheSame_data()
     Add(timing, "Pixel clock: 148.500 MHz", "148.500000 MHz");
     Add(timing, "148.500  1920 2008 2052 2200  1080 1084 1089 1125  +hsync +vsync",
         "Hfront   88 Hsync  44 Hback  148 Hpol P");
+    Add(DisplayIdEdid(0x22, QByteArray::fromHex("FFFFFF 84 7F07 1701 5780 2B00 3704 2C00 0380 0400")),
+        "Pixel clock: 16777.216 MHz", "16777.216000 MHz");
+    Add(DisplayIdEdid(0x22, QByteArray::fromHex("FFFFFF 84 7F07 1701 5780 2B00 3704 2C00 0380 0400")),
+        "Line rate: 7626.007 kHz", "7626.007 kHz");
 }
 
 void TestRareBlocks::TheDecoderReadsTheSame()
