@@ -4755,6 +4755,16 @@ Choose another picture.</translation>
         <source>报告 (*.pdf)</source>
         <translation>Report (*.pdf)</translation>
     </message>
+    <message>
+        <source>无法导入测量数据。%1。
+原来的数据没有改变。请更正后重试。</source>
+        <translation>The measurements were not imported. %1.
+The previous ones are unchanged. Correct the text and try again.</translation>
+    </message>
+    <message>
+        <source>文件大于 %1 MB</source>
+        <translation>the file is larger than %1 MB</translation>
+    </message>
 </context>
 <context>
     <name>CWallReport</name>

@@ -25,7 +25,8 @@
 namespace {
 
 /// A larger file cannot hold measurements and is not read into memory.
-constexpr qint64 c_nLargestFile = qint64(64) * 1024 * 1024;
+constexpr int c_nLargestFile = 64; ///< MB
+constexpr qint64 c_nMegabyte = qint64(1024) * 1024;
 
 constexpr double c_dPerCent = 100.0;
 constexpr int c_nRowMargin = 6; ///< pixels by which a table row is higher than its text
@@ -55,7 +56,7 @@ CWallPanel::CWallPanel(CMeasuredWall& wall, QWidget* pParent)
     pLayout->addWidget(m_pSummary);
     connect(&m_wall, &CMeasuredWall::Changed, this, &CWallPanel::Refresh);
     connect(&m_wall, &CMeasuredWall::Unreadable, this,
-            [this](const SMeasurementError& error) { Report(error); });
+            [this](const SMeasurementError& error) { Q_EMIT Reported(Show(error)); });
     Retranslate();
 }
 
@@ -195,28 +196,31 @@ QString CWallPanel::DescribeFit(const SWallAnalysis& analysis) const
         .arg(analysis.fit->clip.dClipped * c_dPerCent, 0, 'f', 1);
 }
 
+QString CWallPanel::Show(const SMeasurementError& error)
+{
+    const QString strText = MeasurementProblem::Text(error);
+    m_pSummary->setText(strText);
+    return strText;
+}
+
 bool CWallPanel::Report(const std::optional<SMeasurementError>& error)
 {
-    if (!error) {
+    if (error)
+        Q_EMIT Failed(tr("无法导入测量数据。%1。\n原来的数据没有改变。请更正后重试。").arg(Show(*error)));
+    else
         Q_EMIT Reported(tr("已导入 %1 个模组").arg(m_wall.GetModules().size()));
-        return true;
-    }
-    const QString strText = MeasurementProblem::Text(*error);
-    m_pSummary->setText(strText);
-    Q_EMIT Reported(strText);
-    return false;
+    return !error;
 }
 
 bool CWallPanel::ImportFile(const QString& strFile)
 {
     QFile file(strFile);
-    const bool bRead = file.open(QIODevice::ReadOnly) && file.size() <= c_nLargestFile;
-    if (!bRead) {
-        Q_EMIT Failed(tr("无法读取 %1：%2。请选择别的文件。")
-                          .arg(QDir::toNativeSeparators(strFile), file.errorString()));
-        return false;
-    }
-    return Report(m_wall.Import(file.readAll()));
+    const bool bOpen = file.open(QIODevice::ReadOnly);
+    if (bOpen && file.size() <= c_nLargestFile * c_nMegabyte)
+        return Report(m_wall.Import(file.readAll()));
+    const QString strReason = bOpen ? tr("文件大于 %1 MB").arg(c_nLargestFile) : file.errorString();
+    Q_EMIT Failed(tr("无法读取 %1：%2。请选择别的文件。").arg(QDir::toNativeSeparators(strFile), strReason));
+    return false;
 }
 
 bool CWallPanel::Paste()

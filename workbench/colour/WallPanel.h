@@ -50,6 +50,9 @@ private:
     QWidget* CreateBar();
     QWidget* CreateChoices();
     void CreateTable();
+    /// Says in the panel what is wrong.
+    /// @return the same
+    QString Show(const SMeasurementError& error);
     bool Report(const std::optional<SMeasurementError>& error);
     void Refresh();
     QString Describe(const SWallAnalysis& analysis) const;

@@ -8,6 +8,7 @@
 #include "workbench/colour/ColourPage.h"
 #include "workbench/colour/GroupModel.h"
 #include "workbench/colour/GroupPanel.h"
+#include "workbench/colour/PictureSizeDialog.h"
 #include "workbench/colour/PointKeys.h"
 #include "workbench/colour/RegionOverlay.h"
 #include "workbench/colour/WallPanel.h"
@@ -225,7 +226,8 @@ void TourOfWall(CTour& tour, CColourPage& page)
     tour.Picture(&page, QStringLiteral("chart-wall-empty"));
     QClipboard& clipboard = *QGuiApplication::clipboard();
     clipboard.setText(QStringLiteral("module,Rx,Ry,RY,Gx,Gy,GY,Bx,By,BY\n1,0.69,0.3o,240\n"));
-    tour.Check(!page.Wall().Paste(), QStringLiteral("a wrong number was pasted"));
+    tour.WithMessage(QStringLiteral("chart-wall-not-pasted"), 0,
+                     [&] { tour.Check(!page.Wall().Paste(), QStringLiteral("a wrong number was pasted")); });
     tour.Picture(&page, QStringLiteral("chart-wall-problem"));
     clipboard.setText(DemoWall());
     tour.Check(page.Wall().Paste(), QStringLiteral("measurements were not pasted"));
@@ -243,6 +245,8 @@ void TourOfFiles(CTour& tour, CColourPage& page)
 {
     const QDir folder(tour.Folder());
     const SPictureSize size = ChartExport::ScreenSize(page.View().Chart());
+    CPictureSizeDialog dialog(size, CPictureSizeDialog::enPixels, page.Title(), &page);
+    tour.WithDialog(dialog, [&] { tour.Picture(&dialog, QStringLiteral("chart-size")); });
     tour.Check(page.SavePng(folder.filePath(QStringLiteral("chart.png")), size),
                QStringLiteral("no PNG was saved"));
     tour.Check(page.SaveSvg(folder.filePath(QStringLiteral("chart.svg")), size.size),
