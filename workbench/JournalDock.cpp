@@ -33,6 +33,21 @@ constexpr SColumnWidth c_arrColumnWidths[] = {
     {CHostJournal::enColumnResult, "failed 12345678"}, {CHostJournal::enColumnDuration, "1000.000"},
 };
 
+/// Asks for the height of a few rows: a low screen has no room for more, and a high one is given it.
+class CJournalTable : public QTableView
+{
+public:
+    using QTableView::QTableView;
+
+    QSize sizeHint() const override
+    {
+        constexpr int c_nRows = 5;
+        const int nRows = c_nRows * verticalHeader()->defaultSectionSize();
+        return {QTableView::sizeHint().width(),
+                horizontalHeader()->sizeHint().height() + nRows + 2 * frameWidth()};
+    }
+};
+
 } // namespace
 
 CJournalDock::CJournalDock(QWidget* pParent)
@@ -79,7 +94,7 @@ QWidget* CJournalDock::CreateBar()
 
 QWidget* CJournalDock::CreateTable()
 {
-    m_pTable = new QTableView(this);
+    m_pTable = new CJournalTable(this);
     m_pTable->setModel(m_pFilter);
     m_pTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_pTable->setAlternatingRowColors(true);

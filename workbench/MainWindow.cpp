@@ -36,6 +36,7 @@ constexpr QSize c_sizeFirst(1280, 860);
 constexpr int c_nTreeWidth = 360;
 constexpr int c_nLeastTreeWidth = 220;
 constexpr int c_nJournalRoom = 800; ///< height of a screen that shows page and journal together, pixels
+constexpr int c_nJournalPart = 4;   ///< of the first window's height that the journal takes, as a divisor
 constexpr int c_nStatusTime = 8000; ///< ms that a line stays in the status bar
 
 /// The settings of windows on screens of that size.
@@ -130,6 +131,7 @@ void CMainWindow::ArrangeFor(QSize sizeScreen)
     resize(sizeWindow);
     m_pSplitter->setSizes({nTreeWidth, sizeWindow.width() - nTreeWidth});
     m_pJournal->setVisible(HasJournalRoom(sizeScreen));
+    resizeDocks({m_pJournal}, {sizeWindow.height() / c_nJournalPart}, Qt::Vertical);
 }
 
 QSize CMainWindow::FirstSize(QSize sizeScreen)

@@ -77,6 +77,7 @@ private Q_SLOTS:
     void SaveAsProposesThePresentFile();
     void SmallScreensStartWithoutTheJournal_data();
     void SmallScreensStartWithoutTheJournal();
+    void TheJournalLeavesMostOfASmallScreenToThePage();
     void TheArrangementIsKeptForTheScreen();
     void TheFirstMessageMovesNothing();
     void ControlJFoldsTheJournal();
@@ -556,6 +557,19 @@ void TestMainWindow::SmallScreensStartWithoutTheJournal()
     QFETCH(QSize, screen);
     QTEST(CMainWindow::FirstSize(screen), "size");
     QTEST(CMainWindow::HasJournalRoom(screen), "journal");
+}
+
+void TestMainWindow::TheJournalLeavesMostOfASmallScreenToThePage()
+{
+    constexpr QSize c_sizeScreen(1024, 700);
+    CWorkbenchFixture workbench;
+    workbench.window.ArrangeFor(c_sizeScreen);
+    workbench.Activate();
+    QTest::keyClick(&workbench.window, Qt::Key_J, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    QCOMPARE(workbench.window.size(), c_sizeScreen);
+    QVERIFY(workbench.window.Journal().isVisible());
+    QVERIFY(workbench.window.Journal().height() * 3 <= c_sizeScreen.height());
 }
 
 void TestMainWindow::TheArrangementIsKeptForTheScreen()

@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTableView>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -54,7 +55,7 @@ CGroupPanel::CGroupPanel(CChartEditor& editor, QWidget* pParent)
     pLayout->addWidget(CreateBar());
     pLayout->addWidget(m_pTable, 1);
     pLayout->addWidget(m_pCoverage);
-    connect(m_pModel, &CGroupModel::Refused, this, &CGroupPanel::Reported);
+    connect(m_pModel, &CGroupModel::Refused, this, &CGroupPanel::Refuse);
     connect(&m_editor, &CChartEditor::Changed, this, &CGroupPanel::Refresh);
     Retranslate();
 }
@@ -96,6 +97,17 @@ void CGroupPanel::CreateTable()
             ChooseColour();
     });
     connect(m_pTable->selectionModel(), &QItemSelectionModel::currentChanged, this, &CGroupPanel::Refresh);
+}
+
+/// Says at the cell why what was typed is not there.
+void CGroupPanel::Refuse(const QString& strText)
+{
+    Q_EMIT Reported(strText);
+    const QRect rcCell = m_pTable->visualRect(m_pTable->currentIndex());
+    const QPoint ptTip = m_pTable->viewport()->mapToGlobal(rcCell.bottomLeft());
+    // The editor closes first: the change of focus would hide the tip.
+    QMetaObject::invokeMethod(
+        this, [this, ptTip, strText] { QToolTip::showText(ptTip, strText, m_pTable); }, Qt::QueuedConnection);
 }
 
 void CGroupPanel::Retranslate()

@@ -56,6 +56,7 @@ private:
     QWidget* CreateBar();
     void CreateTable();
     void TellStandard(int nKey, enColorStandard standard);
+    void Refuse(const QString& strText);
     void Refresh();
 
     CChartEditor& m_editor;

@@ -20,6 +20,7 @@
 #include <QSvgRenderer>
 #include <QTableView>
 #include <QTemporaryDir>
+#include <QToolTip>
 #include <QtTest>
 
 namespace {
@@ -84,6 +85,7 @@ private Q_SLOTS:
     void TheLineBelowTheChartForgetsARemovedGroup();
     void AWidePageShowsBothDiagrams();
     void AScreenOf3840By2160ShowsBothDiagrams();
+    void ARefusedValueIsExplainedAtItsCell();
     void ANarrowPageLeavesRoomForTheChart();
     void TheFirstSideOfAPictureIsTypedOver();
     void AnExportAsksForSizeAndResolution();
@@ -579,6 +581,18 @@ void TestColourPage::AScreenOf3840By2160ShowsBothDiagrams()
     QCoreApplication::processEvents();
     QVERIFY(shown.View().isVisible());
     QVERIFY(shown.page.findChild<CUcsView*>()->isVisible());
+}
+
+void TestColourPage::ARefusedValueIsExplainedAtItsCell()
+{
+    SShownColourPage shown;
+    auto* pTable = shown.page.Groups().findChild<QTableView*>();
+    const QModelIndex index = pTable->model()->index(CGroupModel::enWhite, pTable->currentIndex().column());
+    pTable->setCurrentIndex(index);
+    pTable->edit(index);
+    QTest::keyClicks(pTable->findChild<QLineEdit*>(), QStringLiteral("2, 3"));
+    QTest::keyClick(pTable->findChild<QLineEdit*>(), Qt::Key_Return);
+    QTRY_VERIFY(QToolTip::text().contains(QStringLiteral("2, 3")));
 }
 
 void TestColourPage::ANarrowPageLeavesRoomForTheChart()
