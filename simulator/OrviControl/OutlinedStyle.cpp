@@ -44,13 +44,20 @@ void DrawPane(QPainter& painter, const QStyleOption& option)
     painter.restore();
 }
 
+/// The window's colour for which Fusion draws outlines in a grey.
+QColor BeforeFusion(QRgb rgbGrey)
+{
+    const int nGrey = qRed(rgbGrey) * c_nFusionDarker / 100;
+    return {nGrey, nGrey, nGrey};
+}
+
 QPalette WithOutlines(QPalette palette)
 {
-    const int nGrey = qRed(Theme::c_rgbEdge) * c_nFusionDarker / 100;
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-        palette.setColor(group, QPalette::Window, QColor(nGrey, nGrey, nGrey));
+        palette.setColor(group, QPalette::Window, BeforeFusion(Theme::c_rgbEdge));
         palette.setColor(group, QPalette::Highlight, Theme::c_rgbFocus);
     }
+    palette.setColor(QPalette::Disabled, QPalette::Window, BeforeFusion(Theme::c_rgbEdgeDisabled));
     return palette;
 }
 

@@ -42,7 +42,7 @@ QString g_checkBoxStyle = Theme::Resolve(
     "QCheckBox::indicator:focus{width:12px; height:12px; border:2px solid @focus@;}"
     "QCheckBox::indicator:checked:focus{border:2px solid @text@;}"
     "QCheckBox::indicator:checked{background:@accent@; image:url(:/OrviControl/icons/check.svg);}"
-    "QCheckBox::indicator:disabled{background:@button-disabled@; border:1px solid @button@;}"
+    "QCheckBox::indicator:disabled{background:@button-disabled@; border:1px solid @edge-disabled@;}"
     "QCheckBox::indicator:checked:disabled{image:url(:/OrviControl/icons/check-disabled.svg);}");
 
 QString g_doubleSpinBoxStyle = Theme::Resolve(

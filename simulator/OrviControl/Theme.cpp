@@ -20,11 +20,12 @@ struct SNamedColour
     QRgb rgb;
 };
 
-constexpr std::array<SNamedColour, 15> c_arrColours = {{
+constexpr std::array<SNamedColour, 16> c_arrColours = {{
     {"window", c_rgbWindow},
     {"field", c_rgbField},
     {"field-disabled", c_rgbFieldDisabled},
     {"edge", c_rgbEdge},
+    {"edge-disabled", c_rgbEdgeDisabled},
     {"text", c_rgbText},
     {"text-disabled", c_rgbTextDisabled},
     {"button", c_rgbButton},

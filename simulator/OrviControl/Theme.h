@@ -16,13 +16,14 @@ namespace Theme {
 
 /// @name Colours
 /// A dark theme around the entry fields' white on rgb(31,31,31). Every text has a contrast of 4.5 to 1 or
-/// more to what it stands on, and what outlines, marks or fills a control 3 to 1; disabled controls are
-/// exempt.
+/// more to what it stands on, and what outlines, marks or fills a control 3 to 1. Disabled
+/// controls are exempt; their outlines have 1.5 to 1.
 /// @{
 constexpr QRgb c_rgbWindow = qRgb(45, 45, 45);        ///< dialogs
 constexpr QRgb c_rgbField = qRgb(31, 31, 31);         ///< entry fields and menus
 constexpr QRgb c_rgbFieldDisabled = qRgb(40, 40, 40); ///< entry fields that accept no input
 constexpr QRgb c_rgbEdge = qRgb(130, 130, 130);       ///< outlines of fields, buttons and boxes
+constexpr QRgb c_rgbEdgeDisabled = qRgb(85, 85, 85);  ///< the same, where they accept no input
 constexpr QRgb c_rgbText = qRgb(255, 255, 255);       ///< all texts
 constexpr QRgb c_rgbTextDisabled = qRgb(120, 120, 120);
 constexpr QRgb c_rgbNote = qRgb(150, 150, 150); ///< texts in place of a content

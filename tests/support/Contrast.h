@@ -9,6 +9,8 @@
 /// What the Web Content Accessibility Guidelines 2.1 demand, level AA. Disabled controls are exempt there.
 inline constexpr double c_dTextContrast = 4.5;
 inline constexpr double c_dOutlineContrast = 3.0;
+/// Of outlines of controls that accept no input.
+inline constexpr double c_dDisabledContrast = 1.5;
 
 /// Relative luminance of an sRGB colour, as the guidelines define it.
 inline double Luminance(QRgb rgb)

@@ -67,7 +67,8 @@ enum class enState
 {
     enNormal,
     enHover,
-    enFocus
+    enFocus,
+    enDisabled
 };
 
 /// Makes a control as the dialogs do, in a window.
@@ -293,6 +294,7 @@ TestContrast::SShown::SShown(const FuncMakeControl& funcMake, enState state)
     dialog.resize(200, 120);
     pControl = funcMake(&dialog);
     pControl->move(c_rcControl.topLeft());
+    pControl->setDisabled(state == enState::enDisabled);
     if (pControl->minimumSize() != pControl->maximumSize())
         pControl->resize(c_rcControl.size());
     dialog.show();
@@ -311,7 +313,8 @@ TestContrast::SShown::SShown(const FuncMakeControl& funcMake, enState state)
 
 void TestContrast::AddControls(const std::vector<SControl>& vecControls, const QVector<enState>& vecStates)
 {
-    constexpr std::array<const char*, 3> c_arrNames = {"", ", below the mouse", ", with the focus"};
+    constexpr std::array<const char*, 4> c_arrNames = {"", ", below the mouse", ", with the focus",
+                                                       ", disabled"};
     for (const SControl& control : vecControls) {
         for (const enState state : vecStates)
             QTest::addRow("%s%s", control.szName, c_arrNames[std::size_t(state)])
@@ -330,7 +333,7 @@ void TestContrast::AddAllControls(const QVector<enState>& vecStates)
 
 void TestContrast::AnOutlineCanBeSeen_data()
 {
-    AddAllControls({enState::enNormal, enState::enHover, enState::enFocus});
+    AddAllControls({enState::enNormal, enState::enHover, enState::enFocus, enState::enDisabled});
 }
 
 void TestContrast::AnOutlineCanBeSeen()
@@ -340,7 +343,8 @@ void TestContrast::AnOutlineCanBeSeen()
     const SShown shown(funcMake, state);
     for (const QRect& rcSide : Sides(Outlined(*shown.pControl))) {
         const double dContrast = GreatestContrast(shown.image, rcSide, Theme::c_rgbWindow);
-        QVERIFY2(dContrast >= c_dOutlineContrast, qPrintable(QString::number(dContrast)));
+        const double dWanted = state == enState::enDisabled ? c_dDisabledContrast : c_dOutlineContrast;
+        QVERIFY2(dContrast >= dWanted, qPrintable(QString::number(dContrast)));
     }
 }
 
