@@ -73,7 +73,7 @@ void SetModes(CHand& hand, CMainWindow& window, const QString&)
     for (int i = 0; i < c_nProcessors; ++i) {
         hand.OpenRow(Tree(window), {i, 0});
         hand.Choose(Find::Named("resolution"), QStringLiteral("1920 × 1080"));
-        hand.Press(Find::Named("ok"));
+        hand.Confirm(Find::Named("ok"));
     }
 }
 
@@ -131,7 +131,7 @@ void ReadFindings(CHand& hand, CMainWindow&, const QString&)
 void WriteMode(CHand& hand, CMainWindow& window, const QString&)
 {
     hand.OpenRow(Tree(window), {0, 0});
-    hand.Press(Find::Named("ok"));
+    hand.Confirm(Find::Named("ok"));
 }
 
 void WriteModeInVain(CHand& hand, CMainWindow& window, const QString& strFile)
