@@ -75,6 +75,6 @@ void PageTours::Addresses(CTour& tour, CMainWindow& window)
     CDemoProjectConfigDlg dialogDemo(&page);
     tour.WithDialog(dialogDemo, [&] { tour.Picture(&dialogDemo, QStringLiteral("demo-project")); });
     page.CheckAddress(QStringLiteral("192.168.1.255"));
-    tour.Picture(&window, QStringLiteral("addresses"));
+    tour.Picture(&page, QStringLiteral("addresses"));
     page.CheckAddress(QString());
 }

@@ -264,7 +264,7 @@ void PageTours::Colour(CTour& tour, CMainWindow& window)
     CColourPage& page = *window.findChild<CColourPage*>();
     QCoreApplication::processEvents();
     page.View().WaitForBitmap();
-    tour.Picture(&window, QStringLiteral("colour"));
+    tour.Picture(&page, QStringLiteral("colour"));
     TourOfModes(tour, page);
     TourOfLook(tour, page);
     TourOfRegion(tour, page);

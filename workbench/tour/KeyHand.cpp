@@ -56,7 +56,12 @@ bool ReachRow(const QTreeView& tree, const QModelIndex& index)
         return false;
     if (!IsCurrent(tree, index))
         Key(Qt::Key_Home);
-    return KeyUntil(Qt::Key_Down, [&] { return IsCurrent(tree, index); });
+    if (!KeyUntil(Qt::Key_Down, [&] { return IsCurrent(tree, index); }))
+        return false;
+    // A list that gets the focus makes its first row the current one without selecting it.
+    if (!tree.selectionModel()->isSelected(index))
+        Key(Qt::Key_Space);
+    return tree.selectionModel()->isSelected(index);
 }
 
 } // namespace

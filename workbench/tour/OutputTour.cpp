@@ -231,7 +231,7 @@ void TourOfRateAndDepth(CTour& tour, COutputPage& page)
                QStringLiteral("the depth that was chosen did not reach the hardware"));
 }
 
-void TourOfBackground(CTour& tour, COutputPage& page, QWidget* pWorkbench)
+void TourOfBackground(CTour& tour, COutputPage& page)
 {
     const QString strFile = QDir(tour.Folder()).filePath(QStringLiteral("background.png"));
     tour.Check(DrawPicture(strFile), QStringLiteral("the picture %1 cannot be saved").arg(strFile));
@@ -250,19 +250,19 @@ void TourOfBackground(CTour& tour, COutputPage& page, QWidget* pWorkbench)
             tour.Picture(&dialog, QStringLiteral("background-%1").arg(strName));
             tour.Check(!page.Preview().Content().imgPicture.isNull(),
                        QStringLiteral("the page does not show the picture of %1").arg(strName));
-            tour.Picture(pWorkbench, QStringLiteral("output-%1").arg(strName));
+            tour.Picture(&page, QStringLiteral("output-%1").arg(strName));
         }
     });
 }
 
-void TourOfVanishedPicture(CTour& tour, COutputPage& page, QWidget* pWorkbench)
+void TourOfVanishedPicture(CTour& tour, COutputPage& page)
 {
     tour.Check(QFile::remove(page.PictureFile()), QStringLiteral("the stored picture cannot be removed"));
     page.Refresh();
     tour.Check(page.Preview().Content().bWarning, QStringLiteral("a vanished picture is not told"));
     CBackgroundImageDlg dialog(&page);
     tour.WithDialog(dialog, [&] { tour.Picture(&dialog, QStringLiteral("background-vanished")); });
-    tour.Picture(pWorkbench, QStringLiteral("output-vanished"));
+    tour.Picture(&page, QStringLiteral("output-vanished"));
 }
 
 void TourOfCorrection(CTour& tour, COutputPage& page)
@@ -296,7 +296,7 @@ void PageTours::Output(CTour& tour, CMainWindow& window)
     TourOfCanvas(tour, page);
     TourOfRateAndDepth(tour, page);
     TourOfCorrection(tour, page);
-    TourOfBackground(tour, page, &window);
-    TourOfVanishedPicture(tour, page, &window);
+    TourOfBackground(tour, page);
+    TourOfVanishedPicture(tour, page);
     ChangeSender([&](SSimulatedSender& sender) { sender = senderBefore; });
 }

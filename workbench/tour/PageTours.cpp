@@ -25,8 +25,9 @@ namespace PageTours {
 
 void Simulation(CTour& tour, CMainWindow& window)
 {
-    tour.Picture(&window, QStringLiteral("simulation"));
-    const auto* pScroll = window.findChild<CSimulationPage*>()->findChild<QScrollArea*>();
+    auto* pPage = window.findChild<CSimulationPage*>();
+    tour.Picture(pPage, QStringLiteral("simulation"));
+    const auto* pScroll = pPage->findChild<QScrollArea*>();
     tour.Picture(pScroll->widget(), QStringLiteral("simulation-all"));
 }
 
