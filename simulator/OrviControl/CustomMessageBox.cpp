@@ -93,12 +93,10 @@ CCustomMessageBox::CCustomMessageBox(QWidget* pParent, const QString& strText, c
     setWindowTitle(pParent == nullptr ? QGuiApplication::applicationDisplayName()
                                       : pParent->window()->windowTitle());
     auto* pMessage = new QHBoxLayout;
-    pMessage->setSpacing(c_nSpacing);
     pMessage->addWidget(CreateIcon(this, szIcon), 0, Qt::AlignTop);
     pMessage->addWidget(CreateText(this, strText), 1);
 
     auto* pRow = new QHBoxLayout;
-    pRow->setSpacing(c_nSpacing);
     pRow->addStretch();
     for (const SButtonText& row : c_arrButtons) {
         if (buttons.testFlag(row.button))
@@ -108,7 +106,7 @@ CCustomMessageBox::CCustomMessageBox(QWidget* pParent, const QString& strText, c
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(c_nMargin, c_nMargin, c_nMargin, c_nMargin);
-    pLayout->setSpacing(c_nSpacing);
+    pLayout->setSpacing(c_nSpacing); // of the rows too
     pLayout->addLayout(pMessage);
     pLayout->addLayout(pRow);
     pLayout->setSizeConstraint(QLayout::SetFixedSize);

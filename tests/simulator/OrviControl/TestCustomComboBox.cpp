@@ -26,6 +26,7 @@ private Q_SLOTS:
     void SetItemCheckedMarksOneItem();
     void SetItemCheckedWithoutAMenuDoesNothing();
     void ASecondMenuReplacesTheFirst();
+    void TheSameMenuGivenTwiceAnswersOnce();
     void AMenuOfSetMenuOfThePushButtonOpensAndLeavesTheTextAlone();
     void KeysOpenTheMenu_data();
     void KeysOpenTheMenu();
@@ -165,6 +166,15 @@ void TestCustomComboBox::ASecondMenuReplacesTheFirst()
     pOther->actions().at(0)->trigger();
     QCOMPARE(spyActivated.size(), 1);
     QCOMPARE(m_pBox->text(), QStringLiteral("other"));
+}
+
+void TestCustomComboBox::TheSameMenuGivenTwiceAnswersOnce()
+{
+    m_pBox->SetMenu(m_pMenu, true, true, true);
+    m_pBox->SetMenu(m_pMenu, true, true, true);
+    const QSignalSpy spyActivated(m_pBox, &CCustomComboBox::Activated);
+    m_pMenu->actions().at(0)->trigger();
+    QCOMPARE(spyActivated.size(), 1);
 }
 
 void TestCustomComboBox::AMenuOfSetMenuOfThePushButtonOpensAndLeavesTheTextAlone()

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void NothingOfALongTextIsCut_data();
     void NothingOfALongTextIsCut();
     void MarkupIsShownAsItStands();
+    void IconTextAndButtonsStandApart();
 
 private:
     /// Shows a question and runs an operation on the box while it is open.
@@ -209,6 +210,27 @@ void TestCustomMessageBox::MarkupIsShownAsItStands()
             if (pLabel->text() == strText)
                 QCOMPARE(pLabel->textFormat(), Qt::PlainText);
         }
+    });
+}
+
+void TestCustomMessageBox::IconTextAndButtonsStandApart()
+{
+    constexpr int c_nGap = 16;
+    constexpr int c_nMargin = 18;
+    Question(QStringLiteral("Go on?"), [](CCustomMessageBox& box) {
+        const QList<QLabel*> listLabels = box.findChildren<QLabel*>();
+        const QRect rcIcon = listLabels.at(0)->geometry();
+        const QRect rcText = listLabels.at(1)->geometry();
+        const QRect rcYes = box.findChild<QPushButton*>(QStringLiteral("messageButton2"))->geometry();
+        const QRect rcNo = box.findChild<QPushButton*>(QStringLiteral("messageButton4"))->geometry();
+        QCOMPARE(rcIcon.topLeft(), QPoint(c_nMargin, c_nMargin));
+        QCOMPARE(rcText.left() - rcIcon.right() - 1, c_nGap);
+        QCOMPARE(rcYes.top() - rcText.bottom() - 1, c_nGap);
+        QCOMPARE(rcNo.left() - rcYes.right() - 1, c_nGap);
+        QCOMPARE(box.height() - rcYes.bottom() - 1, c_nMargin);
+        QCOMPARE(box.width() - rcText.right() - 1, c_nMargin);
+        // The row stands in the middle.
+        QVERIFY(qAbs(rcYes.left() - (box.width() - rcNo.right() - 1)) <= 1);
     });
 }
 
