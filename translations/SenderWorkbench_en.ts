@@ -3514,10 +3514,6 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
         <translation>Save, save as</translation>
     </message>
     <message>
-        <source>撤销、重做工程的任何更改</source>
-        <translation>Undo and redo any change of the project</translation>
-    </message>
-    <message>
         <source>显示页面</source>
         <translation>Show a page</translation>
     </message>
@@ -3538,20 +3534,12 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
         <translation>Lists of senders and addresses: remove the selected rows</translation>
     </message>
     <message>
-        <source>地址列表：修改地址</source>
-        <translation>List of addresses: change the address</translation>
-    </message>
-    <message>
         <source>从列表到标签、页面、主机调用记录；在色度图上从点到点</source>
         <translation>From list to tabs, page and journal; on the chart from point to point</translation>
     </message>
     <message>
         <source>所选行的菜单</source>
         <translation>Menu of the selected row</translation>
-    </message>
-    <message>
-        <source>本页</source>
-        <translation>This page</translation>
     </message>
     <message>
         <source>在左边选择一个输入，双击它，设置它的 EDID。</source>
@@ -3582,12 +3570,40 @@ Delete addresses that are no longer in use first, or check this computer&apos;s 
         <translation>Keys</translation>
     </message>
     <message>
-        <source>EDID 页：编辑字段、粘贴 EDID、发送器的存储器、下一处不同</source>
-        <translation>Page EDID: edit a field, paste an EDID, the sender&apos;s memory, the next difference</translation>
-    </message>
-    <message>
         <source>保存工程。没有画面时，看下面的主机调用记录：失败的写入有红色标记。</source>
         <translation>Save the project. Without a picture, look at the journal below: failed writes have a red mark.</translation>
+    </message>
+    <message>
+        <source>撤销、重做工程的任何更改；在 EDID 页先是块的更改</source>
+        <translation>Undo and redo any change of the project; on the page EDID of the block first</translation>
+    </message>
+    <message>
+        <source>主机调用记录：复制所选的行</source>
+        <translation>Journal of host calls: copy the selected rows</translation>
+    </message>
+    <message>
+        <source>地址列表：修改地址；EDID 页：编辑字段</source>
+        <translation>List of addresses: change the address; page EDID: edit a field</translation>
+    </message>
+    <message>
+        <source>EDID 页：打开文件、粘贴 EDID、显示发送器的存储器</source>
+        <translation>Page EDID: open a file, paste an EDID, show the sender&apos;s memory</translation>
+    </message>
+    <message>
+        <source>EDID 页：与文件、粘贴的文本、发送器的存储器比较</source>
+        <translation>Page EDID: compare with a file, pasted text, the sender&apos;s memory</translation>
+    </message>
+    <message>
+        <source>EDID 页：下一处、上一处不同</source>
+        <translation>Page EDID: the next and the previous difference</translation>
+    </message>
+    <message>
+        <source>绘制可行区域时：闭合、去掉一个角、放弃</source>
+        <translation>While a feasible region is drawn: close, take back a corner, give up</translation>
+    </message>
+    <message>
+        <source>本页、退出</source>
+        <translation>This page, exit</translation>
     </message>
 </context>
 <context>

@@ -75,7 +75,9 @@ void CMainMenu::BuildProject()
     pMenu->addAction(tr("另存为(&A)..."), pProject, &CProjectActions::ChooseAndSave,
                      QKeySequence(QStringLiteral("Ctrl+Shift+S")));
     pMenu->addSeparator();
-    pMenu->addAction(tr("退出(&X)"), &m_window, &QWidget::close, QKeySequence::Quit);
+    pMenu->addAction(tr("退出(&X)"), &m_window, &QWidget::close,
+                     // The standard key exists on some desktops alone.
+                     QKeySequence(QStringLiteral("Ctrl+Q")));
 }
 
 void CMainMenu::FillRecentFiles(QMenu* pMenu)

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <type_traits>
 
 namespace {
@@ -27,6 +28,20 @@ constexpr std::array<QStyle::PrimitiveElement, 4> c_arrOutlined = {
 
 constexpr std::array<QStyle::ComplexControl, 3> c_arrOutlinedControls = {
     QStyle::CC_ComboBox, QStyle::CC_SpinBox, QStyle::CC_Slider};
+
+/// The sign of a message.
+struct SSign
+{
+    QStyle::StandardPixmap sign;
+    const char* szFile;
+};
+
+constexpr SSign c_arrSigns[] = {
+    {QStyle::SP_MessageBoxInformation, ":/OrviControl/icons/information.svg"},
+    {QStyle::SP_MessageBoxQuestion, ":/OrviControl/icons/question.svg"},
+    {QStyle::SP_MessageBoxWarning, ":/OrviControl/icons/warning.svg"},
+    {QStyle::SP_MessageBoxCritical, ":/OrviControl/icons/critical.svg"},
+};
 
 template <class TArray, class TValue>
 bool Contains(const TArray& arrValues, TValue value)
@@ -152,4 +167,13 @@ void COutlinedStyle::drawComplexControl(ComplexControl control, const QStyleOpti
         Draw(pOption);
     if (control == CC_ComboBox && IsFocusShown(*pOption))
         DrawFocusInside(*pPainter, pOption->rect);
+}
+
+QIcon COutlinedStyle::standardIcon(StandardPixmap sign, const QStyleOption* pOption,
+                                   const QWidget* pWidget) const
+{
+    const auto* const pSign = std::find_if(std::cbegin(c_arrSigns), std::cend(c_arrSigns),
+                                           [sign](const SSign& known) { return known.sign == sign; });
+    return pSign == std::cend(c_arrSigns) ? QProxyStyle::standardIcon(sign, pOption, pWidget)
+                                          : QIcon(QString::fromLatin1(pSign->szFile));
 }

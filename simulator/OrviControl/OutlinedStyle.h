@@ -7,6 +7,7 @@
 
 /// Fusion on dark windows. Fusion draws the outlines of fields, buttons and boxes in a darker colour than the
 /// window's, which cannot be seen there; here they are lighter. Texts and fillings keep their colours.
+/// Messages have the kit's signs, which are sharp at any scale.
 class COutlinedStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -18,6 +19,8 @@ public:
                        const QWidget* pWidget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* pOption, QPainter* pPainter,
                             const QWidget* pWidget) const override;
+    QIcon standardIcon(StandardPixmap sign, const QStyleOption* pOption,
+                       const QWidget* pWidget) const override;
 
 private:
     QPalette Outlined(const QPalette& palette) const;
