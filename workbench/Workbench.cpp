@@ -100,5 +100,6 @@ int RunTour(const SWorkbenchOptions& options)
         TourOfPages(tour, language, settings);
         PageTours::Journeys(tour, language, settings);
     }
+    tour.LeaveWindows();
     return Report(tour);
 }

@@ -1,11 +1,13 @@
 #include "workbench/tour/Tour.h"
 
 #include "host/OrviControl/CustomMessageBox.h"
+#include "workbench/WorkbenchPage.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
 #include <QEvent>
+#include <QFile>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPushButton>
@@ -14,6 +16,18 @@
 #include <cstdlib>
 
 namespace {
+
+/// The page that a picture shows, or the dialog.
+QString WindowOf(QWidget& widget)
+{
+    for (QWidget* pWidget = &widget; pWidget != nullptr; pWidget = pWidget->parentWidget())
+        if (qobject_cast<CWorkbenchPage*>(pWidget) != nullptr || qobject_cast<QDialog*>(pWidget) != nullptr)
+            return QString::fromLatin1(pWidget->metaObject()->className());
+    for (const CWorkbenchPage* pPage : widget.window()->findChildren<CWorkbenchPage*>())
+        if (pPage->isVisible())
+            return QString::fromLatin1(pPage->metaObject()->className());
+    return QString::fromLatin1(widget.metaObject()->className());
+}
 
 /// Longest time between two pictures, ms: a commit with a progress bar takes a second in demo mode.
 constexpr int c_nPatience = 120000;
@@ -55,6 +69,17 @@ void CTour::Picture(QWidget* pWindow, const QString& strName)
     Check(!picture.isNull() && picture.save(QDir(m_strFolder).filePath(strFile)),
           QStringLiteral("the picture %1 cannot be saved").arg(strFile));
     m_listPictures.append(strFile);
+    m_listWindows.append(WindowOf(*pWindow));
+}
+
+void CTour::LeaveWindows()
+{
+    QByteArray lines;
+    for (int i = 0; i < m_listPictures.size(); ++i)
+        lines += QStringLiteral("%1 %2\n").arg(m_listPictures[i], m_listWindows[i]).toUtf8();
+    QFile file(QDir(m_strFolder).filePath(QStringLiteral("windows.txt")));
+    Check(file.open(QIODevice::WriteOnly) && file.write(lines) == lines.size(),
+          QStringLiteral("the list of the windows cannot be saved"));
 }
 
 void CTour::Check(bool bHolds, const QString& strWhat)

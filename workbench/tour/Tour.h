@@ -42,6 +42,9 @@ public:
 
     QStringList Failures() const { return m_listFailures; }
     QStringList Pictures() const { return m_listPictures; }
+    /// Writes `windows.txt`: a line for each picture with its file and the window that it shows, a page of
+    /// the workbench or a dialog.
+    void LeaveWindows();
 
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
@@ -57,6 +60,7 @@ private:
     bool m_bMessagesLeft = false;
     QStringList m_listFailures;
     QStringList m_listPictures;
+    QStringList m_listWindows; ///< by picture
 };
 
 #endif // WORKBENCH_TOUR_TOUR_H
