@@ -67,6 +67,16 @@ function(sender_add_test NAME)
     endif()
 endfunction()
 
+# sender_add_scaled_tests(NAME): runs a test that looks at windows on screens of 150 and 200 per cent too.
+function(sender_add_scaled_tests NAME)
+    foreach(SCALE 1.5 2)
+        add_test(NAME ${NAME}_at_${SCALE} COMMAND ${NAME})
+        get_test_property(${NAME} ENVIRONMENT ENVIRONMENT)
+        set_tests_properties(${NAME}_at_${SCALE} PROPERTIES
+            TIMEOUT 300 ENVIRONMENT "${ENVIRONMENT};QT_SCALE_FACTOR=${SCALE}")
+    endforeach()
+endfunction()
+
 # sender_add_benchmark(NAME SOURCES ... LINK ...): build/<preset>/bench/NAME, run by ./run --bench NAME.
 function(sender_add_benchmark NAME)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})

@@ -1,56 +1,7 @@
-#include "host/OrviControl/CustomComboBox.h"
 #include "tests/gui/AllDialogs.h"
+#include "tests/support/CutTexts.h"
 
-#include <QCheckBox>
-#include <QLabel>
-#include <QPushButton>
 #include <QtTest>
-
-namespace {
-
-/// Room that a combo box keeps for its arrow, a button for its frame, and a check box for its mark, pixels.
-constexpr int c_nArrowRoom = 25;
-constexpr int c_nFrameRoom = 10;
-constexpr int c_nMarkRoom = 20;
-
-bool LabelFits(const QLabel& label)
-{
-    if (label.wordWrap())
-        return label.heightForWidth(label.width()) <= label.height();
-    return label.fontMetrics().horizontalAdvance(label.text()) <= label.width();
-}
-
-int RoomBesideText(const QAbstractButton& button)
-{
-    if (qobject_cast<const QCheckBox*>(&button) != nullptr)
-        return c_nMarkRoom;
-    return qobject_cast<const CCustomComboBox*>(&button) == nullptr ? c_nFrameRoom : c_nArrowRoom;
-}
-
-bool ButtonFits(const QAbstractButton& button)
-{
-    return button.fontMetrics().horizontalAdvance(button.text()) <= button.width() - RoomBesideText(button);
-}
-
-/// The texts that are cut, or that lie outside the window.
-QStringList CutTexts(const QWidget& window)
-{
-    QStringList listCut;
-    const auto Inside = [&window](const QWidget& widget) {
-        return window.rect().contains(QRect(widget.mapTo(&window, QPoint()), widget.size()));
-    };
-    for (const QLabel* pLabel : window.findChildren<QLabel*>()) {
-        if (pLabel->isVisible() && !(LabelFits(*pLabel) && Inside(*pLabel)))
-            listCut.append(pLabel->text());
-    }
-    for (const QAbstractButton* pButton : window.findChildren<QAbstractButton*>()) {
-        if (pButton->isVisible() && !(ButtonFits(*pButton) && Inside(*pButton)))
-            listCut.append(pButton->text());
-    }
-    return listCut;
-}
-
-} // namespace
 
 /// No dialog can grow, so its texts must fit as they are, in Chinese and in the library's English.
 class TestDialogTextsFit : public QObject
@@ -86,7 +37,7 @@ void TestDialogTextsFit::NoTextIsCut()
     CRecordingHost host;
     const std::unique_ptr<QDialog> pDialog = funcMake(host);
     pDialog->show();
-    QCOMPARE(CutTexts(*pDialog), QStringList());
+    QCOMPARE(CutTexts::Of(*pDialog), QStringList());
 }
 
 void TestDialogTextsFit::NoDialogIsResizable_data()
