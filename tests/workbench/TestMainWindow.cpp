@@ -7,6 +7,7 @@
 #include "workbench/JournalDock.h"
 #include "workbench/PageTabs.h"
 #include "workbench/ProjectActions.h"
+#include "workbench/colour/MeasuredWall.h"
 #include "workbench/edid/EdidPage.h"
 #include "workbench/edid/FieldTree.h"
 #include "workbench/edid/HexView.h"
@@ -347,29 +348,43 @@ QString PartWithFocus(CMainWindow& window)
     return QStringLiteral("page");
 }
 
-/// A page about an input whose memory holds a block, and the journal below.
-void ShowFilledPage(CMainWindow& window, int nPage)
+/// A page about an input whose memory holds a block, with a measured wall, and the journal below.
+/// @param nTab tab of the page, for a page with tabs
+void ShowFilledPage(CMainWindow& window, int nPage, int nTab)
 {
     const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
     QVERIFY(CSimulator::Instance().Hardware().SetEdidMemory(0, nInterfaceId, QByteArray(128, 1)));
     window.Tree().Select({0, nInterfaceId});
     window.ShowPage(window.Pages()[std::size_t(nPage)]);
     window.Journal().show();
+    const QByteArray wall("module,Rx,Ry,RY,Gx,Gy,GY,Bx,By,BY\n"
+                          "1,0.69,0.3,240,0.17,0.74,690,0.13,0.06,70\n"
+                          "2,0.69,0.31,240,0.17,0.73,690,0.13,0.06,70\n");
+    QVERIFY(!window.findChild<CMeasuredWall*>()->Import(wall));
+    if (auto* pTabs = window.Pages()[std::size_t(nPage)]->findChild<QTabWidget*>())
+        pTabs->setCurrentIndex(nTab);
 }
 
 void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal_data()
 {
     QTest::addColumn<int>("page");
-    for (int i = 0; i < 5; ++i)
-        QTest::addRow("page %d", i) << i;
+    QTest::addColumn<int>("tab");
+    QTest::newRow("EDID") << 0 << 0;
+    QTest::newRow("colour: groups") << 1 << 0;
+    QTest::newRow("colour: readings") << 1 << 1;
+    QTest::newRow("colour: measured") << 1 << 2;
+    QTest::newRow("output") << 2 << 0;
+    QTest::newRow("addresses") << 3 << 0;
+    QTest::newRow("simulation") << 4 << 0;
 }
 
 void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal()
 {
     constexpr int c_nMostStops = 100;
     QFETCH(int, page);
+    QFETCH(int, tab);
     CWorkbenchFixture workbench;
-    ShowFilledPage(workbench.window, page);
+    ShowFilledPage(workbench.window, page, tab);
     workbench.Activate();
     workbench.window.Tree().setFocus();
     QStringList listParts;
@@ -391,20 +406,24 @@ void TestMainWindow::EachStopOfTabHasAName_data()
 
 void TestMainWindow::EachStopOfTabHasAName()
 {
+    constexpr int c_nMostStops = 100;
     QFETCH(int, page);
+    QFETCH(int, tab);
     CWorkbenchFixture workbench;
-    ShowFilledPage(workbench.window, page);
+    ShowFilledPage(workbench.window, page, tab);
     workbench.Activate();
     workbench.window.Tree().setFocus();
-    do {
-        const QWidget* pFocus = QApplication::focusWidget();
+    for (int i = 0; i < c_nMostStops; ++i) {
+        QWidget* pFocus = QApplication::focusWidget();
         // Of tabs, each has a name.
-        const bool bTabs = qobject_cast<const QTabBar*>(pFocus) != nullptr;
-        const QString strName =
-            QAccessible::queryAccessibleInterface(QApplication::focusWidget())->text(QAccessible::Name);
+        const bool bTabs = qobject_cast<QTabBar*>(pFocus) != nullptr;
+        const QString strName = QAccessible::queryAccessibleInterface(pFocus)->text(QAccessible::Name);
         QVERIFY2(bTabs || !strName.isEmpty(), pFocus->metaObject()->className());
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    } while (QApplication::focusWidget() != &workbench.window.Tree());
+        QTest::keyClick(pFocus, Qt::Key_Tab);
+        if (QApplication::focusWidget() == &workbench.window.Tree())
+            return;
+    }
+    QFAIL("Tab does not come back to the tree");
 }
 
 void TestMainWindow::ControlAndADigitShowAPage()

@@ -109,6 +109,7 @@ QWidget* CWallPanel::CreateChoices()
 
 void CWallPanel::CreateTable()
 {
+    m_pTable->setTabKeyNavigation(false);
     auto* pSorted = new QSortFilterProxyModel(this);
     pSorted->setSourceModel(m_pModel);
     pSorted->setSortRole(CModuleModel::c_nSortRole);
