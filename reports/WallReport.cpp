@@ -68,7 +68,7 @@ public:
     /// The first cell takes two shares of the width, the others one each.
     void Row(const QStringList& listCells)
     {
-        const int nShare = m_nWidth / (std::max(listCells.size(), 2) + 1);
+        const int nShare = m_nWidth / (std::max(int(listCells.size()), 2) + 1);
         for (int i = 0; i < listCells.size(); ++i) {
             const bool bLast = i + 1 == listCells.size();
             const int nLeft = i == 0 ? 0 : (i + 1) * nShare;

@@ -143,7 +143,7 @@ SChromaGroupInfo StandardGroup(const QString& strLabel)
 
 SChromaGroupInfo WrittenGroup(const QString& strGroup)
 {
-    const int nColon = strGroup.lastIndexOf(QLatin1Char(':'));
+    const int nColon = int(strGroup.lastIndexOf(QLatin1Char(':')));
     if (nColon <= 0)
         throw CToolError(
             QStringLiteral("'%1' is not a group; write NAME:x,y;x,y;x,y;x,y for red, green, blue and white")

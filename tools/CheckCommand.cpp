@@ -22,8 +22,8 @@ using Findings = std::vector<Edid::SFinding>;
 Findings FindingsOf(const QByteArray& edid)
 {
     Findings vecFindings;
-    Edid::Check(reinterpret_cast<const quint8*>(edid.constData()), edid.size(), {QDate::currentDate().year()},
-                vecFindings);
+    Edid::Check(reinterpret_cast<const quint8*>(edid.constData()), int(edid.size()),
+                {QDate::currentDate().year()}, vecFindings);
     return vecFindings;
 }
 

@@ -25,7 +25,7 @@ bool IsCoordinate(double dValue)
 std::vector<CPointEx<float>> ParseTriangle(const QString& strGamut)
 {
     // Counted first: a surplus or a missing point is the likelier slip.
-    const int nPoints = strGamut.count(QLatin1Char(';')) + 1;
+    const int nPoints = int(strGamut.count(QLatin1Char(';'))) + 1;
     if (nPoints != c_nCorners)
         throw CToolError(QStringLiteral("gamut '%1' has %2 points; write three as x,y;x,y;x,y")
                              .arg(strGamut)

@@ -15,7 +15,7 @@ namespace {
 /// One `FIELD=VALUE`.
 void Set(QByteArray& edid, const QString& strAssignment)
 {
-    const int nEquals = strAssignment.indexOf(QLatin1Char('='));
+    const int nEquals = int(strAssignment.indexOf(QLatin1Char('=')));
     if (nEquals < 0)
         throw CToolError(QStringLiteral("'%1' is no assignment; write FIELD=VALUE, for example name=Lobby")
                              .arg(strAssignment));

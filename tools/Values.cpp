@@ -1,5 +1,6 @@
 #include "tools/Values.h"
 
+#include "host/QtCompat.h"
 #include "tools/Arguments.h"
 #include "tools/Report.h"
 
@@ -19,7 +20,7 @@ QVector<SValue> ReadStandardInput()
     if (!file.open(stdin, QIODevice::ReadOnly))
         throw CToolError(QStringLiteral("cannot read standard input: %1").arg(file.errorString()));
     QTextStream stream(&file);
-    stream.setCodec("UTF-8");
+    QtCompat::ReadUtf8(stream);
     QVector<SValue> vecValues;
     QString strLine;
     for (int nLine = 1; stream.readLineInto(&strLine); ++nLine) {

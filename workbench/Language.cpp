@@ -1,7 +1,8 @@
 #include "workbench/Language.h"
 
+#include "host/QtCompat.h"
+
 #include <QCoreApplication>
-#include <QLibraryInfo>
 
 namespace {
 
@@ -60,8 +61,7 @@ void CLanguage::InstallTranslators()
         if (row.language != m_language)
             continue;
         auto pTranslator = std::make_unique<QTranslator>();
-        const QString strFolder =
-            row.bOfQt ? QLibraryInfo::location(QLibraryInfo::TranslationsPath) : QString();
+        const QString strFolder = row.bOfQt ? QtCompat::TranslationsFolder() : QString();
         if (!pTranslator->load(QString::fromLatin1(row.szFile), strFolder)) {
             // Without Qt's translations everything works; its buttons are English.
             if (!row.bOfQt)

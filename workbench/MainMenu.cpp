@@ -64,20 +64,22 @@ void CMainMenu::BuildProject()
     CProjectActions* pProject = m_parts.pProject;
     QMenu* pMenu = NewMenu(tr("工程(&P)"));
     QMenu* pNew = pMenu->addMenu(tr("新建(&N)"));
-    pNew->addAction(tr("演示发送器(&D)"), pProject, &CProjectActions::NewDemo, QKeySequence::New);
+    pNew->addAction(tr("演示发送器(&D)"), pProject, &CProjectActions::NewDemo)
+        ->setShortcut(QKeySequence::New);
     pNew->addAction(tr("所有类型的发送器(&A)"), pProject, &CProjectActions::NewCatalogue);
     pNew->addAction(tr("空工程(&E)"), pProject, &CProjectActions::NewEmpty);
-    pMenu->addAction(tr("打开(&O)..."), pProject, &CProjectActions::ChooseAndOpen, QKeySequence::Open);
+    pMenu->addAction(tr("打开(&O)..."), pProject, &CProjectActions::ChooseAndOpen)
+        ->setShortcut(QKeySequence::Open);
     QMenu* pRecent = pMenu->addMenu(tr("最近的工程(&R)"));
     connect(pRecent, &QMenu::aboutToShow, this, [this, pRecent] { FillRecentFiles(pRecent); });
     pMenu->addSeparator();
-    pMenu->addAction(tr("保存(&S)"), pProject, &CProjectActions::Save, QKeySequence::Save);
-    pMenu->addAction(tr("另存为(&A)..."), pProject, &CProjectActions::ChooseAndSave,
-                     QKeySequence(QStringLiteral("Ctrl+Shift+S")));
+    pMenu->addAction(tr("保存(&S)"), pProject, &CProjectActions::Save)->setShortcut(QKeySequence::Save);
+    pMenu->addAction(tr("另存为(&A)..."), pProject, &CProjectActions::ChooseAndSave)
+        ->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+S")));
     pMenu->addSeparator();
-    pMenu->addAction(tr("退出(&X)"), &m_window, &QWidget::close,
-                     // The standard key exists on some desktops alone.
-                     QKeySequence(QStringLiteral("Ctrl+Q")));
+    // The standard key exists on some desktops alone.
+    pMenu->addAction(tr("退出(&X)"), &m_window, &QWidget::close)
+        ->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
 }
 
 void CMainMenu::FillRecentFiles(QMenu* pMenu)
@@ -112,9 +114,9 @@ void CMainMenu::BuildView()
     int nPage = 0;
     for (CWorkbenchPage* pPage : *m_parts.pPages) {
         ++nPage;
-        pMenu->addAction(
-            QStringLiteral("&%1 %2").arg(nPage).arg(Escaped(pPage->Title())), this,
-            [this, pPage] { Q_EMIT PageWanted(pPage); }, QKeySequence(QStringLiteral("Ctrl+%1").arg(nPage)));
+        QAction* pAction = pMenu->addAction(QStringLiteral("&%1 %2").arg(nPage).arg(Escaped(pPage->Title())),
+                                            this, [this, pPage] { Q_EMIT PageWanted(pPage); });
+        pAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(nPage)));
     }
     pMenu->addSeparator();
     QAction* pJournal = m_parts.pJournal->toggleViewAction();
@@ -137,7 +139,8 @@ void CMainMenu::BuildLanguages()
 void CMainMenu::BuildHelp()
 {
     QMenu* pMenu = NewMenu(tr("帮助(&H)"));
-    pMenu->addAction(tr("按键和步骤(&K)"), this, &CMainMenu::ShowKeys, QKeySequence::HelpContents);
+    pMenu->addAction(tr("按键和步骤(&K)"), this, &CMainMenu::ShowKeys)
+        ->setShortcut(QKeySequence::HelpContents);
     pMenu->addAction(tr("关于(&A)..."), this, &CMainMenu::ShowAbout);
 }
 

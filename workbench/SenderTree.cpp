@@ -244,7 +244,7 @@ void CSenderTree::InsertMissing()
         insertTopLevelItems(nRow, listNew);
         for (QTreeWidgetItem* pItem : qAsConst(listNew))
             pItem->setExpanded(true);
-        nRow += listNew.size();
+        nRow += int(listNew.size());
         listNew.clear();
     };
     for (const SSimulatedSender& sender : Senders()) {

@@ -1,3 +1,4 @@
+#include "host/QtCompat.h"
 #include "simulator/OrviControl/Theme.h"
 #include "workbench/Workbench.h"
 
@@ -75,8 +76,7 @@ int main(int argc, char* argv[])
     NameProgram();
     if (AsksAboutProgram(argc, argv))
         ReadOptions(QCoreApplication(argc, argv));
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QtCompat::EnableHighDpi();
     const QApplication application(argc, argv);
     QApplication::setStyle(Theme::CreateStyle());
     QApplication::setPalette(Theme::Palette());

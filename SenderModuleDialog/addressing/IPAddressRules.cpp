@@ -133,15 +133,15 @@ unsigned int LastLocalAddressIn(const Networks& networks, const QList<QHostAddre
 SEntry SplitEntry(const QString& strEntry)
 {
     // A missing parenthesis is found at -1, and Qt takes a negative length for all that follows.
-    const int nOpen = strEntry.indexOf(QLatin1Char('('));
-    const int nClose = strEntry.indexOf(QLatin1Char(')'));
+    const int nOpen = int(strEntry.indexOf(QLatin1Char('(')));
+    const int nClose = int(strEntry.indexOf(QLatin1Char(')')));
     return {strEntry.left(nOpen), strEntry.mid(nOpen + 1, nClose - nOpen - 1)};
 }
 
 QString EntryWithDefaultName(const QString& strEntry)
 {
-    const int nOpen = strEntry.indexOf(QLatin1Char('('));
-    const int nClose = strEntry.indexOf(QLatin1Char(')'));
+    const int nOpen = int(strEntry.indexOf(QLatin1Char('(')));
+    const int nClose = int(strEntry.indexOf(QLatin1Char(')')));
     if (nOpen < 0 || nClose != nOpen + 1)
         return strEntry;
     const QString strAddress = strEntry.left(nOpen);

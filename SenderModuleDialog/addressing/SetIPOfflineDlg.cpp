@@ -117,8 +117,8 @@ void CSetIPOfflineDlg::InitBatchRows(QGridLayout* pGrid)
     HostAccess::ConfigData().GetSpecifiedIPs(listStored);
     m_pCountSpinBox = new CCustomSpinBox(0, this);
     m_pCountSpinBox->setFixedSize(DialogFrame::c_sizeSmallField);
-    m_pCountSpinBox->SetMinMax(1, IPAddressRules::c_nListLimit - listStored.size());
-    m_pCountSpinBox->setValue(FirstBatchSize(listStored.size()));
+    m_pCountSpinBox->SetMinMax(1, IPAddressRules::c_nListLimit - int(listStored.size()));
+    m_pCountSpinBox->setValue(FirstBatchSize(int(listStored.size())));
     m_pIPEdit = AddressDialogs::CreateAddressField(this);
     AddRow(pGrid, CCustomDialog::tr("添加数量"), m_pCountSpinBox, "count");
     AddRow(pGrid, CCustomDialog::tr("起始IP地址"), m_pIPEdit, "address");

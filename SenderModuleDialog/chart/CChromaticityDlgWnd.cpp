@@ -131,7 +131,7 @@ void CChromaticityDlgWnd::SetSize(int nWidth, int nHeight)
 
 CChromaticityDlgWndPrivate::CChromaticityDlgWndPrivate(CChromaticityDlgWnd& chart)
     : m_chart(chart)
-    , m_nBoundarySize(chart.m_pGamut->GetQPointFData().size())
+    , m_nBoundarySize(int(chart.m_pGamut->GetQPointFData().size()))
     , m_pStore(MakeStore())
     , m_solver(*chart.m_pGamut)
     , m_cctCurve(*chart.m_pCct)
@@ -139,7 +139,7 @@ CChromaticityDlgWndPrivate::CChromaticityDlgWndPrivate(CChromaticityDlgWnd& char
 
 int CChromaticityDlgWndPrivate::BoundaryCount() const
 {
-    return std::min(m_nBoundarySize, m_chart.m_pGamut->GetQPointFData().size());
+    return std::min(m_nBoundarySize, int(m_chart.m_pGamut->GetQPointFData().size()));
 }
 
 void CChromaticityDlgWnd::SetBackgroundColor(QColor color)

@@ -213,7 +213,7 @@ bool CCCT2ColorCoord::SearchNearestTwoPoint(QPointF uvcolorCoord, sCIE1931* Near
 void CCCT2ColorCoord::FindPair(QPointF uvcolorCoord, sCIE1931* pPair) const
 {
     const sCIE1931* const pRows = m_sColorCoordTables.constData();
-    const int nCount = m_sColorCoordTables.size();
+    const int nCount = int(m_sColorCoordTables.size());
     const bool bStandard = m_pSearch != nullptr && m_pSearch->IsFor(m_sColorCoordTables);
     const SNearestRow end =
         bStandard ? m_pSearch->Find(uvcolorCoord) : WalkToNearestRow(uvcolorCoord, pRows, nCount);

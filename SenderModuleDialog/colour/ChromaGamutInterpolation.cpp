@@ -52,12 +52,12 @@ CChromaGamutInterpolation::SFloatOutline CChromaGamutInterpolation::UseFloatOutl
     if (IsStandard()) {
         ++m_nUsesToAppend;
         const QVector<CPointEx<float>>& vecPoints = StandardOutline().index.Points();
-        return {vecPoints.constData(), vecPoints.size()};
+        return {vecPoints.constData(), int(vecPoints.size())};
     }
     // An outline that was written to may be written to again, so each use of it is kept at once.
     const QList<CPointEx<float>>& listPoints = GetData();
     m_vecUsedOutline = listPoints.mid(listPoints.size() - m_vecGamutPoints.size()).toVector();
-    return {m_vecUsedOutline.constData(), m_vecUsedOutline.size()};
+    return {m_vecUsedOutline.constData(), int(m_vecUsedOutline.size())};
 }
 
 /// Whether the outline is the one that all objects share. Writing to it has given an object data of its own.

@@ -77,7 +77,7 @@ SNearestRow CNearestRowSearch::Find(QPointF uvPoint) const
 {
     // Written so that NaN goes to the walk as well.
     if (!(std::abs(uvPoint.x()) <= c_dReach && std::abs(uvPoint.y()) <= c_dReach))
-        return WalkToNearestRow(uvPoint, m_vecRows.constData(), m_vecRows.size());
+        return WalkToNearestRow(uvPoint, m_vecRows.constData(), int(m_vecRows.size()));
 
     const int nLast = LastRow();
     const int nFinest = 1 << c_arrShift.back();

@@ -103,7 +103,7 @@ private:
     static unsigned int Falling(const SBlocks& blocks, QPointF uvPoint);
     int ProvenEnd(int nRow, QPointF uvPoint) const;
     float Distance(int nRow, QPointF uvPoint) const;
-    int LastRow() const { return m_vecRows.size() - 1; }
+    int LastRow() const { return int(m_vecRows.size()) - 1; }
 
     QVector<sCIE1931> m_vecRows;
     QVector<SPoint> m_vecPoints;

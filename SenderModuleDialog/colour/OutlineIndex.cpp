@@ -48,13 +48,13 @@ COutlineIndex::COutlineIndex(const QVector<QPointF>& vecOutline)
     m_fHighest = bounds.second->y + c_fListedReach;
     m_fBandsPerUnit = float(c_nBands) / (m_fHighest - m_fLowest);
     for (int nBand = 0; nBand < c_nBands; ++nBand) {
-        m_arrFirst[std::size_t(nBand)] = m_vecListed.size();
+        m_arrFirst[std::size_t(nBand)] = int(m_vecListed.size());
         for (int i = 0; i < m_vecPoints.size(); ++i) {
             if (IsInBand(i, nBand))
                 m_vecListed.append(i);
         }
     }
-    m_arrFirst.back() = m_vecListed.size();
+    m_arrFirst.back() = int(m_vecListed.size());
 }
 
 bool COutlineIndex::Contains(QPointF pt) const

@@ -28,7 +28,7 @@ void SEdidModel::Read(const SEdidSetting& setting)
 
 int SEdidModel::ResolutionIndexOf(QSize size) const
 {
-    return limit.listResolution.indexOf(size) + 1;
+    return int(limit.listResolution.indexOf(size)) + 1;
 }
 
 std::optional<QSize> SEdidModel::ResolutionAt(int nIndex) const

@@ -15,11 +15,11 @@
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomLabel.h"
 #include "host/OrviControl/CustomSpinBox.h"
+#include "host/QtCompat.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QDesktopWidget>
 #include <QMenu>
 #include <QPushButton>
 
@@ -46,7 +46,7 @@ QString ResolutionText(bool bCustom, QSize size)
     if (bCustom)
         return CCustomDialog::tr("自定义：%1×%2").arg(size.width()).arg(size.height());
     QString strText = QStringLiteral("%1×%2").arg(size.width()).arg(size.height());
-    if (size != QApplication::desktop()->size())
+    if (size != QtCompat::DesktopSize())
         return strText;
     return strText + QLatin1Char('(') + CCustomDialog::tr("电脑") + QLatin1Char(')');
 }

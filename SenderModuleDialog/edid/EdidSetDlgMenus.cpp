@@ -9,11 +9,11 @@
 #include "SenderModuleDialog/edid/EdidSetDlg.h"
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomSpinBox.h"
+#include "host/QtCompat.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QDesktopWidget>
 #include <QMenu>
 #include <QPushButton>
 
@@ -24,7 +24,7 @@ namespace {
 QString PresetText(QSize size)
 {
     QString strText = QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
-    if (size != QApplication::desktop()->size())
+    if (size != QtCompat::DesktopSize())
         return strText;
     return QStringLiteral("%1 (%2)").arg(strText, CCustomDialog::tr("电脑"));
 }

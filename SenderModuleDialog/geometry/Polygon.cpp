@@ -104,7 +104,7 @@ CPolygon::CPolygon(int nCount)
 
 bool CPolygon::IsConvex() const
 {
-    const int nCount = size();
+    const int nCount = int(size());
     if (nCount < 2)
         return true;
     // Intentional: every corner is compared with the first one and not with its neighbour, and vertex 0 is
@@ -217,7 +217,7 @@ QPointF CPolygon::Centre() const
 void CPolygon::SortByAngle()
 {
     QPointF* const pPoints = m_vecHullPoints.data();
-    const int nCount = m_vecHullPoints.size();
+    const int nCount = int(m_vecHullPoints.size());
     for (int i = 1; i < nCount - 1; ++i) {
         int nSelected = i;
         for (int j = i + 1; j < nCount; ++j) {

@@ -19,7 +19,7 @@ std::optional<QString> DecodeBy(const char* szCodec, const QByteArray& content)
     if (pCodec == nullptr)
         return std::nullopt;
     QTextCodec::ConverterState state;
-    const QString strText = pCodec->toUnicode(content.constData(), content.size(), &state);
+    const QString strText = pCodec->toUnicode(content.constData(), int(content.size()), &state);
     if (state.invalidChars > 0 || strText.contains(QChar::Null))
         return std::nullopt;
     return strText;
@@ -139,7 +139,7 @@ STextStart StartOf(const QString& strText)
     const bool bMarked = strFirst.startsWith(c_strSeparatorMark, Qt::CaseInsensitive) &&
                          strFirst.size() == c_strSeparatorMark.size() + 1;
     if (bMarked)
-        return {strText.indexOf(c_chNewline) + 1, 2, strFirst.back()};
+        return {int(strText.indexOf(c_chNewline)) + 1, 2, strFirst.back()};
     return {0, 1, SeparatorOf(FirstLineOf(strText))};
 }
 

@@ -209,7 +209,7 @@ private:
             if (const int nColumn = m_mapReadings.value({ColourKey(colour), quantity}, -1); nColumn >= 0)
                 return nColumn;
         const QString strColour = colour ? Word(c_arrEnglishPrefixes[std::size_t(*colour)]) : QString();
-        Refuse(enMeasurementFault::enMissingColumn, m_line.listFields.size() + 1,
+        Refuse(enMeasurementFault::enMissingColumn, int(m_line.listFields.size()) + 1,
                strColour + QLatin1Char(chName));
         return -1;
     }

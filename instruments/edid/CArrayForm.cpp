@@ -16,10 +16,10 @@ QByteArray WithoutComments(QByteArray text)
                 text[i] = ' ';
     };
     const auto EndOf = [&](int nIndex, const char* szEnd, int nLength) {
-        const int nFound = text.indexOf(szEnd, nIndex);
-        return nFound < 0 ? text.size() : nFound + nLength;
+        const int nFound = int(text.indexOf(szEnd, nIndex));
+        return nFound < 0 ? int(text.size()) : nFound + nLength;
     };
-    for (int i = text.indexOf('/'); i >= 0 && i + 1 < text.size(); i = text.indexOf('/', i + 1)) {
+    for (int i = int(text.indexOf('/')); i >= 0 && i + 1 < text.size(); i = int(text.indexOf('/', i + 1))) {
         if (text[i + 1] == '*')
             Blank(i, EndOf(i + 2, "*/", 2));
         else if (text[i + 1] == '/')
@@ -37,11 +37,11 @@ struct SStretch
 
 SStretch BetweenBraces(const QByteArray& text)
 {
-    const int nOpen = text.indexOf('{');
+    const int nOpen = int(text.indexOf('{'));
     if (nOpen < 0)
-        return {0, text.size()};
-    const int nClose = text.indexOf('}', nOpen);
-    return {nOpen + 1, nClose < 0 ? text.size() : nClose};
+        return {0, int(text.size())};
+    const int nClose = int(text.indexOf('}', nOpen));
+    return {nOpen + 1, nClose < 0 ? int(text.size()) : nClose};
 }
 
 } // namespace

@@ -58,7 +58,7 @@ struct SExplained
     explicit SExplained(const QByteArray& bytes)
         : edid(bytes)
     {
-        Explain(BytesOf(edid), edid.size(), vecFields);
+        Explain(BytesOf(edid), int(edid.size()), vecFields);
         vecPaths = PathsOf(vecFields);
     }
 

@@ -319,7 +319,7 @@ void Fix(QByteArray& edid)
 {
     constexpr int c_nMostExtensions = 255;
     quint8* pBytes = BytesOf(edid);
-    const int nExtensions = edid.size() / c_nEdidBlockSize - 1;
+    const int nExtensions = int(edid.size()) / c_nEdidBlockSize - 1;
     std::copy(std::begin(c_arrHeader), std::end(c_arrHeader), pBytes);
     Put(pBytes, c_layoutBase[enExtensionCount], std::min(nExtensions, c_nMostExtensions));
     for (int nBlock = 0; nBlock + c_nEdidBlockSize <= edid.size(); nBlock += c_nEdidBlockSize) {

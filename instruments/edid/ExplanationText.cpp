@@ -16,7 +16,7 @@ const quint8* BytesOf(const QByteArray& edid)
 std::vector<SField> FieldsOf(const QByteArray& edid)
 {
     std::vector<SField> vecFields;
-    Explain(BytesOf(edid), edid.size(), vecFields);
+    Explain(BytesOf(edid), int(edid.size()), vecFields);
     return vecFields;
 }
 

@@ -346,7 +346,7 @@ QString FieldHex(const SField& field, const quint8* pBytes)
     QByteArray bytes;
     for (const int nOffset : FieldOffsets(field))
         bytes += char(pBytes[nOffset]);
-    return HexText(reinterpret_cast<const quint8*>(bytes.constData()), bytes.size());
+    return HexText(reinterpret_cast<const quint8*>(bytes.constData()), int(bytes.size()));
 }
 
 QString HexText(const quint8* pBytes, int nSize)

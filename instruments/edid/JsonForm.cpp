@@ -22,18 +22,18 @@ const QString c_strName = QStringLiteral("name");
 SReading ErrorAtOffset(const QByteArray& text, int nOffset, const QString& strError)
 {
     const QByteArray before = text.left(std::max(nOffset, 0));
-    const int nLineStart = before.lastIndexOf('\n') + 1;
+    const int nLineStart = int(before.lastIndexOf('\n')) + 1;
     SReading reading;
     reading.strError = strError;
-    reading.nLine = before.count('\n') + 1;
-    reading.nColumn = before.size() - nLineStart + 1;
+    reading.nLine = int(before.count('\n')) + 1;
+    reading.nColumn = int(before.size()) - nLineStart + 1;
     return reading;
 }
 
 /// Values know no place of their own: the key that they belong to tells it.
 SReading ErrorAtKey(const QByteArray& text, const QString& strKey, const QString& strError)
 {
-    return ErrorAtOffset(text, text.indexOf('"' + strKey.toLatin1() + '"'), strError);
+    return ErrorAtOffset(text, int(text.indexOf('"' + strKey.toLatin1() + '"')), strError);
 }
 
 /// The bytes of a text of digits; empty when it is none.
@@ -77,7 +77,7 @@ SReading ReadObject(const QByteArray& text, const QJsonObject& object)
     else
         strError = CEdidText::tr("there is no list \"bytes\"; give the JSON that this program writes");
     if (strError.isEmpty())
-        strError = SizeError(bytes.size());
+        strError = SizeError(int(bytes.size()));
     if (!strError.isEmpty())
         return ErrorAtKey(text, c_strBytes, strError);
     SReading reading;

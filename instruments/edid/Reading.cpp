@@ -33,7 +33,7 @@ bool IsBinary(const QByteArray& content)
 SReading ReadBinary(const QByteArray& content)
 {
     SReading reading;
-    reading.strError = SizeError(content.size());
+    reading.strError = SizeError(int(content.size()));
     if (reading.IsRead())
         reading.vecEdids.append({QString(), content});
     return reading;

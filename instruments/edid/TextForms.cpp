@@ -77,7 +77,7 @@ const SLine* FirstLine(const Lines& vecLines)
 Lines FirstLines(const QByteArray& text)
 {
     constexpr int c_nEnough = 4096;
-    return SplitLines(QByteArray::fromRawData(text.constData(), std::min(text.size(), c_nEnough)));
+    return SplitLines(QByteArray::fromRawData(text.constData(), std::min(int(text.size()), c_nEnough)));
 }
 
 /// The end of the offset that a line of a dump begins with, -1 for a line without one.
@@ -289,7 +289,7 @@ SReading CByteCollector::Result(const SLine& lineLast) const
 {
     if (HasFailed())
         return m_error;
-    const QString strError = SizeError(m_bytes.size());
+    const QString strError = SizeError(int(m_bytes.size()));
     if (!strError.isEmpty())
         return ErrorAt(lineLast, lineLast.Size(), strError);
     SReading reading;

@@ -175,7 +175,7 @@ bool CPlainChart::IsInTriangle(CPoint ptW, CPoint ptR, CPoint ptG, CPoint ptB)
 
 bool CPlainChart::GetCIEIntersection(const QList<CPoint>& list, CPoint ptFrom, CPoint ptTo, CPoint& ptOut)
 {
-    const int n = list.size();
+    const int n = int(list.size());
     if (n < 3)
         return false;
     bool bCrossed = false;

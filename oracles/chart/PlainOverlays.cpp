@@ -29,7 +29,8 @@ void CPlainOverlays::DrawBorder(QPainter& painter) const
 {
     painter.setPen(QPen(QColor(200, 200, 200), 2.0));
     painter.setBrush(Qt::NoBrush);
-    painter.drawPolygon(m_chart.m_pBoundaryPx, m_chart.m_pGamut->GetQPointFData().size(), Qt::OddEvenFill);
+    painter.drawPolygon(m_chart.m_pBoundaryPx, int(m_chart.m_pGamut->GetQPointFData().size()),
+                        Qt::OddEvenFill);
 }
 
 void CPlainOverlays::DrawHexCoorDialog(QPainter& painter) const
@@ -111,7 +112,7 @@ void CPlainOverlays::DrawTipsString(QPainter& painter) const
 
 void CPlainOverlays::DrawCrossLine(QPainter& painter) const
 {
-    const int n = m_chart.m_pGamut->GetQPointFData().size();
+    const int n = int(m_chart.m_pGamut->GetQPointFData().size());
     if (n == 0)
         return;
     const CPoint* const v = m_chart.m_pBoundaryPxF;

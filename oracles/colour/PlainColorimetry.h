@@ -137,7 +137,7 @@ inline bool Contains(const QVector<QPointF>& vecOutline, QPointF pt)
             return true;
     }
     bool bInside = false;
-    for (int i = 0, j = vecOutline.size() - 1; i < vecOutline.size(); j = i++) {
+    for (int i = 0, j = int(vecOutline.size()) - 1; i < vecOutline.size(); j = i++) {
         const CPointEx<float> a(float(vecOutline[i].x()), float(vecOutline[i].y()));
         const CPointEx<float> b(float(vecOutline[j].x()), float(vecOutline[j].y()));
         if (((a.y < fY && fY <= b.y) || (fY <= a.y && b.y < fY)) && (a.x <= fX || b.x <= fX) &&

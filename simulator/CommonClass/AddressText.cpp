@@ -42,8 +42,8 @@ QString EntryAddress(const QString& strEntry)
 
 QString EntryName(const QString& strEntry)
 {
-    const int nOpen = strEntry.indexOf(QLatin1Char('('));
-    const int nClose = strEntry.lastIndexOf(QLatin1Char(')'));
+    const int nOpen = int(strEntry.indexOf(QLatin1Char('(')));
+    const int nClose = int(strEntry.lastIndexOf(QLatin1Char(')')));
     return nOpen < 0 || nClose < nOpen ? QString() : strEntry.mid(nOpen + 1, nClose - nOpen - 1);
 }
 

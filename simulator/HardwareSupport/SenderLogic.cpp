@@ -92,7 +92,7 @@ private:
 int CSimulatedSenderLogic::GetDetectedIPList(unsigned int* pList)
 {
     const QStringList& listDetected = Addressing().listDetected;
-    const int nCount = std::min(listDetected.size(), c_nDetectedTableLength);
+    const int nCount = std::min(int(listDetected.size()), c_nDetectedTableLength);
     // The search uses network byte order: the first octet is in the low byte.
     for (int nIndex = 0; nIndex < nCount; ++nIndex)
         pList[nIndex] = qbswap(AddressValue(listDetected.at(nIndex)).value_or(0));

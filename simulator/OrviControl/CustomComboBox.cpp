@@ -82,7 +82,7 @@ void CCustomComboBox::SetMenu(QMenu* pMenu, bool bMarkChosen, bool bMatchWidth, 
 
 void CCustomComboBox::ActionChosen(QAction* pAction)
 {
-    const int nIndex = m_pPrivate->pMenu->actions().indexOf(pAction);
+    const int nIndex = int(m_pPrivate->pMenu->actions().indexOf(pAction));
     if (nIndex < 0) // an entry of a menu below the menu
         return;
     if (m_pPrivate->bShowText)

@@ -127,7 +127,7 @@ void CCustomIPEdit::CPrivate::GoTo(int nIndex, enCursor cursor)
     if (cursor == enSelected)
         Current().selectAll();
     else
-        Current().setCursorPosition(cursor == enAtStart ? 0 : Current().text().size());
+        Current().setCursorPosition(cursor == enAtStart ? 0 : int(Current().text().size()));
 }
 
 IPAddressText::Octets CCustomIPEdit::CPrivate::Octets() const
@@ -329,7 +329,7 @@ void CCustomIPEdit::CPrivate::TypeDigit(QChar ch)
     if (bReplaceAll)
         Clear();
     cell.setText(*strOctet);
-    cell.setCursorPosition(bAtEnd ? strOctet->size() : nPlace + 1);
+    cell.setCursorPosition(bAtEnd ? int(strOctet->size()) : nPlace + 1);
     if (!bAtEnd || IPAddressText::CanGrow(*strOctet) || nCurrent == c_nLast)
         return;
     GoTo(nCurrent + 1, enSelected);
@@ -462,7 +462,7 @@ void CCustomIPEdit::mousePressEvent(QMouseEvent* pEvent)
 {
     // A click on a dot or the frame goes to the octet left of it.
     int nIndex = c_nLast;
-    while (nIndex > 0 && m_pPrivate->CellRect(nIndex).left() > pEvent->x())
+    while (nIndex > 0 && m_pPrivate->CellRect(nIndex).left() > pEvent->pos().x())
         --nIndex;
     m_pPrivate->GoTo(nIndex, CPrivate::enAtEnd);
 }

@@ -1,5 +1,6 @@
 #include "host/OrviControl/Style.h"
 
+#include "host/QtCompat.h"
 #include "simulator/OrviControl/Theme.h"
 
 #include <QFile>
@@ -74,9 +75,9 @@ namespace {
 constexpr std::array<const char*, 4> c_arrPreferredFamilies = {"Noto Sans CJK SC", "Noto Sans SC",
                                                                "Source Han Sans SC", "WenQuanYi Micro Hei"};
 
-bool HasLatinAndChinese(const QFontDatabase& database, const QString& strFamily)
+bool HasLatinAndChinese(const QString& strFamily)
 {
-    const QList<QFontDatabase::WritingSystem> listSystems = database.writingSystems(strFamily);
+    const QList<QFontDatabase::WritingSystem> listSystems = QtCompat::WritingSystems(strFamily);
     return listSystems.contains(QFontDatabase::Latin) &&
            listSystems.contains(QFontDatabase::SimplifiedChinese);
 }
@@ -84,16 +85,13 @@ bool HasLatinAndChinese(const QFontDatabase& database, const QString& strFamily)
 /// A preferred font, else the desktop's own, else any that has both scripts.
 QString ChooseFamily()
 {
-    const QFontDatabase database;
     const QString strSystem = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
     QStringList listCandidates;
     for (const char* szFamily : c_arrPreferredFamilies)
         listCandidates.append(QString::fromLatin1(szFamily));
     listCandidates.append(strSystem);
-    listCandidates.append(database.families(QFontDatabase::SimplifiedChinese));
-    const auto itFound =
-        std::find_if(listCandidates.cbegin(), listCandidates.cend(),
-                     [&](const QString& strFamily) { return HasLatinAndChinese(database, strFamily); });
+    listCandidates.append(QtCompat::FontFamilies(QFontDatabase::SimplifiedChinese));
+    const auto itFound = std::find_if(listCandidates.cbegin(), listCandidates.cend(), HasLatinAndChinese);
     return itFound == listCandidates.cend() ? strSystem : *itFound;
 }
 

@@ -28,7 +28,7 @@ public:
             for (const QString& strEntry : Lists().listStored)
                 *pList++ = AddressValue(EntryAddress(strEntry)).value_or(0);
         }
-        return Lists().listStored.size();
+        return int(Lists().listStored.size());
     }
 
     void GetSpecifiedIPs(QStringList& listIP) override { listIP = Lists().listStored; }

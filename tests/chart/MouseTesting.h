@@ -46,7 +46,7 @@ public:
     void Release(QPoint pos) { QTest::mouseRelease(this, Qt::LeftButton, Qt::NoModifier, pos); }
     void Move(QPoint pos, Qt::MouseButtons buttons)
     {
-        QMouseEvent event(QEvent::MouseMove, QPointF(pos), Qt::NoButton, buttons, Qt::NoModifier);
+        QMouseEvent event(QEvent::MouseMove, pos, mapToGlobal(pos), Qt::NoButton, buttons, Qt::NoModifier);
         QApplication::sendEvent(this, &event);
     }
     /// Drags a point of the first group to a chromaticity, in one move.

@@ -197,7 +197,7 @@ QVector<SPaintCall> RecordPainting(const std::function<void(QPainter&)>& funcPai
 
 QString PaintDifference(const QVector<SPaintCall>& vecActual, const QVector<SPaintCall>& vecExpected)
 {
-    const int nCommon = std::min(vecActual.size(), vecExpected.size());
+    const int nCommon = int(std::min(vecActual.size(), vecExpected.size()));
     for (int i = 0; i < nCommon; ++i) {
         const QString strActual = vecActual[i].ToString();
         const QString strExpected = vecExpected[i].ToString();

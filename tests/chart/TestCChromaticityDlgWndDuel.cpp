@@ -123,7 +123,7 @@ private:
     }
     void Send(QEvent::Type type, QPoint pos, Qt::MouseButton button, Qt::MouseButtons buttons)
     {
-        QMouseEvent event(type, QPointF(pos), button, buttons, Qt::NoModifier);
+        QMouseEvent event(type, pos, m_chart.mapToGlobal(pos), button, buttons, Qt::NoModifier);
         QApplication::sendEvent(&m_chart, &event);
     }
     void Press(QPoint pos, Qt::MouseButton button)

@@ -349,7 +349,8 @@ void TestCChromaticityDlgWndMouse::APressOnNothingGoesToTheWidgetBelow()
     chart.AddChromaGroupByIndex(0, Group());
     chart.m_nHoverGroup = 5;
     chart.m_nHoverPoint = enBluePoint;
-    QMouseEvent press(QEvent::MouseButtonPress, QPointF(3.0, 3.0), Qt::LeftButton, Qt::LeftButton,
+    const QPoint pos(3, 3);
+    QMouseEvent press(QEvent::MouseButtonPress, pos, chart.mapToGlobal(pos), Qt::LeftButton, Qt::LeftButton,
                       Qt::NoModifier);
     press.accept();
     QApplication::sendEvent(&chart, &press);
@@ -487,7 +488,8 @@ void TestCChromaticityDlgWndMouse::WhatRepaints()
         QApplication::sendEvent(&chart, &event);
     } else {
         const bool bMove = nType == QEvent::MouseMove;
-        QMouseEvent event(QEvent::Type(nType), pos, bMove ? Qt::NoButton : Qt::LeftButton,
+        QMouseEvent event(QEvent::Type(nType), pos, chart.mapToGlobal(pos.toPoint()),
+                          bMove ? Qt::NoButton : Qt::LeftButton,
                           nType == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(&chart, &event);
     }

@@ -1,12 +1,12 @@
 #include "host/OrviControl/CustomComboBox.h"
 #include "host/OrviControl/CustomSpinBox.h"
+#include "host/QtCompat.h"
 #include "tests/edid/EdidDialogHost.h"
 
 #include <QtTest>
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QDesktopWidget>
 #include <QMenu>
 #include <QPushButton>
 
@@ -56,7 +56,7 @@ void TestEdidSetDlgMenus::TheResolutionMenuOffersCustomAndTheList()
 void TestEdidSetDlgMenus::TheComputersOwnSizeIsMarked()
 {
     CEdidHost host;
-    const QSize sizeDesktop = QApplication::desktop()->size();
+    const QSize sizeDesktop = QtCompat::DesktopSize();
     host.videoSourceLogic.limit.listResolution = {QSize(640, 480), sizeDesktop};
     const CEdidDialog dialog(host);
     const QString strExpected =

@@ -3,6 +3,7 @@
 #include "host/OrviControl/CustomLabel.h"
 #include "host/OrviControl/CustomSpinBox.h"
 #include "host/OrviControl/Style.h"
+#include "host/QtCompat.h"
 #include "tests/edid/EdidDialogHost.h"
 #include "tests/support/DeathTest.h"
 
@@ -11,7 +12,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QDesktopWidget>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMenu>
@@ -384,7 +384,7 @@ void TestEdidSetDlgOpening::EveryTextIsLookedUpInTheCommonContext()
     const CBrackets translator;
     CEdidHost host;
     host.videoSourceLogic.setting = CEdidHost::Setting(QSize(1000, 500), 60);
-    host.videoSourceLogic.limit.listResolution.append(QApplication::desktop()->size());
+    host.videoSourceLogic.limit.listResolution.append(QtCompat::DesktopSize());
     CEdidDialog dialog(host);
     QStringList listTexts = {dialog.dlg.windowTitle()};
     for (const QLabel* pLabel : dialog.dlg.findChildren<QLabel*>())

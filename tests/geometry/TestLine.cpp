@@ -528,7 +528,7 @@ void TestLine::TheLeastSquaresLineFits()
     QFETCH(float, fA);
     QFETCH(float, fC);
     CLine line = AnyLine();
-    line.FitLine(vecX.data(), vecY.data(), vecX.size());
+    line.FitLine(vecX.data(), vecY.data(), int(vecX.size()));
     COMPARE_COEFFICIENTS(line, fA, 1.0F, fC);
 }
 
@@ -546,7 +546,7 @@ void TestLine::AFitWithoutAnAnswerIsNotFinite()
     QFETCH(QVector<float>, vecX);
     QFETCH(QVector<float>, vecY);
     CLine line = AnyLine();
-    line.FitLine(vecX.data(), vecY.data(), vecX.size());
+    line.FitLine(vecX.data(), vecY.data(), int(vecX.size()));
     QVERIFY(!std::isfinite(CoefficientsOf(line).fA));
     COMPARE_BITS(CoefficientsOf(line).fB, 1.0F);
     QVERIFY(!std::isfinite(CoefficientsOf(line).fC));

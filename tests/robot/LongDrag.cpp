@@ -47,7 +47,7 @@ public:
     void Send(QEvent::Type type, QPoint pos, Qt::MouseButton button)
     {
         const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-        QMouseEvent event(type, QPointF(pos), button, held, Qt::NoModifier);
+        QMouseEvent event(type, pos, mapToGlobal(pos), button, held, Qt::NoModifier);
         QCoreApplication::sendEvent(this, &event);
     }
     int Followed() const { return m_nFollowed; }

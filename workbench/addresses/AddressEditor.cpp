@@ -53,7 +53,7 @@ void CAddressEditor::AddBatch()
 
 void CAddressEditor::SetAddresses(int nCount)
 {
-    RunDialog(tr("设置地址"), Lists().listStored.size() + 1, nCount);
+    RunDialog(tr("设置地址"), int(Lists().listStored.size()) + 1, nCount);
 }
 
 void CAddressEditor::RunDialog(const QString& strStep, int nFirst, int nCount)

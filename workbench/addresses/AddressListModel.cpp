@@ -24,7 +24,7 @@ void CAddressListModel::Refresh()
 
 int CAddressListModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : Lists().listStored.size();
+    return parent.isValid() ? 0 : int(Lists().listStored.size());
 }
 
 int CAddressListModel::columnCount(const QModelIndex& parent) const

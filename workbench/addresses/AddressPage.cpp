@@ -195,7 +195,7 @@ void CAddressPage::Refresh()
 
 void CAddressPage::EnableActions()
 {
-    const int nSelected = SelectedRows().size();
+    const int nSelected = int(SelectedRows().size());
     for (const SEntryAction& action : m_vecEntryActions)
         action.pAction->setEnabled(action.needs == enNeeds::enOneEntry ? nSelected == 1 : nSelected > 0);
 }

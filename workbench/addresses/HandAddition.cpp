@@ -60,7 +60,7 @@ QString Obstacle()
     const SAddressing& addressing = simulator.Project().addressing;
     if (!addressing.bIPAddressMode || addressing.nDetectStrategy != c_nAddressStrategy)
         return {};
-    const int nListed = simulator.Project().addresses.listStored.size();
+    const int nListed = int(simulator.Project().addresses.listStored.size());
     if (nListed >= c_nListLimit)
         return CHandAdditionText::tr(
                    "地址列表已满（%1 个地址），无法再手动添加主控。\n请先删除不再使用的地址。")

@@ -87,9 +87,9 @@ void CGroupModel::Refresh()
     }
     if (m_listKeys.isEmpty())
         return;
-    Q_EMIT dataChanged(index(0, 0), index(enRowCount - 1, m_listKeys.size() - 1));
+    Q_EMIT dataChanged(index(0, 0), index(enRowCount - 1, int(m_listKeys.size()) - 1));
     Q_EMIT headerDataChanged(Qt::Vertical, 0, enRowCount - 1);
-    Q_EMIT headerDataChanged(Qt::Horizontal, 0, m_listKeys.size() - 1);
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, int(m_listKeys.size()) - 1);
 }
 
 SChromaGroupInfo* CGroupModel::Group(int nColumn) const
@@ -104,7 +104,7 @@ int CGroupModel::rowCount(const QModelIndex& parent) const
 
 int CGroupModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_listKeys.size();
+    return parent.isValid() ? 0 : int(m_listKeys.size());
 }
 
 QString CGroupModel::RowName(int nRow)

@@ -36,7 +36,7 @@ public:
     /// Key of the group in a column, -1 for none.
     int Key(int nColumn) const { return m_listKeys.value(nColumn, -1); }
     /// Column of a key, -1 for none.
-    int Column(int nKey) const { return m_listKeys.indexOf(nKey); }
+    int Column(int nKey) const { return int(m_listKeys.indexOf(nKey)); }
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;

@@ -81,7 +81,7 @@ void CPointKeys::Select(SGroupPoint point)
 bool CPointKeys::focusNextPrevChild(bool bNext)
 {
     const QVector<SGroupPoint> vecPoints = Points();
-    const int nCurrent = vecPoints.indexOf(m_current);
+    const int nCurrent = int(vecPoints.indexOf(m_current));
     const int nNext = nCurrent + (bNext ? 1 : -1);
     if (nCurrent < 0 || nNext < 0 || nNext >= vecPoints.size())
         return QWidget::focusNextPrevChild(bNext);

@@ -1,6 +1,7 @@
 #include "workbench/colour/RegionOverlay.h"
 
 #include "SenderModuleDialog/chart/CChromaticityDlgWnd.h"
+#include "host/QtCompat.h"
 
 #include <QImage>
 #include <QKeyEvent>
@@ -192,14 +193,14 @@ void CRegionOverlay::mousePressEvent(QMouseEvent* pEvent)
         return;
     if (pEvent->button() == Qt::RightButton)
         return RemoveLastCorner();
-    m_ptMouse = pEvent->localPos();
+    m_ptMouse = QtCompat::EventPosition(*pEvent);
     m_draft.append(m_chart.Mapping().ToChromaticity(m_ptMouse));
     update();
 }
 
 void CRegionOverlay::mouseMoveEvent(QMouseEvent* pEvent)
 {
-    m_ptMouse = pEvent->localPos();
+    m_ptMouse = QtCompat::EventPosition(*pEvent);
     update();
 }
 

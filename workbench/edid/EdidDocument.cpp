@@ -127,8 +127,8 @@ void CEdidDocument::EndComparison()
 
 void CEdidDocument::Refresh()
 {
-    Edid::Explain(Bytes(), m_content.bytes.size(), m_vecFields);
-    Edid::Explain(BytesOf(m_other.bytes), m_other.bytes.size(), m_vecOtherFields);
+    Edid::Explain(Bytes(), int(m_content.bytes.size()), m_vecFields);
+    Edid::Explain(BytesOf(m_other.bytes), int(m_other.bytes.size()), m_vecOtherFields);
     m_vecDifferences =
         IsComparing() ? Edid::DifferentFields(m_vecFields, m_content.bytes, m_vecOtherFields, m_other.bytes)
                       : QVector<Edid::SFieldPair>();

@@ -103,7 +103,7 @@ QString OriginText(const SEdidContent& content)
 
 QString ContentText(const SEdidContent& content)
 {
-    const int nBlocks = content.bytes.size() / c_nEdidBlockSize;
+    const int nBlocks = int(content.bytes.size()) / c_nEdidBlockSize;
     const QString strOrigin = OriginText(content);
     const QString strShown = content.bEdited ? CEdidPage::tr("%1（已修改）").arg(strOrigin) : strOrigin;
     return nBlocks > 1 ? CEdidPage::tr("%1，%2 个块").arg(strShown).arg(nBlocks) : strShown;
@@ -149,32 +149,34 @@ void SetColour(QLabel& label, const QColor& clr)
 } // namespace
 
 const CEdidPage::SActionRow CEdidPage::c_arrActions[] = {
-    {"edidOpen", QT_TR_NOOP("打开..."), QT_TR_NOOP("打开 EDID 文件；也可以把文件拖到这里"),
-     Qt::CTRL + Qt::SHIFT + Qt::Key_O, enOpen, &CEdidPage::Open},
+    {"edidOpen", QT_TR_NOOP("打开..."), QT_TR_NOOP("打开 EDID 文件；也可以把文件拖到这里"), "Ctrl+Shift+O",
+     enOpen, &CEdidPage::Open},
     {"edidPaste", QT_TR_NOOP("粘贴"), QT_TR_NOOP("粘贴十六进制文本、xxd、C 数组、JSON 或 xrandr 的输出"),
-     Qt::CTRL + Qt::Key_V, enPaste, &CEdidPage::Paste},
-    {"edidMemory", QT_TR_NOOP("发送器的存储器"), QT_TR_NOOP("显示所选输入的 EDID 存储器"), Qt::Key_F5,
-     enMemory, &CEdidPage::LoadMemory},
-    {"edidBuild", QT_TR_NOOP("构建块"), nullptr, 0, enBuild, &CEdidPage::Build},
-    {"edidCompareFile", QT_TR_NOOP("与文件比较(&F)..."), nullptr, Qt::CTRL + Qt::SHIFT + Qt::Key_D,
-     enCompareFile, &CEdidPage::ChooseAndCompare},
-    {"edidComparePaste", QT_TR_NOOP("与剪贴板中的文本比较(&T)"), nullptr, Qt::CTRL + Qt::SHIFT + Qt::Key_V,
-     enComparePaste, &CEdidPage::ComparePasted},
-    {"edidCompareMemory", QT_TR_NOOP("与发送器的存储器比较(&M)"), nullptr, Qt::SHIFT + Qt::Key_F5,
-     enCompareMemory, &CEdidPage::CompareMemory},
-    {"edidEndComparison", QT_TR_NOOP("结束比较(&E)"), nullptr, 0, enEndComparison, &CEdidPage::EndComparison},
-    {"edidNext", QT_TR_NOOP("下一处不同"), QT_TR_NOOP("显示下一个不同的字段"), Qt::Key_F8, enNext,
+     "Ctrl+V", enPaste, &CEdidPage::Paste},
+    {"edidMemory", QT_TR_NOOP("发送器的存储器"), QT_TR_NOOP("显示所选输入的 EDID 存储器"), "F5", enMemory,
+     &CEdidPage::LoadMemory},
+    {"edidBuild", QT_TR_NOOP("构建块"), nullptr, nullptr, enBuild, &CEdidPage::Build},
+    {"edidCompareFile", QT_TR_NOOP("与文件比较(&F)..."), nullptr, "Ctrl+Shift+D", enCompareFile,
+     &CEdidPage::ChooseAndCompare},
+    {"edidComparePaste", QT_TR_NOOP("与剪贴板中的文本比较(&T)"), nullptr, "Ctrl+Shift+V", enComparePaste,
+     &CEdidPage::ComparePasted},
+    {"edidCompareMemory", QT_TR_NOOP("与发送器的存储器比较(&M)"), nullptr, "Shift+F5", enCompareMemory,
+     &CEdidPage::CompareMemory},
+    {"edidEndComparison", QT_TR_NOOP("结束比较(&E)"), nullptr, nullptr, enEndComparison,
+     &CEdidPage::EndComparison},
+    {"edidNext", QT_TR_NOOP("下一处不同"), QT_TR_NOOP("显示下一个不同的字段"), "F8", enNext,
      &CEdidPage::ShowNextDifference},
-    {"edidPrevious", QT_TR_NOOP("上一处不同(&P)"), nullptr, Qt::SHIFT + Qt::Key_F8, enPrevious,
+    {"edidPrevious", QT_TR_NOOP("上一处不同(&P)"), nullptr, "Shift+F8", enPrevious,
      &CEdidPage::ShowPreviousDifference},
-    {"edidUndo", QT_TR_NOOP("撤销"), QT_TR_NOOP("撤销对块的更改 (Ctrl+Z)"), 0, enUndo, &CEdidPage::Undo},
-    {"edidRedo", QT_TR_NOOP("重做"), QT_TR_NOOP("重做对块的更改 (Ctrl+Shift+Z)"), 0, enRedo,
+    {"edidUndo", QT_TR_NOOP("撤销"), QT_TR_NOOP("撤销对块的更改 (Ctrl+Z)"), nullptr, enUndo,
+     &CEdidPage::Undo},
+    {"edidRedo", QT_TR_NOOP("重做"), QT_TR_NOOP("重做对块的更改 (Ctrl+Shift+Z)"), nullptr, enRedo,
      &CEdidPage::Redo},
-    {"edidFix", QT_TR_NOOP("全部修复"), QT_TR_NOOP("更正标头、扩展块数目和校验和"), 0, enFix,
+    {"edidFix", QT_TR_NOOP("全部修复"), QT_TR_NOOP("更正标头、扩展块数目和校验和"), nullptr, enFix,
      &CEdidPage::Fix},
-    {"edidSave", QT_TR_NOOP("保存块..."), QT_TR_NOOP("保存为二进制、十六进制文本、C 数组或 JSON"), 0, enSave,
-     &CEdidPage::ChooseFileAndSave},
-    {"edidWrite", QT_TR_NOOP("写入存储器"), QT_TR_NOOP("写入所选输入的 EDID 存储器"), 0, enWrite,
+    {"edidSave", QT_TR_NOOP("保存块..."), QT_TR_NOOP("保存为二进制、十六进制文本、C 数组或 JSON"), nullptr,
+     enSave, &CEdidPage::ChooseFileAndSave},
+    {"edidWrite", QT_TR_NOOP("写入存储器"), QT_TR_NOOP("写入所选输入的 EDID 存储器"), nullptr, enWrite,
      &CEdidPage::Write},
 };
 
@@ -221,7 +223,7 @@ void CEdidPage::CreateActions()
     for (const SActionRow& row : c_arrActions) {
         auto* pAction = new QAction(this);
         pAction->setObjectName(QString::fromLatin1(row.szName));
-        pAction->setShortcut(QKeySequence(row.nKey));
+        pAction->setShortcut(QKeySequence(QString::fromLatin1(row.szKeys)));
         pAction->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         connect(pAction, &QAction::triggered, this, row.pDo);
         addAction(pAction);
@@ -521,7 +523,7 @@ void CEdidPage::ShowChange(const QByteArray& blockBefore, const QByteArray& bloc
     // Without a previous block, colouring all bytes would say nothing.
     const bool bFirst = blockBefore.isEmpty();
     m_vecChanged = bFirst ? QVector<int>() : ChangedOffsets(blockBefore, blockAfter);
-    const QString strText = ChangeText(bFirst, m_vecChanged.size());
+    const QString strText = ChangeText(bFirst, int(m_vecChanged.size()));
     ShowBytes();
     Say(strText);
     Q_EMIT Reported(strText);
@@ -709,7 +711,7 @@ void CEdidPage::Fix()
 {
     const QByteArray before = m_pDocument->Content().bytes;
     m_pDocument->FixAll();
-    const int nChanged = ChangedOffsets(before, m_pDocument->Content().bytes).size();
+    const int nChanged = int(ChangedOffsets(before, m_pDocument->Content().bytes).size());
     const int nLeft = int(m_pFindings->Findings().size());
     const QString strDone =
         nChanged == 0 ? tr("标头、扩展块数目和校验和本来就正确。") : tr("更正了 %1 个字节。").arg(nChanged);
@@ -751,7 +753,7 @@ void CEdidPage::Write()
 {
     const SEdidContent before = m_memory;
     SEdidContent stored = {m_pDocument->Content().bytes, enEdidOrigin::enMemory, before.strName, false};
-    const int nBlocks = stored.bytes.size() / c_nEdidBlockSize;
+    const int nBlocks = int(stored.bytes.size()) / c_nEdidBlockSize;
     if (nBlocks > 1) {
         if (!ConfirmBaseAlone(nBlocks))
             return;
@@ -776,12 +778,14 @@ void CEdidPage::Write()
 /// The step that a key takes back or forward; null when there is none.
 const CEdidPage::SStepKey* CEdidPage::StepOf(const QKeyEvent& event) const
 {
-    static constexpr SStepKey c_arrKeys[] = {{Qt::CTRL | Qt::Key_Z, enUndo},
-                                             {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, enRedo},
-                                             {Qt::CTRL | Qt::Key_Y, enRedo}};
-    const int nKeys = int(event.modifiers()) | event.key();
+    static constexpr SStepKey c_arrKeys[] = {
+        {Qt::ControlModifier, Qt::Key_Z, enUndo},
+        {Qt::ControlModifier | Qt::ShiftModifier, Qt::Key_Z, enRedo},
+        {Qt::ControlModifier, Qt::Key_Y, enRedo},
+    };
     for (const SStepKey& key : c_arrKeys)
-        if (key.nKeys == nKeys && m_arrActions[key.action]->isEnabled())
+        if (key.modifiers == event.modifiers() && key.key == event.key() &&
+            m_arrActions[key.action]->isEnabled())
             return &key;
     return nullptr;
 }

@@ -82,7 +82,7 @@ private:
         const char* szName; ///< object name
         const char* szText;
         const char* szToolTip; ///< null for the text alone
-        int nKey;              ///< 0 for none
+        const char* szKeys;    ///< null for none
         enAction action;
         void (CEdidPage::*pDo)();
     };
@@ -92,7 +92,8 @@ private:
     /// A key with modifiers, and the action that it stands for.
     struct SStepKey
     {
-        int nKeys;
+        Qt::KeyboardModifiers modifiers;
+        Qt::Key key;
         enAction action;
     };
 

@@ -46,7 +46,7 @@ int CFieldModel::Append(std::vector<SRow>& vecRows, SRow row)
     const int nRow = int(vecRows.size());
     if (row.nParent >= 0) {
         QVector<int>& vecBelow = vecRows[std::size_t(row.nParent)].vecBelow;
-        row.nPlace = vecBelow.size();
+        row.nPlace = int(vecBelow.size());
         vecBelow.append(nRow);
     } else {
         row.nPlace = int(std::count_if(vecRows.begin(), vecRows.end(),
@@ -235,7 +235,7 @@ int CFieldModel::rowCount(const QModelIndex& parent) const
     if (parent.column() > 0)
         return 0;
     const SRow* pParent = RowOf(parent);
-    return pParent == nullptr ? m_vecTop.size() : pParent->vecBelow.size();
+    return int(pParent == nullptr ? m_vecTop.size() : pParent->vecBelow.size());
 }
 
 int CFieldModel::columnCount(const QModelIndex&) const

@@ -50,8 +50,8 @@ CFindingList::CFindingList(QWidget* pParent)
 
 void CFindingList::ShowFindingsOf(const QByteArray& edid)
 {
-    Edid::Check(reinterpret_cast<const quint8*>(edid.constData()), edid.size(), {QDate::currentDate().year()},
-                m_vecFindings);
+    Edid::Check(reinterpret_cast<const quint8*>(edid.constData()), int(edid.size()),
+                {QDate::currentDate().year()}, m_vecFindings);
     FillRows();
 }
 

@@ -66,7 +66,7 @@ QSize CHexView::CellSize() const
 
 int CHexView::RowCount() const
 {
-    return (m_bytes.size() + c_nColumns - 1) / c_nColumns;
+    return (int(m_bytes.size()) + c_nColumns - 1) / c_nColumns;
 }
 
 QRect CHexView::ByteRect(int nOffset) const

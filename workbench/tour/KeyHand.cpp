@@ -42,7 +42,8 @@ bool Reach(const QWidget& widget)
 /// The key that a text marks with an ampersand.
 Qt::Key Mnemonic(const QString& strText)
 {
-    return Qt::Key(QKeySequence::mnemonic(strText)[0] & ~int(Qt::KeyboardModifierMask));
+    const QString strKeys = QKeySequence::mnemonic(strText).toString();
+    return strKeys.isEmpty() ? Qt::Key(0) : Qt::Key(strKeys.back().unicode());
 }
 
 bool IsCurrent(const QTreeView& tree, const QModelIndex& index)

@@ -113,7 +113,7 @@ bool IsFlat(const SChromaTriangle& triangle)
 std::optional<CPointEx<float>> LastCrossing(const QList<CPointEx<float>>& listPolygon, CPointEx<float> ptFrom,
                                             CPointEx<float> ptTo)
 {
-    const int nCount = listPolygon.size();
+    const int nCount = int(listPolygon.size());
     if (nCount < c_nMinPolygonPoints)
         return std::nullopt;
     // From the closing edge backwards: the first edge found is the last in list order.

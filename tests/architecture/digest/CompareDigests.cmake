@@ -1,5 +1,5 @@
 # Builds the digest program with several compilers at several optimisation levels and fails unless all print the same.
-# cmake -D SOURCE_DIR=... -D BINARY_DIR=... -D COMPILERS="g++;clang++" [-D LAUNCHER=ccache]
+# cmake -D SOURCE_DIR=... -D BINARY_DIR=... -D COMPILERS="g++;clang++" -D QT=5 [-D LAUNCHER=ccache]
 #     [-D CROSS_TOOLCHAIN=... -D CROSS_EMULATOR=...] -P CompareDigests.cmake
 # A compiler that is named for another processor, such as aarch64-linux-gnu-g++, takes the toolchain file, and its
 # programs run under the emulator.
@@ -33,6 +33,7 @@ foreach(COMPILER IN LISTS COMPILERS)
         -G "Ninja Multi-Config"
         "-DCMAKE_CXX_COMPILER=${COMPILER_PATH}"
         ${TOOLCHAIN}
+        "-DSENDER_QT=${QT}"
         "-DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}"
         "-DCMAKE_CONFIGURATION_TYPES=O0\;O2\;O3"
         -DCMAKE_CXX_FLAGS_O0=-O0 -DCMAKE_CXX_FLAGS_O2=-O2 -DCMAKE_CXX_FLAGS_O3=-O3)
