@@ -199,7 +199,7 @@ QString CWallPanel::DescribeFit(const SWallAnalysis& analysis) const
 
 QString CWallPanel::Show(const SMeasurementError& error)
 {
-    const QString strText = MeasurementProblem::Text(error);
+    QString strText = MeasurementProblem::Text(error);
     m_pSummary->setText(strText);
     return strText;
 }
