@@ -83,6 +83,7 @@ void TestNearestRowSearch::TheWalkEndsAtTheFirstRowThatDoesNotImprove_data()
         << QVector<double>{1.0, 1.0 - 1e-9, 0.5} << 0.0 << SNearestRow{0, true, 1};
     QTest::newRow("rows beyond 10 neither improve nor end it")
         << QVector<double>{12.0, 11.0, 9.0, 12.0, 8.0} << 0.0 << SNearestRow{4, true, -1};
+    QTest::newRow("nor do rows at 10") << QVector<double>{10.0, 9.0} << 0.0 << SNearestRow{1, true, -1};
     QTest::newRow("NaN is never nearer")
         << QVector<double>{1.0, 0.5} << std::numeric_limits<double>::quiet_NaN() << SNearestRow{0, false, -1};
 }

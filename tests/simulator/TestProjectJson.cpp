@@ -92,6 +92,8 @@ private Q_SLOTS:
     void AnUnknownKeyIsNamed();
     void TheWholeMustFitTogether_data();
     void TheWholeMustFitTogether();
+    void TheGroupsOfACoverageBelongTogether_data();
+    void TheGroupsOfACoverageBelongTogether();
     void MeasurementsMayBeLeftOut();
     void TheMessageQuotesTheValueAndWhatIsExpected();
     void ALongValueIsQuotedInPart();
@@ -287,6 +289,34 @@ void TestProjectJson::TheWholeMustFitTogether()
     QFETCH(QJsonValue, value);
     QFETCH(QString, place);
     QCOMPARE(ProblemWith(path, value).strPlace, place);
+}
+
+void TestProjectJson::TheGroupsOfACoverageBelongTogether_data()
+{
+    QTest::addColumn<QList<int>>("keys");
+    QTest::addColumn<bool>("good");
+    QTest::newRow("none of the two") << QList<int>{1, 2} << true;
+    QTest::newRow("both") << QList<int>{1, 512, 768} << true;
+    QTest::newRow("output alone") << QList<int>{512} << false;
+    QTest::newRow("screen alone") << QList<int>{1, 768} << false;
+    QTest::newRow("a key twice") << QList<int>{1, 1} << false;
+}
+
+void TestProjectJson::TheGroupsOfACoverageBelongTogether()
+{
+    QFETCH(const QList<int>, keys);
+    SSimulatedProject project;
+    project.colour.emplace();
+    for (const int nKey : keys) {
+        SProjectColourGroup group;
+        group.nKey = nKey;
+        project.colour->listGroups.append(group);
+    }
+    SFileProblem problem;
+    ProjectFromJson(ProjectToJson(project), problem);
+    QTEST(!problem.IsSet(), "good");
+    QVERIFY2(problem.strPlace.isEmpty() || problem.strPlace.startsWith(Text("colour.groups")),
+             qPrintable(problem.strPlace));
 }
 
 void TestProjectJson::MeasurementsMayBeLeftOut()

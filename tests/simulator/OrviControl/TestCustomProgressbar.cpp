@@ -121,6 +121,7 @@ void TestCustomProgressbar::ItIsAnOrdinaryProgressDialog()
     QVERIFY(bar.findChild<QPushButton*>() != nullptr);
     bar.SetProgressValue(100);
     QVERIFY2(bar.isVisible(), "the last step doesn't close it");
+    QCOMPARE(bar.value(), 100);
 }
 
 QTEST_MAIN(TestCustomProgressbar)
