@@ -51,3 +51,7 @@ build() {
     shift
     cmake --build --preset "$preset" --parallel "$(nproc)" "$@" || fail "the build of the preset $preset failed"
 }
+
+# What is built and packed bears the time of the last commit, so that the same sources give the same bytes.
+SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || date +%s)}
+export SOURCE_DATE_EPOCH
