@@ -403,11 +403,11 @@
     <name>CCoverageModel</name>
     <message>
         <source>覆盖 xy</source>
-        <translation>Covered xy</translation>
+        <translation>In xy</translation>
     </message>
     <message>
         <source>覆盖 u&apos;v&apos;</source>
-        <translation>Covered u&apos;v&apos;</translation>
+        <translation>In u&apos;v&apos;</translation>
     </message>
     <message>
         <source>面积 xy</source>

@@ -3,11 +3,11 @@
 #include "host/OrviControl/CustomMessageBox.h"
 #include "simulator/CommonClass/Simulator.h"
 #include "tests/workbench/DialogOperator.h"
+#include "tests/workbench/FilledPages.h"
 #include "tests/workbench/ShownWorkbench.h"
 #include "workbench/JournalDock.h"
 #include "workbench/PageTabs.h"
 #include "workbench/ProjectActions.h"
-#include "workbench/colour/MeasuredWall.h"
 #include "workbench/edid/EdidPage.h"
 #include "workbench/edid/FieldTree.h"
 #include "workbench/edid/HexView.h"
@@ -348,34 +348,9 @@ QString PartWithFocus(CMainWindow& window)
     return QStringLiteral("page");
 }
 
-/// A page about an input whose memory holds a block, with a measured wall, and the journal below.
-/// @param nTab tab of the page, for a page with tabs
-void ShowFilledPage(CMainWindow& window, int nPage, int nTab)
-{
-    const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
-    QVERIFY(CSimulator::Instance().Hardware().SetEdidMemory(0, nInterfaceId, QByteArray(128, 1)));
-    window.Tree().Select({0, nInterfaceId});
-    window.ShowPage(window.Pages()[std::size_t(nPage)]);
-    window.Journal().show();
-    const QByteArray wall("module,Rx,Ry,RY,Gx,Gy,GY,Bx,By,BY\n"
-                          "1,0.69,0.3,240,0.17,0.74,690,0.13,0.06,70\n"
-                          "2,0.69,0.31,240,0.17,0.73,690,0.13,0.06,70\n");
-    QVERIFY(!window.findChild<CMeasuredWall*>()->Import(wall));
-    if (auto* pTabs = window.Pages()[std::size_t(nPage)]->findChild<QTabWidget*>())
-        pTabs->setCurrentIndex(nTab);
-}
-
 void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal_data()
 {
-    QTest::addColumn<int>("page");
-    QTest::addColumn<int>("tab");
-    QTest::newRow("EDID") << 0 << 0;
-    QTest::newRow("colour: groups") << 1 << 0;
-    QTest::newRow("colour: readings") << 1 << 1;
-    QTest::newRow("colour: measured") << 1 << 2;
-    QTest::newRow("output") << 2 << 0;
-    QTest::newRow("addresses") << 3 << 0;
-    QTest::newRow("simulation") << 4 << 0;
+    FilledPages::AddRows();
 }
 
 void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal()
@@ -384,7 +359,7 @@ void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal()
     QFETCH(int, page);
     QFETCH(int, tab);
     CWorkbenchFixture workbench;
-    ShowFilledPage(workbench.window, page, tab);
+    FilledPages::Show(workbench.window, page, tab);
     workbench.Activate();
     workbench.window.Tree().setFocus();
     QStringList listParts;
@@ -401,7 +376,7 @@ void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal()
 
 void TestMainWindow::EachStopOfTabHasAName_data()
 {
-    TabGoesFromTheTreeToTabsPageAndJournal_data();
+    FilledPages::AddRows();
 }
 
 void TestMainWindow::EachStopOfTabHasAName()
@@ -410,7 +385,7 @@ void TestMainWindow::EachStopOfTabHasAName()
     QFETCH(int, page);
     QFETCH(int, tab);
     CWorkbenchFixture workbench;
-    ShowFilledPage(workbench.window, page, tab);
+    FilledPages::Show(workbench.window, page, tab);
     workbench.Activate();
     workbench.window.Tree().setFocus();
     for (int i = 0; i < c_nMostStops; ++i) {

@@ -1,12 +1,14 @@
 #include "SenderModuleDialog/SenderModuleDialogInit.h"
 #include "simulator/OrviControl/Theme.h"
 #include "tests/support/CutTexts.h"
+#include "tests/workbench/FilledPages.h"
 #include "tests/workbench/ShownWorkbench.h"
 #include "workbench/AddSenderDialog.h"
 #include "workbench/KeysDialog.h"
 #include "workbench/WorkbenchPage.h"
 #include "workbench/colour/PictureSizeDialog.h"
 
+#include <QHeaderView>
 #include <QTabWidget>
 #include <QtTest>
 
@@ -34,6 +36,8 @@ private Q_SLOTS:
     void initTestCase();
     void NoTextOfAPageIsCut_data();
     void NoTextOfAPageIsCut();
+    void NoHeadingOfATableIsCut_data();
+    void NoHeadingOfATableIsCut();
     void NoTextOfADialogIsCut_data();
     void NoTextOfADialogIsCut();
 };
@@ -76,6 +80,44 @@ void TestTextsFit::NoTextOfAPageIsCut()
     workbench.Activate();
     // Texts in another language are laid out by an event.
     QTRY_COMPARE(CutTexts::Of(workbench.window).join(QLatin1Char('|')), QString());
+}
+
+void TestTextsFit::NoHeadingOfATableIsCut_data()
+{
+    FilledPages::AddRows();
+}
+
+/// The headings of a window's columns that are wider than their columns.
+QStringList CutHeadings(const QWidget& window)
+{
+    QStringList listCut;
+    for (const QHeaderView* pHeader : window.findChildren<QHeaderView*>()) {
+        if (!pHeader->isVisible() || pHeader->orientation() != Qt::Horizontal)
+            continue;
+        const int nMargins = 2 * pHeader->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, pHeader);
+        for (int nColumn = 0; nColumn < pHeader->count(); ++nColumn) {
+            const QString strHeading = pHeader->model()->headerData(nColumn, Qt::Horizontal).toString();
+            const int nNeeded = CutTexts::TextWidth(*pHeader, strHeading) + nMargins;
+            if (!pHeader->isSectionHidden(nColumn) && pHeader->sectionSize(nColumn) < nNeeded)
+                listCut.append(strHeading);
+        }
+    }
+    return listCut;
+}
+
+void TestTextsFit::NoHeadingOfATableIsCut()
+{
+    QFETCH(int, page);
+    QFETCH(int, tab);
+    for (const enLanguage language : c_arrLanguages) {
+        CWorkbenchFixture workbench;
+        workbench.language.Set(language);
+        workbench.window.ArrangeFor({1024, 700});
+        workbench.Activate();
+        FilledPages::Show(workbench.window, page, tab);
+        QTRY_COMPARE(CutHeadings(workbench.window).join(QLatin1Char('|')), QString());
+        QTRY_COMPARE(CutTexts::Of(workbench.window).join(QLatin1Char('|')), QString());
+    }
 }
 
 void TestTextsFit::NoTextOfADialogIsCut_data()
