@@ -209,6 +209,17 @@
     </message>
 </context>
 <context>
+    <name>CBytePanes</name>
+    <message>
+        <source>EDID 字节</source>
+        <translation>EDID bytes</translation>
+    </message>
+    <message>
+        <source>另一个 EDID 的字节</source>
+        <translation>Bytes of the other EDID</translation>
+    </message>
+</context>
+<context>
     <name>CCanvasPreview</name>
     <message>
         <source>%1 × %2 像素，显示为 %3%</source>
@@ -459,36 +470,12 @@
 <context>
     <name>CEdidPage</name>
     <message>
-        <source>没有设置：对话框以默认值打开</source>
-        <translation>No setting: the dialog opens with its defaults</translation>
-    </message>
-    <message>
         <source>EDID</source>
         <translation>EDID</translation>
     </message>
     <message>
-        <source>只提供低帧率</source>
-        <translation>Low rates only</translation>
-    </message>
-    <message>
-        <source>对话框不提供 50 Hz 以上的帧率</source>
-        <translation>The dialog offers no rate above 50 Hz</translation>
-    </message>
-    <message>
-        <source>编辑 EDID...</source>
-        <translation>Edit EDID...</translation>
-    </message>
-    <message>
         <source>保存块...</source>
         <translation>Save block...</translation>
-    </message>
-    <message>
-        <source>EDID 字节</source>
-        <translation>EDID bytes</translation>
-    </message>
-    <message>
-        <source>请选择一个输入</source>
-        <translation>Choose an input</translation>
     </message>
     <message>
         <source>EDID 存储器没有变化。</source>
@@ -635,20 +622,8 @@
         <translation>EDID fields</translation>
     </message>
     <message>
-        <source>另一个 EDID 的字节</source>
-        <translation>Bytes of the other EDID</translation>
-    </message>
-    <message>
         <source>构建 %1 的块</source>
         <translation>Build the block of %1</translation>
-    </message>
-    <message>
-        <source>块不能如实保存这个模式：%1。</source>
-        <translation>The block cannot hold this mode as it is: %1.</translation>
-    </message>
-    <message>
-        <source>；</source>
-        <translation>; </translation>
     </message>
     <message>
         <source>请在左边选择一个输入，或者打开、拖入、粘贴一个 EDID。</source>
@@ -3459,6 +3434,37 @@ Delete addresses that are no longer in use first.</translation>
 请先删除不再使用的地址，或检查本机的网络设置。</source>
         <translation>No address after this computer&apos;s %1 is free, so no processor can be added by hand.
 Delete addresses that are no longer in use first, or check this computer&apos;s network settings.</translation>
+    </message>
+</context>
+<context>
+    <name>CInputHead</name>
+    <message>
+        <source>没有设置：对话框以默认值打开</source>
+        <translation>No setting: the dialog opens with its defaults</translation>
+    </message>
+    <message>
+        <source>只提供低帧率</source>
+        <translation>Low rates only</translation>
+    </message>
+    <message>
+        <source>对话框不提供 50 Hz 以上的帧率</source>
+        <translation>The dialog offers no rate above 50 Hz</translation>
+    </message>
+    <message>
+        <source>编辑 EDID...</source>
+        <translation>Edit EDID...</translation>
+    </message>
+    <message>
+        <source>请选择一个输入</source>
+        <translation>Choose an input</translation>
+    </message>
+    <message>
+        <source>块不能如实保存这个模式：%1。</source>
+        <translation>The block cannot hold this mode as it is: %1.</translation>
+    </message>
+    <message>
+        <source>；</source>
+        <translation>; </translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,8 @@
 
 #include <QColor>
 
+class QLabel;
+
 /// The colours that fields and bytes share.
 namespace EdidColours {
 
@@ -10,6 +12,9 @@ namespace EdidColours {
 const QColor c_clrChanged(255, 190, 80);
 /// What was refused.
 const QColor c_clrRefused(255, 120, 110);
+
+/// Gives the text of a label a colour.
+void Set(QLabel& label, const QColor& clr);
 
 } // namespace EdidColours
 

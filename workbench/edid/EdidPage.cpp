@@ -1,25 +1,24 @@
 #include "workbench/edid/EdidPage.h"
 
 #include "SenderModuleDialog/edid/EdidSetDlg.h"
-#include "instruments/edid/BlockCuts.h"
 #include "instruments/edid/Editing.h"
 #include "instruments/edid/Writing.h"
 #include "simulator/CommonClass/Simulator.h"
 #include "workbench/ModeText.h"
 #include "workbench/SaveDialog.h"
 #include "workbench/WholeFile.h"
+#include "workbench/edid/BytePanes.h"
 #include "workbench/edid/EdidColours.h"
 #include "workbench/edid/EdidMemoryUpdater.h"
 #include "workbench/edid/EdidSources.h"
 #include "workbench/edid/FieldModel.h"
 #include "workbench/edid/FieldTree.h"
 #include "workbench/edid/FindingList.h"
-#include "workbench/edid/HexView.h"
+#include "workbench/edid/InputHead.h"
 #include "workbench/edid/WriteProblem.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QCheckBox>
 #include <QClipboard>
 #include <QDir>
 #include <QDropEvent>
@@ -32,20 +31,12 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSplitter>
 #include <QStackedWidget>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <numeric>
-
 namespace {
-
-constexpr int c_nTitleSize = 16; ///< font size of the input's name, pixels
 
 QString ChangeText(bool bFirst, int nChanged)
 {
@@ -65,11 +56,6 @@ QByteArray FormFor(const QString& strFile, const QByteArray& edid)
     if (strSuffix == QLatin1String("c") || strSuffix == QLatin1String("h"))
         return Edid::CForm(edid, QStringLiteral("EDID"));
     return strSuffix == QLatin1String("json") ? Edid::JsonForm(edid) : edid;
-}
-
-QString ModeLine(const SSimulatedInput& input)
-{
-    return input.setting ? ModeText::Of(*input.setting) : CEdidPage::tr("没有设置：对话框以默认值打开");
 }
 
 /// The mode of an input, or that at which most computers start.
@@ -107,43 +93,6 @@ QString ContentText(const SEdidContent& content)
     const QString strOrigin = OriginText(content);
     const QString strShown = content.bEdited ? CEdidPage::tr("%1（已修改）").arg(strOrigin) : strOrigin;
     return nBlocks > 1 ? CEdidPage::tr("%1，%2 个块").arg(strShown).arg(nBlocks) : strShown;
-}
-
-QVector<int> Range(int nOffset, int nSize)
-{
-    QVector<int> vecOffsets(nSize);
-    std::iota(vecOffsets.begin(), vecOffsets.end(), nOffset);
-    return vecOffsets;
-}
-
-/// Shows the first of some bytes in the area that scrolls them.
-void Reveal(const CHexView& view, const QVector<int>& vecOffsets)
-{
-    auto* pArea = qobject_cast<QScrollArea*>(view.parentWidget()->parentWidget());
-    if (pArea == nullptr || vecOffsets.isEmpty())
-        return;
-    const QRect rcByte = view.ByteRect(vecOffsets.constFirst());
-    pArea->ensureVisible(rcByte.center().x(), rcByte.center().y(), rcByte.width(), rcByte.height());
-}
-
-/// An area that is as wide as its bytes.
-QScrollArea* ScrolledBytes(CHexView& view)
-{
-    auto* pArea = new QScrollArea(view.parentWidget());
-    pArea->setWidget(&view);
-    pArea->setWidgetResizable(true);
-    pArea->setFrameShape(QFrame::NoFrame);
-    pArea->setFocusPolicy(Qt::NoFocus);
-    const int nBarWidth = pArea->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    pArea->setMinimumWidth(view.sizeHint().width() + nBarWidth);
-    return pArea;
-}
-
-void SetColour(QLabel& label, const QColor& clr)
-{
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, clr);
-    label.setPalette(palette);
 }
 
 } // namespace
@@ -192,7 +141,8 @@ CEdidPage::CEdidPage(QWidget* pParent)
     m_pChange->setObjectName(QStringLiteral("edidMessage"));
     m_pChange->setWordWrap(true);
     auto* pLayout = new QVBoxLayout(this);
-    pLayout->addWidget(CreateHead());
+    m_pHead = new CInputHead(this);
+    pLayout->addWidget(m_pHead);
     pLayout->addWidget(CreateBars());
     m_pStack = new QStackedWidget(this);
     m_pStack->addWidget(CreateMemoryView());
@@ -202,6 +152,7 @@ CEdidPage::CEdidPage(QWidget* pParent)
     m_pFindings->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     pLayout->addWidget(m_pFindings);
     pLayout->addWidget(m_pChange);
+    connect(m_pHead, &CInputHead::EditPressed, this, &CEdidPage::EditEdid);
     connect(m_pFindings, &CFindingList::FindingChosen, this, &CEdidPage::MarkFinding);
     connect(m_pDocument, &CEdidDocument::Changed, this, &CEdidPage::ShowDocument);
     connect(&m_pDocument->Steps(), &QUndoStack::indexChanged, this, &CEdidPage::EnableActions);
@@ -229,36 +180,6 @@ void CEdidPage::CreateActions()
         addAction(pAction);
         m_arrActions[row.action] = pAction;
     }
-}
-
-QWidget* CEdidPage::CreateHead()
-{
-    auto* pHead = new QWidget(this);
-    m_pInput = new QLabel(pHead);
-    QFont fontTitle = m_pInput->font();
-    fontTitle.setPixelSize(c_nTitleSize);
-    fontTitle.setBold(true);
-    m_pInput->setFont(fontTitle);
-    m_pMode = new QLabel(pHead);
-    m_pCuts = new QLabel(pHead);
-    m_pCuts->setObjectName(QStringLiteral("edidCuts"));
-    m_pCuts->setWordWrap(true);
-    SetColour(*m_pCuts, EdidColours::c_clrChanged);
-    m_pLowRates = new QCheckBox(pHead);
-    m_pEdit = new QPushButton(pHead);
-    auto* pRow = new QHBoxLayout;
-    auto* pTexts = new QVBoxLayout;
-    pTexts->addWidget(m_pInput);
-    pTexts->addWidget(m_pMode);
-    pRow->addLayout(pTexts, 1);
-    pRow->addWidget(m_pLowRates);
-    pRow->addWidget(m_pEdit);
-    auto* pLayout = new QVBoxLayout(pHead);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addLayout(pRow);
-    pLayout->addWidget(m_pCuts);
-    connect(m_pEdit, &QPushButton::clicked, this, &CEdidPage::EditEdid);
-    return pHead;
 }
 
 QToolButton* CEdidPage::CreateButton(enAction action)
@@ -317,29 +238,6 @@ QWidget* CEdidPage::CreatePlaceholder()
     return pPlaceholder;
 }
 
-/// Both views scroll together: the same byte stands at the same place.
-QWidget* CEdidPage::CreateBytes()
-{
-    auto* pBytes = new QWidget;
-    m_pBytes = new CHexView(pBytes);
-    m_pOtherTitle = new QLabel(pBytes);
-    m_pOtherTitle->setWordWrap(true);
-    m_pOtherBytes = new CHexView(pBytes);
-    m_pOtherBytes->setObjectName(QStringLiteral("edidOtherBytes"));
-    QScrollArea* pArea = ScrolledBytes(*m_pBytes);
-    m_pOtherArea = ScrolledBytes(*m_pOtherBytes);
-    const QScrollBar* pBar = pArea->verticalScrollBar();
-    const QScrollBar* pOtherBar = m_pOtherArea->verticalScrollBar();
-    connect(pBar, &QScrollBar::valueChanged, pOtherBar, &QScrollBar::setValue);
-    connect(pOtherBar, &QScrollBar::valueChanged, pBar, &QScrollBar::setValue);
-    auto* pLayout = new QVBoxLayout(pBytes);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(pArea, 1);
-    pLayout->addWidget(m_pOtherTitle);
-    pLayout->addWidget(m_pOtherArea, 1);
-    return pBytes;
-}
-
 QWidget* CEdidPage::CreateMemoryView()
 {
     auto* pSplitter = new QSplitter(this);
@@ -349,12 +247,13 @@ QWidget* CEdidPage::CreateMemoryView()
     pHeader->setSectionResizeMode(CFieldModel::enValue, QHeaderView::Stretch);
     pHeader->setSectionResizeMode(CFieldModel::enOther, QHeaderView::Stretch);
     pSplitter->addWidget(m_pFields);
-    pSplitter->addWidget(CreateBytes());
+    m_pBytes = new CBytePanes(pSplitter);
+    pSplitter->addWidget(m_pBytes);
     pSplitter->setStretchFactor(0, 1);
     pSplitter->setCollapsible(1, false);
     connect(m_pFields, &CFieldTree::CurrentMoved, this, &CEdidPage::MarkSelectedField);
     connect(m_pFields, &CFieldTree::Refused, this, &CEdidPage::SayRefusal);
-    connect(m_pBytes, &CHexView::ByteChosen, this, &CEdidPage::SelectFieldOfByte);
+    connect(m_pBytes, &CBytePanes::ByteChosen, this, &CEdidPage::SelectFieldOfByte);
     return pSplitter;
 }
 
@@ -365,9 +264,7 @@ QString CEdidPage::Title() const
 
 void CEdidPage::Retranslate()
 {
-    m_pLowRates->setText(tr("只提供低帧率"));
-    m_pLowRates->setToolTip(tr("对话框不提供 50 Hz 以上的帧率"));
-    m_pEdit->setText(tr("编辑 EDID..."));
+    m_pHead->Retranslate();
     for (const SActionRow& row : c_arrActions) {
         QAction* pAction = m_arrActions[row.action];
         pAction->setText(tr(row.szText));
@@ -379,8 +276,7 @@ void CEdidPage::Retranslate()
     }
     m_pCompare->setText(tr("比较"));
     m_pFields->setAccessibleName(tr("EDID 字段"));
-    m_pBytes->setAccessibleName(tr("EDID 字节"));
-    m_pOtherBytes->setAccessibleName(tr("另一个 EDID 的字节"));
+    m_pBytes->Retranslate();
     m_pModel->Retranslate();
     m_pFindings->Retranslate();
     Refresh();
@@ -412,11 +308,7 @@ void CEdidPage::ShowSelection(const SSelection& selection)
 void CEdidPage::Refresh()
 {
     const SSimulatedInput* pInput = Input();
-    m_pEdit->setEnabled(pInput != nullptr);
-    m_pLowRates->setEnabled(pInput != nullptr);
-    m_pInput->setText(pInput == nullptr ? tr("请选择一个输入") : pInput->strName);
-    m_pMode->setText(pInput == nullptr ? QString() : ModeLine(*pInput));
-    ShowCuts();
+    m_pHead->Show(pInput);
     TakeMemory();
     m_arrActions[enBuild]->setIconText(tr("构建 %1 的块").arg(ModeText::Of(SettingOf(pInput))));
     m_pEmpty->setText(Emptiness());
@@ -432,18 +324,6 @@ void CEdidPage::TakeMemory()
     m_memory = memory;
     if (!bSame && m_pDocument->IsFollowing())
         m_pDocument->Follow(memory);
-}
-
-/// What the block of the input's mode does not hold.
-void CEdidPage::ShowCuts()
-{
-    const SSimulatedInput* pInput = Input();
-    QStringList listCuts;
-    if (pInput != nullptr && pInput->setting)
-        listCuts = Edid::BlockCuts(Edid::ReducedBlockMode(pInput->setting->wWidth, pInput->setting->wHeight,
-                                                          ModeText::Rate(*pInput->setting)));
-    m_pCuts->setVisible(!listCuts.isEmpty());
-    m_pCuts->setText(tr("块不能如实保存这个模式：%1。").arg(listCuts.join(tr("；"))));
 }
 
 QString CEdidPage::Emptiness() const
@@ -501,21 +381,17 @@ void CEdidPage::ShowBytes()
 {
     const bool bComparing = m_pDocument->IsComparing();
     const QVector<int> vecDifferent = m_pDocument->DifferentBytes();
-    m_pBytes->SetBytes(m_pDocument->Content().bytes);
-    m_pBytes->SetChanged(bComparing ? vecDifferent : m_vecChanged);
-    m_pOtherBytes->SetBytes(m_pDocument->Other().bytes);
-    m_pOtherBytes->SetChanged(vecDifferent);
-    m_pOtherArea->setVisible(bComparing);
-    m_pOtherTitle->setVisible(bComparing);
+    m_pBytes->Show({m_pDocument->Content().bytes, bComparing ? vecDifferent : m_vecChanged});
+    m_pBytes->ShowOther({m_pDocument->Other().bytes, vecDifferent}, bComparing);
 }
 
 void CEdidPage::ShowSource()
 {
     const SEdidContent& content = m_pDocument->Content();
     m_pSource->setText(content.bytes.isEmpty() ? QString() : tr("显示：%1").arg(ContentText(content)));
-    m_pOtherTitle->setText(tr("比较：%1，%2 个字段不同")
-                               .arg(ContentText(m_pDocument->Other()))
-                               .arg(m_pDocument->Differences().size()));
+    m_pBytes->SetOtherTitle(tr("比较：%1，%2 个字段不同")
+                                .arg(ContentText(m_pDocument->Other()))
+                                .arg(m_pDocument->Differences().size()));
 }
 
 void CEdidPage::ShowChange(const QByteArray& blockBefore, const QByteArray& blockAfter)
@@ -531,29 +407,26 @@ void CEdidPage::ShowChange(const QByteArray& blockBefore, const QByteArray& bloc
 
 void CEdidPage::Say(const QString& strText)
 {
-    SetColour(*m_pChange, palette().color(QPalette::WindowText));
+    EdidColours::Set(*m_pChange, palette().color(QPalette::WindowText));
     m_pChange->setText(strText);
 }
 
 void CEdidPage::SayRefusal(const QString& strText)
 {
-    SetColour(*m_pChange, EdidColours::c_clrRefused);
+    EdidColours::Set(*m_pChange, EdidColours::c_clrRefused);
     m_pChange->setText(strText);
 }
 
 void CEdidPage::MarkSelectedField()
 {
     const QModelIndex index = m_pFields->currentIndex();
-    m_pBytes->SetMarked(m_pModel->BytesOf(index));
-    m_pOtherBytes->SetMarked(m_pModel->OtherBytesOf(index));
-    Reveal(*m_pBytes, m_pBytes->Marked());
+    m_pBytes->Mark(m_pModel->BytesOf(index), m_pModel->OtherBytesOf(index));
 }
 
 void CEdidPage::MarkFinding(int nOffset, int nSize)
 {
     m_pFields->ShowRow(m_pModel->IndexOfByte(nOffset));
-    m_pBytes->SetMarked(Range(nOffset, nSize));
-    Reveal(*m_pBytes, m_pBytes->Marked());
+    m_pBytes->MarkRange(nOffset, nSize);
 }
 
 void CEdidPage::SelectFieldOfByte(int nOffset)
@@ -569,7 +442,7 @@ void CEdidPage::EditEdid()
     const qint64 nLastCall = CSimulator::Instance().Journal().LastNumber();
     const auto connection =
         connect(m_pUpdater, &CEdidMemoryUpdater::BlockStored, this, [&bTook] { bTook = true; });
-    CEdidSetDlg dialog(this, m_selection.nInterfaceId, m_pLowRates->isChecked());
+    CEdidSetDlg dialog(this, m_selection.nInterfaceId, m_pHead->IsLowRatesOnly());
     bool bAccepted = false;
     DoAsStep(tr("设置 EDID"), [&] { bAccepted = dialog.exec() == QDialog::Accepted; });
     disconnect(connection);
@@ -693,8 +566,7 @@ void CEdidPage::ShowDifference(bool bForward)
     if (!index.isValid())
         return Say(tr("没有不同的字段。"));
     m_pFields->ShowRow(index);
-    Reveal(*m_pOtherBytes, m_pOtherBytes->Marked());
-    Reveal(*m_pBytes, m_pBytes->Marked());
+    m_pBytes->RevealMarked();
 }
 
 void CEdidPage::Undo()

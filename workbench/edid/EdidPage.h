@@ -7,16 +7,14 @@
 #include <array>
 #include <optional>
 
+class CBytePanes;
 class CEdidMemoryUpdater;
 class CFieldModel;
 class CFieldTree;
 class CFindingList;
-class CHexView;
+class CInputHead;
 class QAction;
-class QCheckBox;
 class QLabel;
-class QPushButton;
-class QScrollArea;
 class QStackedWidget;
 class QToolButton;
 struct SEdidSource;
@@ -100,12 +98,10 @@ private:
     const SStepKey* StepOf(const QKeyEvent& event) const;
 
     void CreateActions();
-    QWidget* CreateHead();
     QWidget* CreateBars();
     QToolButton* CreateButton(enAction action);
     QWidget* CreatePlaceholder();
     QWidget* CreateMemoryView();
-    QWidget* CreateBytes();
 
     void Open();
     void Paste();
@@ -136,7 +132,6 @@ private:
     void ShowSource();
     void EnableActions();
     QString Emptiness() const;
-    void ShowCuts();
     void ShowChange(const QByteArray& blockBefore, const QByteArray& blockAfter);
     void Say(const QString& strText);
     void SayRefusal(const QString& strText);
@@ -151,21 +146,14 @@ private:
     CFieldModel* m_pModel = nullptr;
     CEdidMemoryUpdater* m_pUpdater = nullptr;
     std::array<QAction*, enActionCount> m_arrActions = {};
-    QLabel* m_pInput = nullptr;
-    QLabel* m_pMode = nullptr;
-    QLabel* m_pCuts = nullptr;
+    CInputHead* m_pHead = nullptr;
     QLabel* m_pSource = nullptr;
     QLabel* m_pChange = nullptr;
     QLabel* m_pEmpty = nullptr;
-    QCheckBox* m_pLowRates = nullptr;
-    QPushButton* m_pEdit = nullptr;
     QToolButton* m_pCompare = nullptr;
     QStackedWidget* m_pStack = nullptr;
     CFieldTree* m_pFields = nullptr;
-    CHexView* m_pBytes = nullptr;
-    CHexView* m_pOtherBytes = nullptr;
-    QLabel* m_pOtherTitle = nullptr;
-    QScrollArea* m_pOtherArea = nullptr;
+    CBytePanes* m_pBytes = nullptr;
     CFindingList* m_pFindings = nullptr;
 };
 
