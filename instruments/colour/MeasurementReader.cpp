@@ -97,7 +97,7 @@ private:
                               strPrimary);
             const QString strName = NameOfPrimary(line, vecPartials, *colour);
             if (!hashPlaces.contains(strName)) {
-                hashPlaces.insert(strName, int(vecPartials.size()));
+                hashPlaces.insert(strName, vecPartials.size());
                 vecPartials.push_back({strName, line.nNumber, {}});
             }
             auto& reading = vecPartials[hashPlaces.value(strName)].arrReadings[std::size_t(*colour)];
