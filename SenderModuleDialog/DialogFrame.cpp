@@ -5,6 +5,7 @@
 #include "host/OrviControl/CustomLabel.h"
 #include "host/OrviControl/CustomMessageBox.h"
 #include "host/OrviControl/Style.h"
+#include "host/QtCompat.h"
 
 #include <QAction>
 #include <QFontMetrics>
@@ -223,7 +224,7 @@ QHBoxLayout* CreateOkCancelRow(QWidget* pParent, const std::function<void(int nI
 void Finish(QDialog* pDialog, enResult result)
 {
     pDialog->done(result);
-    pDialog->close();
+    QtCompat::CloseHidden(*pDialog);
 }
 
 void ShowWrapped(CCustomLabel* pLabel, const QString& strText, int nLines)

@@ -2,6 +2,8 @@
 #define HOST_QTCOMPAT_H
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
 #include <QFontDatabase>
 #include <QLibraryInfo>
 #include <QMouseEvent>
@@ -53,6 +55,12 @@ inline void ReadUtf8(QTextStream& stream)
     stream.setCodec("UTF-8");
 }
 
+/// Sends a dialog that is over its close event.
+inline void CloseHidden(QDialog& dialog)
+{
+    dialog.close();
+}
+
 /// Before the application: sizes in logical pixels, and pictures as sharp as the screen.
 inline void EnableHighDpi()
 {
@@ -90,6 +98,13 @@ inline QString TranslationsFolder()
 inline void ReadUtf8(QTextStream& stream)
 {
     stream.setEncoding(QStringConverter::Utf8);
+}
+
+/// `close` does nothing more for a dialog that is over.
+inline void CloseHidden(QDialog& dialog)
+{
+    QCloseEvent event;
+    QApplication::sendEvent(&dialog, &event);
 }
 
 inline void EnableHighDpi() {}

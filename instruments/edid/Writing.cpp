@@ -26,8 +26,8 @@ QStringList ByteRows(const QByteArray& edid, int nColumns, const QString& strPre
     QStringList listRows;
     for (int nStart = 0; nStart < edid.size(); nStart += nColumns) {
         QStringList listBytes;
-        for (int i = nStart; i < qMin(nStart + nColumns, edid.size()); ++i)
-            listBytes += strPrefix + strDigits.midRef(2 * i, 2);
+        for (int i = nStart; i < qMin(nStart + nColumns, int(edid.size())); ++i)
+            listBytes += strPrefix + strDigits.mid(2 * i, 2);
         listRows += listBytes.join(strSeparator);
     }
     return listRows;

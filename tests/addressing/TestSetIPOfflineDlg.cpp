@@ -110,7 +110,7 @@ void TestSetIPOfflineDlg::EachModeHasItsTitleRowsAndSize()
     QTEST(dialog.windowTitle(), "title");
     QCOMPARE(dialog.size(), QSize(330, 125));
     QTEST(Captions(dialog), "captions");
-    QTEST(AddressFields(dialog).size(), "fields");
+    QTEST(int(AddressFields(dialog).size()), "fields");
     QTEST(NameField(dialog) != nullptr, "named");
     QCOMPARE(Control<QPushButton>(dialog, "ok").size(), QSize(80, 24));
     QCOMPARE(Control<QPushButton>(dialog, "cancel").size(), QSize(80, 24));

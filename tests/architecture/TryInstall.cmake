@@ -1,7 +1,8 @@
 # Installs the build into a folder of its own, moves that elsewhere, builds programs against it with find_package, and
 # runs them; then builds one of them with qmake and pkg-config.
 #
-#   cmake -DBUILD_FOLDER=... -DCONSUMER=... -DEXAMPLES=... -DWORK_FOLDER=... -DCXX=... -DLAUNCHER=... -P TryInstall.cmake
+#   cmake -DBUILD_FOLDER=... -DCONSUMER=... -DEXAMPLES=... -DWORK_FOLDER=... -DCXX=... -DLAUNCHER=... -DQT=5 \
+#         -P TryInstall.cmake
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE STATUS OUTPUT_VARIABLE OUTPUT ERROR_VARIABLE OUTPUT)
     if(NOT STATUS EQUAL 0)
@@ -25,7 +26,7 @@ file(RENAME "${WORK_FOLDER}/first" "${PREFIX}")
 
 run("${CMAKE_COMMAND}" -S "${CONSUMER}" -B "${WORK_FOLDER}/build" -G Ninja
     "-DCMAKE_PREFIX_PATH=${PREFIX}" "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}"
-    "-DEXAMPLES=${EXAMPLES}")
+    "-DEXAMPLES=${EXAMPLES}" "-DSENDER_QT=${QT}")
 run("${CMAKE_COMMAND}" --build "${WORK_FOLDER}/build")
 set(ENV{QT_QPA_PLATFORM} offscreen)
 run("${WORK_FOLDER}/build/consumer")
@@ -82,8 +83,12 @@ run(pkg-config --variable=includedir SenderModuleDialog)
 require_file("${OUTPUT}/SenderModuleDialog/SenderModuleDialogInit.h")
 
 # The second way to build: qmake.
+set(QMAKE qmake)
+if(QT EQUAL 6)
+    set(QMAKE qmake6)
+endif()
 file(MAKE_DIRECTORY "${WORK_FOLDER}/qmake")
 run("${CMAKE_COMMAND}" -E chdir "${WORK_FOLDER}/qmake"
-    qmake "${EXAMPLES}/minimal-host/minimal-host.pro" "QMAKE_CXX=${LAUNCHER} ${CXX}")
+    ${QMAKE} "${EXAMPLES}/minimal-host/minimal-host.pro" "QMAKE_CXX=${LAUNCHER} ${CXX}")
 run("${CMAKE_COMMAND}" -E chdir "${WORK_FOLDER}/qmake" make)
 require_file("${WORK_FOLDER}/qmake/minimal-host")

@@ -47,6 +47,13 @@ private Q_SLOTS:
 
 namespace {
 
+// Qt 6 takes whole pixels for each line of a text, Qt 5 for the whole text.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+constexpr int c_nLineRounding = 0;
+#else
+constexpr int c_nLineRounding = 1;
+#endif
+
 /// Sets up a host whose dialog shows the rows asked for: 1 connect to computer, 2 timing standard, 4 error,
 /// 8 custom size. Types 43, 24: both; 16: standard alone; 18: none. Connect alone does not exist: each type
 /// that has it has the standard too.
@@ -328,7 +335,7 @@ void TestEdidSetDlgWindow::ALongVerdictEndsInAnEllipsisAndIsTheTooltip()
     const QRect rcText =
         error.fontMetrics().boundingRect(QRect(0, 0, error.width(), 1000), Qt::TextWordWrap, error.text());
     QCOMPARE(error.text().count(QLatin1Char('\n')), 2);
-    QVERIFY(rcText.height() <= error.height());
+    QVERIFY(rcText.height() <= error.height() + c_nLineRounding * 3);
     QVERIFY(rcText.width() <= error.width());
 
     EdidDialog::Choose(dialog.probe.Resolution(), QStringLiteral("1280 × 720"));

@@ -23,7 +23,7 @@ SGamut Standard(int nIndex)
 }
 
 /// A wall that shows exactly a standard at full drive.
-SPrimaries Display(const SGamut& gamut, SChromaticity white, double dLevel)
+SPrimaries MeasuredDisplay(const SGamut& gamut, SChromaticity white, double dLevel)
 {
     const auto luminances = Primaries::LuminancesForWhite(gamut, white, dLevel);
     return {
@@ -163,7 +163,7 @@ void TestPrimaries::LuminancesMixToTheWhite()
     QVERIFY(PropertyHolds("the primaries at their luminances add up to the white", [] {
         const SGamut gamut = AnyGamut();
         const double dLevel = AnyBetween(10.0, 5000.0);
-        const auto white = Primaries::WhiteOf(Display(gamut, c_d65, dLevel));
+        const auto white = Primaries::WhiteOf(MeasuredDisplay(gamut, c_d65, dLevel));
         RC_ASSERT(std::abs(white->xy.dX - c_d65.dX) < c_dRounding);
         RC_ASSERT(std::abs(white->xy.dY - c_d65.dY) < c_dRounding);
         RC_ASSERT(std::abs(white->dLuminance / dLevel - 1.0) < c_dRounding);
@@ -212,7 +212,8 @@ void TestPrimaries::TheDriveMatrixOfADisplayToItselfIsOne()
     QVERIFY(PropertyHolds("a display that is the standard needs no correction", [] {
         const SGamut gamut = AnyGamut();
         const double dLevel = AnyBetween(10.0, 5000.0);
-        const auto drive = Primaries::DriveMatrix(gamut, c_d65, dLevel, Display(gamut, c_d65, dLevel));
+        const auto drive =
+            Primaries::DriveMatrix(gamut, c_d65, dLevel, MeasuredDisplay(gamut, c_d65, dLevel));
         RC_ASSERT(LargestDifference(*drive, CColourMatrix::Identity()) < c_dRounding);
     }));
 }
@@ -234,14 +235,14 @@ void TestPrimaries::DriveValuesShowTheSourcesColours()
 
 void TestPrimaries::InsideTheGamutNothingClips()
 {
-    const SPrimaries wide = Display(Standard(6), c_d65, 1000.0);
+    const SPrimaries wide = MeasuredDisplay(Standard(6), c_d65, 1000.0);
     const auto drive = Primaries::DriveMatrix(Standard(0), c_d65, 1000.0, wide);
     QCOMPARE(Primaries::ClipShare(*drive, 17).dClipped, 0.0);
 }
 
 void TestPrimaries::ClippedColoursAreThoseOfAPlainCount()
 {
-    const SPrimaries narrow = Display(Standard(0), c_d65, 1000.0);
+    const SPrimaries narrow = MeasuredDisplay(Standard(0), c_d65, 1000.0);
     const CColourMatrix drive = *Primaries::DriveMatrix(Standard(6), c_d65, 1100.0, narrow);
     int nBelow = 0;
     int nAbove = 0;
@@ -279,7 +280,7 @@ void TestPrimaries::WhatIsNoDisplayIsNamed_data()
 {
     QTest::addColumn<SPrimaries>("display");
     QTest::addColumn<enColourFault>("fault");
-    const SPrimaries good = Display(Standard(7), c_d65, 1000.0);
+    const SPrimaries good = MeasuredDisplay(Standard(7), c_d65, 1000.0);
     SPrimaries display = good;
     QTest::newRow("good") << display << enColourFault::enNone;
     display.green.dLuminance = 0.0;

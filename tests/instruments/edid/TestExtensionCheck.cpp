@@ -129,7 +129,8 @@ void TestExtensionCheck::SoundExtensionsHaveNoError_data()
     QTest::newRow("a display descriptor behind the timings")
         << With(Cta({Sound(), Hex(c_szTiming) + Hex("000000FC004C45442057414C4C0A20202020")}));
     QTest::newRow("DisplayID") << SectionWith("");
-    QTest::newRow("a short section") << With(Section({SoundSection(), 0x13, 3, 0, SoundSection().size()}));
+    QTest::newRow("a short section") << With(
+        Section({SoundSection(), 0x13, 3, 0, int(SoundSection().size())}));
     QTest::newRow("two sections") << With(Section({Hex(c_szProduct) + Hex(c_szParameters), 0x13, 3, 1}) +
                                           Section({Hex(c_szTypeI) + Hex(c_szInterface), 0x13, 0}));
     QTest::newRow("a repeater") << With(Section(
@@ -255,7 +256,7 @@ void TestExtensionCheck::AViolationIsTheDecodersFailure_data()
     Add("displayid.block at c7", SectionWith("7F0070"), "exceeds the number of bytes remaining");
     Add("displayid.filler at c7", SectionWith("000000 0001"), "Non-0 filler bytes");
     Add("displayid.padding at c8",
-        With(Section({SoundSection() + Hex("0001"), 0x13, 3, 0, SoundSection().size()})),
+        With(Section({SoundSection() + Hex("0001"), 0x13, 3, 0, int(SoundSection().size())})),
         "padding contains non-zero bytes");
 }
 
