@@ -17,7 +17,7 @@ constexpr int c_nMaxBytes = 3 * c_nEdidBlockSize;
 std::vector<Edid::SField> FieldsOf(const QByteArray& edid)
 {
     std::vector<Edid::SField> vecFields;
-    Edid::Explain(reinterpret_cast<const quint8*>(edid.constData()), edid.size(), vecFields);
+    Edid::Explain(reinterpret_cast<const quint8*>(edid.constData()), int(edid.size()), vecFields);
     return vecFields;
 }
 
@@ -42,7 +42,7 @@ void CheckFields(const QByteArray& edid, unsigned nChoice)
 void CheckFindings(const QByteArray& edid, unsigned nChoice)
 {
     std::vector<Edid::SFinding> vecFindings;
-    Edid::Check(reinterpret_cast<const quint8*>(edid.constData()), edid.size(), {2026}, vecFindings);
+    Edid::Check(reinterpret_cast<const quint8*>(edid.constData()), int(edid.size()), {2026}, vecFindings);
     for (const Edid::SFinding& finding : vecFindings) {
         Require(finding.nOffset >= 0 && finding.nSize > 0 && finding.nOffset + finding.nSize <= edid.size(),
                 "a finding lies in the bytes");

@@ -19,7 +19,7 @@ constexpr int c_nValueSize = 24;
 std::vector<SField> FieldsOf(const QByteArray& edid)
 {
     std::vector<SField> vecFields;
-    Edid::Explain(reinterpret_cast<const quint8*>(edid.constData()), edid.size(), vecFields);
+    Edid::Explain(reinterpret_cast<const quint8*>(edid.constData()), int(edid.size()), vecFields);
     return vecFields;
 }
 

@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSi
     const Edid::SReading reading = Edid::Read(QByteArray(reinterpret_cast<const char*>(pData), int(nSize)));
     Require(reading.IsRead() != reading.vecEdids.isEmpty(), "there are EDIDs or a reason");
     for (const Edid::SNamedEdid& edid : reading.vecEdids) {
-        const int nBytes = edid.bytes.size();
+        const int nBytes = int(edid.bytes.size());
         Require(nBytes > 0 && nBytes % c_nEdidBlockSize == 0, "an EDID has whole blocks");
         Require(nBytes <= Edid::c_nMaxBlocks * c_nEdidBlockSize, "an EDID has at most 256 blocks");
         CheckForm(Edid::HexForm(edid.bytes), edid.bytes);

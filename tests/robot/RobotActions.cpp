@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QFileDialog>
+#include <QMenu>
 #include <QPointer>
 #include <QWheelEvent>
 #include <QWidget>
