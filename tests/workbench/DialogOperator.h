@@ -10,8 +10,9 @@
 #include <functional>
 #include <utility>
 
-/// Operates the next dialog that opens, from its own event loop. Closes a dialog that is left open: a failing
-/// check must not leave the test waiting.
+/// Operates the next dialog that opens, from its own event loop, once it is active: with Qt 6 it becomes so
+/// later than it is shown, and the field that an operator would type into has no focus before. Closes a
+/// dialog that is left open: a failing check must not leave the test waiting.
 class CDialogOperator : public QObject
 {
 public:
@@ -27,7 +28,8 @@ public:
         if (pDialog != nullptr && pEvent->type() == QEvent::Show && m_funcOperate) {
             const auto funcOperate = std::exchange(m_funcOperate, {});
             const auto Operate = [funcOperate, pDialog] {
-                funcOperate(pDialog);
+                if (QTest::qWaitFor([pDialog] { return pDialog->isActiveWindow(); }))
+                    funcOperate(pDialog);
                 if (pDialog->isVisible())
                     pDialog->reject();
             };
