@@ -78,6 +78,7 @@ private Q_SLOTS:
     void ADoubleClickOnAnInputEditsItsEdid();
     void F2RenamesTheSender();
     void ADoubleClickRenamesTheSender();
+    void AClickRightAfterEnterTakesTheNameOnce();
     void AnEmptyNameIsNotTaken();
     void DeleteRemovesTheSelectedSendersInOneStep();
     void DeleteOnAnInputRemovesNothing();
@@ -130,6 +131,22 @@ void TestSenderActions::ADoubleClickRenamesTheSender()
     shown.DoubleClick(shown.Tree().topLevelItem(0));
     shown.Type(QStringLiteral("right"));
     QTRY_COMPARE(Names().first(), QStringLiteral("right"));
+}
+
+void TestSenderActions::AClickRightAfterEnterTakesTheNameOnce()
+{
+    SFocusedTree shown;
+    const QStringList listBefore = Names();
+    shown.Press(Qt::Key_F2);
+    shown.Type(QStringLiteral("left"));
+    // Nothing is processed between the key and the click, as when the program was busy.
+    QTest::mouseClick(shown.Tree().viewport(), Qt::LeftButton, Qt::NoModifier,
+                      shown.Place(shown.Tree().topLevelItem(1)));
+    QTRY_VERIFY(shown.Tree().findChild<QLineEdit*>() == nullptr);
+    QCOMPARE(Names().first(), QStringLiteral("left"));
+    QTest::keyClick(&shown.window, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(Names(), listBefore);
+    QVERIFY(!shown.window.isWindowModified());
 }
 
 void TestSenderActions::AnEmptyNameIsNotTaken()
