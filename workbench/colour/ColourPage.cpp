@@ -65,6 +65,12 @@ CColourPage::CColourPage(QWidget* pParent)
     Retranslate();
 }
 
+CColourPage::~CColourPage()
+{
+    // A point that has the focus loses it now, while the page can still take what it tells.
+    hide();
+}
+
 void CColourPage::ConnectReadout()
 {
     const CPointKeys* const pKeys = &m_pView->Keys();

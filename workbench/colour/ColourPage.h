@@ -27,6 +27,7 @@ class CColourPage final : public CWorkbenchPage
 
 public:
     explicit CColourPage(QWidget* pParent = nullptr);
+    ~CColourPage() override;
 
     QString Title() const override;
     void ShowSelection(const SSelection& selection) override;
