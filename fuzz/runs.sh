@@ -9,7 +9,8 @@
 set -euo pipefail
 [ $# -ge 3 ] || { sed -n 's/^# \?//;4,8p' "$0"; exit 2; }
 programs=$1 results=$2 runs=$3 only=${4:-}
-seeds=$(dirname "$(readlink -f "$0")")/corpus
+folder=$(dirname "$(readlink -f "$0")")
+seeds=$folder/corpus
 
 targets() {
     find "$programs" -maxdepth 1 -type f -executable -name 'fuzz_*' -printf '%f\n' | sed 's/^fuzz_//' | sort
@@ -31,7 +32,8 @@ run() {
     local name=$1 begin=$EPOCHREALTIME
     mkdir -p "$results/corpus/$name"
     # A finding ends the target; the table tells it.
-    "$programs/fuzz_$name" -runs="$runs" -print_final_stats=1 -artifact_prefix="$results/$name-" \
+    LSAN_OPTIONS="suppressions=$folder/lsan.supp:print_suppressions=0" \
+        "$programs/fuzz_$name" -runs="$runs" -print_final_stats=1 -artifact_prefix="$results/$name-" \
         "$results/corpus/$name" "$seeds/$name" >"$results/$name.log" 2>&1 || true
     awk "BEGIN { print \"seconds: \" $EPOCHREALTIME - $begin }" >>"$results/$name.log"
 }
