@@ -17,6 +17,7 @@ class QAction;
 class QLabel;
 class QStackedWidget;
 class QToolButton;
+struct SEdidSetting;
 struct SEdidSource;
 struct SSimulatedInput;
 
@@ -120,7 +121,11 @@ private:
     void ChooseFileAndSave();
     void Write();
 
+    /// The mode of the selected input, or that at which most computers start.
+    SEdidSetting Setting() const;
     SEdidContent Memory() const;
+    /// A file that the operator chooses; empty for none.
+    QString ChosenFile(const QString& strTitle);
     std::optional<SEdidContent> ChosenFrom(const SEdidSource& source);
     void Load(const SEdidSource& source, const QString& strStep);
     void Compare(const SEdidSource& source);
