@@ -3,33 +3,22 @@
 #include "host/OrviControl/CustomMessageBox.h"
 #include "simulator/CommonClass/Simulator.h"
 #include "tests/workbench/DialogOperator.h"
-#include "tests/workbench/FilledPages.h"
 #include "tests/workbench/ShownWorkbench.h"
 #include "workbench/JournalDock.h"
-#include "workbench/PageTabs.h"
 #include "workbench/ProjectActions.h"
 #include "workbench/edid/EdidPage.h"
-#include "workbench/edid/FieldTree.h"
 #include "workbench/edid/HexView.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
-#include <QLineEdit>
-#include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QTabBar>
 #include <QTemporaryDir>
-#include <QTextBrowser>
 #include <QtTest>
 
 namespace {
@@ -64,28 +53,14 @@ private Q_SLOTS:
     void AWriteThatTookIsReported();
     void AFailedWriteIsAMessageWithReasonAndRemedy_data();
     void AFailedWriteIsAMessageWithReasonAndRemedy();
-    void TabGoesFromTheTreeToTabsPageAndJournal_data();
-    void TabGoesFromTheTreeToTabsPageAndJournal();
-    void EachStopOfTabHasAName_data();
-    void EachStopOfTabHasAName();
-    void ControlAndADigitShowAPage();
-    void TheTabBarShowsItsFocus();
-    void EveryMenuEntryHasAKeyOfItsOwn_data();
-    void EveryMenuEntryHasAKeyOfItsOwn();
     void QtsOwnTextsFollowTheLanguage();
-    void F1ShowsSteps();
-    void F1NamesEveryKey();
-    void AboutTellsTheProgram();
-    void SaveAsHasItsKey();
     void SaveAsProposesThePresentFile();
     void SmallScreensStartWithoutTheJournal_data();
     void SmallScreensStartWithoutTheJournal();
     void TheJournalLeavesMostOfASmallScreenToThePage();
     void TheArrangementIsKeptForTheScreen();
     void TheFirstMessageMovesNothing();
-    void ControlJFoldsTheJournal();
     void ChoosingAByteMarksItsField();
-    void TheKeyOfUndoTakesTheBlockBackFirst();
     void TheJournalShowsAndFiltersCalls();
 };
 
@@ -333,136 +308,6 @@ void TestMainWindow::AFailedWriteIsAMessageWithReasonAndRemedy()
     QCOMPARE(outcome.strStatus, QString());
 }
 
-/// Which part of the window has the focus.
-QString PartWithFocus(CMainWindow& window)
-{
-    const QWidget* pFocus = QApplication::focusWidget();
-    if (pFocus == nullptr)
-        return QStringLiteral("nothing");
-    if (pFocus == &window.Tree())
-        return QStringLiteral("tree");
-    if (pFocus == window.findChild<CPageTabs*>()->tabBar())
-        return QStringLiteral("tabs");
-    if (window.Journal().isAncestorOf(pFocus))
-        return QStringLiteral("journal");
-    return QStringLiteral("page");
-}
-
-void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal_data()
-{
-    FilledPages::AddRows();
-}
-
-void TestMainWindow::TabGoesFromTheTreeToTabsPageAndJournal()
-{
-    constexpr int c_nMostStops = 100;
-    QFETCH(int, page);
-    QFETCH(int, tab);
-    CWorkbenchFixture workbench;
-    FilledPages::Show(workbench.window, page, tab);
-    workbench.Activate();
-    workbench.window.Tree().setFocus();
-    QStringList listParts;
-    for (int i = 0; i < c_nMostStops; ++i) {
-        const QString strPart = PartWithFocus(workbench.window);
-        if (listParts.size() > 1 && strPart == QStringLiteral("tree"))
-            break;
-        if (listParts.isEmpty() || listParts.last() != strPart)
-            listParts.append(strPart);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
-    QCOMPARE(listParts.join(QLatin1Char(' ')), QStringLiteral("tree tabs page journal"));
-}
-
-void TestMainWindow::EachStopOfTabHasAName_data()
-{
-    FilledPages::AddRows();
-}
-
-void TestMainWindow::EachStopOfTabHasAName()
-{
-    constexpr int c_nMostStops = 100;
-    QFETCH(int, page);
-    QFETCH(int, tab);
-    CWorkbenchFixture workbench;
-    FilledPages::Show(workbench.window, page, tab);
-    workbench.Activate();
-    workbench.window.Tree().setFocus();
-    for (int i = 0; i < c_nMostStops; ++i) {
-        QWidget* pFocus = QApplication::focusWidget();
-        // Of tabs, each has a name.
-        const bool bTabs = qobject_cast<QTabBar*>(pFocus) != nullptr;
-        const QString strName = QAccessible::queryAccessibleInterface(pFocus)->text(QAccessible::Name);
-        QVERIFY2(bTabs || !strName.isEmpty(), pFocus->metaObject()->className());
-        QTest::keyClick(pFocus, Qt::Key_Tab);
-        if (QApplication::focusWidget() == &workbench.window.Tree())
-            return;
-    }
-    QFAIL("Tab does not come back to the tree");
-}
-
-void TestMainWindow::ControlAndADigitShowAPage()
-{
-    CWorkbenchFixture workbench;
-    workbench.Activate();
-    const auto* pTabs = workbench.window.findChild<CPageTabs*>();
-    for (int i = int(workbench.window.Pages().size()) - 1; i >= 0; --i) {
-        QTest::keyClick(&workbench.window, Qt::Key(Qt::Key_1 + i), Qt::ControlModifier);
-        QCOMPARE(pTabs->currentIndex(), i);
-    }
-}
-
-/// The entries of a menu that lack a key or share one with another entry.
-QStringList EntriesWithoutOwnKey(const QList<QAction*>& listEntries)
-{
-    QStringList listFaults;
-    QSet<QChar> setKeys;
-    for (const QAction* pEntry : listEntries) {
-        const QKeySequence key = QKeySequence::mnemonic(pEntry->text());
-        const QChar chKey = key.isEmpty() ? QChar() : key.toString().back();
-        if (!pEntry->isSeparator() && (key.isEmpty() || setKeys.contains(chKey)))
-            listFaults.append(pEntry->text());
-        setKeys.insert(chKey);
-    }
-    return listFaults;
-}
-
-/// The entries of each menu of a window: of the menu bar, of buttons, and of what is selected.
-std::vector<QList<QAction*>> AllMenus(const QMainWindow& window)
-{
-    std::vector<QList<QAction*>> vecMenus = {window.menuBar()->actions()};
-    for (QMenu* pMenu : window.findChildren<QMenu*>()) {
-        Q_EMIT pMenu->aboutToShow();
-        vecMenus.push_back(pMenu->actions());
-    }
-    for (const QWidget* pWidget : window.findChildren<QWidget*>())
-        if (pWidget->contextMenuPolicy() == Qt::ActionsContextMenu)
-            vecMenus.push_back(pWidget->actions());
-    return vecMenus;
-}
-
-void TestMainWindow::EveryMenuEntryHasAKeyOfItsOwn_data()
-{
-    QTest::addColumn<int>("language");
-    QTest::newRow("Chinese") << int(enLanguage::enChinese);
-    QTest::newRow("English") << int(enLanguage::enEnglish);
-}
-
-void TestMainWindow::EveryMenuEntryHasAKeyOfItsOwn()
-{
-    constexpr std::size_t c_nMenus = 15; // bar, its 6 with 2 in them, 3 of buttons, 3 of what is selected
-    QFETCH(int, language);
-    CWorkbenchFixture workbench;
-    workbench.language.Set(enLanguage(language));
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-    workbench.window.Project().RecentFiles().Note(workbench.File("a.json"));
-    const std::vector<QList<QAction*>> vecMenus = AllMenus(workbench.window);
-    QVERIFY(vecMenus.size() >= c_nMenus);
-    for (const QList<QAction*>& listEntries : vecMenus)
-        QCOMPARE(EntriesWithoutOwnKey(listEntries), QStringList());
-}
-
 /// Texts of the buttons in the dialog that opens a project.
 QString TextsOfOpenDialog(CMainWindow& window)
 {
@@ -484,76 +329,6 @@ void TestMainWindow::QtsOwnTextsFollowTheLanguage()
     workbench.language.Set(enLanguage::enEnglish);
     QCoreApplication::processEvents();
     QCOMPARE(TextsOfOpenDialog(workbench.window), QStringLiteral("&Open Cancel"));
-}
-
-/// The text that F1 shows.
-QString TextOfF1(CWorkbenchFixture& workbench)
-{
-    workbench.Activate();
-    QString strText;
-    const CDialogOperator dialogOperator([&strText](QDialog* pDialog) {
-        strText = pDialog->findChild<QTextBrowser*>()->toPlainText();
-        QTest::keyClick(pDialog, Qt::Key_Escape);
-    });
-    QTest::keyClick(&workbench.window, Qt::Key_F1);
-    return strText;
-}
-
-void TestMainWindow::F1ShowsSteps()
-{
-    CWorkbenchFixture workbench;
-    QVERIFY(TextOfF1(workbench).contains(QStringLiteral("双击它，设置它的 EDID")));
-}
-
-/// A key as it is written on the keyboard.
-QString KeyboardText(const QKeySequence& key)
-{
-    const std::pair<QString, QString> arrNames[] = {{QStringLiteral("Return"), QStringLiteral("Enter")},
-                                                    {QStringLiteral("Ins"), QStringLiteral("Insert")},
-                                                    {QStringLiteral("Del"), QStringLiteral("Delete")}};
-    QString strKey = key.toString();
-    for (const auto& [strName, strWritten] : arrNames)
-        strKey.replace(strName, strWritten);
-    return strKey;
-}
-
-void TestMainWindow::F1NamesEveryKey()
-{
-    CWorkbenchFixture workbench;
-    const QString strText = TextOfF1(workbench);
-    for (const QAction* pAction : workbench.window.findChildren<QAction*>()) {
-        const QString strKey = KeyboardText(pAction->shortcut());
-        // A key of its own between what separates keys in the table.
-        const QRegularExpression key(QStringLiteral("(^|, )%1(,|$)").arg(QRegularExpression::escape(strKey)),
-                                     QRegularExpression::MultilineOption);
-        QVERIFY2(strKey.isEmpty() || key.match(strText).hasMatch(), qPrintable(strKey));
-    }
-}
-
-void TestMainWindow::AboutTellsTheProgram()
-{
-    CWorkbenchFixture workbench;
-    workbench.Activate();
-    const CMessageAnswer answer("关闭");
-    QTest::keyClick(&workbench.window, Qt::Key_H, Qt::AltModifier);
-    QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_A);
-    QTRY_VERIFY(answer.strText.contains(QStringLiteral("SenderModuleDialog")));
-}
-
-void TestMainWindow::SaveAsHasItsKey()
-{
-    CWorkbenchFixture workbench;
-    workbench.Activate();
-    const QString strFile = workbench.File("wall");
-    const CDialogOperator dialogOperator([&strFile](QDialog* pDialog) {
-        auto* pName = pDialog->findChild<QLineEdit*>();
-        pName->selectAll();
-        QTest::keyClicks(pName, strFile);
-        QTest::keyClick(pName, Qt::Key_Return);
-    });
-    QTest::keyClick(&workbench.window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
-    QTRY_VERIFY(QFile::exists(strFile + QStringLiteral(".json")));
 }
 
 void TestMainWindow::SaveAsProposesThePresentFile()
@@ -636,28 +411,6 @@ void TestMainWindow::TheFirstMessageMovesNothing()
     QCOMPARE(workbench.window.centralWidget()->geometry(), before);
 }
 
-void TestMainWindow::ControlJFoldsTheJournal()
-{
-    CWorkbenchFixture workbench;
-    workbench.Activate();
-    const bool bBefore = workbench.window.Journal().isVisible();
-    QTest::keyClick(&workbench.window, Qt::Key_J, Qt::ControlModifier);
-    QCOMPARE(workbench.window.Journal().isVisible(), !bBefore);
-    QTest::keyClick(&workbench.window, Qt::Key_J, Qt::ControlModifier);
-    QCOMPARE(workbench.window.Journal().isVisible(), bBefore);
-}
-
-void TestMainWindow::TheTabBarShowsItsFocus()
-{
-    CWorkbenchFixture workbench;
-    workbench.Activate();
-    auto* pBar = workbench.window.findChild<QTabWidget*>()->tabBar();
-    workbench.window.Tree().setFocus();
-    const QImage without = pBar->grab().toImage();
-    pBar->setFocus();
-    QVERIFY(pBar->grab().toImage() != without);
-}
-
 void TestMainWindow::ChoosingAByteMarksItsField()
 {
     CWorkbenchFixture workbench;
@@ -668,25 +421,6 @@ void TestMainWindow::ChoosingAByteMarksItsField()
     pBytes->resize(pBytes->sizeHint());
     QTest::mouseClick(pBytes, Qt::LeftButton, Qt::NoModifier, pBytes->ByteRect(0x37).center());
     QCOMPARE(pBytes->Marked(), (QVector<int>{0x36, 0x37}));
-}
-
-void TestMainWindow::TheKeyOfUndoTakesTheBlockBackFirst()
-{
-    CWorkbenchFixture workbench;
-    const int nInterfaceId = CSimulator::Instance().Project().listSenders[0].listInputs[0].nInterfaceId;
-    workbench.window.Tree().Select({0, nInterfaceId});
-    QVERIFY(CSimulator::Instance().Hardware().SetEdidMemory(0, nInterfaceId, QByteArray(128, 1)));
-    workbench.window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&workbench.window));
-    auto* pPage = workbench.window.findChild<CEdidPage*>();
-    pPage->Document().Load({QByteArray(128, 2), enEdidOrigin::enPasted, {}, false}, QStringLiteral("paste"));
-    auto* pFields = pPage->findChild<CFieldTree*>();
-    pFields->setFocus();
-    QTest::keyClick(pFields, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(pPage->Document().Content().bytes, QByteArray(128, 1));
-    QCOMPARE(pPage->Input()->baEdid, QByteArray(128, 1));
-    QTest::keyClick(pFields, Qt::Key_Z, Qt::ControlModifier);
-    QVERIFY(pPage->Input()->baEdid.isEmpty());
 }
 
 void TestMainWindow::TheJournalShowsAndFiltersCalls()
