@@ -2647,8 +2647,8 @@ Write one with &quot;Edit EDID...&quot;, or build the block here and write it in
         <translation>The block does not begin with 00 FF FF FF FF FF FF 00</translation>
     </message>
     <message>
-        <source>写入文件头</source>
-        <translation>Write the header; &apos;fix&apos; does it</translation>
+        <source>写入标头；“全部修复”可完成</source>
+        <translation>Write the header; &quot;Fix all&quot; does it</translation>
     </message>
     <message>
         <source>厂商编号不代表三个字母</source>
@@ -3019,16 +3019,16 @@ Write one with &quot;Edit EDID...&quot;, or build the block here and write it in
         <translation>The block announces %1 extension blocks, but there are %2</translation>
     </message>
     <message>
-        <source>写入扩展块的数目</source>
-        <translation>Write the number of blocks; &apos;fix&apos; does it</translation>
+        <source>写入扩展块的数目；“全部修复”可完成</source>
+        <translation>Write the number of blocks; &quot;Fix all&quot; does it</translation>
     </message>
     <message>
         <source>校验和是 %1，应为 %2</source>
         <translation>The checksum is %1 and should be %2</translation>
     </message>
     <message>
-        <source>写入校验和</source>
-        <translation>Write the checksum; &apos;fix&apos; does it</translation>
+        <source>写入校验和；“全部修复”可完成</source>
+        <translation>Write the checksum; &quot;Fix all&quot; does it</translation>
     </message>
     <message>
         <source>扩展块的标记 %1 未知</source>

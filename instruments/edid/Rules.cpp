@@ -13,7 +13,7 @@ constexpr enSeverity c_warning = enSeverity::enWarning;
 // clang-format off
 /// In the order of `enRule`.
 constexpr std::array<SRule, std::size_t(enRule::enCount)> c_arrRules = {{
-    {"base.header", c_error, "the block does not begin with 00 FF FF FF FF FF FF 00", "write the header; 'fix' does it"},
+    {"base.header", c_error, "the block does not begin with 00 FF FF FF FF FF FF 00", "write the header; 'edit --fix' does it"},
     {"product.maker", c_error, "the maker's number does not stand for three letters", "give a maker of three letters A to Z"},
     {"product.week", c_error, "there is no week %1", "give a week from 1 to 53, or 0 for none"},
     {"product.week54", c_error, "week 54 needs EDID 1.4", "give a week from 1 to 53, or 0 for none"},
@@ -61,8 +61,8 @@ constexpr std::array<SRule, std::size_t(enRule::enCount)> c_arrRules = {{
     {"range.reserved", c_error, "reserved bits of the CVT limits are set", "clear bits 2 to 0 of bytes 14 and 15, and bits 3 to 0 of byte 16"},
     {"range.timings", c_error, "a timing of the block lies outside the range limits", "widen the limits; 'auto' finds them"},
     {"range.modes", c_warning, "a timing of the block lies outside the range limits", "widen the limits; 'auto' finds them"},
-    {"base.extensions", c_error, "the block announces %1 extension blocks, but there are %2", "write the number of blocks; 'fix' does it"},
-    {"base.checksum", c_error, "the checksum is %1 and should be %2", "write the checksum; 'fix' does it"},
+    {"base.extensions", c_error, "the block announces %1 extension blocks, but there are %2", "write the number of blocks; 'edit --fix' does it"},
+    {"base.checksum", c_error, "the checksum is %1 and should be %2", "write the checksum; 'edit --fix' does it"},
     {"extension.tag", c_warning, "the extension's tag %1 is not known", "see whether the bytes are whole"},
     {"cta.revision", c_error, "the extension has revision %1, which nothing uses", "write revision 3"},
     {"cta.timings", c_error, "the detailed timings of the extension begin at byte %1, where none can be", "give 0, or a byte from 4 to 127"},
@@ -97,7 +97,7 @@ constexpr std::array<SRule, std::size_t(enRule::enCount)> c_arrRules = {{
     {"displayid.reserved", c_error, "stereo or aspect ratio of the timing has a reserved value", "give one of the values of the standard"},
     {"displayid.block", c_error, "a data block is longer than the rest of its section", "correct its length"},
     {"displayid.filler", c_error, "the bytes behind the data blocks are not all zeros", "write zeros"},
-    {"displayid.checksum", c_error, "the checksum of the section is %1 and should be %2", "write the checksum; 'fix' does it"},
+    {"displayid.checksum", c_error, "the checksum of the section is %1 and should be %2", "write the checksum; 'edit --fix' does it"},
     {"displayid.padding", c_error, "the bytes behind the section are not all zeros", "write zeros"},
 }};
 // clang-format on

@@ -23,7 +23,7 @@ struct SRuleWords
 // clang-format off
 /// In the order of `Edid::enRule`.
 constexpr SRuleWords c_arrWords[] = {
-    {Edid::enRule::enHeader, QT_TRANSLATE_NOOP("CFindingText", "块不以 00 FF FF FF FF FF FF 00 开头"), QT_TRANSLATE_NOOP("CFindingText", "写入文件头")},
+    {Edid::enRule::enHeader, QT_TRANSLATE_NOOP("CFindingText", "块不以 00 FF FF FF FF FF FF 00 开头"), QT_TRANSLATE_NOOP("CFindingText", "写入标头；“全部修复”可完成")},
     {Edid::enRule::enMaker, QT_TRANSLATE_NOOP("CFindingText", "厂商编号不代表三个字母"), QT_TRANSLATE_NOOP("CFindingText", "给出由 A 到 Z 的三个字母组成的厂商")},
     {Edid::enRule::enWeek, QT_TRANSLATE_NOOP("CFindingText", "没有第 %1 周"), QT_TRANSLATE_NOOP("CFindingText", "给出 1 到 53 的周，或用 0 表示没有")},
     {Edid::enRule::enWeek54, QT_TRANSLATE_NOOP("CFindingText", "第 54 周需要 EDID 1.4"), QT_TRANSLATE_NOOP("CFindingText", "给出 1 到 53 的周，或用 0 表示没有")},
@@ -71,8 +71,8 @@ constexpr SRuleWords c_arrWords[] = {
     {Edid::enRule::enRangeReserved, QT_TRANSLATE_NOOP("CFindingText", "CVT 限制的保留位被设置"), QT_TRANSLATE_NOOP("CFindingText", "清除字节 14 和 15 的第 2 到 0 位，以及字节 16 的第 3 到 0 位")},
     {Edid::enRule::enRangeTimings, QT_TRANSLATE_NOOP("CFindingText", "块中有一个时序超出范围限制"), QT_TRANSLATE_NOOP("CFindingText", "放宽限制")},
     {Edid::enRule::enRangeTimings14, QT_TRANSLATE_NOOP("CFindingText", "块中有一个模式超出范围限制"), QT_TRANSLATE_NOOP("CFindingText", "放宽限制，或去掉该模式")},
-    {Edid::enRule::enExtensions, QT_TRANSLATE_NOOP("CFindingText", "块声明有 %1 个扩展块，实际有 %2 个"), QT_TRANSLATE_NOOP("CFindingText", "写入扩展块的数目")},
-    {Edid::enRule::enChecksum, QT_TRANSLATE_NOOP("CFindingText", "校验和是 %1，应为 %2"), QT_TRANSLATE_NOOP("CFindingText", "写入校验和")},
+    {Edid::enRule::enExtensions, QT_TRANSLATE_NOOP("CFindingText", "块声明有 %1 个扩展块，实际有 %2 个"), QT_TRANSLATE_NOOP("CFindingText", "写入扩展块的数目；“全部修复”可完成")},
+    {Edid::enRule::enChecksum, QT_TRANSLATE_NOOP("CFindingText", "校验和是 %1，应为 %2"), QT_TRANSLATE_NOOP("CFindingText", "写入校验和；“全部修复”可完成")},
     {Edid::enRule::enExtensionTag, QT_TRANSLATE_NOOP("CFindingText", "扩展块的标记 %1 未知"), QT_TRANSLATE_NOOP("CFindingText", "检查字节是否完整")},
     {Edid::enRule::enCtaRevision, QT_TRANSLATE_NOOP("CFindingText", "扩展块的修订 %1 无人使用"), QT_TRANSLATE_NOOP("CFindingText", "写入修订 3")},
     {Edid::enRule::enCtaOffset, QT_TRANSLATE_NOOP("CFindingText", "扩展块的详细时序从字节 %1 开始，那里不可能有"), QT_TRANSLATE_NOOP("CFindingText", "给出 0，或 4 到 127 的字节")},
@@ -107,7 +107,7 @@ constexpr SRuleWords c_arrWords[] = {
     {Edid::enRule::enSectionReserved, QT_TRANSLATE_NOOP("CFindingText", "时序的立体方式或宽高比是保留值"), QT_TRANSLATE_NOOP("CFindingText", "给出标准中的值")},
     {Edid::enRule::enSectionBlock, QT_TRANSLATE_NOOP("CFindingText", "数据块超出了数据段的剩余空间"), QT_TRANSLATE_NOOP("CFindingText", "更正它的长度")},
     {Edid::enRule::enSectionFiller, QT_TRANSLATE_NOOP("CFindingText", "数据块之后的字节不全为零"), QT_TRANSLATE_NOOP("CFindingText", "写入零")},
-    {Edid::enRule::enSectionChecksum, QT_TRANSLATE_NOOP("CFindingText", "数据段的校验和是 %1，应为 %2"), QT_TRANSLATE_NOOP("CFindingText", "写入校验和")},
+    {Edid::enRule::enSectionChecksum, QT_TRANSLATE_NOOP("CFindingText", "数据段的校验和是 %1，应为 %2"), QT_TRANSLATE_NOOP("CFindingText", "写入校验和；“全部修复”可完成")},
     {Edid::enRule::enSectionPadding, QT_TRANSLATE_NOOP("CFindingText", "数据段之后的字节不全为零"), QT_TRANSLATE_NOOP("CFindingText", "写入零")},
 };
 // clang-format on
